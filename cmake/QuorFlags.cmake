@@ -1,0 +1,35 @@
+# The compile flags that every target of the project shares, as the interface target QuorFlags.
+#
+# QUOR_CHECKED builds the checked variant: assertions, bounds-checked containers, undefined-behaviour traps
+# and stack protection. The guard allocator is linked into the test programs (see tests/).
+option(QUOR_CHECKED "Build with run-time checks" OFF)
+
+add_library(QuorFlags INTERFACE)
+target_compile_features(QuorFlags INTERFACE cxx_std_20)
+target_compile_definitions(QuorFlags INTERFACE
+    UNICODE _UNICODE _AFXDLL WIN32 _WINDOWS _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0600)
+
+if(MSVC)
+    target_compile_options(QuorFlags INTERFACE /W4 /WX /utf-8 /permissive-)
+    return()
+endif()
+
+target_compile_options(QuorFlags INTERFACE
+    -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
+    # Message maps cast member functions to one common type, as the macros are documented to do.
+    -Wno-cast-function-type
+    # GetSafeHwnd and its siblings are documented to work on a null this.
+    -fno-delete-null-pointer-checks -Wno-nonnull-compare -Wno-nonnull
+    # Paths of the build machine stay out of the binaries.
+    "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
+
+if(QUOR_CHECKED)
+    target_compile_definitions(QuorFlags INTERFACE _DEBUG _GLIBCXX_DEBUG)
+    target_compile_options(QuorFlags INTERFACE
+        -O1 -g -fno-omit-frame-pointer
+        -fsanitize=undefined -fno-sanitize=null -fsanitize-undefined-trap-on-error
+        -fstack-protector-strong)
+    target_link_options(QuorFlags INTERFACE -fstack-protector-strong)
+else()
+    target_compile_definitions(QuorFlags INTERFACE NDEBUG)
+endif()

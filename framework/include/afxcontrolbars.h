@@ -1,0 +1,6 @@
+// The extended controls.
+#pragma once
+
+#include "afxwin.h"
+#include "afxcmn.h"
+#include "afxdisp.h"

@@ -1,0 +1,5 @@
+// Variants.
+#pragma once
+
+#include "afxwin.h"
+#include "fx/variant.h"

@@ -1,0 +1,4 @@
+// Message map macros.
+#pragma once
+
+#include "fx/cmdtarget.h"

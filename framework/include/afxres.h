@@ -1,0 +1,2 @@
+// Identifiers of the framework's own resources and commands.
+#pragma once

@@ -1,0 +1,4 @@
+// CPoint, CSize and CRect.
+#pragma once
+
+#include "fx/config.h"

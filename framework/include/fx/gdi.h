@@ -1,0 +1,4 @@
+// .
+#pragma once
+
+#include "fx/config.h"

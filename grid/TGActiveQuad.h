@@ -1,0 +1,35 @@
+// TGActiveQuad: the corner window where the grid's two headers meet.
+#pragma once
+
+#include <afxwin.h>
+
+namespace QuorUiCtr
+{
+
+class TGGrid;
+
+// Shows whether the grid has the keyboard focus. The grid makes one (control id 102) when both headers are
+// enabled and owns it.
+class AFX_EXT_CLASS TGActiveQuad : public CWnd
+{
+public:
+    // Creates the window as a child of `grid`.
+    explicit TGActiveQuad(TGGrid& grid);
+    ~TGActiveQuad() override;
+
+    bool IsActive() const { return active; }
+    // Stores the state and repaints the window.
+    void ShowActive(bool newActive);
+
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnPaint();
+
+private:
+    bool active = false;
+    TGGrid* grid;
+};
+
+} // namespace QuorUiCtr

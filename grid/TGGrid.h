@@ -1,0 +1,484 @@
+// TGGrid: the editable grid control: model, window, hooks.
+#pragma once
+
+#include "grid/TGGridCol.h"
+#include "grid/TGGridRow.h"
+#include "grid/TGGridTreeRow.h"
+#include "grid/collections/DualList.h"
+#include "grid/collections/List.h"
+#include "grid/collections/PDList.h"
+
+#include <afxcmn.h>
+#include <afxwin.h>
+
+namespace QuorUiCtr
+{
+
+class TGActiveQuad;
+class TGCellCtrl;
+class TGColSelector;
+class TGRowSelector;
+
+// A custom-drawn grid of editable text cells with an optional tree of rows.
+//
+// The model (columns, rows, cells, selection, sort keys) works from construction on, without a window. A host
+// fills it with the structure operations, which call no hook and send no notification; user actions call the
+// hooks, which a derived grid overrides to veto or observe them, and end with OnDataChanged(), whose default
+// sends EN_CHANGE to the parent.
+//
+// Row and column indices are zero-based; -1 means none. The index that equals the row count names the new-row
+// line below the last row. Indices are the caller's responsibility unless an operation says otherwise; the
+// checked build asserts them. Logical coordinates are pixels before scrolling: row r spans r x h to (r + 1) x h
+// with h = GetRowHeight(), and columns carry their own edges. Colours are COLORREF values.
+//
+// The grid owns its columns, rows, tree rows, paste buffer, header windows, font and editors. All calls belong
+// to the thread that created the window.
+class AFX_EXT_CLASS TGGrid : public CWnd
+{
+    DECLARE_DYNCREATE(TGGrid)
+
+public:
+    // With `tree` set, rows that the grid creates itself are tree rows. `columnWidth` is the width in pixels of
+    // columns that are added with width 0. Creates no window.
+    TGGrid(bool tree = false, long columnWidth = 100);
+    ~TGGrid() override;
+    TGGrid(const TGGrid&) = delete;
+    TGGrid& operator=(const TGGrid&) = delete;
+
+    // ---- Window -----------------------------------------------------------------------------------------
+
+    // Creates the window in `rect` (client coordinates of `parent`) with the window style `windowStyle` and
+    // control id 0. Returns FALSE on failure.
+    BOOL Create(const RECT& rect, DWORD windowStyle, CWnd* parent);
+    // Replaces the child `id` of `parent`: takes its place and id and destroys it. Returns 0 and creates
+    // nothing when there is no such child.
+    BOOL Create(CWnd* parent, UINT id, DWORD windowStyle);
+
+    // Lays out scroll bars, drawing context and new-row line and ends an open cell edit; repaints everything
+    // when `redraw` is nonzero. Postponed between BeginUpdate and EndUpdate; does nothing without a window and
+    // when called while any grid is being laid out.
+    void RecalcLayout(int redraw);
+    // Invalidates the data area (erasing when `erase` is nonzero) and, erasing, the header windows.
+    void Invalidate(int erase);
+    // Makes the last column so wide that the columns fill the data area. Returns false and changes nothing
+    // when they do already, when the column would get narrower than one row height, without a window and
+    // without columns.
+    bool FitLastCol();
+    // Scrolls by a distance in pixels, as far as the shown scroll bars allow; ends an open cell edit when
+    // anything moves.
+    void MoveView(int dx, int dy);
+    // Scrolls vertically so that the new-row line is visible.
+    void ShowAppendRow();
+    // Draws the visible rows, the new-row line and the selection on the prepared drawing context.
+    void Refresh();
+
+    // Many changes as one: between the first BeginUpdate and the last EndUpdate layout and repaint are
+    // postponed; the last EndUpdate does them once. Calls nest. See TGGridUpdate for the scoped form.
+    void BeginUpdate();
+    void EndUpdate();
+    bool IsUpdating() const { return updateDepth > 0; }
+
+    // Row height in pixels: text height plus row space.
+    long GetRowHeight() const { return textHeight + rowSpace; }
+    // Extra pixels above the text of a row; the setter lays out anew.
+    long GetRowSpace() const { return rowSpace; }
+    void SetRowSpace(int pixels);
+    // Width of columns added with width 0 and step of horizontal line scrolling, in pixels.
+    long GetDefaultWidth() const { return defaultWidth; }
+    void SetDefaultWidth(long pixels) { defaultWidth = pixels; }
+    // Row height times the largest caption line count.
+    long GetColHeaderHeight();
+    // Content height and width in pixels: below the last row (the new-row line included when it is shown) and
+    // right of the last column.
+    long GetBottom();
+    long GetRight();
+    // The point in client coordinates at which the logical origin lies.
+    void GetUpCorner(CPoint& corner);
+    CFont* GetFont() { return &font; }
+    CBrush& GetBrush() { return backBrush; }
+
+    // ---- Style word -------------------------------------------------------------------------------------
+
+    int GetStyle() const { return style; }
+    // Adds the bits of `bits`; never clears one.
+    void SetStyle(int bits) { style |= bits; }
+
+    bool IsTreeGrid() const { return treeGrid; }
+    // No edits, no structure commands; implies the fixed lengths and positions and hides the new-row line.
+    bool IsReadOnly() const { return HasFlag(ReadOnlyFlag); }
+    void SetReadOnly(bool on) { SetFlag(ReadOnlyFlag, on); }
+    // The user cannot insert, append, delete or cut rows.
+    bool IsRowFixLength() const { return HasFlag(RowFixLengthFlag | ReadOnlyFlag); }
+    void SetRowFixLength(bool on) { SetFlag(RowFixLengthFlag, on); }
+    // The user cannot insert, append or delete columns.
+    bool IsColFixLength() const { return HasFlag(ColFixLengthFlag | ReadOnlyFlag); }
+    void SetColFixLength(bool on) { SetFlag(ColFixLengthFlag, on); }
+    // The row header is enabled. The header window is made when the grid's window is; the setter lays out anew.
+    bool IsRowSel() const { return !HasFlag(RowSelOffFlag); }
+    void SetRowSel(bool on);
+    // The column header is enabled; likewise.
+    bool IsColSel() const { return !HasFlag(ColSelOffFlag); }
+    void SetColSel(bool on);
+    // Rows may be sorted: not switched off, not fixed in position, not read-only.
+    bool IsSortEnable() const { return !HasFlag(SortOffFlag | RowPosFixFlag | ReadOnlyFlag); }
+    void SetSortEnable(bool on) { SetFlag(SortOffFlag, !on); }
+    // The user cannot resize columns.
+    bool IsColFixWidth() const { return HasFlag(ColFixWidthFlag); }
+    void SetColFixWidth(bool on) { SetFlag(ColFixWidthFlag, on); }
+    // The user cannot move columns.
+    bool IsColPosFix() const { return HasFlag(ColPosFixFlag | ReadOnlyFlag); }
+    void SetColPosFix(bool on) { SetFlag(ColPosFixFlag, on); }
+    // The user cannot move rows.
+    bool IsRowPosFix() const { return HasFlag(RowPosFixFlag | ReadOnlyFlag); }
+    void SetRowPosFix(bool on) { SetFlag(RowPosFixFlag, on); }
+    // Tree rows are joined by lines; the setter repaints grid and headers.
+    bool IsNeedTreeLine() const { return !HasFlag(TreeLineOffFlag); }
+    void SetTreeLine(bool on);
+    // At most one row is selected by the user at a time.
+    bool IsSingleSelRow() const { return HasFlag(SingleSelRowFlag); }
+    void SetSingleSelRow(bool on) { SetFlag(SingleSelRowFlag, on); }
+    // The user cannot paste rows.
+    bool IsNoPaste() const { return HasFlag(NoPasteFlag); }
+    void SetNoPaste(bool on) { SetFlag(NoPasteFlag, on); }
+    // A mark for hosts that sort by labels; the row order does not depend on it.
+    bool IsLabelSort() const { return HasFlag(LabelSortFlag); }
+    void SetLabelSort(bool on) { SetFlag(LabelSortFlag, on); }
+    // Header boxes are drawn flat.
+    bool IsFlatButton() const { return HasFlag(FlatButtonFlag); }
+    void SetFlatButton(bool on) { SetFlag(FlatButtonFlag, on); }
+    // The new-row line is hidden.
+    bool IsNoAppendButton() const { return HasFlag(NoAppendButtonFlag | RowFixLengthFlag | ReadOnlyFlag); }
+    void SetNoAppendButton(bool on) { SetFlag(NoAppendButtonFlag, on); }
+    // The grid shows no context menus of its own.
+    bool IsNoDefaultMenu() const { return HasFlag(NoDefaultMenuFlag); }
+    void SetNoDefaultMenu(bool on) { SetFlag(NoDefaultMenuFlag, on); }
+
+    // ---- Counts and access ------------------------------------------------------------------------------
+
+    long GetRowNum() const { return rows.GetNum(); }
+    long GetColNum() const { return cols.GetNum(); }
+    // There are no rows.
+    bool IsEmpty() const { return rows.IsEmpty(); }
+    bool IsColEmpty() const { return cols.IsEmpty(); }
+    bool IsValidRow(long i) const { return i >= 0 && i < GetRowNum(); }
+    bool IsValidCol(long i) const { return i >= 0 && i < GetColNum(); }
+    // `i` names the new-row line.
+    bool IsNewRow(long i) const { return i == GetRowNum(); }
+    TGGridRow& GetRow(long i);
+    TGGridRow& operator[](long i) { return GetRow(i); }
+    // The same row seen as a tree row; only for rows that are.
+    TGGridTreeRow& GetTreeRow(long i);
+    TGGridCol& GetCol(long i);
+    TGGridCell& GetCell(long row, long col);
+    // While a cell is edited, stores its indices and returns true; otherwise returns false and stores nothing.
+    bool GetCurCell(long& row, long& col) const;
+    long GetCurRowIndex() const { return curRowIndex; }
+    long GetCurColIndex() const { return curColIndex; }
+    // Stores the index and tells the row header to move its marker.
+    void SetCurRowIndex(long i);
+    // Set by every change made through the user interface, cleared by the host only.
+    bool IsModified() const { return modified; }
+    void SetModify(bool on) { modified = on; }
+    // The rows that were copied or cut last; owned by the grid.
+    PDList<TGGridRow>& GetRowPaste() { return rowPaste; }
+
+    // ---- Row cursor -------------------------------------------------------------------------------------
+    // The cursor of the row list. Structure operations and GetSel move it.
+
+    void MoveToFirst() { rows.MoveToFirst(); }
+    void MoveToNext() { rows.MoveToNext(); }
+    void MoveToPre() { rows.MoveToPre(); }
+    void MoveTo(long i) { rows.MoveTo(i); }
+    // The cursor stands on no row.
+    bool IsOut() const;
+    // The cursor's index, -1 when it stands on no row.
+    long GetCur() const { return rows.GetCur(); }
+    // The row under the cursor.
+    TGGridRow& CurRow();
+    TGGridTreeRow& CurTreeRow();
+
+    // ---- Sort keys --------------------------------------------------------------------------------------
+
+    // Adds a column index behind the keys present; the first key is the main key.
+    void AppendKey(long col) { keys.Append(col); }
+    void ClearKey() { keys.Clear(); }
+    // The main key, -1 when there is none.
+    long GetMainKey();
+
+    // ---- Structure --------------------------------------------------------------------------------------
+    // These end an open cell edit and lay out anew; they call no confirmation hook and notify nobody. A null
+    // row or column makes the grid create a plain one. The grid owns what it is given.
+
+    // Inserts before the row at `i`; selected rows at `i` and below move on by one.
+    void InsertRow(long i, TGGridRow* row);
+    void AppendRow(TGGridRow* row);
+    // Deletes the row at `i`; selected rows below move back by one.
+    void DelRow(long i);
+    // Deletes a row of a tree with its offspring: a child through its parent, a parent folded first.
+    void DelRowEx(long i);
+    // Places the row at `from` before the row that stands at `to`; nothing when `to` is `from` or `from` + 1.
+    // The selection keeps its numbers.
+    void MoveRow(long from, long to);
+    // Inserts before the column at `i`; width 0 means the default width. Pixels.
+    void InsertCol(long i, TGGridCol* col, long width);
+    void InsertCol(long i, const wchar_t* name, long width);
+    void AppendCol(TGGridCol* col, long width);
+    void AppendCol(const wchar_t* name, long width);
+    void DelCol(long i);
+    // As MoveRow; the selection keeps its numbers.
+    void MoveCol(long from, long to);
+    // Deletes rows or columns from the end, or appends empty ones, until there are `n`.
+    void SetRowNum(long n);
+    void SetColNum(long n);
+    // Deletes all rows and empties the selection; columns, keys and paste buffer stay.
+    void Clear();
+
+    // ---- Selection --------------------------------------------------------------------------------------
+    // Rows or columns are selected, never both: selecting one kind unselects the other.
+
+    // Adds a row to the selection (scrolling it into view) or takes it out; ends with OnCurChanged(). An index
+    // outside the rows is ignored.
+    void SelectRow(long row, bool select);
+    void SelectCol(long col, bool select);
+    void SelectAll();
+    void UnSelect();
+    bool IsRowSelected() const { return !rowSel.IsEmpty(); }
+    bool IsColSelected() const { return !colSel.IsEmpty(); }
+    bool IsRowSelected(long i);
+    bool IsColSelected(long i);
+    long GetRowSelNum() const { return rowSel.GetNum(); }
+    long GetColSelNum() const { return colSel.GetNum(); }
+    // The row or column that the selection entry `k` names; entries are in ascending order.
+    TGGridRow& GetSelRow(long k);
+    TGGridCol& GetSelCol(long k);
+    // Appends the selected rows or columns to `out`, in ascending order. The first form leaves the row cursor
+    // on the last selected row.
+    void GetSel(Table<TGGridRow*>& out);
+    void GetSel(Table<TGGridCol*>& out);
+    // The selected rows (or columns) form one contiguous run; false when nothing is selected.
+    bool IsSelConnect();
+    // No selected row is an unfolded parent row; true in a grid without tree rows.
+    bool IsSelFold();
+    // Selects the first row, shown or folded, whose cell in column `col` equals `text` exactly, and only it;
+    // returns false and changes nothing when there is none.
+    bool FindAndSel(const wchar_t* text, long col);
+    // Shows the grid as focused or not in its corner.
+    void ShowActive(bool active);
+    // `wnd` is the grid or one of its descendants.
+    bool IsMyFocus(const CWnd* wnd) const;
+
+    // ---- Cell editing -----------------------------------------------------------------------------------
+
+    // A cell editor is open.
+    bool IsEditing() const { return editCell != nullptr; }
+    // A cell waits for its editor to be opened by the timer.
+    bool IsCellLocking() const { return cellLock != nullptr; }
+    // Commits an open edit and closes its editor.
+    void EndEditCell();
+    // Closes an open editor and drops its text; calls no hook.
+    void CancelEditCell();
+
+    BOOL PreTranslateMessage(MSG* message) override;
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
+
+protected:
+    // ---- Hooks, in their fixed order --------------------------------------------------------------------
+    // OnBefore... and the other hooks that return bool go ahead with true and veto with false; the exceptions
+    // say so. Points of right clicks are in screen coordinates.
+
+    // A row header box was double-clicked.
+    virtual void OnDblClick(TGGridRow& row);
+    // The right button was released over a cell, a row header box, a column header box or the corner. The
+    // defaults of the last three show the context menus.
+    virtual void OnRClickCell(TGGridCell& cell, CPoint point);
+    virtual void OnRClickRow(TGGridRow& row, CPoint point);
+    virtual void OnRClickCol(TGGridCol& col, CPoint point);
+    virtual void OnRClickQuad(CPoint point);
+    // A cell is about to be edited. On the new-row line, returning false with `commitNewRow` set to true adds
+    // the new row at once without opening an editor.
+    virtual bool OnBeforeEdit(TGGridCell& cell, bool& commitNewRow);
+    // Makes the editor of a cell on the heap; null keeps the cell closed. The default follows the column's
+    // style: combo boxes, button, spin, plain edit.
+    virtual TGCellCtrl* OnGetCellEdit(TGGridCell& cell);
+    // Fills the list of a combo editor.
+    virtual void OnCellComboString(TGGridCell& cell, CComboBox& combo);
+    // The button of an editor was pressed; true takes over `text` as the editor's new text. Default: false.
+    virtual bool OnCellButtonDown(TGGridCell& cell, CString& text);
+    // Sets range and step of a spin editor.
+    virtual void OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin);
+    // A modified text is about to be stored; the hook may change it, false rejects it.
+    virtual bool OnModified(TGGridCell& cell, CString& text);
+    // Data or structure was changed through the user interface. Default: sets the modified flag and sends
+    // WM_COMMAND with EN_CHANGE to the parent.
+    virtual void OnDataChanged();
+    // The selection changed or an editor opened. Default: recomputes the current row and column.
+    virtual void OnCurChanged();
+    // An item of a combo editor was chosen. Default: stores its text in the cell.
+    virtual void OnCmbSelchange(TGGridCell& cell, CComboBox* combo);
+    // The text of a combo editor was changed.
+    virtual void OnCmbEditchange(TGGridCell& cell, CComboBox* combo);
+    // Sets the colours of the drawing context for a cell. Default: the column's colours.
+    virtual void OnBeforeRefresh(TGGridCell& cell);
+    // Draw this cell; draw the cells of this row.
+    virtual bool OnRefresh(TGGridCell& cell);
+    virtual bool OnRefresh(TGGridRow& row);
+    // A column is about to be inserted at `position`; the hook may supply the column object.
+    virtual bool OnBeforeInsertCol(long position, TGGridCol*& col);
+    // The column is in place. Default: OnDataChanged().
+    virtual void OnInsertCol(TGGridCol& col);
+    virtual bool OnBeforeDeleteCol();
+    virtual void OnEndDeleteCol();
+    // A drag of the selected columns starts, passes over a position, is dropped there, has moved them.
+    virtual bool OnBeginMoveCol();
+    virtual bool OnMovingCol(long position);
+    // Default: the answer of OnMovingCol.
+    virtual bool OnMoveCol(long position);
+    virtual void OnEndMoveCol();
+    // A row is about to be inserted at `position`; the hook may supply the row object.
+    virtual bool OnBeforeInsertRow(long position, TGGridRow*& row);
+    // A child is about to be inserted under `parent`; the hook may supply the row object.
+    virtual bool OnBeforeInsertChild(TGGridTreeRow& parent, long position, TGGridTreeRow*& child);
+    // The row is in place. Default: OnDataChanged().
+    virtual void OnInsertRow(TGGridRow& row);
+    virtual bool OnBeforeDeleteRow();
+    virtual void OnEndDeleteRow();
+    // Around cut, copy and paste; `position` is the target row.
+    virtual bool OnBeforeClip();
+    virtual void OnEndClip();
+    virtual bool OnBeforeCopy();
+    virtual void OnEndCopy();
+    virtual bool OnBeforePaste(long position);
+    virtual bool OnBeforePasteChild(TGGridTreeRow& parent);
+    virtual void OnEndPaste();
+    // A drag of the selected rows, as for columns.
+    virtual bool OnBeginMoveRow();
+    virtual bool OnMovingRow(long position);
+    virtual bool OnMoveRow(long position);
+    virtual void OnEndMoveRow();
+    // Fill the tip text of a cell, a row header box, a column header box, a cell button, the corner and return
+    // true to show it. Defaults: false.
+    virtual bool OnCellTip(long row, long col, CString& text) const;
+    virtual bool OnRowTip(long row, CString& text) const;
+    virtual bool OnColTip(long col, CString& text) const;
+    virtual bool OnCellButtonTip(long row, long col, CString& text) const;
+    virtual bool OnActiveQuadTip(CString& text) const;
+
+protected:
+    friend class TGActiveQuad;
+    friend class TGColSelector;
+    friend class TGGridCell;
+    friend class TGGridCol;
+    friend class TGGridRow;
+    friend class TGGridTreeRow;
+    friend class TGRowSelector;
+
+    // Sends WM_COMMAND with the grid's control id and `code` to the parent window, if there is one.
+    void SendParentNotify(unsigned short code) const;
+
+    // Empties both selections without repainting and without OnCurChanged().
+    void ClearSel();
+    // The row and column under a point in client coordinates. The row is the logical y divided by the row
+    // height, so it may lie outside the rows; the column is the column count when none contains the point.
+    void PtToCell(CPoint point, long& row, long& col) const;
+    // Scrolls as little as possible so that `rect` (logical coordinates) becomes visible.
+    void ShowRect(CRect rect);
+    // The data area in client coordinates: the client rectangle without the headers.
+    void GetClientRect(RECT* rect);
+    bool IsAppendRowShown() const { return !IsNoAppendButton(); }
+
+    // The prepared drawing context: null makes and keeps a client context when there is none, another context
+    // becomes the prepared one. Its origin is the logical origin, its font and pen are the grid's.
+    void PrepareDC(CDC* context);
+    void ClearDC();
+    CDC* GetDC() { return dc; }
+
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnSize(UINT type, int cx, int cy);
+    afx_msg LRESULT OnSetFont(WPARAM newFont, LPARAM redraw);
+    afx_msg LRESULT OnSetText(WPARAM unused, LPARAM text);
+    afx_msg void OnCancelMode();
+    afx_msg void OnPaint();
+    afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg int OnCreate(LPCREATESTRUCT create);
+    afx_msg HBRUSH OnCtlColor(CDC* context, CWnd* wnd, UINT kind);
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
+    afx_msg BOOL OnEraseBkgnd(CDC* context);
+    afx_msg void OnKillFocus(CWnd* newFocus);
+    afx_msg void OnSetFocus(CWnd* oldFocus);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnTimer(UINT_PTR id);
+
+private:
+    enum Flag
+    {
+        ReadOnlyFlag = 0x0001,
+        RowFixLengthFlag = 0x0002,
+        ColFixLengthFlag = 0x0004,
+        RowSelOffFlag = 0x0008,
+        ColSelOffFlag = 0x0010,
+        SortOffFlag = 0x0020,
+        ColFixWidthFlag = 0x0040,
+        ColPosFixFlag = 0x0080,
+        RowPosFixFlag = 0x0100,
+        TreeLineOffFlag = 0x0200,
+        SingleSelRowFlag = 0x0400,
+        NoPasteFlag = 0x0800,
+        LabelSortFlag = 0x1000,
+        FlatButtonFlag = 0x2000,
+        NoAppendButtonFlag = 0x4000,
+        NoDefaultMenuFlag = 0x8000
+    };
+    bool HasFlag(int flags) const { return (style & flags) != 0; }
+    void SetFlag(Flag flag, bool on) { style = on ? style | flag : style & ~flag; }
+
+    bool treeGrid;
+    int style = 0;
+    PDList<TGGridCol> cols;
+    PDList<TGGridRow> rows;
+    PDList<TGGridRow> rowPaste;
+    List<long> keys;
+    DualList<long> rowSel;
+    DualList<long> colSel;
+    TGGridCell* editCell = nullptr;
+    TGGridCell* cellLock = nullptr;
+    long defaultWidth;
+    long textHeight = 1;
+    long rowSpace = 3;
+    CFont font;
+    CBrush backBrush;
+    CPen gridPen;
+    CDC* dc = nullptr;
+    TGActiveQuad* quad = nullptr;
+    TGRowSelector* rowHeader = nullptr;
+    TGColSelector* colHeader = nullptr;
+    TGCellCtrl* cellCtrl = nullptr;
+    bool vScrollShown = false;
+    bool hScrollShown = false;
+    TGGridRow* newRow = nullptr;
+    long curRowIndex = -1;
+    long curColIndex = -1;
+    bool modified = false;
+
+    // Postponed work between BeginUpdate and EndUpdate.
+    int updateDepth = 0;
+    bool layoutPending = false;
+    bool redrawPending = false;
+};
+
+// BeginUpdate and EndUpdate of a grid for the length of a scope.
+class TGGridUpdate
+{
+public:
+    explicit TGGridUpdate(TGGrid& updatedGrid) : grid(updatedGrid) { grid.BeginUpdate(); }
+    ~TGGridUpdate() { grid.EndUpdate(); }
+    TGGridUpdate(const TGGridUpdate&) = delete;
+    TGGridUpdate& operator=(const TGGridUpdate&) = delete;
+
+private:
+    TGGrid& grid;
+};
+
+} // namespace QuorUiCtr

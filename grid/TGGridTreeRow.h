@@ -1,0 +1,122 @@
+// TGGridTreeRow: a row with a parent and an ordered list of children.
+#pragma once
+
+#include "grid/TGGridRow.h"
+
+namespace QuorUiCtr
+{
+
+// A row of a tree grid. A parent row shows a plus or minus box in the first column; while it is shown and
+// unfolded, its children stand in the grid's row list right below it, each followed by its own shown
+// descendants. Folded descendants live only in their parent's child list and have the index -1. A row owns its
+// children; the grid's row list refers to the shown ones. The unfold flag is remembered while a row is hidden.
+class AFX_EXT_CLASS TGGridTreeRow : public TGGridRow
+{
+public:
+    // A root row of `grid`, not entered into it.
+    explicit TGGridTreeRow(TGGrid& grid);
+    // A row of the parent's grid that refers to `parent`; it is not entered into the parent's child list.
+    explicit TGGridTreeRow(TGGridTreeRow* parent);
+
+    // Row assignment, then a copy of every child of `source` is added behind this row's children, recursively.
+    TGGridTreeRow& operator=(TGGridTreeRow& source);
+    // Like operator=, but the host data moves from `source` and its offspring to this row and the copies.
+    TGGridTreeRow& operator<<(TGGridTreeRow& source);
+
+    // The parent, null for a root row.
+    TGGridTreeRow* Parent() const { return parent; }
+    // The parent of a child row.
+    TGGridTreeRow& GetParent() const;
+    // Stores the pointer and does nothing else.
+    void SetParent(TGGridTreeRow* newParent) { parent = newParent; }
+    // The topmost row above this one, which is the row itself for a root row.
+    TGGridTreeRow& RootRow();
+    bool IsRootRow() { return !IsChildRow(); }
+
+    long GetChildNum() const { return children.GetNum(); }
+    // The child cursor: a position in the child list.
+    void MoveToFirst() { children.MoveToFirst(); }
+    void MoveToNext() { children.MoveToNext(); }
+    void MoveToPre() { children.MoveToPre(); }
+    // The cursor stands on no child.
+    bool IsOut() const;
+    // The child under the cursor.
+    TGGridTreeRow& CurChild();
+    // The child at the zero-based position `position`; moves the child cursor there.
+    TGGridTreeRow& GetChild(long position);
+    // The last child; moves the child cursor there.
+    TGGridTreeRow& GetLastChild();
+
+    // The row is folded: its unfold flag is clear.
+    bool IsFold() const { return !HasFlag(UnfoldFlag); }
+    // Sets or clears the unfold flag and shows or hides nothing.
+    void SetUnFoldFlag(bool on) { SetFlag(UnfoldFlag, on); }
+    // The row stands in the grid's row list.
+    bool IsVisible() const { return GetIndex() != -1; }
+    // The first child stands in the grid's row list; false without children.
+    bool IsChildVisible() const;
+    // Depth: 0 for a root row.
+    long GetParentNum();
+    // Number of all descendants, folded or not.
+    long GetOffspringNum();
+    // Number of grid rows that this row takes up when it is shown: 1 when folded.
+    long GetRowNum();
+
+    // Inserts `child` (null makes an empty one) before the child at `position`; this row owns it from now on.
+    // It is shown at once, with its unfolded offspring, when this row is shown and unfolded.
+    void InsertChild(long position, TGGridTreeRow* child);
+    // InsertChild behind the last child.
+    void AppendChild(TGGridTreeRow* child);
+    // Removes the child at `position` from the grid and deletes it with its offspring.
+    void DelChild(long position);
+    // Folds the row and deletes all children.
+    void ClearChild();
+
+    // Hides the offspring and clears the unfold flag; descendants keep their own flags.
+    void Fold();
+    // Shows the children and, below each unfolded one, its offspring, when this row is shown; sets the flag.
+    void UnFold();
+    // Folds or unfolds this row and all descendants.
+    void FoldAll();
+    void UnFoldAll();
+    // Sorts the children of this row and of every descendant by the row order; the grid's rows stay where
+    // they are until the tree is shown again.
+    void ArrangeChild(bool ascending);
+
+    // Depth-first search of the descendants for the first whose cell in column `col` equals `text` exactly.
+    // Shows it, makes it the only selected row and returns true; returns false and changes nothing otherwise.
+    bool FindAndSel(const wchar_t* text, long col);
+
+    // Whether a point in logical coordinates lies in the plus or minus box; false without children.
+    bool IsPtInTreeQuad(CPoint& point);
+
+    bool IsParentRow() override;
+    bool IsChildRow() override;
+    bool IsTreeRow() override;
+
+    // Deletes the children, then what TGGridRow deletes.
+    ~TGGridTreeRow() override;
+
+protected:
+    friend class TGGrid;
+    friend class TGGridCell;
+    friend class TGTreeGrid;
+
+    void InsertCol(long position, TGGridCol& col) override;
+    void AppendCol(TGGridCol& col) override;
+    void DelCol(long position) override;
+    void MoveCol(long from, long to) override;
+
+    // Position of `child` in the child list, -1 when it is not there.
+    long GetChildIndex(TGGridTreeRow* child);
+    // The grid row index at which the child at `position` is or would be shown.
+    long GetGlobalChildIndex(long position);
+    // The plus or minus box in logical coordinates; leaves `rect` untouched without children.
+    void GetTreeQuad(CRect& rect);
+
+private:
+    PDList<TGGridTreeRow> children;
+    TGGridTreeRow* parent = nullptr;
+};
+
+} // namespace QuorUiCtr

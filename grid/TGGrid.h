@@ -273,10 +273,19 @@ public:
     bool IsEditing() const { return editCell != nullptr; }
     // A cell waits for its editor to be opened by the timer.
     bool IsCellLocking() const { return cellLock != nullptr; }
-    // Commits an open edit and closes its editor.
+    // Opens an editor over a cell; `row` may be the new-row line. Unselects everything and commits an open edit
+    // first. Refused silently for a read-only cell, by OnBeforeEdit and without a window.
+    void BeginEditCell(long row, long col);
+    // Commits an open edit and closes its editor: a modified text goes through OnModified, on the new-row line
+    // also through OnBeforeInsertRow, before it is stored.
     void EndEditCell();
     // Closes an open editor and drops its text; calls no hook.
     void CancelEditCell();
+    // Opens an editor on `cell`, or anew on the cell under edit when `cell` is null, as soon as the pending
+    // messages are handled; what is open then is dropped. Ignored while a cell waits already.
+    void AutoEditCell(TGGridCell* cell);
+    // Commits and closes after `ms` milliseconds.
+    void AutoCloseCell(int ms);
 
     BOOL PreTranslateMessage(MSG* message) override;
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
@@ -410,6 +419,8 @@ protected:
     afx_msg void OnSetFocus(CWnd* oldFocus);
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
     afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnCbnSelchange();
+    afx_msg void OnCbnEditChange();
 
 private:
     enum Flag

@@ -1,0 +1,53 @@
+# Declares test programs: one executable and one ctest entry per folder of tests, run under Wine.
+#
+# Test names start with the variant (plain or checked), so that one ctest run can cover both build trees.
+if(QUOR_CHECKED)
+    set(QUOR_TEST_VARIANT checked)
+else()
+    set(QUOR_TEST_VARIANT plain)
+endif()
+
+# GoogleTest comes as sources with the system and is built like the project, because the checked variant changes the
+# layout of the standard containers. Its own warnings are not ours to fix.
+set(QUOR_GOOGLETEST_DIR /usr/src/googletest CACHE PATH "Where the sources of GoogleTest are")
+
+function(_quor_build_googletest)
+    set(BUILD_GMOCK OFF)
+    set(INSTALL_GTEST OFF)
+    set(CMAKE_WARN_DEPRECATED OFF)
+    add_subdirectory(${QUOR_GOOGLETEST_DIR} ${CMAKE_BINARY_DIR}/googletest EXCLUDE_FROM_ALL SYSTEM)
+    # Its thread support keeps memory until the process ends, which would hide real leaks. Check on the main thread only.
+    target_compile_definitions(gtest PUBLIC GTEST_IS_THREADSAFE=0)
+    if(QUOR_CHECKED)
+        target_compile_definitions(gtest PUBLIC _GLIBCXX_DEBUG)
+    endif()
+endfunction()
+
+# quor_add_test(name [CONSOLE] [TIMEOUT seconds] [LIBRARIES targets...] [SOURCES files...])
+#
+# Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder <name>) and adds it to ctest. Windowed
+# programs initialise the framework and get the harness of tests/support; CONSOLE programs use neither. A folder that
+# has no sources yet is skipped.
+function(quor_add_test name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT" "LIBRARIES;SOURCES")
+    if(NOT arg_SOURCES)
+        file(GLOB arg_SOURCES CONFIGURE_DEPENDS ${name}/*.cpp ${name}/*.rc)
+    endif()
+    if(NOT arg_SOURCES)
+        return()
+    endif()
+    if(NOT arg_TIMEOUT)
+        set(arg_TIMEOUT 300)
+    endif()
+    if(arg_CONSOLE)
+        set(main QuorTestConsoleMain)
+    else()
+        set(main QuorTestMain)
+    endif()
+
+    add_executable(${name}_test ${arg_SOURCES})
+    target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR})
+    target_link_libraries(${name}_test PRIVATE QuorFlags ${main} ${arg_LIBRARIES})
+    add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
+    set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+endfunction()

@@ -5,10 +5,15 @@
 #
 # By default each run has a virtual display and a Wine session (prefix and server) for itself, so that programs which
 # need the cursor, the focus or the clipboard may run at the same time. QUOR_USE_DISPLAY=1 runs on the display named by
-# DISPLAY instead. QUOR_WINEDEBUG sets Wine's debug channels (default: all off).
+# DISPLAY instead. QUOR_WINEDEBUG sets Wine's debug channels (default: all off). QUOR_PROGRAM_CORE and QUOR_DISPLAY_CORE
+# pin the program (with the Wine server) and the X server to one processor core each.
 set -euo pipefail
 # shellcheck source=lib.sh
 source "$(dirname "$0")/lib.sh"
+
+# Command prefixes; empty unless a core is given.
+on_program_core=(${QUOR_PROGRAM_CORE:+taskset -c "$QUOR_PROGRAM_CORE"})
+on_display_core=(${QUOR_DISPLAY_CORE:+taskset -c "$QUOR_DISPLAY_CORE"})
 
 # Takes the first free session and keeps it locked through descriptor 9, which no child inherits.
 take_session() {
@@ -35,8 +40,8 @@ end_stale_display() {
 start_display() {
     local attempt number pipe
     for attempt in 1 2 3; do
-        exec {pipe}< <(exec Xvfb -displayfd 3 -screen 0 "$quor_screen" -nolisten tcp \
-            3>&1 >/dev/null 2>"$quor_wine_home/$session.xvfb.log" 9>&-)
+        exec {pipe}< <(exec "${on_display_core[@]}" Xvfb -displayfd 3 -screen 0 "$quor_screen" \
+            -nolisten tcp 3>&1 >/dev/null 2>"$quor_wine_home/$session.xvfb.log" 9>&-)
         xvfb=$!
         if read -r -t 30 number <&"$pipe"; then
             exec {pipe}<&-
@@ -78,13 +83,17 @@ run_on_given_display() {
 # In the background and waited for, so that a signal ends the wait and the session is cleaned up.
 run_program() {
     local code=0
-    "$(wine_loader)" "$@" </dev/null 9>&- &
+    # The Wine server is started by the program and inherits its core.
+    "${on_program_core[@]}" "$(wine_loader)" "$@" </dev/null 9>&- &
     wait $! || code=$?
     exit "$code"
 }
 
 main() {
     set_wine_environment
+    [[ -f ${1:-} ]] || die "no such program: ${1:-}"
+    # Wine looks for a relative path in its own folders first.
+    set -- "$(realpath -- "$1")" "${@:2}"
     if [[ ${QUOR_USE_DISPLAY:-0} == 1 ]]; then
         run_on_given_display "$@"
     else

@@ -1,5 +1,5 @@
 // Tests of the gallery's CSV reader on text, and of the CSV files that the gallery ships.
-#include "CsvReader.h"
+#include "samples/gallery/CsvReader.h"
 
 #include <gtest/gtest.h>
 

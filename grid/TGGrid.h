@@ -18,6 +18,7 @@ class TGActiveQuad;
 class TGCellCtrl;
 class TGColSelector;
 class TGRowSelector;
+struct ScrollRequest;
 
 // A custom-drawn grid of editable text cells with an optional tree of rows.
 //
@@ -28,18 +29,18 @@ class TGRowSelector;
 //
 // Row and column indices are zero-based; -1 means none. The index that equals the row count names the new-row
 // line below the last row. Indices are the caller's responsibility unless an operation says otherwise; the
-// checked build asserts them. Logical coordinates are pixels before scrolling: row r spans r x h to (r + 1) x h
-// with h = GetRowHeight(), and columns carry their own edges. Colours are COLORREF values.
+// checked build asserts them. Logical coordinates are pixels before scrolling: row r spans r x h to (r + 1) x
+// h with h = GetRowHeight(), and columns carry their own edges. Colours are COLORREF values.
 //
-// The grid owns its columns, rows, tree rows, paste buffer, header windows, font and editors. All calls belong
-// to the thread that created the window.
+// The grid owns its columns, rows, tree rows, paste buffer, header windows, font and editors. All calls
+// belong to the thread that created the window.
 class AFX_EXT_CLASS TGGrid : public CWnd
 {
     DECLARE_DYNCREATE(TGGrid)
 
 public:
-    // With `tree` set, rows that the grid creates itself are tree rows. `columnWidth` is the width in pixels of
-    // columns that are added with width 0. Creates no window.
+    // With `tree` set, rows that the grid creates itself are tree rows. `columnWidth` is the width in pixels
+    // of columns that are added with width 0. Creates no window.
     TGGrid(bool tree = false, long columnWidth = 100);
     ~TGGrid() override;
     TGGrid(const TGGrid&) = delete;
@@ -55,8 +56,8 @@ public:
     BOOL Create(CWnd* parent, UINT id, DWORD windowStyle);
 
     // Lays out scroll bars, drawing context and new-row line and ends an open cell edit; repaints everything
-    // when `redraw` is nonzero. Postponed between BeginUpdate and EndUpdate; does nothing without a window and
-    // when called while any grid is being laid out.
+    // when `redraw` is nonzero. Postponed between BeginUpdate and EndUpdate; does nothing without a window
+    // and when called while any grid is being laid out.
     void RecalcLayout(int redraw);
     // Invalidates the data area (erasing when `erase` is nonzero) and, erasing, the header windows.
     void Invalidate(int erase);
@@ -74,6 +75,10 @@ public:
 
     // Many changes as one: between the first BeginUpdate and the last EndUpdate layout and repaint are
     // postponed; the last EndUpdate does them once. Calls nest. See TGGridUpdate for the scoped form.
+    // Inside, nothing is painted, scroll bars and new-row line keep the state of the last layout, and rows or
+    // columns that get selected are scrolled into view by the last EndUpdate (the last one wins). Operations
+    // that need an up-to-date layout at once (MoveView, FitLastCol, opening an editor, a click) do a
+    // postponed layout first.
     void BeginUpdate();
     void EndUpdate();
     bool IsUpdating() const { return updateDepth > 0; }
@@ -113,7 +118,8 @@ public:
     // The user cannot insert, append or delete columns.
     bool IsColFixLength() const { return HasFlag(ColFixLengthFlag | ReadOnlyFlag); }
     void SetColFixLength(bool on) { SetFlag(ColFixLengthFlag, on); }
-    // The row header is enabled. The header window is made when the grid's window is; the setter lays out anew.
+    // The row header is enabled. The header window is made when the grid's window is; the setter lays out
+    // anew.
     bool IsRowSel() const { return !HasFlag(RowSelOffFlag); }
     void SetRowSel(bool on);
     // The column header is enabled; likewise.
@@ -170,7 +176,8 @@ public:
     TGGridTreeRow& GetTreeRow(long i);
     TGGridCol& GetCol(long i);
     TGGridCell& GetCell(long row, long col);
-    // While a cell is edited, stores its indices and returns true; otherwise returns false and stores nothing.
+    // While a cell is edited, stores its indices and returns true; otherwise returns false and stores
+    // nothing.
     bool GetCurCell(long& row, long& col) const;
     long GetCurRowIndex() const { return curRowIndex; }
     long GetCurColIndex() const { return curColIndex; }
@@ -236,8 +243,8 @@ public:
     // ---- Selection --------------------------------------------------------------------------------------
     // Rows or columns are selected, never both: selecting one kind unselects the other.
 
-    // Adds a row to the selection (scrolling it into view) or takes it out; ends with OnCurChanged(). An index
-    // outside the rows is ignored.
+    // Adds a row to the selection (scrolling it into view) or takes it out; ends with OnCurChanged(). An
+    // index outside the rows is ignored.
     void SelectRow(long row, bool select);
     void SelectCol(long col, bool select);
     void SelectAll();
@@ -273,11 +280,11 @@ public:
     bool IsEditing() const { return editCell != nullptr; }
     // A cell waits for its editor to be opened by the timer.
     bool IsCellLocking() const { return cellLock != nullptr; }
-    // Opens an editor over a cell; `row` may be the new-row line. Unselects everything and commits an open edit
-    // first. Refused silently for a read-only cell, by OnBeforeEdit and without a window.
+    // Opens an editor over a cell; `row` may be the new-row line. Unselects everything and commits an open
+    // edit first. Refused silently for a read-only cell, by OnBeforeEdit and without a window.
     void BeginEditCell(long row, long col);
-    // Commits an open edit and closes its editor: a modified text goes through OnModified, on the new-row line
-    // also through OnBeforeInsertRow, before it is stored.
+    // Commits an open edit and closes its editor: a modified text goes through OnModified, on the new-row
+    // line also through OnBeforeInsertRow, before it is stored.
     void EndEditCell();
     // Closes an open editor and drops its text; calls no hook.
     void CancelEditCell();
@@ -364,8 +371,8 @@ protected:
     virtual bool OnMovingRow(long position);
     virtual bool OnMoveRow(long position);
     virtual void OnEndMoveRow();
-    // Fill the tip text of a cell, a row header box, a column header box, a cell button, the corner and return
-    // true to show it. Defaults: false.
+    // Fill the tip text of a cell, a row header box, a column header box, a cell button, the corner and
+    // return true to show it. Defaults: false.
     virtual bool OnCellTip(long row, long col, CString& text) const;
     virtual bool OnRowTip(long row, CString& text) const;
     virtual bool OnColTip(long col, CString& text) const;
@@ -394,12 +401,20 @@ protected:
     // The data area in client coordinates: the client rectangle without the headers.
     void GetClientRect(RECT* rect);
     bool IsAppendRowShown() const { return !IsNoAppendButton(); }
+    // Converts a point from client to logical coordinates; unchanged without a drawing context.
+    CPoint ClientToLogical(CPoint point) const;
+    // The first column whose left <= `logicalX` < right, the column count when there is none.
+    long ColAt(long logicalX) const;
+    // Does a layout that is postponed between BeginUpdate and EndUpdate now; the repaint stays postponed.
+    void FlushLayout();
 
     // The prepared drawing context: null makes and keeps a client context when there is none, another context
     // becomes the prepared one. Its origin is the logical origin, its font and pen are the grid's.
     void PrepareDC(CDC* context);
     void ClearDC();
     CDC* GetDC() { return dc; }
+
+    void PostNcDestroy() override;
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnSize(UINT type, int cx, int cy);
@@ -473,10 +488,47 @@ private:
     long curColIndex = -1;
     bool modified = false;
 
+    // `dc` is a client context of the grid's own, not the context of a running paint.
+    bool ownsDC = false;
+    // Row height and column header height that the header windows were last placed for.
+    CSize headerMeasure;
+
     // Postponed work between BeginUpdate and EndUpdate.
     int updateDepth = 0;
     bool layoutPending = false;
     bool redrawPending = false;
+    bool showPending = false;
+    CRect pendingShowRect;
+
+    // Window creation (TGGridWindow.cpp).
+    BOOL CreateWindowIn(const RECT& rect, DWORD windowStyle, CWnd* parent, UINT id);
+    void CreateFont();
+    void AdoptFont(HFONT source, BYTE quality);
+    void CreateHeaders();
+
+    // Layout (TGGridLayout.cpp).
+    void PerformLayout(int redraw);
+    void LayOutScrollBars();
+    void LayOutBar(int bar, bool needed, int position, int maximum);
+    void PlaceHeaders();
+    void RenewNewRow();
+    bool IsBarShown(int bar) const;
+    int BarPosition(int bar) const;
+    void SetBarPosition(int bar, int position);
+    void RepaintBar(int bar);
+
+    // Scrolling (TGGridScroll.cpp).
+    void ScrollContents(int dx, int dy);
+    ScrollRequest ReadScrollRequest(int bar, UINT trackMask);
+
+    // Painting (TGGridPaint.cpp).
+    void DrawRows(long first, long last);
+    void DrawSelectedCols(const CRect& clip);
+    void DrawSelectedRows(long first, long last);
+
+    // Mouse (TGGridMouse.cpp).
+    void PressCell(CPoint point);
+    void PressTreeCell(long row, CPoint point);
 };
 
 // BeginUpdate and EndUpdate of a grid for the length of a scope.

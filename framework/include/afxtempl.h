@@ -2,3 +2,6 @@
 #pragma once
 
 #include "afxcoll.h"
+#include "fx/array.h"
+#include "fx/list.h"
+#include "fx/map.h"

@@ -25,8 +25,9 @@
 #include <tchar.h>
 #include <malloc.h>
 
-// windowsx.h defines macros with the names of member functions of this API.
+// windowsx.h and winuser.h define macros with the names of member functions of this API.
 #undef SubclassWindow
+#undef SubclassDialog
 #undef CopyRgn
 
 #define _MFC_VER 0x0C00
@@ -58,6 +59,9 @@
 #define AFX_STATIC static
 #define AFX_INLINE inline
 #define AFX_NOVTABLE
+#define AFX_COMDAT
+#define AFX_CORE_DATA
+#define AFX_CORE_DATADEF
 #define AFXAPI_DATA
 #define BASED_CODE
 #define afx_msg

@@ -1,0 +1,11 @@
+// Identifiers of the resources in QuorUiCtrl.dll; hosts load them through AfxFindResourceHandle.
+#pragma once
+
+// Markers of the row header, drawn as high as a row.
+#define IDI_CURRENT_ROW 1000
+#define IDI_NEW_ROW 1001
+
+// Carried for hosts, which may show them over headers that select: an arrow into a row, and one down into a
+// column.
+#define IDC_ROW_ARROW 1002
+#define IDC_COLUMN_ARROW 1003

@@ -28,6 +28,7 @@
 // windowsx.h and winuser.h define macros with the names of member functions of this API.
 #undef SubclassWindow
 #undef SubclassDialog
+#undef GetNextWindow
 #undef CopyRgn
 
 #define _MFC_VER 0x0C00

@@ -53,7 +53,7 @@ public:
     BOOL operator==(const CWnd& wnd) const;
     BOOL operator!=(const CWnd& wnd) const;
     // Also works on a NULL pointer.
-    HWND GetSafeHwnd() const;
+    HWND GetSafeHwnd() const { return this == NULL ? NULL : m_hWnd; }
     // The attached object or a temporary one; NULL for NULL.
     static CWnd* PASCAL FromHandle(HWND hWnd);
     // The attached object or NULL.

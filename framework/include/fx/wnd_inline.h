@@ -15,10 +15,6 @@ inline BOOL CWnd::operator!=(const CWnd& wnd) const
 {
     return wnd.GetSafeHwnd() != GetSafeHwnd();
 }
-inline HWND CWnd::GetSafeHwnd() const
-{
-    return this == NULL ? NULL : m_hWnd;
-}
 
 inline DWORD CWnd::GetStyle() const
 {

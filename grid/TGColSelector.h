@@ -7,6 +7,7 @@ namespace QuorUiCtr
 {
 
 class TGGrid;
+class TGGridCol;
 
 // Draws one caption box per column. The grid makes one (control id 103) when the column header is enabled and
 // owns it. It scrolls horizontally with the grid.
@@ -30,6 +31,7 @@ protected:
 private:
     // Moves the origin of `context` to the grid's horizontal scroll position.
     void PrepareContext(CDC& context) const;
+    void DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const;
 
     TGGrid* grid;
     CBrush bkBrush;

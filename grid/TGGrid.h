@@ -427,6 +427,7 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
     afx_msg int OnCreate(LPCREATESTRUCT create);
     afx_msg HBRUSH OnCtlColor(CDC* context, CWnd* wnd, UINT kind);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
     afx_msg BOOL OnEraseBkgnd(CDC* context);
@@ -456,6 +457,12 @@ private:
         FlatButtonFlag = 0x2000,
         NoAppendButtonFlag = 0x4000,
         NoDefaultMenuFlag = 0x8000
+    };
+    // Timers of the window: AutoEditCell and AutoCloseCell.
+    enum Timer
+    {
+        EditTimer = 0,
+        CloseTimer = 1
     };
     bool HasFlag(int flags) const { return (style & flags) != 0; }
     void SetFlag(Flag flag, bool on) { style = on ? style | flag : style & ~flag; }
@@ -519,16 +526,18 @@ private:
 
     // Scrolling (TGGridScroll.cpp).
     void ScrollContents(int dx, int dy);
+    CRect ViewRect();
     ScrollRequest ReadScrollRequest(int bar, UINT trackMask);
 
     // Painting (TGGridPaint.cpp).
     void DrawRows(long first, long last);
-    void DrawSelectedCols(const CRect& clip);
+    void DrawSelectedCols();
     void DrawSelectedRows(long first, long last);
 
     // Mouse (TGGridMouse.cpp).
     void PressCell(CPoint point);
     void PressTreeCell(long row, CPoint point);
+    void OpenLockedCell();
 };
 
 // BeginUpdate and EndUpdate of a grid for the length of a scope.

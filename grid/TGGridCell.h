@@ -58,14 +58,22 @@ public:
     // Inverts the cell on the grid's drawing context; the argument is ignored, two calls restore the pixels.
     // Does nothing without a window.
     void Select(bool selected);
-    // Draws the cell on the grid's drawing context: asks OnRefresh, lets OnBeforeRefresh set the colours, then
-    // draws frame, background, tree decoration (first column) and text. Does nothing without a window or
+    // Draws the cell on the grid's drawing context: asks OnRefresh, lets OnBeforeRefresh set the colours,
+    // then draws frame, background, tree decoration (first column) and text. Does nothing without a window or
     // without a drawing context.
     void Refresh();
 
 private:
     friend class TGGridRow;
-    enum { ReadOnlyFlag = 0x01 };
+    enum
+    {
+        ReadOnlyFlag = 0x01
+    };
+
+    void DrawCellText(CDC& context, CRect textRect) const;
+    // Draw the fold box and the lines of a tree row; the first returns the x from which its text starts.
+    long DrawTreeDecoration(CDC& context, const CRect& cell) const;
+    void DrawChildLines(CDC& context, const CRect& cell, const CRect& parentBox) const;
 
     CString text;
     int style = 0;

@@ -8,8 +8,9 @@ namespace QuorUiCtr
 
 // A row of a tree grid. A parent row shows a plus or minus box in the first column; while it is shown and
 // unfolded, its children stand in the grid's row list right below it, each followed by its own shown
-// descendants. Folded descendants live only in their parent's child list and have the index -1. A row owns its
-// children; the grid's row list refers to the shown ones. The unfold flag is remembered while a row is hidden.
+// descendants. Folded descendants live only in their parent's child list and have the index -1. A row owns
+// its children; the grid's row list refers to the shown ones. The unfold flag is remembered while a row is
+// hidden.
 class AFX_EXT_CLASS TGGridTreeRow : public TGGridRow
 {
 public:
@@ -18,7 +19,8 @@ public:
     // A row of the parent's grid that refers to `parent`; it is not entered into the parent's child list.
     explicit TGGridTreeRow(TGGridTreeRow* parent);
 
-    // Row assignment, then a copy of every child of `source` is added behind this row's children, recursively.
+    // Row assignment, then a copy of every child of `source` is added behind this row's children,
+    // recursively.
     TGGridTreeRow& operator=(TGGridTreeRow& source);
     // Like operator=, but the host data moves from `source` and its offspring to this row and the copies.
     TGGridTreeRow& operator<<(TGGridTreeRow& source);
@@ -55,6 +57,8 @@ public:
     bool IsVisible() const { return GetIndex() != -1; }
     // The first child stands in the grid's row list; false without children.
     bool IsChildVisible() const;
+    // The row is a child row and its parent has none behind it.
+    bool IsLastChild() const;
     // Depth: 0 for a root row.
     long GetParentNum();
     // Number of all descendants, folded or not.

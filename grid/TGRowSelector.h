@@ -34,8 +34,13 @@ protected:
 private:
     // Moves the origin of `context` to the grid's vertical scroll position.
     void PrepareContext(CDC& context) const;
-    void DrawBox(CDC& context, long row) const;
+    // The box of a row in logical coordinates.
+    CRect BoxRect(long row) const;
+    void DrawRow(CDC& context, long row) const;
+    void DrawNewRow(CDC& context) const;
     void DrawRowIcon(CDC& context, long row, UINT iconId) const;
+    // Draws a row's box over what stands there; nothing for an index outside the rows.
+    void RedrawRow(CDC& context, long row);
 
     TGGrid* grid;
     CBrush bkBrush;

@@ -1,20 +1,23 @@
-# The compile flags that every target of the project shares, as the interface target QuorFlags.
+# The compile flags that every target of the project shares, as the interface target QuorFlags. QuorWarnings is the part
+# that the guard allocator itself can use.
 #
-# QUOR_CHECKED builds the checked variant: assertions, bounds-checked containers, undefined-behaviour traps
-# and stack protection. The guard allocator is linked into the test programs (see tests/).
+# QUOR_CHECKED builds the checked variant: assertions, bounds-checked containers, undefined-behaviour traps, stack
+# protection, and the guard allocator (see tests/guard) in every program.
 option(QUOR_CHECKED "Build with run-time checks" OFF)
 
+add_library(QuorWarnings INTERFACE)
 add_library(QuorFlags INTERFACE)
-target_compile_features(QuorFlags INTERFACE cxx_std_20)
-target_compile_definitions(QuorFlags INTERFACE
+target_link_libraries(QuorFlags INTERFACE QuorWarnings)
+target_compile_features(QuorWarnings INTERFACE cxx_std_20)
+target_compile_definitions(QuorWarnings INTERFACE
     UNICODE _UNICODE _AFXDLL WIN32 _WINDOWS _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0600)
 
 if(MSVC)
-    target_compile_options(QuorFlags INTERFACE /W4 /WX /utf-8 /permissive-)
+    target_compile_options(QuorWarnings INTERFACE /W4 /WX /utf-8 /permissive-)
     return()
 endif()
 
-target_compile_options(QuorFlags INTERFACE
+target_compile_options(QuorWarnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
     # Message maps cast member functions to one common type, as the macros are documented to do.
     -Wno-cast-function-type
@@ -30,6 +33,7 @@ if(QUOR_CHECKED)
         -fsanitize=undefined -fno-sanitize=null -fsanitize-undefined-trap-on-error
         -fstack-protector-strong)
     target_link_options(QuorFlags INTERFACE -fstack-protector-strong)
+    target_link_libraries(QuorFlags INTERFACE QuorGuard)
 else()
     target_compile_definitions(QuorFlags INTERFACE NDEBUG)
 endif()

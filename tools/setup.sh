@@ -37,6 +37,10 @@ as_root() {
     fi
 }
 
+can_install() {
+    command -v apt-get >/dev/null && { [[ $EUID -eq 0 ]] || command -v sudo >/dev/null; }
+}
+
 apt_install() {
     as_root env DEBIAN_FRONTEND=noninteractive apt-get install -qq -y --no-install-recommends "$@" </dev/null
 }
@@ -46,8 +50,7 @@ main() {
     mapfile -t packages < <(missing_packages)
     [[ ${#packages[@]} -gt 0 ]] || return 0
 
-    command -v apt-get >/dev/null && { [[ $EUID -eq 0 ]] || command -v sudo >/dev/null; } ||
-        die "please install these packages: ${packages[*]}"
+    can_install || die "please install these packages: ${packages[*]}"
     say "installing ${packages[*]}"
     mkdir -p "$quor_build"
     log=$quor_build/install.log

@@ -10,6 +10,7 @@
 #include "fx/wnd.h"
 #include "fx/module.h"
 #include "fx/thread.h"
+#include "fx/resourcetext.h"
 #include "fx/dialog.h"
 #include "fx/frame.h"
 #include "fx/view.h"

@@ -1,4 +1,93 @@
-// .
+// CFrameWnd: a main window with a title, a menu, accelerators and a view.
 #pragma once
 
-#include "fx/config.h"
+#include "fx/string.h"
+#include "fx/wnd.h"
+#include "afxres.h"
+#include "atltypes.h"
+
+class CDocument;
+class CView;
+struct CCreateContext;
+
+// Styles of frames: build the title from document and program, the document first.
+#define FWS_ADDTOTITLE 0x00008000L
+#define FWS_PREFIXTITLE 0x00004000L
+#define FWS_SNAPTOBARS 0x00002000L
+
+// A top-level frame. Create it on the heap: it deletes itself with its window. Commands go to the active
+// view, the frame, and the application.
+class QFX_API CFrameWnd : public CWnd
+{
+    DECLARE_DYNCREATE(CFrameWnd)
+
+public:
+    // For Create: the system chooses place and size.
+    static AFX_DATA const CRect rectDefault;
+
+    CFrameWnd();
+    virtual ~CFrameWnd();
+
+    // Creates the window. A NULL class stands for the framework's own; the menu is looked up by name in the
+    // modules.
+    virtual BOOL Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle = WS_OVERLAPPEDWINDOW,
+                        const RECT& rect = rectDefault, CWnd* pParentWnd = NULL, LPCTSTR lpszMenuName = NULL,
+                        DWORD dwExStyle = 0, CCreateContext* pContext = NULL);
+    // Creates the window with menu, accelerators, icon and title of one identifier. FALSE on failure.
+    virtual BOOL LoadFrame(UINT nIDResource, DWORD dwDefaultStyle = WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE,
+                           CWnd* pParentWnd = NULL, CCreateContext* pContext = NULL);
+    // Loads the accelerators; only once per frame.
+    BOOL LoadAccelTable(LPCTSTR lpszResourceName);
+    // Creates the view that the context names as a child; NULL on failure.
+    CWnd* CreateView(CCreateContext* pContext, UINT nID = AFX_IDW_PANE_FIRST);
+
+    // TRUE (the default): menu items without a handler are grey when a menu opens.
+    BOOL m_bAutoMenuEnable;
+
+    // The view that commands go to. SetActiveView with bNotify calls OnActivateView of both views.
+    CView* GetActiveView() const { return m_pViewActive; }
+    void SetActiveView(CView* pViewNew, BOOL bNotify = TRUE);
+    virtual CDocument* GetActiveDocument();
+    virtual CFrameWnd* GetActiveFrame();
+
+    // The part of the title that names the program.
+    CString GetTitle() const { return m_strTitle; }
+    void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
+    // Shows the title, with the document's if bAddToTitle and FWS_ADDTOTITLE are set.
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+
+    // Sends the views their initial update, makes the first one active, and shows the frame if bMakeVisible.
+    void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
+    // Shows the frame with a SW_ code (-1: as it is) and brings it to the top.
+    virtual void ActivateFrame(int nCmdShow = -1);
+    // Gives AFX_IDW_PANE_FIRST the client area that bars leave over.
+    virtual void RecalcLayout(BOOL bNotify = TRUE);
+    virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
+
+    virtual BOOL IsFrameWnd() const;
+    virtual BOOL PreTranslateMessage(MSG* pMsg);
+    // Routes commands: active view, frame, application.
+    virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
+
+protected:
+    // Called from OnCreate to fill the client area. The base creates the context's view. FALSE gives up.
+    virtual BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext);
+    virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
+    virtual void PostNcDestroy();
+
+    HACCEL m_hAccelTable;
+    CString m_strTitle;
+    CView* m_pViewActive;
+    BOOL m_bInRecalcLayout;
+
+    afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
+    afx_msg void OnDestroy();
+    afx_msg void OnClose();
+    afx_msg void OnSize(UINT nType, int cx, int cy);
+    afx_msg void OnSetFocus(CWnd* pOldWnd);
+    afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+    afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
+    afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+
+    DECLARE_MESSAGE_MAP()
+};

@@ -1,4 +1,247 @@
-// .
+// CListCtrl: a list of items as icons, as a list, or as a report with columns.
 #pragma once
 
-#include "fx/config.h"
+#include "fx/imagelist.h"
+#include "fx/message.h"
+#include "fx/position.h"
+#include "fx/string.h"
+#include "fx/wnd.h"
+#include "atltypes.h"
+
+class CEdit;
+class CHeaderCtrl;
+class CToolTipCtrl;
+
+// Wraps a list-view window. The object has no state of its own: a pointer to any CWnd of a list view may be
+// cast to it. Items, sub-items and columns are zero-based, sub-item 0 is the item itself; functions that
+// return an index return -1 for none. Points and rectangles are in client pixels unless a comment says
+// otherwise. Changes notify the parent with LVN_ messages, whether a user or a call causes them.
+class QFX_API CListCtrl : public CWnd
+{
+    DECLARE_DYNAMIC(CListCtrl)
+
+public:
+    CListCtrl() {}
+    virtual ~CListCtrl();
+
+    // Create the control as a child. rect is in client coordinates of the parent. FALSE if that fails.
+    virtual BOOL Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+    virtual BOOL CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID);
+
+    // Colours. CLR_NONE as the background lets the parent shine through.
+    COLORREF GetBkColor() const { return quorfx::Send<COLORREF>(m_hWnd, LVM_GETBKCOLOR); }
+    BOOL SetBkColor(COLORREF cr) { return quorfx::Send<BOOL>(m_hWnd, LVM_SETBKCOLOR, 0, cr); }
+    COLORREF GetTextColor() const { return quorfx::Send<COLORREF>(m_hWnd, LVM_GETTEXTCOLOR); }
+    BOOL SetTextColor(COLORREF cr) { return quorfx::Send<BOOL>(m_hWnd, LVM_SETTEXTCOLOR, 0, cr); }
+    COLORREF GetTextBkColor() const { return quorfx::Send<COLORREF>(m_hWnd, LVM_GETTEXTBKCOLOR); }
+    BOOL SetTextBkColor(COLORREF cr) { return quorfx::Send<BOOL>(m_hWnd, LVM_SETTEXTBKCOLOR, 0, cr); }
+    BOOL GetBkImage(LVBKIMAGE* plvbkImage) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETBKIMAGE, 0, plvbkImage);
+    }
+    BOOL SetBkImage(LVBKIMAGE* plvbkImage)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETBKIMAGE, 0, plvbkImage);
+    }
+
+    // Styles of the control: LVS_EX_ bits. SetExtendedStyle replaces them all and returns those before.
+    DWORD GetExtendedStyle() { return quorfx::Send<DWORD>(m_hWnd, LVM_GETEXTENDEDLISTVIEWSTYLE); }
+    DWORD SetExtendedStyle(DWORD dwNewStyle)
+    {
+        return quorfx::Send<DWORD>(m_hWnd, LVM_SETEXTENDEDLISTVIEWSTYLE, 0, dwNewStyle);
+    }
+    DWORD GetView() const { return quorfx::Send<DWORD>(m_hWnd, LVM_GETVIEW); }
+    DWORD SetView(int iView) { return quorfx::Send<DWORD>(m_hWnd, LVM_SETVIEW, iView); }
+
+    // Image lists: LVSIL_NORMAL, LVSIL_SMALL or LVSIL_STATE. SetImageList
+    // returns the list before. The control deletes its lists unless it has LVS_SHAREIMAGELISTS.
+    CImageList* GetImageList(int nImageList) const;
+    CImageList* SetImageList(CImageList* pImageList, int nImageListType);
+
+    // Items. The structure forms use what the mask names and report FALSE or -1 on failure.
+    int GetItemCount() const { return quorfx::Send<int>(m_hWnd, LVM_GETITEMCOUNT); }
+    // Reserves room, or sets the number of items of a LVS_OWNERDATA list.
+    void SetItemCount(int nItems) { quorfx::Send(m_hWnd, LVM_SETITEMCOUNT, nItems, 0); }
+    BOOL SetItemCountEx(int iCount, DWORD dwFlags = LVSICF_NOINVALIDATEALL)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETITEMCOUNT, iCount, dwFlags);
+    }
+    BOOL GetItem(LVITEM* pItem) const { return quorfx::Send<BOOL>(m_hWnd, LVM_GETITEM, 0, pItem); }
+    BOOL SetItem(const LVITEM* pItem) { return quorfx::Send<BOOL>(m_hWnd, LVM_SETITEM, 0, pItem); }
+    BOOL SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
+                 UINT nStateMask, LPARAM lParam);
+    BOOL SetItem(int nItem, int nSubItem, UINT nMask, LPCTSTR lpszItem, int nImage, UINT nState,
+                 UINT nStateMask, LPARAM lParam, int nIndent);
+    int InsertItem(const LVITEM* pItem) { return quorfx::Send<int>(m_hWnd, LVM_INSERTITEM, 0, pItem); }
+    int InsertItem(int nItem, LPCTSTR lpszItem);
+    int InsertItem(int nItem, LPCTSTR lpszItem, int nImage);
+    int InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, UINT nState, UINT nStateMask, int nImage,
+                   LPARAM lParam);
+    BOOL DeleteItem(int nItem) { return quorfx::Send<BOOL>(m_hWnd, LVM_DELETEITEM, nItem); }
+    BOOL DeleteAllItems() { return quorfx::Send<BOOL>(m_hWnd, LVM_DELETEALLITEMS); }
+
+    // State bits (LVIS_), data and check box of an item.
+    UINT GetItemState(int nItem, UINT nMask) const
+    {
+        return quorfx::Send<UINT>(m_hWnd, LVM_GETITEMSTATE, nItem, nMask);
+    }
+    BOOL SetItemState(int nItem, LVITEM* pItem)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETITEMSTATE, nItem, pItem);
+    }
+    // An item of -1 stands for all items.
+    BOOL SetItemState(int nItem, UINT nState, UINT nMask);
+    DWORD_PTR GetItemData(int nItem) const;
+    BOOL SetItemData(int nItem, DWORD_PTR dwData);
+    BOOL GetCheck(int nItem) const;
+    BOOL SetCheck(int nItem, BOOL fCheck = TRUE);
+
+    // Text. The string form returns the whole text, however long; the buffer form returns the length copied.
+    CString GetItemText(int nItem, int nSubItem) const;
+    int GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const;
+    BOOL SetItemText(int nItem, int nSubItem, LPCTSTR lpszText);
+
+    // Searching and walking. GetNextItem takes LVNI_ flags and -1 to begin; FindItem searches after nStart.
+    int GetNextItem(int nItem, int nFlags) const
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
+    }
+    int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_FINDITEM, nStart, pFindInfo);
+    }
+    // Walks the selected items: NULL when there is none, GetNextSelectedItem returns the item and moves on.
+    POSITION GetFirstSelectedItemPosition() const;
+    int GetNextSelectedItem(POSITION& pos) const;
+    UINT GetSelectedCount() const { return quorfx::Send<UINT>(m_hWnd, LVM_GETSELECTEDCOUNT); }
+    int GetSelectionMark() { return quorfx::Send<int>(m_hWnd, LVM_GETSELECTIONMARK); }
+    int SetSelectionMark(int iIndex) { return quorfx::Send<int>(m_hWnd, LVM_SETSELECTIONMARK, 0, iIndex); }
+    int GetHotItem() { return quorfx::Send<int>(m_hWnd, LVM_GETHOTITEM); }
+    int SetHotItem(int iIndex) { return quorfx::Send<int>(m_hWnd, LVM_SETHOTITEM, iIndex); }
+    HCURSOR GetHotCursor() { return quorfx::Send<HCURSOR>(m_hWnd, LVM_GETHOTCURSOR); }
+    HCURSOR SetHotCursor(HCURSOR hc) { return quorfx::Send<HCURSOR>(m_hWnd, LVM_SETHOTCURSOR, 0, hc); }
+    // In milliseconds.
+    DWORD GetHoverTime() const { return quorfx::Send<DWORD>(m_hWnd, LVM_GETHOVERTIME); }
+    DWORD SetHoverTime(DWORD dwHoverTime = static_cast<DWORD>(-1))
+    {
+        return quorfx::Send<DWORD>(m_hWnd, LVM_SETHOVERTIME, 0, dwHoverTime);
+    }
+
+    // Hit tests: the item at a client point, flags receive LVHT_ bits; SubItemHitTest also finds the
+    // sub-item.
+    int HitTest(LVHITTESTINFO* pHitTestInfo) const
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_HITTEST, 0, pHitTestInfo);
+    }
+    int HitTest(CPoint pt, UINT* pFlags = NULL) const;
+    int SubItemHitTest(LPLVHITTESTINFO pInfo)
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_SUBITEMHITTEST, 0, pInfo);
+    }
+
+    // Geometry. The code of GetItemRect is LVIR_BOUNDS, LVIR_ICON or LVIR_LABEL, of GetSubItemRect also an
+    // area.
+    BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
+    BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref);
+    BOOL GetItemPosition(int nItem, LPPOINT lpPoint) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETITEMPOSITION, nItem, lpPoint);
+    }
+    BOOL SetItemPosition(int nItem, POINT pt)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETITEMPOSITION32, nItem, &pt);
+    }
+    BOOL GetOrigin(LPPOINT lpPoint) const { return quorfx::Send<BOOL>(m_hWnd, LVM_GETORIGIN, 0, lpPoint); }
+    BOOL GetViewRect(LPRECT lpRect) const { return quorfx::Send<BOOL>(m_hWnd, LVM_GETVIEWRECT, 0, lpRect); }
+    // The width in pixels of a string in the list's font.
+    int GetStringWidth(LPCTSTR lpsz) const { return quorfx::Send<int>(m_hWnd, LVM_GETSTRINGWIDTH, 0, lpsz); }
+    CSize SetIconSpacing(int cx, int cy);
+    CSize SetIconSpacing(CSize size);
+    // The size that would show nCount items without scrolling.
+    CSize ApproximateViewRect(CSize sz = CSize(-1, -1), int iCount = -1) const;
+    void SetWorkAreas(int nWorkAreas, LPRECT lpRect)
+    {
+        quorfx::Send(m_hWnd, LVM_SETWORKAREAS, nWorkAreas, lpRect);
+    }
+    void GetWorkAreas(int nWorkAreas, LPRECT prc) const
+    {
+        quorfx::Send(m_hWnd, LVM_GETWORKAREAS, nWorkAreas, prc);
+    }
+    UINT GetNumberOfWorkAreas() const;
+
+    // Scrolling and what is visible. The size of Scroll is in pixels; GetCountPerPage counts whole items.
+    BOOL EnsureVisible(int nItem, BOOL bPartialOK)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_ENSUREVISIBLE, nItem, MAKELPARAM(bPartialOK, 0));
+    }
+    BOOL IsItemVisible(int index) const { return quorfx::Send<BOOL>(m_hWnd, LVM_ISITEMVISIBLE, index); }
+    BOOL Scroll(CSize size) { return quorfx::Send<BOOL>(m_hWnd, LVM_SCROLL, size.cx, size.cy); }
+    int GetTopIndex() const { return quorfx::Send<int>(m_hWnd, LVM_GETTOPINDEX); }
+    int GetCountPerPage() const { return quorfx::Send<int>(m_hWnd, LVM_GETCOUNTPERPAGE); }
+    BOOL RedrawItems(int nFirst, int nLast)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_REDRAWITEMS, nFirst, nLast);
+    }
+    BOOL Update(int nItem) { return quorfx::Send<BOOL>(m_hWnd, LVM_UPDATE, nItem); }
+    BOOL Arrange(UINT nCode) { return quorfx::Send<BOOL>(m_hWnd, LVM_ARRANGE, nCode); }
+
+    // Columns of the report view. Widths are in pixels or LVSCW_AUTOSIZE; nSubItem -1 leaves the sub-item
+    // unset.
+    BOOL GetColumn(int nCol, LVCOLUMN* pColumn) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETCOLUMN, nCol, pColumn);
+    }
+    BOOL SetColumn(int nCol, const LVCOLUMN* pColumn)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETCOLUMN, nCol, pColumn);
+    }
+    int InsertColumn(int nCol, const LVCOLUMN* pColumn)
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_INSERTCOLUMN, nCol, pColumn);
+    }
+    int InsertColumn(int nCol, LPCTSTR lpszColumnHeading, int nFormat = LVCFMT_LEFT, int nWidth = -1,
+                     int nSubItem = -1);
+    BOOL DeleteColumn(int nCol) { return quorfx::Send<BOOL>(m_hWnd, LVM_DELETECOLUMN, nCol); }
+    int GetColumnWidth(int nCol) const { return quorfx::Send<int>(m_hWnd, LVM_GETCOLUMNWIDTH, nCol); }
+    BOOL SetColumnWidth(int nCol, int cx)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETCOLUMNWIDTH, nCol, MAKELPARAM(cx, 0));
+    }
+    // The order of the columns on the screen, left to right; a count of -1 stands for all.
+    BOOL GetColumnOrderArray(LPINT piArray, int iCount = -1);
+    BOOL SetColumnOrderArray(int iCount, LPINT piArray)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETCOLUMNORDERARRAY, iCount, piArray);
+    }
+    int GetSelectedColumn() const { return quorfx::Send<int>(m_hWnd, LVM_GETSELECTEDCOLUMN); }
+    void SetSelectedColumn(int iCol) { quorfx::Send(m_hWnd, LVM_SETSELECTEDCOLUMN, iCol); }
+    // The header of the report view, NULL in other views.
+    CHeaderCtrl* GetHeaderCtrl() const;
+
+    // Sorting by a callback: it gets the data of both items, or their indices in SortItemsEx, and dwData.
+    BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SORTITEMS, dwData, pfnCompare);
+    }
+    BOOL SortItemsEx(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SORTITEMSEX, dwData, pfnCompare);
+    }
+
+    // Editing a label in place. EditLabel returns the edit, which lives until editing ends, or NULL if the
+    // parent refuses; the list must have the focus.
+    CEdit* EditLabel(int nItem);
+    CEdit* GetEditControl() const;
+    void CancelEditLabel() { quorfx::Send(m_hWnd, LVM_CANCELEDITLABEL); }
+
+    // Makes a picture of the item for dragging and stores its top left corner. The caller deletes the list.
+    CImageList* CreateDragImage(int nItem, LPPOINT lpPoint);
+    CToolTipCtrl* GetToolTips() const;
+    CToolTipCtrl* SetToolTips(CToolTipCtrl* pWndTip);
+
+    // Called to draw an item with LVS_OWNERDRAWFIXED. The base draws nothing.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
+
+protected:
+    virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+};

@@ -1,4 +1,9 @@
-// .
+// The standard controls.
 #pragma once
 
-#include "fx/config.h"
+#include "fx/static.h"
+#include "fx/button.h"
+#include "fx/edit.h"
+#include "fx/listbox.h"
+#include "fx/combobox.h"
+#include "fx/scrollbar.h"

@@ -296,8 +296,7 @@ public:
     HDC m_hDC;
     HDC m_hAttribDC;
 
-protected:
-    // Deletes nothing: for derived classes whose device context is given back in another way.
+private:
     CGdiObject* Select(CGdiObject* pObject);
     HGDIOBJ Current(UINT nType) const { return ::GetCurrentObject(m_hAttribDC, nType); }
 };

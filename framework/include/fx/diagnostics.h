@@ -10,9 +10,9 @@
 
 // Reports a failed assertion on stderr and to the debugger, and ends the process with AFX_ASSERT_EXIT_CODE.
 // Shows no dialog. Never returns.
-QFX_API void AFXAPI AfxAssertFailed(LPCSTR lpszFileName, int nLine, LPCSTR lpszCondition);
+[[noreturn]] QFX_API void AFXAPI AfxAssertFailed(LPCSTR lpszFileName, int nLine, LPCSTR lpszCondition);
 // Documented form: as AfxAssertFailed, without the condition's text.
-QFX_API BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
+[[noreturn]] QFX_API BOOL AFXAPI AfxAssertFailedLine(LPCSTR lpszFileName, int nLine);
 // Asserts that the object can be read and calls its AssertValid.
 QFX_API void AFXAPI AfxAssertValidObject(const CObject* pOb, LPCSTR lpszFileName, int nLine);
 // Whether `nBytes` bytes at `lp` are not NULL and can be read, and written when bReadWrite.

@@ -162,8 +162,9 @@ private:
     void AFX_CDECL FormatWorker(PCXSTR pszFormat, ...);
     void AFX_CDECL AppendFormatWorker(PCXSTR pszFormat, ...);
     void SetNarrow(PCYSTR pch, int nLength);
-    int ReplaceMatches(PCXSTR pszOld, int nOldLength, PCXSTR pszNew, int nNewLength);
+    int InsertText(int iIndex, PCXSTR pch, int nLength);
     void RemoveFirst(int nCount);
+    void RemoveLast(int nCount);
 };
 
 typedef CStringW CString;

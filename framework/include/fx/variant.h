@@ -40,7 +40,7 @@ public:
     // VT_BSTR; an empty or NULL text is an empty BSTR.
     COleVariant(LPCTSTR lpszSrc);
     COleVariant(const CString& strSrc);
-    // A text whose type must be VT_BSTR, VT_BSTRT or else asserts.
+    // A text; vtSrc must be VT_BSTR.
     COleVariant(LPCTSTR lpszSrc, VARTYPE vtSrc);
     COleVariant(BYTE nSrc);
     // vtSrc is VT_I2 or VT_BOOL; for VT_BOOL every value but 0 is VARIANT_TRUE.
@@ -82,9 +82,10 @@ public:
     void Attach(VARIANT& varSrc);
     // Gives the value to the caller; this variant becomes VT_EMPTY.
     VARIANT Detach();
-    // Converts to text in place and sets this variant to the text's BSTR.
+    // Sets the value to a text; vtSrc must be VT_BSTR.
     void SetString(LPCTSTR lpszSrc, VARTYPE vtSrc);
 
 private:
     void SetType(VARTYPE vtNew);
+    const COleVariant& SetText(BSTR bstrText);
 };

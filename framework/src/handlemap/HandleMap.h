@@ -55,8 +55,13 @@ public:
     // Enters the object that stands for the handle from now on.
     void Attach(THandle handle, TObject* object) { m_permanent[handle] = object; }
 
-    // Takes the handle's attached object out; nothing happens when it has none.
-    void Detach(THandle handle) { m_permanent.erase(handle); }
+    // Takes the object out, if it is what stands for the handle.
+    void Detach(THandle handle, const TObject* object)
+    {
+        const auto entry = m_permanent.find(handle);
+        if (entry != m_permanent.end() && entry->second == object)
+            m_permanent.erase(entry);
+    }
 
     // Deletes all temporary objects. Pointers to them become invalid, so only the message loop calls this,
     // between messages.

@@ -7,7 +7,8 @@ static AFX_EXTENSION_MODULE quorModule = {};
 
 extern "C" int APIENTRY DllMain(HINSTANCE instance, DWORD reason, LPVOID)
 {
-    switch (reason) {
+    switch (reason)
+    {
     case DLL_PROCESS_ATTACH:
         if (!AfxInitExtensionModule(quorModule, instance))
             return 0;

@@ -53,7 +53,8 @@ Decoded DecodeSequence(std::string_view bytes)
     if (length == 0 || length > bytes.size())
         return {0, 0};
     std::uint32_t codePoint = lead & leadMask[length];
-    for (std::size_t i = 1; i < length; ++i) {
+    for (std::size_t i = 1; i < length; ++i)
+    {
         const auto next = static_cast<unsigned char>(bytes[i]);
         if ((next & 0xC0) != 0x80)
             return {0, 0};
@@ -67,7 +68,8 @@ Decoded DecodeSequence(std::string_view bytes)
 
 void AppendCodePoint(std::wstring& text, std::uint32_t codePoint)
 {
-    if (sizeof(wchar_t) > 2 || codePoint < 0x10000) {
+    if (sizeof(wchar_t) > 2 || codePoint < 0x10000)
+    {
         text.push_back(static_cast<wchar_t>(codePoint));
         return;
     }
@@ -78,7 +80,8 @@ void AppendCodePoint(std::wstring& text, std::uint32_t codePoint)
 std::size_t LineOfByte(std::string_view bytes, std::size_t offset)
 {
     std::size_t line = 1;
-    for (std::size_t i = 0; i < offset; ++i) {
+    for (std::size_t i = 0; i < offset; ++i)
+    {
         const bool isFirstOfPair = bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n';
         if (bytes[i] == '\n' || (bytes[i] == '\r' && !isFirstOfPair))
             ++line;
@@ -98,7 +101,8 @@ std::wstring DecodeUtf8(std::string_view bytes, std::wstring& text)
     static constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
     text.reserve(bytes.size());
     std::size_t offset = bytes.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
-    while (offset < bytes.size()) {
+    while (offset < bytes.size())
+    {
         const Decoded decoded = DecodeSequence(bytes.substr(offset));
         if (decoded.length == 0)
             return BadByte(bytes, offset, L"not UTF-8");
@@ -151,7 +155,8 @@ private:
 
 CsvTable CsvParser::Parse()
 {
-    while (!IsAtEnd() && !(table.header.empty() && !table.errors.empty())) {
+    while (!IsAtEnd() && !(table.header.empty() && !table.errors.empty()))
+    {
         if (IsBlankLine())
             SkipRestOfLine();
         else
@@ -193,7 +198,8 @@ void CsvParser::ReadLine()
 // Leaves the place at the start of the next line to read, whether the fields are good or not.
 bool CsvParser::ReadFields(CsvRow& fields)
 {
-    for (;;) {
+    for (;;)
+    {
         if (!ReadField(fields.emplace_back()))
             return false;
         if (!IsAt(L','))
@@ -212,7 +218,8 @@ bool CsvParser::ReadField(std::wstring& field)
 bool CsvParser::ReadPlainField(std::wstring& field)
 {
     const std::size_t start = place.offset;
-    while (!IsAtEndOfField()) {
+    while (!IsAtEndOfField())
+    {
         if (IsAt(L'"'))
             return FailAt(place, L"a quote inside a field that does not start with one");
         ++place.offset;
@@ -245,7 +252,8 @@ bool CsvParser::ReadQuotedField(std::wstring& field)
 void CsvParser::AppendQuotedUnit(std::wstring& field)
 {
     const std::size_t start = place.offset;
-    if (IsLineBreak(text[start])) {
+    if (IsLineBreak(text[start]))
+    {
         StepOverLineBreak();
         field += text.substr(start, place.offset - start);
         return;

@@ -152,7 +152,8 @@ TEST(Module, ThisProgram_DoesNotImportIt)
 
 TEST(Module, LoadAndFree_CanBeRepeated)
 {
-    for (int round = 0; round < 5; ++round) {
+    for (int round = 0; round < 5; ++round)
+    {
         {
             const LoadedModule module;
             ASSERT_NE(module.handle, nullptr) << "round " << round << ", error " << GetLastError();
@@ -164,7 +165,8 @@ TEST(Module, LoadAndFree_CanBeRepeated)
 
 TEST(Module, Resources_AreFoundThroughTheChainOnlyWhileItIsLoaded)
 {
-    for (int round = 0; round < 3; ++round) {
+    for (int round = 0; round < 3; ++round)
+    {
         {
             const LoadedModule module;
             ASSERT_NE(module.handle, nullptr);
@@ -225,7 +227,8 @@ TEST(ModuleIcons, EveryUsualRowHeight_HasItsOwnImage)
 {
     const LoadedModule module;
     ASSERT_NE(module.handle, nullptr);
-    for (const int id : {IDI_CURRENT_ROW, IDI_NEW_ROW}) {
+    for (const int id : {IDI_CURRENT_ROW, IDI_NEW_ROW})
+    {
         const std::set<int> widths = ImageWidths(module.handle, {id, RT_GROUP_ICON});
         for (int height = 12; height <= 24; ++height)
             EXPECT_TRUE(widths.count(height)) << "icon " << id << ", height " << height;
@@ -266,8 +269,10 @@ TEST(ModuleIcons, NewRow_IsADarkBlueStar)
 TEST(ModuleIcons, Background_ShowsThroughAroundTheShape)
 {
     const LoadedModule module;
-    for (const int id : {IDI_CURRENT_ROW, IDI_NEW_ROW}) {
-        for (const int size : {12, 15, 17, 22, 48}) {
+    for (const int id : {IDI_CURRENT_ROW, IDI_NEW_ROW})
+    {
+        for (const int size : {12, 15, 17, 22, 48})
+        {
             const HICON icon = LoadMarker(id, size);
             ASSERT_NE(icon, nullptr);
             EXPECT_EQ(IconPicture(icon, size, RGB(10, 200, 30)).At(0, 0), RGB(10, 200, 30))

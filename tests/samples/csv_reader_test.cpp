@@ -24,7 +24,8 @@ std::wstring Describe(const CsvTable& table)
             text += L"[" + field + L"]";
     };
     add(table.header);
-    for (const CsvRow& row : table.rows) {
+    for (const CsvRow& row : table.rows)
+    {
         text += L" / ";
         add(row);
     }
@@ -149,11 +150,14 @@ TEST(CsvParsing, CharacterBeyondTheBasicPlane_IsASurrogatePairWhereWideCharacter
 {
     const CsvTable table = ParseCsv("\xF0\xAB\x93\xA7");
     const std::wstring& field = table.header.at(0);
-    if (sizeof(wchar_t) == 2) {
+    if (sizeof(wchar_t) == 2)
+    {
         ASSERT_EQ(field.size(), 2u);
         EXPECT_EQ(static_cast<unsigned>(field[0]), 0xD86Du);
         EXPECT_EQ(static_cast<unsigned>(field[1]), 0xDCE7u);
-    } else {
+    }
+    else
+    {
         ASSERT_EQ(field.size(), 1u);
         EXPECT_EQ(static_cast<unsigned>(field[0]), 0x2B4E7u);
     }
@@ -267,7 +271,8 @@ TEST(Elements, SymbolsAndNamesAreUnique)
 
 TEST(Elements, ChineseNamesAreOneCharacter)
 {
-    for (const CsvRow& row : Shipped("elements.csv").rows) {
+    for (const CsvRow& row : Shipped("elements.csv").rows)
+    {
         const bool isPair = sizeof(wchar_t) == 2 && (row[2].at(0) & 0xFC00) == 0xD800;
         EXPECT_EQ(row[2].size(), isPair ? 2u : 1u);
     }
@@ -285,7 +290,8 @@ TEST(Elements, EveryPlaceInTheMainTableHoldsOneElement)
 {
     std::set<std::wstring> places;
     std::size_t withoutGroup = 0;
-    for (const CsvRow& row : Shipped("elements.csv").rows) {
+    for (const CsvRow& row : Shipped("elements.csv").rows)
+    {
         if (row[7].empty())
             ++withoutGroup;
         else
@@ -298,7 +304,8 @@ TEST(Elements, EveryPlaceInTheMainTableHoldsOneElement)
 TEST(Elements, NotesExerciseQuoting)
 {
     std::size_t commas = 0, quotes = 0, lineBreaks = 0;
-    for (const CsvRow& row : Shipped("elements.csv").rows) {
+    for (const CsvRow& row : Shipped("elements.csv").rows)
+    {
         commas += row[10].find(L',') != std::wstring::npos;
         quotes += row[10].find(L'"') != std::wstring::npos;
         lineBreaks += row[10].find(L'\n') != std::wstring::npos;
@@ -319,7 +326,8 @@ TEST(Countries, AreThe193MembersWithoutErrors)
 TEST(Countries, NumericCodesAreUniqueAndHaveThreeDigits)
 {
     const CsvTable table = Shipped("countries.csv");
-    for (const CsvRow& row : table.rows) {
+    for (const CsvRow& row : table.rows)
+    {
         EXPECT_EQ(row[5].size(), 3u);
         EXPECT_EQ(row[5].find_first_not_of(L"0123456789"), std::wstring::npos);
     }
@@ -339,8 +347,10 @@ TEST(Countries, RegionsStandTogetherUnderOneContinent)
     const CsvTable table = Shipped("countries.csv");
     std::set<std::wstring> seen;
     std::wstring continent, region;
-    for (const CsvRow& row : table.rows) {
-        if (row[1] == region) {
+    for (const CsvRow& row : table.rows)
+    {
+        if (row[1] == region)
+        {
             EXPECT_EQ(row[0], continent);
             continue;
         }

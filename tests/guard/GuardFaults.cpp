@@ -43,7 +43,8 @@ LONG CALLBACK OnFault(EXCEPTION_POINTERS* pointers)
 
 const char* NameOfException(DWORD code)
 {
-    switch (code) {
+    switch (code)
+    {
     case EXCEPTION_ACCESS_VIOLATION:
         return "access violation";
     case EXCEPTION_ILLEGAL_INSTRUCTION:

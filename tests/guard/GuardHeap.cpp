@@ -79,7 +79,8 @@ std::size_t EffectiveAlignment(std::size_t size, std::size_t wanted)
 bool PlaceInChunk(Block& block, std::size_t size)
 {
     const std::size_t need = RoundUp(size + 2 * ChunkPadding, ChunkPadding);
-    if (static_cast<std::size_t>(chunkEnd - chunkNext) < need) {
+    if (static_cast<std::size_t>(chunkEnd - chunkNext) < need)
+    {
         if (!ArenaHas(ChunkSize) || !Commit(arenaNext, ChunkSize))
             return false;
         chunkNext = arenaNext;

@@ -19,7 +19,8 @@ constexpr std::size_t UnknownSize = ~std::size_t{0};
 // As the standard asks: the new-handler may make room, or throw.
 void* AllocateOrThrow(std::size_t size, std::size_t alignment, Form form)
 {
-    for (;;) {
+    for (;;)
+    {
         if (void* user = Allocate(size, alignment, form))
             return user;
         const std::new_handler handler = std::get_new_handler();
@@ -102,7 +103,8 @@ void Redirect(HMODULE module, const char* name, void* target)
     constexpr std::size_t Size = 14;
     auto* function = reinterpret_cast<unsigned char*>(GetProcAddress(module, name));
     DWORD protection = 0;
-    if (function == nullptr || !VirtualProtect(function, Size, PAGE_EXECUTE_READWRITE, &protection)) {
+    if (function == nullptr || !VirtualProtect(function, Size, PAGE_EXECUTE_READWRITE, &protection))
+    {
         Say("GUARD: cannot redirect %s\n", name);
         EndProcess();
     }

@@ -46,7 +46,8 @@ void ReportAndEnd(const char* what, const void* address, const Block* block, con
 std::size_t DescribeLeaksSince(std::size_t mark)
 {
     std::size_t count = 0;
-    for (std::size_t i = mark; i < BlockCount(); ++i) {
+    for (std::size_t i = mark; i < BlockCount(); ++i)
+    {
         const Block& block = BlockAt(i);
         if (!block.live || block.mayStayBehind || count++ >= MaxDescribedLeaks)
             continue;

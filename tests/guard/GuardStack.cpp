@@ -16,7 +16,8 @@ void StepOut(CONTEXT& context)
 {
     DWORD64 image = 0;
     PRUNTIME_FUNCTION function = RtlLookupFunctionEntry(context.Rip, &image, nullptr);
-    if (function == nullptr) {
+    if (function == nullptr)
+    {
         context.Rip = *reinterpret_cast<const DWORD64*>(context.Rsp);
         context.Rsp += sizeof(DWORD64);
         return;
@@ -33,7 +34,8 @@ void Walk(CONTEXT context, StackTrace& trace, std::size_t depth, std::size_t ski
     const auto low = reinterpret_cast<DWORD64>(thread->StackLimit);
     const auto high = reinterpret_cast<DWORD64>(thread->StackBase);
     std::size_t count = 0;
-    while (count < depth && context.Rip != 0 && context.Rsp >= low && context.Rsp + sizeof(DWORD64) <= high) {
+    while (count < depth && context.Rip != 0 && context.Rsp >= low && context.Rsp + sizeof(DWORD64) <= high)
+    {
         if (skip > 0)
             --skip;
         else

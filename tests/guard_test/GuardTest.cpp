@@ -53,7 +53,8 @@ Result RunVictim(const std::string& mistake)
                                         &startup, &process);
     CloseHandle(writeEnd);
     Result result;
-    if (started) {
+    if (started)
+    {
         result.report = ReadAll(readEnd);
         WaitForSingleObject(process.hProcess, INFINITE);
         GetExitCodeProcess(process.hProcess, &result.exitCode);
@@ -143,7 +144,8 @@ TEST(Guard, Report_NamesTheModuleOfTheMistake)
 
 TEST(Guard, CorrectPrograms_EndWithoutAReport)
 {
-    for (const char* name : {"none", "fill-registry", "cross-boundary", "fail-allocation", "many-blocks"}) {
+    for (const char* name : {"none", "fill-registry", "cross-boundary", "fail-allocation", "many-blocks"})
+    {
         const Result result = RunVictim(name);
         EXPECT_EQ(result.exitCode, 0u) << name;
         EXPECT_EQ(result.report, "") << name;

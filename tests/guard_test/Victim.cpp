@@ -173,9 +173,12 @@ void CrossBoundary()
 void FailAllocation()
 {
     QuorGuardFailAt(1);
-    try {
+    try
+    {
         hidden = new int;
-    } catch (const std::bad_alloc&) {
+    }
+    catch (const std::bad_alloc&)
+    {
         return;
     }
     std::puts("the allocation did not fail");
@@ -257,7 +260,8 @@ const struct
 int main(int argumentCount, char** arguments)
 {
     for (const auto& mistake : mistakes)
-        if (argumentCount == 2 && std::strcmp(arguments[1], mistake.name) == 0) {
+        if (argumentCount == 2 && std::strcmp(arguments[1], mistake.name) == 0)
+        {
             mistake.commit();
             return 0;
         }

@@ -42,7 +42,8 @@ const char* ProcessEnvironmentBlock()
 
 int& CountOfType(GuiHandles& count, unsigned type)
 {
-    switch (type) {
+    switch (type)
+    {
     case 0x01:
     case 0x21:
     case 0x41:
@@ -123,7 +124,8 @@ int GuiHandles::AllUser() const
 GuiHandles CountGuiHandles()
 {
     GuiHandles count;
-    if (!RunsUnderWine()) {
+    if (!RunsUnderWine())
+    {
         count.otherGdi = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS));
         count.windows = static_cast<int>(GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS));
         return count;

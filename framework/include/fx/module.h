@@ -52,7 +52,7 @@ QFX_API int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf = 256);
 // stands for CS_DBLCLKS, the arrow, no brush and the standard icon. Throws CResourceException on failure.
 QFX_API LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor = NULL,
                                            HBRUSH hbrBackground = NULL, HICON hIcon = NULL);
-// Registers the class unless it exists already; classes are unregistered when the framework is unloaded.
+// Registers the class unless it exists already.
 QFX_API BOOL AFXAPI AfxRegisterClass(WNDCLASS* lpWndClass);
 
 // The record of an extension DLL, a zeroed global of that DLL.

@@ -48,18 +48,13 @@ public:
     // result. The exception is deleted by the caller.
     virtual LRESULT ProcessWndProcException(CException* e, const MSG* pMsg);
     virtual CWnd* GetMainWnd();
-    MSG* GetCurrentThreadMessage() { return &m_msgCur; }
 
 protected:
     DECLARE_MESSAGE_MAP()
 
+    // Calls the ON_THREAD_MESSAGE handler of a message without a window.
     BOOL DispatchThreadMessageEx(MSG* pMsg);
-
-private:
-    MSG m_msgCur;
-    CPoint m_lastIdleCursor;
-    UINT m_lastIdleMessage;
-    friend BOOL AFXAPI AfxPumpMessage();
+    friend BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg);
 };
 
 // The application. A program has one global object of a derived class.

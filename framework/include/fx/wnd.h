@@ -86,8 +86,6 @@ public:
     // Called when the object is attached, before the first message; the place for set-up that subclassing
     // needs too.
     virtual void PreSubclassWindow();
-    // The last call for a window; m_hWnd is NULL. Objects that own themselves delete themselves here.
-    virtual void PostNcDestroy();
     // Where the procedure that SubclassWindow replaced is kept.
     virtual WNDPROC* GetSuperWndProcAddr();
     enum AdjustType
@@ -343,6 +341,8 @@ protected:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual void DoDataExchange(CDataExchange* pDX);
+    // The last call for a window; m_hWnd is NULL. Objects that own themselves delete themselves here.
+    virtual void PostNcDestroy();
 
     DECLARE_MESSAGE_MAP()
 
@@ -354,6 +354,7 @@ protected:
     friend LRESULT AFXAPI AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
     friend class CCmdUI;
     friend class CDataExchange;
+    friend class CreationScope;
 };
 
 // Bits of CWnd::m_nFlags.

@@ -301,14 +301,6 @@ void CWnd::OnGetMinMaxInfo(MINMAXINFO*)
 {
     Default();
 }
-void CWnd::OnSettingChange(UINT, LPCTSTR)
-{
-    Default();
-}
-void CWnd::OnSysColorChange()
-{
-    Default();
-}
 void CWnd::OnFontChange()
 {
     Default();

@@ -1,0 +1,212 @@
+// How each kind of window message handler is called: one decoder per signature kind.
+#include "dispatch/MessageMap.h"
+#include "thread/ThreadState.h"
+
+namespace {
+
+struct Call
+{
+    CWnd& window;
+    AFX_PMSG handler;
+    UINT message;
+    WPARAM wParam;
+    LPARAM lParam;
+
+    template <typename TResult, typename... TArguments> LRESULT As(TArguments... arguments) const
+    {
+        using Handler = TResult (CWnd::*)(TArguments...);
+        const auto typed = reinterpret_cast<Handler>(static_cast<AFX_PMSGW>(handler));
+        if constexpr (std::is_void_v<TResult>) {
+            (window.*typed)(arguments...);
+            return 0;
+        } else if constexpr (std::is_pointer_v<TResult>) {
+            return reinterpret_cast<LRESULT>((window.*typed)(arguments...));
+        } else {
+            return static_cast<LRESULT>((window.*typed)(arguments...));
+        }
+    }
+
+    template <typename TPointer> TPointer WordPointer() const { return reinterpret_cast<TPointer>(wParam); }
+    template <typename TPointer> TPointer LongPointer() const { return reinterpret_cast<TPointer>(lParam); }
+    CWnd* WordWindow() const { return CWnd::FromHandle(WordPointer<HWND>()); }
+    CWnd* LongWindow() const { return CWnd::FromHandle(LongPointer<HWND>()); }
+    UINT Word() const { return static_cast<UINT>(wParam); }
+    BOOL Flag() const { return static_cast<BOOL>(wParam); }
+    UINT LowWord() const { return LOWORD(wParam); }
+    UINT HighWord() const { return HIWORD(wParam); }
+    UINT LowLong() const { return LOWORD(lParam); }
+    UINT HighLong() const { return HIWORD(lParam); }
+    CPoint Point() const { return CPoint(GET_X_LPARAM(lParam), GET_Y_LPARAM(lParam)); }
+    CMenu* WordMenu() const { return CMenu::FromHandle(WordPointer<HMENU>()); }
+};
+
+using Decoder = LRESULT (*)(const Call&);
+
+// Up-down controls and plain windows arrive here too: the type is what the prototype promises, not what the window is.
+CScrollBar* AsScrollBar(CWnd* window)
+{
+    return reinterpret_cast<CScrollBar*>(window);
+}
+
+CListBox* AsListBox(CWnd* window)
+{
+    return reinterpret_cast<CListBox*>(window);
+}
+
+LRESULT CallCtlColor(const Call& call)
+{
+    CDC* const dc = CDC::FromHandle(call.WordPointer<HDC>());
+    return call.As<HBRUSH, CDC*, CWnd*, UINT>(dc, call.LongWindow(), call.message - WM_CTLCOLORMSGBOX);
+}
+
+LRESULT CallReflectedCtlColor(const Call& call)
+{
+    CDC* const dc = CDC::FromHandle(call.WordPointer<HDC>());
+    return call.As<HBRUSH, CDC*, UINT>(dc, call.message - WM_REFLECT_BASE - WM_CTLCOLORMSGBOX);
+}
+
+LRESULT CallWindowHit(const Call& call)
+{
+    return call.As<BOOL, CWnd*, UINT, UINT>(call.WordWindow(), call.LowLong(), call.HighLong());
+}
+
+LRESULT CallWheel(const Call& call)
+{
+    const short delta = static_cast<short>(HIWORD(call.wParam));
+    return call.As<BOOL, UINT, short, CPoint>(call.LowWord(), delta, call.Point());
+}
+
+LRESULT CallHorizontalWheel(const Call& call)
+{
+    const short delta = static_cast<short>(HIWORD(call.wParam));
+    return call.As<void, UINT, short, CPoint>(call.LowWord(), delta, call.Point());
+}
+
+LRESULT CallSize(const Call& call)
+{
+    return call.As<void, UINT, int, int>(call.Word(), static_cast<int>(call.LowLong()),
+                                         static_cast<int>(call.HighLong()));
+}
+
+LRESULT CallScroll(const Call& call)
+{
+    return call.As<void, UINT, UINT, CScrollBar*>(call.LowWord(), call.HighWord(), AsScrollBar(call.LongWindow()));
+}
+
+LRESULT CallMenuPopup(const Call& call)
+{
+    return call.As<void, CMenu*, UINT, BOOL>(call.WordMenu(), call.LowLong(), static_cast<BOOL>(call.HighLong()));
+}
+
+LRESULT CallMenuSelect(const Call& call)
+{
+    return call.As<void, UINT, UINT, HMENU>(call.LowWord(), call.HighWord(), call.LongPointer<HMENU>());
+}
+
+LRESULT CallMenuChar(const Call& call)
+{
+    CMenu* const menu = CMenu::FromHandle(call.LongPointer<HMENU>());
+    return call.As<LRESULT, UINT, UINT, CMenu*>(call.LowWord(), call.HighWord(), menu);
+}
+
+LRESULT CallActivate(const Call& call)
+{
+    return call.As<void, UINT, CWnd*, BOOL>(call.LowWord(), call.LongWindow(), static_cast<BOOL>(call.HighWord()));
+}
+
+LRESULT CallListChar(const Call& call)
+{
+    return call.As<int, UINT, CListBox*, UINT>(call.LowWord(), AsListBox(call.LongWindow()), call.HighWord());
+}
+
+LRESULT CallMouseActivate(const Call& call)
+{
+    return call.As<int, CWnd*, UINT, UINT>(call.WordWindow(), call.LowLong(), call.HighLong());
+}
+
+// Indexed by AfxSig; the order is that of the enumeration.
+constexpr Decoder Decoders[] = {
+    nullptr,
+    [](const Call& c) { return c.As<void>(); },
+    [](const Call& c) { return c.As<BOOL>(); },
+    [](const Call& c) { return c.As<UINT>(); },
+    [](const Call& c) { return c.As<HCURSOR>(); },
+    [](const Call& c) { return c.As<LRESULT, WPARAM, LPARAM>(c.wParam, c.lParam); },
+    [](const Call& c) { return c.As<BOOL, CDC*>(CDC::FromHandle(c.WordPointer<HDC>())); },
+    CallWindowHit,
+    CallMouseActivate,
+    [](const Call& c) { return c.As<int, LPCREATESTRUCT>(c.LongPointer<LPCREATESTRUCT>()); },
+    [](const Call& c) { return c.As<BOOL, LPCREATESTRUCT>(c.LongPointer<LPCREATESTRUCT>()); },
+    CallSize,
+    [](const Call& c) { return c.As<void, int, int>(c.Point().x, c.Point().y); },
+    [](const Call& c) { return c.As<void, UINT, LPRECT>(c.Word(), c.LongPointer<LPRECT>()); },
+    CallCtlColor,
+    [](const Call& c) { return c.As<void, CWnd*>(c.WordWindow()); },
+    [](const Call& c) { return c.As<void, CWnd*>(c.LongWindow()); },
+    [](const Call& c) { return c.As<void, BOOL>(c.Flag()); },
+    [](const Call& c) { return c.As<BOOL, BOOL>(c.Flag()); },
+    [](const Call& c) { return c.As<void, BOOL, UINT>(c.Flag(), static_cast<UINT>(c.lParam)); },
+    [](const Call& c) { return c.As<void, UINT, CPoint>(c.Word(), c.Point()); },
+    CallWheel,
+    CallHorizontalWheel,
+    [](const Call& c) { return c.As<void, UINT, UINT, CPoint>(c.LowWord(), c.HighWord(), c.Point()); },
+    [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); },
+    [](const Call& c) { return c.As<void, UINT, LPARAM>(c.Word(), c.lParam); },
+    [](const Call& c) { return c.As<void, UINT_PTR>(c.wParam); },
+    CallScroll,
+    [](const Call& c) { return c.As<void, CWnd*, CPoint>(c.WordWindow(), c.Point()); },
+    [](const Call& c) { return c.As<void, CMenu*>(c.WordMenu()); },
+    CallMenuPopup,
+    [](const Call& c) { return c.As<void, CMenu*, UINT>(c.WordMenu(), static_cast<UINT>(c.lParam)); },
+    CallMenuSelect,
+    CallMenuChar,
+    [](const Call& c) { return c.As<LRESULT, CPoint>(c.Point()); },
+    [](const Call& c) {
+        return c.As<void, BOOL, NCCALCSIZE_PARAMS*>(c.Flag(), c.LongPointer<NCCALCSIZE_PARAMS*>());
+    },
+    CallActivate,
+    [](const Call& c) { return c.As<void, BOOL, DWORD>(c.Flag(), static_cast<DWORD>(c.lParam)); },
+    [](const Call& c) { return c.As<void, int, void*>(static_cast<int>(c.wParam), c.LongPointer<void*>()); },
+    [](const Call& c) { return c.As<int, int, void*>(static_cast<int>(c.wParam), c.LongPointer<void*>()); },
+    [](const Call& c) { return c.As<void, void*>(c.LongPointer<void*>()); },
+    [](const Call& c) { return c.As<void, UINT, LPCTSTR>(c.Word(), c.LongPointer<LPCTSTR>()); },
+    [](const Call& c) { return c.As<BOOL, UINT, DWORD_PTR>(c.Word(), static_cast<DWORD_PTR>(c.lParam)); },
+    [](const Call& c) { return c.As<BOOL, void*>(c.LongPointer<void*>()); },
+    CallListChar,
+    [](const Call& c) { return c.As<void, UINT, CWnd*>(c.Word(), c.LongWindow()); },
+    [](const Call& c) {
+        return c.As<BOOL, CWnd*, COPYDATASTRUCT*>(c.WordWindow(), c.LongPointer<COPYDATASTRUCT*>());
+    },
+    [](const Call& c) { return c.As<void, HDROP>(c.WordPointer<HDROP>()); },
+    [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); },
+    [](const Call& c) { return c.As<void, UINT, UINT>(c.Word(), static_cast<UINT>(c.lParam)); },
+    CallReflectedCtlColor,
+    [](const Call& c) { return c.As<void, UINT, UINT>(c.LowWord(), c.HighWord()); },
+    [](const Call& c) { return c.As<int, void*>(c.LongPointer<void*>()); },
+    [](const Call& c) { return c.As<int, UINT, UINT>(c.LowWord(), c.HighWord()); },
+};
+static_assert(std::size(Decoders) == AfxSig_windowCount, "one decoder per signature kind");
+
+// A wheel message that the handler declines goes to default processing, which offers it to the parent; once only, and
+// only while the object still exists.
+bool IsDeclinedWheel(const AFX_MSGMAP_ENTRY& entry, LRESULT result, const CWnd* window)
+{
+    if (entry.nSig != AfxSig_wheel || result != 0)
+        return false;
+    const MessageFrame* const current = CurrentThreadState().currentMessage;
+    return current != nullptr && !current->passedToDefault &&
+           CWnd::FromHandlePermanent(current->message.hwnd) == window;
+}
+
+} // namespace
+
+BOOL CallMessageHandler(CWnd& window, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam, LPARAM lParam,
+                        LRESULT& result)
+{
+    const bool isRegistered = entry.nMessage == 0xC000;
+    const UINT_PTR kind = isRegistered ? static_cast<UINT_PTR>(AfxSig_message) : entry.nSig;
+    if (kind == AfxSig_end || kind >= AfxSig_windowCount)
+        return FALSE;
+    result = Decoders[kind]({window, entry.pfn, message, wParam, lParam});
+    return !IsDeclinedWheel(entry, result, &window);
+}

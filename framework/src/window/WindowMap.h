@@ -1,0 +1,13 @@
+// The handle map of windows.
+#pragma once
+
+#include "afxwin.h"
+#include "handlemap/HandleMap.h"
+
+template <> struct HandleTraits<CWnd>
+{
+    static CWnd* Wrap(HWND window) { return new CWnd(window); }
+    static void Unwrap(CWnd& object) { object.m_hWnd = nullptr; }
+};
+
+using WindowMap = HandleMap<HWND, CWnd>;

@@ -5,13 +5,13 @@
 
 // Asks a control bar along the edge to take its place: lParam is an AFX_SIZEPARENTPARAMS*.
 #define WM_SIZEPARENT 0x0361
-// Sent to the main window and its descendants at idle time so that they update their user interface; wParam is TRUE when
-// elements without a handler are to be disabled.
+// Sent to the main window and its descendants at idle time so that they update their user interface; wParam
+// is TRUE when elements without a handler are to be disabled.
 #define WM_IDLEUPDATECMDUI 0x0363
 // Sent to the children of a new dialog or frame after it is complete.
 #define WM_INITIALUPDATE 0x0364
-// Sent to the window of a modal loop while the queue is empty: wParam is MSGF_DIALOGBOX, lParam counts the calls. A result
-// of 0 stops the calls until the next message.
+// Sent to the window of a modal loop while the queue is empty: wParam is MSGF_DIALOGBOX, lParam counts the
+// calls. A result of 0 stops the calls until the next message.
 #define WM_KICKIDLE 0x036A
 
 // The state of one pass over the control bars.

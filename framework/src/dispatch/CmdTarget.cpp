@@ -15,7 +15,8 @@ const AFX_MSGMAP* CCmdTarget::GetMessageMap() const
     return GetThisMessageMap();
 }
 
-namespace {
+namespace
+{
 
 struct Command
 {
@@ -37,7 +38,8 @@ BOOL CallNotifyHandler(const Command& command, UINT_PTR kind)
     LRESULT ignored = 0;
     LRESULT* const result = notification.pResult != nullptr ? notification.pResult : &ignored;
     NMHDR* const header = notification.pNMHDR;
-    switch (kind) {
+    switch (kind)
+    {
     case AfxSig_notify:
         command.As<void, NMHDR*, LRESULT*>(header, result);
         return TRUE;
@@ -63,7 +65,8 @@ BOOL CallUpdateHandler(const Command& command)
 
 BOOL CallCommandHandler(const Command& command, UINT_PTR kind)
 {
-    switch (kind) {
+    switch (kind)
+    {
     case AfxSig_command:
         command.As<void>();
         return TRUE;
@@ -92,7 +95,8 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
 {
     UINT message = WM_COMMAND;
     UINT code = static_cast<UINT>(nCode);
-    if (code != CN_UPDATE_COMMAND_UI) {
+    if (code != CN_UPDATE_COMMAND_UI)
+    {
         if (HIWORD(code) != 0)
             message = HIWORD(code);
         code = LOWORD(code);
@@ -100,7 +104,8 @@ BOOL CCmdTarget::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO*
     const AFX_MSGMAP_ENTRY* const entry = FindCommandEntry(GetMessageMap(), message, code, nID);
     if (entry == nullptr)
         return FALSE;
-    if (pHandlerInfo != nullptr) {
+    if (pHandlerInfo != nullptr)
+    {
         pHandlerInfo->pTarget = this;
         pHandlerInfo->pmf = entry->pfn;
         return TRUE;

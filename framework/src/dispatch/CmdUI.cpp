@@ -2,18 +2,28 @@
 #include "afxwin.h"
 
 CCmdUI::CCmdUI()
-    : m_nID(0), m_nIndex(0), m_pMenu(NULL), m_pSubMenu(NULL), m_pOther(NULL), m_bEnableChanged(FALSE),
-      m_bContinueRouting(FALSE), m_nIndexMax(0), m_pParentMenu(NULL)
+    : m_nID(0),
+      m_nIndex(0),
+      m_pMenu(NULL),
+      m_pSubMenu(NULL),
+      m_pOther(NULL),
+      m_bEnableChanged(FALSE),
+      m_bContinueRouting(FALSE),
+      m_nIndexMax(0),
+      m_pParentMenu(NULL)
 {
 }
 
 void CCmdUI::Enable(BOOL bOn)
 {
-    if (m_pMenu != NULL) {
+    if (m_pMenu != NULL)
+    {
         if (m_pSubMenu != NULL)
             return;
         m_pMenu->EnableMenuItem(m_nIndex, MF_BYPOSITION | static_cast<UINT>(bOn ? MF_ENABLED : MF_GRAYED));
-    } else if (m_pOther != NULL) {
+    }
+    else if (m_pOther != NULL)
+    {
         // A disabled control that keeps the focus would leave the dialog without keyboard.
         if (!bOn && CWnd::GetFocus() == m_pOther)
             m_pOther->GetParent()->SendMessage(WM_NEXTDLGCTL, 0, 0);
@@ -24,10 +34,14 @@ void CCmdUI::Enable(BOOL bOn)
 
 void CCmdUI::SetCheck(int nCheck)
 {
-    if (m_pMenu != NULL) {
+    if (m_pMenu != NULL)
+    {
         if (m_pSubMenu == NULL)
-            m_pMenu->CheckMenuItem(m_nIndex, MF_BYPOSITION | static_cast<UINT>(nCheck ? MF_CHECKED : MF_UNCHECKED));
-    } else if (m_pOther != NULL && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON)) {
+            m_pMenu->CheckMenuItem(m_nIndex,
+                                   MF_BYPOSITION | static_cast<UINT>(nCheck ? MF_CHECKED : MF_UNCHECKED));
+    }
+    else if (m_pOther != NULL && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON))
+    {
         m_pOther->SendMessage(BM_SETCHECK, static_cast<WPARAM>(nCheck));
     }
 }
@@ -48,7 +62,8 @@ void CCmdUI::SetRadio(BOOL bOn)
 
 void CCmdUI::SetText(LPCTSTR lpszText)
 {
-    if (m_pMenu != NULL) {
+    if (m_pMenu != NULL)
+    {
         if (m_pSubMenu != NULL)
             return;
         MENUITEMINFO info = {};
@@ -56,7 +71,9 @@ void CCmdUI::SetText(LPCTSTR lpszText)
         info.fMask = MIIM_STRING;
         info.dwTypeData = const_cast<LPTSTR>(lpszText);
         ::SetMenuItemInfo(m_pMenu->GetSafeHmenu(), m_nIndex, TRUE, &info);
-    } else if (m_pOther != NULL) {
+    }
+    else if (m_pOther != NULL)
+    {
         CString current;
         m_pOther->GetWindowText(current);
         if (current != lpszText)
@@ -71,7 +88,8 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
         return TRUE;
     m_bEnableChanged = FALSE;
     const BOOL updated = pTarget->OnCmdMsg(m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), this, NULL);
-    if (bDisableIfNoHndler && !m_bEnableChanged) {
+    if (bDisableIfNoHndler && !m_bEnableChanged)
+    {
         AFX_CMDHANDLERINFO info = {NULL, NULL};
         Enable(pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info));
     }

@@ -2,7 +2,8 @@
 #include "dispatch/MessageMap.h"
 #include "thread/ThreadState.h"
 
-namespace {
+namespace
+{
 
 struct Call
 {
@@ -16,12 +17,17 @@ struct Call
     {
         using Handler = TResult (CWnd::*)(TArguments...);
         const auto typed = reinterpret_cast<Handler>(static_cast<AFX_PMSGW>(handler));
-        if constexpr (std::is_void_v<TResult>) {
+        if constexpr (std::is_void_v<TResult>)
+        {
             (window.*typed)(arguments...);
             return 0;
-        } else if constexpr (std::is_pointer_v<TResult>) {
+        }
+        else if constexpr (std::is_pointer_v<TResult>)
+        {
             return reinterpret_cast<LRESULT>((window.*typed)(arguments...));
-        } else {
+        }
+        else
+        {
             return static_cast<LRESULT>((window.*typed)(arguments...));
         }
     }
@@ -42,7 +48,8 @@ struct Call
 
 using Decoder = LRESULT (*)(const Call&);
 
-// Up-down controls and plain windows arrive here too: the type is what the prototype promises, not what the window is.
+// Up-down controls and plain windows arrive here too: the type is what the prototype promises, not what the
+// window is.
 CScrollBar* AsScrollBar(CWnd* window)
 {
     return reinterpret_cast<CScrollBar*>(window);
@@ -90,12 +97,14 @@ LRESULT CallSize(const Call& call)
 
 LRESULT CallScroll(const Call& call)
 {
-    return call.As<void, UINT, UINT, CScrollBar*>(call.LowWord(), call.HighWord(), AsScrollBar(call.LongWindow()));
+    return call.As<void, UINT, UINT, CScrollBar*>(call.LowWord(), call.HighWord(),
+                                                  AsScrollBar(call.LongWindow()));
 }
 
 LRESULT CallMenuPopup(const Call& call)
 {
-    return call.As<void, CMenu*, UINT, BOOL>(call.WordMenu(), call.LowLong(), static_cast<BOOL>(call.HighLong()));
+    return call.As<void, CMenu*, UINT, BOOL>(call.WordMenu(), call.LowLong(),
+                                             static_cast<BOOL>(call.HighLong()));
 }
 
 LRESULT CallMenuSelect(const Call& call)
@@ -111,7 +120,8 @@ LRESULT CallMenuChar(const Call& call)
 
 LRESULT CallActivate(const Call& call)
 {
-    return call.As<void, UINT, CWnd*, BOOL>(call.LowWord(), call.LongWindow(), static_cast<BOOL>(call.HighWord()));
+    return call.As<void, UINT, CWnd*, BOOL>(call.LowWord(), call.LongWindow(),
+                                            static_cast<BOOL>(call.HighWord()));
 }
 
 LRESULT CallListChar(const Call& call)
@@ -187,8 +197,8 @@ constexpr Decoder Decoders[] = {
 };
 static_assert(std::size(Decoders) == AfxSig_windowCount, "one decoder per signature kind");
 
-// A wheel message that the handler declines goes to default processing, which offers it to the parent; once only, and
-// only while the object still exists.
+// A wheel message that the handler declines goes to default processing, which offers it to the parent; once
+// only, and only while the object still exists.
 bool IsDeclinedWheel(const AFX_MSGMAP_ENTRY& entry, LRESULT result, const CWnd* window)
 {
     if (entry.nSig != AfxSig_wheel || result != 0)
@@ -200,8 +210,8 @@ bool IsDeclinedWheel(const AFX_MSGMAP_ENTRY& entry, LRESULT result, const CWnd* 
 
 } // namespace
 
-BOOL CallMessageHandler(CWnd& window, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam, LPARAM lParam,
-                        LRESULT& result)
+BOOL CallMessageHandler(CWnd& window, const AFX_MSGMAP_ENTRY& entry, UINT message, WPARAM wParam,
+                        LPARAM lParam, LRESULT& result)
 {
     const bool isRegistered = entry.nMessage == 0xC000;
     const UINT_PTR kind = isRegistered ? static_cast<UINT_PTR>(AfxSig_message) : entry.nSig;

@@ -1,7 +1,8 @@
 // Search in message maps.
 #include "dispatch/MessageMap.h"
 
-namespace {
+namespace
+{
 
 // Registered messages share this number in the maps; the entry's signature field points to the real one.
 constexpr UINT RegisteredMessage = 0xC000;
@@ -31,8 +32,10 @@ bool IsEntryOf(const AFX_MSGMAP_ENTRY& entry, UINT message)
 
 const AFX_MSGMAP_ENTRY* SearchMessageEntry(const AFX_MSGMAP* map, UINT message)
 {
-    for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry) {
+    for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr)
+    {
+        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
+        {
             if (IsEntryOf(*entry, message))
                 return entry;
         }
@@ -54,8 +57,10 @@ const AFX_MSGMAP_ENTRY* FindMessageEntry(const AFX_MSGMAP* map, UINT message)
 
 const AFX_MSGMAP_ENTRY* FindCommandEntry(const AFX_MSGMAP* map, UINT message, UINT code, UINT id)
 {
-    for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr) {
-        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry) {
+    for (; map != nullptr; map = map->pfnGetBaseMap != nullptr ? map->pfnGetBaseMap() : nullptr)
+    {
+        for (const AFX_MSGMAP_ENTRY* entry = map->lpEntries; entry->nSig != AfxSig_end; ++entry)
+        {
             if (entry->nMessage == message && LOWORD(entry->nCode) == LOWORD(code) && id >= entry->nID &&
                 id <= entry->nLastID)
                 return entry;

@@ -2,7 +2,8 @@
 #include "dispatch/MessageMap.h"
 #include "thread/ThreadState.h"
 
-namespace {
+namespace
+{
 
 // Answers an update request only to learn whether a command is enabled.
 class EnabledProbe : public CCmdUI
@@ -35,7 +36,8 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     const UINT id = LOWORD(wParam);
     const HWND control = reinterpret_cast<HWND>(lParam);
     int code = HIWORD(wParam);
-    if (control == NULL) {
+    if (control == NULL)
+    {
         if (id == 0)
             return FALSE;
         // An accelerator is sent without asking whether its command is enabled.
@@ -44,7 +46,9 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
         if (!probe.IsEnabled())
             return TRUE;
         code = CN_COMMAND;
-    } else {
+    }
+    else
+    {
         if (CurrentThreadState().silencedWindow == m_hWnd)
             return TRUE;
         if (ReflectLastMsg(control))
@@ -89,11 +93,13 @@ BOOL CWnd::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pR
     return ReflectChildNotify(message, wParam, lParam, pResult);
 }
 
-namespace {
+namespace
+{
 
 bool IsReflectedByNumber(UINT message)
 {
-    switch (message) {
+    switch (message)
+    {
     case WM_HSCROLL:
     case WM_VSCROLL:
     case WM_PARENTNOTIFY:
@@ -113,13 +119,15 @@ bool IsReflectedByNumber(UINT message)
 
 BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult)
 {
-    if (message == WM_COMMAND) {
+    if (message == WM_COMMAND)
+    {
         const BOOL handled = OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_COMMAND + WM_REFLECT_BASE), NULL, NULL);
         if (handled && pResult != NULL)
             *pResult = 1;
         return handled;
     }
-    if (message == WM_NOTIFY) {
+    if (message == WM_NOTIFY)
+    {
         NMHDR* const header = reinterpret_cast<NMHDR*>(lParam);
         AFX_NOTIFY notification = {pResult, header};
         return OnCmdMsg(0, MAKELONG(LOWORD(header->code), WM_NOTIFY + WM_REFLECT_BASE), &notification, NULL);
@@ -130,7 +138,8 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     const UINT mapped = WM_REFLECT_BASE + (isColor ? static_cast<UINT>(WM_CTLCOLOR) : message);
     const AFX_MSGMAP_ENTRY* const entry = FindMessageEntry(GetMessageMap(), mapped);
     LRESULT result = 0;
-    if (entry == NULL || !CallMessageHandler(*this, *entry, WM_REFLECT_BASE + message, wParam, lParam, result))
+    if (entry == NULL ||
+        !CallMessageHandler(*this, *entry, WM_REFLECT_BASE + message, wParam, lParam, result))
         return FALSE;
     // No brush means that the control leaves its colours to the parent.
     if (isColor && result == 0)

@@ -16,9 +16,11 @@ WNDPROC AFXAPI AfxGetAfxWndProc()
     return AfxWndProc;
 }
 
-namespace {
+namespace
+{
 
-// What the sender gets when the handler threw: the creation of a window fails, and painting does not start over.
+// What the sender gets when the handler threw: the creation of a window fails, and painting does not start
+// over.
 LRESULT ResultAfterException(const MSG& message)
 {
     if (message.message == WM_CREATE)
@@ -31,13 +33,16 @@ LRESULT ResultAfterException(const MSG& message)
 LRESULT ProcessException(CException* exception, const MSG& message)
 {
     LRESULT result = ResultAfterException(message);
-    try {
+    try
+    {
         if (CWinThread* const thread = AfxGetThread())
             result = thread->ProcessWndProcException(exception, &message);
         else
             TRACE(L"An exception was thrown while handling message %x.\n", message.message);
         exception->Delete();
-    } catch (...) {
+    }
+    catch (...)
+    {
         TRACE(L"Reporting an exception failed.\n");
     }
     return result;
@@ -48,12 +53,18 @@ LRESULT ProcessException(CException* exception, const MSG& message)
 LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
     const CurrentMessageScope current(hWnd, nMsg, wParam, lParam);
-    // Windows has frames below this one that an exception must not cross. The object may be gone after its call.
-    try {
+    // Windows has frames below this one that an exception must not cross. The object may be gone after its
+    // call.
+    try
+    {
         return pWnd->WindowProc(nMsg, wParam, lParam);
-    } catch (CException* exception) {
+    }
+    catch (CException* exception)
+    {
         return ProcessException(exception, current.Message());
-    } catch (...) {
+    }
+    catch (...)
+    {
         TRACE(L"An unknown exception was thrown while handling message %x.\n", nMsg);
         return ResultAfterException(current.Message());
     }
@@ -103,15 +114,21 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
 {
     LRESULT result = 0;
     BOOL handled = FALSE;
-    if (message == WM_COMMAND) {
+    if (message == WM_COMMAND)
+    {
         handled = OnCommand(wParam, lParam);
         result = handled ? 1 : 0;
-    } else if (message == WM_NOTIFY) {
+    }
+    else if (message == WM_NOTIFY)
+    {
         const NMHDR* const header = reinterpret_cast<const NMHDR*>(lParam);
         handled = header->hwndFrom != NULL && OnNotify(wParam, lParam, &result);
-    } else {
+    }
+    else
+    {
         const bool isColor = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
-        const AFX_MSGMAP_ENTRY* const entry = FindMessageEntry(GetMessageMap(), isColor ? WM_CTLCOLOR : message);
+        const AFX_MSGMAP_ENTRY* const entry =
+            FindMessageEntry(GetMessageMap(), isColor ? WM_CTLCOLOR : message);
         handled = entry != NULL && CallMessageHandler(*this, *entry, message, wParam, lParam, result);
     }
     if (handled && pResult != NULL)

@@ -25,7 +25,8 @@ HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
     return reinterpret_cast<HBRUSH>(Default());
 }
 
-namespace {
+namespace
+{
 
 // Owner-drawn items of a menu object are drawn and measured by that object.
 CMenu* OwnerDrawnMenu(UINT controlType, HMENU menu)
@@ -46,7 +47,8 @@ void CWnd::OnDrawItem(int, LPDRAWITEMSTRUCT lpDrawItemStruct)
 
 void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
 {
-    if (lpMeasureItemStruct->CtlType == ODT_MENU) {
+    if (lpMeasureItemStruct->CtlType == ODT_MENU)
+    {
         Default();
         return;
     }
@@ -111,6 +113,7 @@ void CWnd::OnSysColorChange()
 void CWnd::OnSettingChange(UINT uFlags, LPCTSTR lpszSection)
 {
     if (!(GetStyle() & WS_CHILD))
-        SendMessageToDescendants(WM_SETTINGCHANGE, uFlags, reinterpret_cast<LPARAM>(lpszSection), TRUE, FALSE);
+        SendMessageToDescendants(WM_SETTINGCHANGE, uFlags, reinterpret_cast<LPARAM>(lpszSection), TRUE,
+                                 FALSE);
     Default();
 }

@@ -5,6 +5,7 @@
 #include <unordered_map>
 
 #include "fx/config.h"
+#include "handlemap/TemporaryLevel.h"
 
 // How a handle map makes and drops the temporary objects of a class. A class that is kept in a handle map
 // specialises it beside its own functions:
@@ -22,7 +23,7 @@ public:
     HandleMap() = default;
     HandleMap(const HandleMap&) = delete;
     HandleMap& operator=(const HandleMap&) = delete;
-    ~HandleMap() { DeleteTemporaries(); }
+    ~HandleMap() = default;
 
     static HandleMap& OfThisThread()
     {
@@ -47,9 +48,9 @@ public:
             return attached;
         const auto entry = m_temporary.find(handle);
         if (entry != m_temporary.end())
-            return entry->second.get();
-        return m_temporary.emplace(handle, Temporary(HandleTraits<TObject>::Wrap(handle)))
-            .first->second.get();
+            return entry->second.object.get();
+        Temporary made{Owner(HandleTraits<TObject>::Wrap(handle)), TemporaryLevel()};
+        return m_temporary.emplace(handle, std::move(made)).first->second.object.get();
     }
 
     // Enters the object that stands for the handle from now on.
@@ -63,9 +64,13 @@ public:
             m_permanent.erase(entry);
     }
 
-    // Deletes all temporary objects. Pointers to them become invalid, so only the message loop calls this,
-    // between messages.
-    void DeleteTemporaries() { m_temporary.clear(); }
+    // Deletes the temporary objects of the present level and the levels in it. Pointers to them become
+    // invalid, so only the message loop calls this, between messages.
+    void DeleteTemporaries()
+    {
+        const unsigned level = TemporaryLevel();
+        std::erase_if(m_temporary, [level](const auto& entry) { return entry.second.level >= level; });
+    }
 
     size_t TemporaryCount() const { return m_temporary.size(); }
     size_t PermanentCount() const { return m_permanent.size(); }
@@ -79,7 +84,12 @@ private:
             delete object;
         }
     };
-    using Temporary = std::unique_ptr<TObject, Discard>;
+    using Owner = std::unique_ptr<TObject, Discard>;
+    struct Temporary
+    {
+        Owner object;
+        unsigned level;
+    };
 
     std::unordered_map<THandle, TObject*> m_permanent;
     std::unordered_map<THandle, Temporary> m_temporary;

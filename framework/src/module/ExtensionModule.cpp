@@ -4,7 +4,8 @@
 
 IMPLEMENT_DYNAMIC(CDynLinkLibrary, CCmdTarget)
 
-namespace {
+namespace
+{
 
 // The newest module; each knows the next older one. Modules come and go under the loader's lock.
 CDynLinkLibrary*& NewestModule()

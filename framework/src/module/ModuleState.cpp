@@ -2,7 +2,8 @@
 #include "afxwin.h"
 #include "thread/ThreadState.h"
 
-namespace {
+namespace
+{
 
 AFX_MODULE_STATE& ProgramState()
 {

@@ -36,6 +36,8 @@ struct ThreadState
     CWinThread* thread;
     AFX_MODULE_STATE* moduleState;
     MessageFrame* currentMessage;
+    MessageFrame*
+        loopMessage; // the message whose handler runs the present loop; NULL for the thread's own loop
     MSG noMessage;
     MSG pumpedMessage;
     UINT lastIdleMessage;

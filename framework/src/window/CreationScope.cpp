@@ -14,13 +14,15 @@ CreationScope::~CreationScope()
 {
     ThreadState& state = CurrentThreadState();
     state.creation = m_outer;
-    if (m_outer == nullptr && state.creationHook != nullptr) {
+    if (m_outer == nullptr && state.creationHook != nullptr)
+    {
         ::UnhookWindowsHookEx(state.creationHook);
         state.creationHook = nullptr;
     }
 }
 
-namespace {
+namespace
+{
 
 // The input method's helper window can be created just before the first window of a thread.
 bool IsInputMethodWindow(HWND window)
@@ -45,15 +47,20 @@ void RouteMessagesTo(CWnd& object)
 bool CreationScope::Adopt(HWND window)
 {
     m_adopted = window;
-    try {
+    try
+    {
         if (!m_object->Attach(window))
             return false;
         m_object->PreSubclassWindow();
         RouteMessagesTo(*m_object);
         return true;
-    } catch (CException* exception) {
+    }
+    catch (CException* exception)
+    {
         exception->Delete();
-    } catch (...) {
+    }
+    catch (...)
+    {
         TRACE(L"An unknown exception was thrown in PreSubclassWindow.\n");
     }
     return false;
@@ -63,7 +70,8 @@ LRESULT CALLBACK CreationScope::HookProcedure(int code, WPARAM wParam, LPARAM lP
 {
     ThreadState& state = CurrentThreadState();
     CreationScope* const scope = state.creation;
-    if (code == HCBT_CREATEWND && scope != nullptr && scope->m_adopted == nullptr) {
+    if (code == HCBT_CREATEWND && scope != nullptr && scope->m_adopted == nullptr)
+    {
         const HWND window = reinterpret_cast<HWND>(wParam);
         if (!IsInputMethodWindow(window) && !scope->Adopt(window))
             return 1;
@@ -78,7 +86,8 @@ BOOL CreationScope::Finish(HWND created)
     // An object that is still in the map missed WM_NCDESTROY; one that is not may have been deleted by it.
     const bool neverAttached = m_adopted == nullptr;
     const bool stillAttached = !neverAttached && CWnd::FromHandlePermanent(m_adopted) == m_object;
-    if (stillAttached) {
+    if (stillAttached)
+    {
         *m_object->GetSuperWndProcAddr() = NULL;
         m_object->Detach();
     }

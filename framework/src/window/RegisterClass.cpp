@@ -2,7 +2,8 @@
 #include "afxwin.h"
 #include "thread/ThreadState.h"
 
-namespace {
+namespace
+{
 
 UINT_PTR NumberOf(const void* handle)
 {

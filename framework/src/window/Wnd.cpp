@@ -15,7 +15,8 @@ CWnd::CWnd() : CWnd(static_cast<HWND>(NULL)) {}
 
 CWnd::CWnd(HWND hWnd) : m_hWnd(hWnd), m_hWndOwner(NULL), m_nFlags(0), m_pfnSuper(NULL), m_nModalResult(0) {}
 
-namespace {
+namespace
+{
 
 bool IsPlacementConstant(const CWnd* window)
 {
@@ -26,7 +27,8 @@ bool IsPlacementConstant(const CWnd* window)
 // The loop that runs on the object's behalf must not touch it any more.
 void ReleaseModalLoops(const CWnd* window)
 {
-    for (ModalFrame* frame = CurrentThreadState().modalLoop; frame != nullptr; frame = frame->outer) {
+    for (ModalFrame* frame = CurrentThreadState().modalLoop; frame != nullptr; frame = frame->outer)
+    {
         if (frame->window == window)
             frame->windowIsGone = true;
     }
@@ -37,7 +39,8 @@ void ReleaseModalLoops(const CWnd* window)
 CWnd::~CWnd()
 {
     // The constants outlive the handle map.
-    if (m_hWnd != NULL && !IsPlacementConstant(this) && FromHandlePermanent(m_hWnd) == this) {
+    if (m_hWnd != NULL && !IsPlacementConstant(this) && FromHandlePermanent(m_hWnd) == this)
+    {
         TRACE(L"A CWnd is destroyed before its window: overrides of PostNcDestroy are not called.\n");
         DestroyWindow();
     }
@@ -72,8 +75,8 @@ BOOL CWnd::Attach(HWND hWndNew)
 HWND CWnd::Detach()
 {
     const HWND window = m_hWnd;
-    if (window != NULL && FromHandlePermanent(window) == this)
-        WindowMap::OfThisThread().Detach(window);
+    if (window != NULL)
+        WindowMap::OfThisThread().Detach(window, this);
     m_hWnd = NULL;
     return window;
 }
@@ -114,7 +117,8 @@ CWnd* CWnd::GetOwner() const
     return m_hWndOwner != NULL ? FromHandle(m_hWndOwner) : GetParent();
 }
 
-namespace {
+namespace
+{
 
 BOOL ModifyStyleBits(HWND window, int index, DWORD remove, DWORD add, UINT flags)
 {
@@ -123,7 +127,8 @@ BOOL ModifyStyleBits(HWND window, int index, DWORD remove, DWORD add, UINT flags
     if (after == before)
         return FALSE;
     ::SetWindowLong(window, index, static_cast<LONG>(after));
-    if (flags != 0) {
+    if (flags != 0)
+    {
         ::SetWindowPos(window, NULL, 0, 0, 0, 0,
                        SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
     }

@@ -18,7 +18,8 @@ BOOL CWnd::DestroyWindow()
     return destroyed;
 }
 
-namespace {
+namespace
+{
 
 void LeaveThread(CWnd* window)
 {
@@ -27,7 +28,8 @@ void LeaveThread(CWnd* window)
         return;
     if (thread->m_pActiveWnd == window)
         thread->m_pActiveWnd = NULL;
-    if (thread->m_pMainWnd == window) {
+    if (thread->m_pMainWnd == window)
+    {
         thread->m_pMainWnd = NULL;
         AfxPostQuitMessage(0);
     }
@@ -36,8 +38,10 @@ void LeaveThread(CWnd* window)
 // A modal loop whose window goes away ends with the next message.
 void StopModalLoops(const CWnd* window)
 {
-    for (ModalFrame* frame = CurrentThreadState().modalLoop; frame != nullptr; frame = frame->outer) {
-        if (frame->window == window && !frame->windowIsGone) {
+    for (ModalFrame* frame = CurrentThreadState().modalLoop; frame != nullptr; frame = frame->outer)
+    {
+        if (frame->window == window && !frame->windowIsGone)
+        {
             frame->windowIsGone = true;
             ::PostThreadMessage(::GetCurrentThreadId(), WM_NULL, 0, 0);
         }

@@ -27,7 +27,8 @@ int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const
 
 void CWnd::DoDataExchange(CDataExchange*) {}
 
-namespace {
+namespace
+{
 
 // Changes that UpdateData makes in the controls are not the user's: the window hears nothing of them.
 class SilencedNotifications
@@ -81,7 +82,8 @@ BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName)
     return loaded == NULL || ExecuteDlgInit(::LockResource(loaded));
 }
 
-namespace {
+namespace
+{
 
 // One record of a DLGINIT resource, in front of its text. The records end with a zero id.
 #pragma pack(push, 1)
@@ -121,8 +123,8 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
         std::memcpy(&record, position, sizeof(record));
         position += sizeof(record);
         // The texts are narrow characters in every program.
-        const LRESULT added = ::SendDlgItemMessageA(m_hWnd, record.controlId, MessageOfRecord(record.message), 0,
-                                                    reinterpret_cast<LPARAM>(position));
+        const LRESULT added = ::SendDlgItemMessageA(m_hWnd, record.controlId, MessageOfRecord(record.message),
+                                                    0, reinterpret_cast<LPARAM>(position));
         if (added == CB_ERR || added == CB_ERRSPACE)
             return FALSE;
         position += record.textLength;
@@ -131,7 +133,8 @@ BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
     return TRUE;
 }
 
-namespace {
+namespace
+{
 
 // Only push buttons are disabled for want of a handler: other controls work without one.
 bool IsPushButton(HWND control)

@@ -1,18 +1,30 @@
 // CWnd: the modal loop.
 #include "afxpriv.h"
+#include "handlemap/TemporaryLevel.h"
 #include "thread/ThreadState.h"
 
-namespace {
+namespace
+{
 
 // Registers a running loop with the thread, so that the window's end is noticed.
 class ModalScope
 {
 public:
-    explicit ModalScope(const CWnd* window) : m_state(CurrentThreadState()), m_frame{window, false, m_state.modalLoop}
+    explicit ModalScope(const CWnd* window)
+        : m_state(CurrentThreadState()),
+          m_frame{window, false, m_state.modalLoop},
+          m_outerLoopMessage(m_state.loopMessage)
     {
         m_state.modalLoop = &m_frame;
+        m_state.loopMessage = m_state.currentMessage;
+        ++TemporaryLevel();
     }
-    ~ModalScope() { m_state.modalLoop = m_frame.outer; }
+    ~ModalScope()
+    {
+        --TemporaryLevel();
+        m_state.loopMessage = m_outerLoopMessage;
+        m_state.modalLoop = m_frame.outer;
+    }
     ModalScope(const ModalScope&) = delete;
     ModalScope& operator=(const ModalScope&) = delete;
 
@@ -21,6 +33,7 @@ public:
 private:
     ThreadState& m_state;
     ModalFrame m_frame;
+    MessageFrame* m_outerLoopMessage;
 };
 
 // What happens while the queue is empty.
@@ -28,7 +41,9 @@ class ModalIdle
 {
 public:
     ModalIdle(HWND window, DWORD flags)
-        : m_window(window), m_parent(::GetParent(window)), m_flags(flags),
+        : m_window(window),
+          m_parent(::GetParent(window)),
+          m_flags(flags),
           m_mustShow((flags & MLF_SHOWONIDLE) && !::IsWindowVisible(window))
     {
     }
@@ -48,6 +63,7 @@ public:
         const bool kick = !(m_flags & MLF_NOKICKIDLE);
         const bool more = kick && ::SendMessage(m_window, WM_KICKIDLE, MSGF_DIALOGBOX, m_count) != 0;
         ++m_count;
+        DeleteTemporaryObjects();
         if (!more)
             m_isDone = true;
     }

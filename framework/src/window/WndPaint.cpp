@@ -1,7 +1,8 @@
 // CWnd: device contexts, update regions, fonts and menus of a window.
 #include "afxwin.h"
 
-namespace {
+namespace
+{
 
 HRGN RegionHandle(const CRgn* region)
 {
@@ -37,7 +38,8 @@ int CWnd::ReleaseDC(CDC* pDC)
 
 void CWnd::Print(CDC* pDC, DWORD dwFlags) const
 {
-    ::SendMessage(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()), static_cast<LPARAM>(dwFlags));
+    ::SendMessage(m_hWnd, WM_PRINT, reinterpret_cast<WPARAM>(pDC->GetSafeHdc()),
+                  static_cast<LPARAM>(dwFlags));
 }
 
 void CWnd::PrintClient(CDC* pDC, DWORD dwFlags) const
@@ -116,8 +118,8 @@ void CWnd::DragAcceptFiles(BOOL bAccept)
 
 BOOL PASCAL CWnd::GrayCtlColor(HDC hDC, HWND, UINT nCtlColor, HBRUSH hbrGray, COLORREF clrText)
 {
-    const bool isGray = nCtlColor == CTLCOLOR_MSGBOX || nCtlColor == CTLCOLOR_BTN || nCtlColor == CTLCOLOR_DLG ||
-                        nCtlColor == CTLCOLOR_STATIC;
+    const bool isGray = nCtlColor == CTLCOLOR_MSGBOX || nCtlColor == CTLCOLOR_BTN ||
+                        nCtlColor == CTLCOLOR_DLG || nCtlColor == CTLCOLOR_STATIC;
     if (hDC == NULL || !isGray)
         return FALSE;
     LOGBRUSH brush = {};

@@ -19,12 +19,13 @@ BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const
 
 void CWnd::CalcWindowRect(LPRECT lpClientRect, UINT nAdjustType)
 {
-    const DWORD exStyle = nAdjustType == adjustBorder ? GetExStyle() & ~static_cast<DWORD>(WS_EX_CLIENTEDGE)
-                                                      : GetExStyle();
+    const DWORD exStyle =
+        nAdjustType == adjustBorder ? GetExStyle() & ~static_cast<DWORD>(WS_EX_CLIENTEDGE) : GetExStyle();
     ::AdjustWindowRectEx(lpClientRect, GetStyle(), FALSE, exStyle);
 }
 
-namespace {
+namespace
+{
 
 CRect WorkAreaOf(HWND window)
 {
@@ -87,13 +88,15 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner)
     CRect rect;
     GetWindowRect(&rect);
     const CSize size = rect.Size();
-    CRect centred(CPoint((area.left + area.right - size.cx) / 2, (area.top + area.bottom - size.cy) / 2), size);
+    CRect centred(CPoint((area.left + area.right - size.cx) / 2, (area.top + area.bottom - size.cy) / 2),
+                  size);
     if (!(GetStyle() & WS_CHILD))
         MoveInside(centred, limits);
     ::SetWindowPos(m_hWnd, NULL, centred.left, centred.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
-namespace {
+namespace
+{
 
 // Lets every bar take its strip of layout.rect; returns the window that is to get the rest.
 HWND PlaceBars(HWND parent, UINT firstId, UINT lastId, UINT leftOverId, AFX_SIZEPARENTPARAMS& layout)
@@ -140,5 +143,6 @@ void CWnd::RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nF
     }
     if (CWnd* const pane = FromHandlePermanent(leftOver))
         pane->CalcWindowRect(&rest);
-    ::SetWindowPos(leftOver, NULL, rest.left, rest.top, rest.Width(), rest.Height(), SWP_NOACTIVATE | SWP_NOZORDER);
+    ::SetWindowPos(leftOver, NULL, rest.left, rest.top, rest.Width(), rest.Height(),
+                   SWP_NOACTIVATE | SWP_NOZORDER);
 }

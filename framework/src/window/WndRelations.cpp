@@ -15,7 +15,8 @@ void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, 
     }
 }
 
-namespace {
+namespace
+{
 
 // The id in the children first, then child by child below them.
 HWND FindDescendant(HWND parent, int id, bool onlyPermanent)
@@ -113,7 +114,8 @@ CFrameWnd* CWnd::GetTopLevelFrame() const
     return frame;
 }
 
-namespace {
+namespace
+{
 
 HWND DefaultOwner(HWND wanted)
 {

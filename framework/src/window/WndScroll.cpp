@@ -1,7 +1,8 @@
 // CWnd: scroll bars and scrolling.
 #include "afxwin.h"
 
-namespace {
+namespace
+{
 
 // The control that stands for the window's bar, or NULL.
 HWND BarControl(const CWnd* window, int bar)

@@ -3,7 +3,8 @@
 #include "thread/ThreadState.h"
 #include "window/ToolTips.h"
 
-namespace {
+namespace
+{
 
 constexpr UINT FrameworkToolFlags = static_cast<UINT>(TTF_NOTBUTTON) | static_cast<UINT>(TTF_ALWAYSTIP);
 
@@ -50,9 +51,9 @@ HWND ControlOwnedBy(HWND owner)
     }
     INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_BAR_CLASSES};
     ::InitCommonControlsEx(&classes);
-    state.control =
-        ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, NULL, WS_POPUP | TTS_ALWAYSTIP, CW_USEDEFAULT, CW_USEDEFAULT,
-                         CW_USEDEFAULT, CW_USEDEFAULT, owner, NULL, AfxGetInstanceHandle(), NULL);
+    state.control = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, NULL, WS_POPUP | TTS_ALWAYSTIP,
+                                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, NULL,
+                                     AfxGetInstanceHandle(), NULL);
     state.tool.cbSize = 0;
     return state.control;
 }
@@ -81,13 +82,15 @@ void AddTool(HWND owner, const TOOLINFO& described)
     tool.uFlags &= ~FrameworkToolFlags;
     ::SendMessage(control, TTM_ADDTOOL, 0, reinterpret_cast<LPARAM>(&tool));
     ::SendMessage(control, TTM_ACTIVATE, TRUE, 0);
-    ::SetWindowPos(control, HWND_TOP, 0, 0, 0, 0, SWP_NOACTIVATE | SWP_NOSIZE | SWP_NOMOVE | SWP_NOOWNERZORDER);
+    ::SetWindowPos(control, HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOACTIVATE | SWP_NOSIZE | SWP_NOMOVE | SWP_NOOWNERZORDER);
     state.tool = described;
     // The text belonged to the one who described the tool; the control has its own copy.
     state.tool.lpszText = NULL;
 }
 
-// Passes the mouse message to the control as one of the tool's window, for that is how the control finds the tool.
+// Passes the mouse message to the control as one of the tool's window, for that is how the control finds the
+// tool.
 void RelayToControl(const MSG& message, CPoint screenPoint)
 {
     const ToolTipState& state = ToolTips();
@@ -150,7 +153,8 @@ void PASCAL CWnd::CancelToolTips(BOOL)
         ::SendMessage(state.control, TTM_POP, 0, 0);
 }
 
-namespace {
+namespace
+{
 
 // The visible child at the client point that has an id of its own; static texts usually have none.
 HWND ChildAt(HWND window, CPoint clientPoint)

@@ -1,0 +1,150 @@
+// CWinApp: the application object.
+#include "afxwin.h"
+#include "thread/ThreadState.h"
+
+IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
+
+BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
+    ON_COMMAND(ID_APP_EXIT, OnAppExit)
+END_MESSAGE_MAP()
+
+namespace
+{
+
+// The file name of the program without folder and extension.
+CString ProgramName()
+{
+    TCHAR path[MAX_PATH] = {};
+    ::GetModuleFileName(NULL, path, MAX_PATH - 1);
+    const TCHAR* const slash = _tcsrchr(path, _T('\\'));
+    CString name(slash != NULL ? slash + 1 : path);
+    const int dot = name.ReverseFind(_T('.'));
+    return dot > 0 ? name.Left(dot) : name;
+}
+
+CString TitleOf(LPCTSTR given, const CString& programName)
+{
+    if (given != NULL)
+        return CString(given);
+    TCHAR title[256] = {};
+    return AfxLoadString(AFX_IDS_APP_TITLE, title) > 0 ? CString(title) : programName;
+}
+
+} // namespace
+
+CWinApp::CWinApp(LPCTSTR lpszAppName)
+    : m_hInstance(::GetModuleHandle(NULL)),
+      m_hPrevInstance(NULL),
+      m_lpCmdLine(NULL),
+      m_nCmdShow(SW_SHOWDEFAULT),
+      m_pszAppName(NULL),
+      m_pszExeName(NULL),
+      m_pszRegistryKey(NULL),
+      m_pszProfileName(NULL),
+      m_exeName(ProgramName()),
+      m_waitCursorCount(0),
+      m_waitCursorRestore(NULL)
+{
+    m_appName = TitleOf(lpszAppName, m_exeName);
+    m_pszAppName = m_appName;
+    m_pszExeName = m_exeName;
+    m_pszProfileName = m_pszAppName;
+    m_hThread = ::GetCurrentThread();
+    m_nThreadID = ::GetCurrentThreadId();
+    CurrentThreadState().thread = this;
+    AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
+    state.m_pCurrentWinApp = this;
+    state.m_lpszCurrentAppName = m_pszAppName;
+}
+
+CWinApp::~CWinApp()
+{
+    AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
+    if (state.m_pCurrentWinApp == this)
+    {
+        state.m_pCurrentWinApp = NULL;
+        state.m_lpszCurrentAppName = NULL;
+    }
+}
+
+BOOL CWinApp::InitApplication()
+{
+    return TRUE;
+}
+
+BOOL CWinApp::InitInstance()
+{
+    return TRUE;
+}
+
+int CWinApp::Run()
+{
+    // Without a main window nothing would ever end the loop.
+    if (m_pMainWnd == NULL)
+        AfxPostQuitMessage(0);
+    return CWinThread::Run();
+}
+
+int CWinApp::ExitInstance()
+{
+    return CWinThread::ExitInstance();
+}
+
+BOOL CWinApp::OnIdle(LONG lCount)
+{
+    CWinThread::OnIdle(lCount);
+    return lCount < 1;
+}
+
+LRESULT CWinApp::ProcessWndProcException(CException* e, const MSG* pMsg)
+{
+    const LRESULT result = CWinThread::ProcessWndProcException(e, pMsg);
+    // A CUserException says that the user knows already.
+    const bool isReported = e->IsKindOf(RUNTIME_CLASS(CUserException)) || pMsg->message == WM_PAINT;
+    if (!isReported)
+        e->ReportError(MB_ICONEXCLAMATION);
+    return result;
+}
+
+HCURSOR CWinApp::LoadCursor(LPCTSTR lpszResourceName) const
+{
+    return ::LoadCursor(AfxFindResourceHandle(lpszResourceName, RT_GROUP_CURSOR), lpszResourceName);
+}
+
+HCURSOR CWinApp::LoadCursor(UINT nIDResource) const
+{
+    return LoadCursor(MAKEINTRESOURCE(nIDResource));
+}
+
+HICON CWinApp::LoadIcon(LPCTSTR lpszResourceName) const
+{
+    return ::LoadIcon(AfxFindResourceHandle(lpszResourceName, RT_GROUP_ICON), lpszResourceName);
+}
+
+HICON CWinApp::LoadIcon(UINT nIDResource) const
+{
+    return LoadIcon(MAKEINTRESOURCE(nIDResource));
+}
+
+void CWinApp::DoWaitCursor(int nCode)
+{
+    const HCURSOR hourglass = ::LoadCursor(NULL, IDC_WAIT);
+    m_waitCursorCount += nCode;
+    if (m_waitCursorCount > 0)
+    {
+        const HCURSOR previous = ::SetCursor(hourglass);
+        if (nCode > 0 && m_waitCursorCount == 1)
+            m_waitCursorRestore = previous;
+    }
+    else
+    {
+        m_waitCursorCount = 0;
+        ::SetCursor(m_waitCursorRestore);
+    }
+}
+
+void CWinApp::OnAppExit()
+{
+    if (m_pMainWnd != NULL)
+        m_pMainWnd->SendMessage(WM_CLOSE);
+}

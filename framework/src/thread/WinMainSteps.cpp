@@ -1,0 +1,56 @@
+// The start and the end of a program.
+#include "afxwin.h"
+#include "handlemap/TemporaryLevel.h"
+#include "thread/ThreadState.h"
+
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)
+{
+    ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
+    AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
+    state.m_hCurrentInstanceHandle = hInstance;
+    state.m_hCurrentResourceHandle = hInstance;
+    if (CWinApp* const app = AfxGetApp())
+    {
+        app->m_hInstance = hInstance;
+        app->m_hPrevInstance = hPrevInstance;
+        app->m_lpCmdLine = lpCmdLine;
+        app->m_nCmdShow = nCmdShow;
+    }
+    return TRUE;
+}
+
+namespace
+{
+
+void DestroyToolTipControl()
+{
+    ToolTipState& tips = CurrentThreadState().toolTip;
+    if (tips.control != NULL && ::IsWindow(tips.control))
+        ::DestroyWindow(tips.control);
+    tips = ToolTipState();
+}
+
+int RunThread(CWinThread& thread)
+{
+    if (thread.InitInstance())
+        return thread.Run();
+    // A program that is complete after its dialog returns FALSE; a window it has left open goes too.
+    if (thread.m_pMainWnd != NULL)
+        thread.m_pMainWnd->DestroyWindow();
+    return thread.ExitInstance();
+}
+
+} // namespace
+
+int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)
+{
+    CWinThread* const thread = AfxGetThread();
+    CWinApp* const app = AfxGetApp();
+    int exitCode = -1;
+    const bool initialised = AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) != FALSE;
+    if (thread != NULL && initialised && (app == NULL || app->InitApplication()))
+        exitCode = RunThread(*thread);
+    DestroyToolTipControl();
+    DeleteTemporaryObjects();
+    return exitCode;
+}

@@ -11,6 +11,8 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <span>
+
 namespace QuorUiCtr
 {
 
@@ -18,6 +20,7 @@ class TGActiveQuad;
 class TGCellCtrl;
 class TGColSelector;
 class TGRowSelector;
+class RowWatch;
 struct ScrollRequest;
 
 // A custom-drawn grid of editable text cells with an optional tree of rows.
@@ -380,6 +383,7 @@ protected:
     virtual bool OnActiveQuadTip(CString& text) const;
 
 protected:
+    friend class RowWatch;
     friend class TGActiveQuad;
     friend class TGColSelector;
     friend class TGGridCell;
@@ -538,6 +542,51 @@ private:
     void PressCell(CPoint point);
     void PressTreeCell(long row, CPoint point);
     void OpenLockedCell();
+
+    // Rows and columns (TGGridStructure.cpp). Of these only TakeOut runs hooks and lays out anew.
+    TGGridRow* MakeRow();
+    TGGridRow* RowAt(long i);
+    TGGridCol* ColAtIndex(long i);
+    // Enters rows before the row at `at`, or takes rows out without deleting them; numbers the rows behind
+    // and shifts the selection.
+    void InsertRows(long at, std::span<TGGridRow* const> added);
+    void RemoveRows(long at, long number);
+    // Gives the rows from `first` on their indices; the row cursor ends past the last row.
+    void NumberRows(long first);
+    // Deselects a shown row and takes it out of the rows.
+    void TakeOut(TGGridRow& row);
+    bool IsOffspringAt(long i, const TGGridTreeRow& top);
+    // Takes the shown offspring of a row out of the rows; false when there was none.
+    bool RemoveOffspring(TGGridTreeRow& top);
+    void RemoveHiddenRows(long first, long number);
+    // Puts the offspring that the unfold flags ask for below a shown row.
+    void InsertOffspring(TGGridTreeRow& top);
+    // Takes a row out of its parent's children and its shown offspring out of the rows.
+    void DetachFromTree(TGGridRow& row);
+    // Leaves the child rows to their parents: empties their slots.
+    void ReleaseChildRows();
+    // Calls `change` for every row whose cells follow the columns, but for child rows, which their parents
+    // tell.
+    template <class Change> void ChangeRows(Change change);
+    // Moves the columns from `first` to before `last` by `distance` pixels.
+    void MoveColEdges(long first, long last, long distance);
+    void PlaceMovingCol(long from, long to);
+
+    // Selection (TGGridSelection.cpp).
+    void UnselectCols();
+    void UnselectRows();
+    void ShowRowBand(const TGGridRow& row);
+    void ShowColBand(const TGGridCol& col);
+    // Makes a shown row the only one selected.
+    void SelectOnly(TGGridRow& row);
+    // Inverts a rectangle in logical coordinates on the drawing context; nothing without one.
+    void InvertBand(const CRect& band);
+
+    // The row is being deleted: no watch refers to it from now on.
+    void ForgetRow(const TGGridRow* row);
+
+    // The rows that operations on the stack are working on.
+    RowWatch* rowWatches = nullptr;
 };
 
 // BeginUpdate and EndUpdate of a grid for the length of a scope.

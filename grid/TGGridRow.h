@@ -20,7 +20,8 @@ class AFX_EXT_CLASS TGGridRow
 public:
     // Makes a row with one empty cell per column of `grid`; it is not entered into the grid.
     explicit TGGridRow(TGGrid& grid);
-    // Memberwise: the copy shows the same cells and host data, which the source goes on owning.
+    // Memberwise: the copy shows the same cells and host data, which the source goes on owning; it must not
+    // be used longer than they exist.
     TGGridRow(const TGGridRow& other) = default;
 
     // Copies the style word and, for every column of the grid, the cell's style and text; neither the index
@@ -46,8 +47,8 @@ public:
     bool IsDelUnable() const;
     void SetDelUnable(bool on) { SetFlag(DelUnableFlag, on); }
 
-    // Row order: the texts of the grid's key columns, or of its selected columns when it has no keys, compared
-    // case-sensitively one after the other; false when all are equal or there is no such column.
+    // Row order: the texts of the grid's key columns, or of its selected columns when it has no keys,
+    // compared case-sensitively one after the other; false when all are equal or there is no such column.
     bool operator<(TGGridRow& other);
     bool operator>(TGGridRow& other);
 
@@ -78,6 +79,14 @@ public:
     virtual void Refresh();
 
 protected:
+    TGGrid& GetGrid() const { return *grid; }
+    // The cell in a column, null where there is none.
+    TGGridCell* FindCell(long col);
+    // The cell in column `col` exists and its text equals `text` exactly.
+    bool HasText(const wchar_t* text, long col);
+    // Gives the host data away.
+    TGRowData* ReleaseExtendData();
+
     void SetIndex(long newIndex) { index = newIndex; }
     // Logical coordinates, in pixels.
     long GetLeft() const { return 0; }
@@ -102,6 +111,7 @@ protected:
 private:
     // Sign of the comparison of this row with `other` over the key or selected columns; 0 when equal.
     int CompareByKeys(TGGridRow& other);
+    void AddCell(TGGridCol* col);
 
     TGRowData* extendData = nullptr;
     long index = -1;

@@ -3,6 +3,9 @@
 
 #include "grid/TGGridRow.h"
 
+#include <memory>
+#include <vector>
+
 namespace QuorUiCtr
 {
 
@@ -18,6 +21,7 @@ public:
     explicit TGGridTreeRow(TGGrid& grid);
     // A row of the parent's grid that refers to `parent`; it is not entered into the parent's child list.
     explicit TGGridTreeRow(TGGridTreeRow* parent);
+    TGGridTreeRow(const TGGridTreeRow&) = delete;
 
     // Row assignment, then a copy of every child of `source` is added behind this row's children,
     // recursively.
@@ -119,6 +123,30 @@ protected:
     void GetTreeQuad(CRect& rect);
 
 private:
+    using OwnedRows = std::vector<std::unique_ptr<TGGridTreeRow>>;
+
+    bool IsBelow(const TGGridTreeRow* ancestor) const;
+    TGGridTreeRow* FindOffspring(const wchar_t* text, long col);
+
+    // Copies of the children of `source`; with `moveData` the host data of `source` and its offspring moves.
+    OwnedRows CopyChildren(const TGGridTreeRow& source, bool moveData);
+    void AssignRow(TGGridTreeRow& source);
+    void InsertChildren(long position, OwnedRows& added);
+    // The grid row index behind the last shown row among the children up to `position` and their offspring.
+    long PlaceBehind(long position);
+
+    void HideOffspring();
+    void ShowOffspring();
+    bool HasShownOffspring() const;
+    long CountShownOffspring() const;
+    // Sets the index of all offspring to -1.
+    void MarkHidden();
+    // Sets or clears the unfold flag of this row and all offspring.
+    void MarkAll(bool unfolded);
+    // The rows below this one that the unfold flags show, in grid order; the second form begins with the row.
+    void CollectOffspring(std::vector<TGGridRow*>& shown);
+    void CollectShown(std::vector<TGGridRow*>& shown);
+
     PDList<TGGridTreeRow> children;
     TGGridTreeRow* parent = nullptr;
 };

@@ -1,8 +1,6 @@
 // Tests of QuorUiCtrl.dll as a module: it enters the chain of extension modules when it is loaded and leaves
 // it when it is freed, and carries its icons, cursors and version record. This program must not import the
 // DLL.
-#include <algorithm>
-#include <memory>
 #include <set>
 #include <string>
 #include <thread>
@@ -37,6 +35,16 @@ public:
 bool IsModulePresent()
 {
     return GetModuleHandleW(moduleName) != nullptr;
+}
+
+// The modules in the chain, read through a link of our own that stands in it for a moment.
+std::vector<HMODULE> ChainedModules()
+{
+    const CDynLinkLibrary newest(GetModuleHandleW(nullptr), GetModuleHandleW(nullptr));
+    std::vector<HMODULE> modules;
+    for (const CDynLinkLibrary* link = newest.m_pNextDLL; link != nullptr; link = link->m_pNextDLL)
+        modules.push_back(link->m_hModule);
+    return modules;
 }
 
 struct ResourceCase
@@ -160,6 +168,21 @@ TEST(Module, LoadAndFree_CanBeRepeated)
             EXPECT_TRUE(IsModulePresent());
         }
         EXPECT_FALSE(IsModulePresent()) << "round " << round;
+    }
+}
+
+TEST(Module, Chain_HoldsItOnceWhileItIsLoaded)
+{
+    const std::vector<HMODULE> before = ChainedModules();
+    for (int round = 0; round < 3; ++round)
+    {
+        {
+            const LoadedModule module;
+            std::vector<HMODULE> expected = before;
+            expected.insert(expected.begin(), module.handle);
+            EXPECT_EQ(ChainedModules(), expected) << "round " << round;
+        }
+        EXPECT_EQ(ChainedModules(), before) << "round " << round;
     }
 }
 

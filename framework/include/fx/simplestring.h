@@ -5,6 +5,7 @@
 #include "fx/diagnostics.h"
 #include "fx/exception.h"
 
+// The header of the empty string with its terminator.
 struct CNilStringData;
 
 // The header in front of a string's characters. Strings that are copies of each other share one block.
@@ -41,16 +42,7 @@ private:
     static CNilStringData s_nil;
 };
 
-// The header of the empty string with its terminator.
-struct CNilStringData : public CStringData
-{
-    wchar_t achNil[2];
-};
-
-inline CStringData* CStringData::Nil()
-{
-    return &s_nil;
-}
+inline CStringData* CStringData::Nil() { return reinterpret_cast<CStringData*>(&s_nil); }
 
 // A text of characters of type BaseType. The object is one pointer; copies share the characters until one of
 // them is changed. Lengths and positions count characters; positions are zero-based. An out-of-range length

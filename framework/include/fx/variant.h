@@ -70,6 +70,7 @@ public:
     // Same type and same value; texts compare by their characters.
     BOOL operator==(const VARIANT& varSrc) const;
     BOOL operator==(LPCVARIANT pSrc) const;
+    BOOL operator==(const COleVariant& varSrc) const;
 
     operator LPVARIANT() { return this; }
     operator LPCVARIANT() const { return this; }

@@ -2,6 +2,12 @@
 
 #include "afx.h"
 
+// Unknown to the header, so that compilers do not mistake it for what every string's text points to.
+struct CNilStringData : public CStringData
+{
+    wchar_t terminator[2];
+};
+
 CNilStringData CStringData::s_nil = {{0, 0, -1}, {0, 0}};
 
 CStringData* CStringData::Allocate(int nChars, int nCharSize)

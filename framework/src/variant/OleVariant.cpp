@@ -243,6 +243,11 @@ BOOL COleVariant::operator==(LPCVARIANT pSrc) const
     return *this == *pSrc;
 }
 
+BOOL COleVariant::operator==(const COleVariant& varSrc) const
+{
+    return *this == static_cast<const VARIANT&>(varSrc);
+}
+
 void COleVariant::Clear()
 {
     AfxThrowOleException(VariantClear(this));

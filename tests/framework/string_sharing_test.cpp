@@ -1,0 +1,139 @@
+// CString: who shares characters with whom, and what a string costs.
+#include <afxwin.h>
+
+#include <gtest/gtest.h>
+
+#include <thread>
+#include <vector>
+
+namespace
+{
+
+bool Share(const CString& left, const CString& right)
+{
+    return left.GetString() == right.GetString();
+}
+
+} // namespace
+
+static_assert(sizeof(CString) == sizeof(void*), "a string is one pointer");
+static_assert(sizeof(CStringA) == sizeof(void*), "a string is one pointer");
+
+TEST(StringSharing, Copies_ShareUntilOneChanges)
+{
+    CString first(L"shared text");
+    CString second(first);
+    CString third;
+    third = second;
+    EXPECT_TRUE(Share(first, second) && Share(second, third));
+    second += L"!";
+    EXPECT_FALSE(Share(first, second));
+    EXPECT_TRUE(Share(first, third));
+    EXPECT_STREQ(L"shared text", first);
+    EXPECT_STREQ(L"shared text!", second);
+}
+
+TEST(StringSharing, WholeParts_ShareToo)
+{
+    const CString text(L"whole");
+    EXPECT_TRUE(Share(text, text.Mid(0)));
+    EXPECT_TRUE(Share(text, text.Left(5)));
+    EXPECT_TRUE(Share(text, text.Right(9)));
+}
+
+TEST(StringSharing, GetBuffer_EndsTheSharing)
+{
+    CString first(L"text");
+    const CString second(first);
+    first.GetBuffer()[0] = L'n';
+    first.ReleaseBuffer();
+    EXPECT_STREQ(L"next", first);
+    EXPECT_STREQ(L"text", second);
+}
+
+TEST(StringSharing, SelfAssignment_KeepsTheText)
+{
+    CString text(L"self");
+    const CString& alias = text;
+    text = alias;
+    EXPECT_STREQ(L"self", text);
+}
+
+TEST(StringSharing, Moves_TakeTheCharacters)
+{
+    CString source(L"moved");
+    const wchar_t* const characters = source;
+    CString target(std::move(source));
+    EXPECT_EQ(characters, target.GetString());
+    CString assigned(L"old");
+    assigned = std::move(target);
+    EXPECT_EQ(characters, assigned.GetString());
+    EXPECT_STREQ(L"moved", assigned);
+}
+
+TEST(StringSharing, EmptyStrings_ShareOneBlock)
+{
+    CString filled(L"x");
+    filled.Empty();
+    EXPECT_TRUE(Share(CString(), filled));
+    EXPECT_TRUE(Share(CString(), CString(L"")));
+    CString empty;
+    empty.GetBuffer(4)[0] = L'x';
+    empty.ReleaseBuffer(1);
+    EXPECT_STREQ(L"x", empty);
+    EXPECT_STREQ(L"", CString());
+}
+
+TEST(StringSharing, ShortTexts_FitIntoSmallBlocks)
+{
+    // Twelve bytes of header, eight characters and the terminator.
+    const CString text(L"12345678");
+    const size_t blockSize = 12 + (static_cast<size_t>(text.GetAllocLength()) + 1) * sizeof(wchar_t);
+    EXPECT_LE(blockSize, 48u);
+}
+
+TEST(StringSharing, ShorterText_ReusesTheBlock)
+{
+    CString text(L'x', 100);
+    const wchar_t* const characters = text;
+    text = L"1234";
+    EXPECT_EQ(characters, text.GetString());
+    EXPECT_STREQ(L"1234", text);
+    text.FreeExtra();
+    EXPECT_STREQ(L"1234", text);
+    EXPECT_GT(100, text.GetAllocLength());
+}
+
+TEST(StringSharing, RepeatedAppending_SeldomMoves)
+{
+    CString text;
+    int moves = 0;
+    const wchar_t* characters = text;
+    for (int i = 0; i < 100000; ++i) {
+        text += L'x';
+        moves += text.GetString() != characters;
+        characters = text;
+    }
+    EXPECT_EQ(100000, text.GetLength());
+    EXPECT_LT(moves, 40);
+}
+
+TEST(StringSharing, Threads_CanCopyAndDropTheSameText)
+{
+    const CString text(L"shared by threads");
+    std::vector<std::thread> threads;
+    for (int i = 0; i < 4; ++i) {
+        threads.emplace_back([&text] {
+            for (int n = 0; n < 5000; ++n) {
+                CString copy(text);
+                CString second(copy);
+                second += L"!";
+            }
+        });
+    }
+    for (std::thread& thread : threads)
+        thread.join();
+    EXPECT_STREQ(L"shared by threads", text);
+    CString last(text);
+    EXPECT_TRUE(Share(last, text));
+}

@@ -167,14 +167,18 @@ TEST(Array, RandomEdits_MatchAVector)
     std::mt19937 random(seed);
     CArray<CString, const CString&> array;
     std::vector<CString> reference;
-    for (int step = 0; step < 2000; ++step) {
+    for (int step = 0; step < 2000; ++step)
+    {
         const INT_PTR index = static_cast<INT_PTR>(random() % (reference.size() + 1));
         CString text;
         text.Format(L"%d", step);
-        if (random() % 3 != 0 || index == static_cast<INT_PTR>(reference.size())) {
+        if (random() % 3 != 0 || index == static_cast<INT_PTR>(reference.size()))
+        {
             array.InsertAt(index, text);
             reference.insert(reference.begin() + index, text);
-        } else {
+        }
+        else
+        {
             array.RemoveAt(index);
             reference.erase(reference.begin() + index);
         }
@@ -211,9 +215,12 @@ TEST(Array, BadIndices_Throw)
     Fill(numbers, 2);
     int thrown = 0;
     const auto expectThrow = [&](auto mistake) {
-        try {
+        try
+        {
             mistake();
-        } catch (CInvalidArgException* exception) {
+        }
+        catch (CInvalidArgException* exception)
+        {
             ++thrown;
             exception->Delete();
         }
@@ -262,18 +269,23 @@ TEST(Map, RandomEdits_MatchAMap)
     std::mt19937 random(seed);
     CMap<CString, LPCWSTR, int, int> map;
     std::map<std::wstring, int> reference;
-    for (int step = 0; step < 3000; ++step) {
+    for (int step = 0; step < 3000; ++step)
+    {
         CString key;
         key.Format(L"key %u", static_cast<unsigned>(random() % 200));
-        if (random() % 3 != 0) {
+        if (random() % 3 != 0)
+        {
             map.SetAt(key, step);
             reference[key.GetString()] = step;
-        } else {
+        }
+        else
+        {
             EXPECT_EQ(reference.erase(key.GetString()) > 0, map.RemoveKey(key) != FALSE);
         }
     }
     std::map<std::wstring, int> seen;
-    for (POSITION position = map.GetStartPosition(); position != nullptr;) {
+    for (POSITION position = map.GetStartPosition(); position != nullptr;)
+    {
         CString key;
         int value = 0;
         map.GetNextAssoc(position, key, value);

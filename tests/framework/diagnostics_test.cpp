@@ -45,7 +45,8 @@ ProcessResult RunDisabledTest(const wchar_t* test)
                                        nullptr, &startup, &process);
     CloseHandle(writeEnd);
     ProcessResult result;
-    if (started) {
+    if (started)
+    {
         result.errorText = ReadToEnd(readEnd);
         WaitForSingleObject(process.hProcess, INFINITE);
         GetExitCodeProcess(process.hProcess, &result.exitCode);

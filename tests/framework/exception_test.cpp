@@ -72,10 +72,14 @@ EXPECT_EQ(before + 1, g_deletedExceptions);
 
 TEST(Exception, SharedExceptions_SurviveDelete)
 {
-    for (int i = 0; i < 3; ++i) {
-        try {
+    for (int i = 0; i < 3; ++i)
+    {
+        try
+        {
             AfxThrowMemoryException();
-        } catch (CException* exception) {
+        }
+        catch (CException* exception)
+        {
             EXPECT_TRUE(exception->IsKindOf(RUNTIME_CLASS(CMemoryException)));
             EXPECT_TRUE(exception->IsKindOf(RUNTIME_CLASS(CSimpleException)));
             exception->Delete();
@@ -87,9 +91,12 @@ TEST(Exception, Messages)
 {
     wchar_t message[200] = L"unchanged";
     UINT help = 9;
-    try {
+    try
+    {
         AfxThrowResourceException();
-    } catch (CException* exception) {
+    }
+    catch (CException* exception)
+    {
         EXPECT_TRUE(exception->GetErrorMessage(message, _countof(message), &help));
         EXPECT_STREQ(L"A required resource was unavailable.", message);
         EXPECT_EQ(0u, help);
@@ -97,9 +104,12 @@ TEST(Exception, Messages)
         EXPECT_STREQ(L"A re", message);
         exception->Delete();
     }
-    try {
+    try
+    {
         AfxThrowUserException();
-    } catch (CException* exception) {
+    }
+    catch (CException* exception)
+    {
         EXPECT_FALSE(exception->GetErrorMessage(message, _countof(message)));
         EXPECT_STREQ(L"", message);
         exception->Delete();

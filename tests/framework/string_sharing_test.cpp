@@ -109,7 +109,8 @@ TEST(StringSharing, RepeatedAppending_SeldomMoves)
     CString text;
     int moves = 0;
     const wchar_t* characters = text;
-    for (int i = 0; i < 100000; ++i) {
+    for (int i = 0; i < 100000; ++i)
+    {
         text += L'x';
         moves += text.GetString() != characters;
         characters = text;
@@ -122,9 +123,11 @@ TEST(StringSharing, Threads_CanCopyAndDropTheSameText)
 {
     const CString text(L"shared by threads");
     std::vector<std::thread> threads;
-    for (int i = 0; i < 4; ++i) {
+    for (int i = 0; i < 4; ++i)
+    {
         threads.emplace_back([&text] {
-            for (int n = 0; n < 5000; ++n) {
+            for (int n = 0; n < 5000; ++n)
+            {
                 CString copy(text);
                 CString second(copy);
                 second += L"!";

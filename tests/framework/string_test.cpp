@@ -132,9 +132,12 @@ TEST(String, Variant_WithoutATextForm_Throws)
     unconvertible.vt = VT_UNKNOWN;
     unconvertible.punkVal = nullptr;
     SCODE code = S_OK;
-    try {
+    try
+    {
         CString text(unconvertible);
-    } catch (COleException* exception) {
+    }
+    catch (COleException* exception)
+    {
         code = exception->m_sc;
         exception->Delete();
     }
@@ -257,7 +260,8 @@ TEST(String, Edits)
         {L"Truncate", L"abc", [](CString& s) { s.Truncate(1); }, L"a"},
         {L"Empty", L"abc", [](CString& s) { s.Empty(); }, L""},
     };
-    for (const EditCase& edit : cases) {
+    for (const EditCase& edit : cases)
+    {
         CString text(edit.before);
         const CString copy(text);
         edit.edit(text);
@@ -341,7 +345,8 @@ TEST(String, StringOfALoadedModule_IsLoaded)
     const HINSTANCE module = LoadLibrary(L"comdlg32.dll");
     ASSERT_NE(nullptr, module);
     int compared = 0;
-    for (UINT id = 0; id < 2000; ++id) {
+    for (UINT id = 0; id < 2000; ++id)
+    {
         wchar_t expected[512];
         const int length = ::LoadString(module, id, expected, _countof(expected));
         CString text;
@@ -363,12 +368,16 @@ TEST(String, BadArguments_Throw)
         [](CString& s) { s.SetString(nullptr, 2); }, [](CString& s) { s.Append(L"x", -1); },
         [](CString& s) { s.ReleaseBuffer(1000); },
     };
-    for (const auto& mistake : mistakes) {
+    for (const auto& mistake : mistakes)
+    {
         CString text(L"abc");
         bool thrown = false;
-        try {
+        try
+        {
             mistake(text);
-        } catch (CInvalidArgException* exception) {
+        }
+        catch (CInvalidArgException* exception)
+        {
             thrown = true;
             exception->Delete();
         }

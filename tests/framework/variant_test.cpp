@@ -10,9 +10,12 @@ namespace
 // What converting throws; S_OK when it succeeds.
 SCODE ConversionFailure(COleVariant& value, VARTYPE type)
 {
-    try {
+    try
+    {
         value.ChangeType(type);
-    } catch (COleException* exception) {
+    }
+    catch (COleException* exception)
+    {
         const SCODE code = exception->m_sc;
         exception->Delete();
         return code;
@@ -153,9 +156,12 @@ TEST(OleException, HasTheSystemsText)
 {
     wchar_t message[256];
     SCODE code = S_OK;
-    try {
+    try
+    {
         AfxThrowOleException(E_ACCESSDENIED);
-    } catch (COleException* exception) {
+    }
+    catch (COleException* exception)
+    {
         code = exception->m_sc;
         EXPECT_TRUE(exception->GetErrorMessage(message, _countof(message)));
         EXPECT_NE(0u, std::wcslen(message));

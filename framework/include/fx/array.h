@@ -26,7 +26,8 @@ public:
         ENSURE_ARG(nNewSize >= 0);
         if (nGrowBy >= 0)
             m_nGrowBy = nGrowBy;
-        if (nNewSize == 0) {
+        if (nNewSize == 0)
+        {
             RemoveAll();
             return;
         }
@@ -196,7 +197,8 @@ private:
     // New default-constructed slots before nIndex, which may be above the size.
     void OpenGap(INT_PTR nIndex, INT_PTR nCount)
     {
-        if (nIndex >= m_nSize) {
+        if (nIndex >= m_nSize)
+        {
             SetSize(nIndex + nCount);
             return;
         }

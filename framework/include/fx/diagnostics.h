@@ -35,7 +35,8 @@ inline void AfxTrace(const TChar* lpszFormat, const TArgs&... args)
 // TRACE(format, ...): a line for the debugger. DEBUG_ONLY(f): f only with _DEBUG.
 #ifdef _DEBUG
 #define ASSERT(f)                                                                                            \
-    do {                                                                                                     \
+    do                                                                                                       \
+    {                                                                                                        \
         if (!(f))                                                                                            \
             AfxAssertFailed(__FILE__, __LINE__, #f);                                                         \
     } while (0)
@@ -63,10 +64,12 @@ inline void AfxTrace(const TChar* lpszFormat, const TArgs&... args)
 
 // Checked in every build: throws CInvalidArgException (see fx/exception.h) when the condition does not hold.
 #define ENSURE_THROW(cond, exception)                                                                        \
-    do {                                                                                                     \
+    do                                                                                                       \
+    {                                                                                                        \
         const int _afx_holds = !!(cond);                                                                     \
         ASSERT(_afx_holds);                                                                                  \
-        if (!_afx_holds) {                                                                                   \
+        if (!_afx_holds)                                                                                     \
+        {                                                                                                    \
             exception;                                                                                       \
         }                                                                                                    \
     } while (0)

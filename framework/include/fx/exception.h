@@ -129,10 +129,12 @@ struct AFX_EXCEPTION_LINK
 #define TRY                                                                                                  \
     {                                                                                                        \
         AFX_EXCEPTION_LINK _afxExceptionLink;                                                                \
-        try {
+        try                                                                                                  \
+        {
 #define CATCH(class_name, e)                                                                                 \
     }                                                                                                        \
-    catch (class_name * e) {                                                                                 \
+    catch (class_name * e)                                                                                   \
+    {                                                                                                        \
         _afxExceptionLink.m_pException = e;
 #define AND_CATCH(class_name, e) CATCH(class_name, e)
 #define END_CATCH                                                                                            \
@@ -143,13 +145,15 @@ struct AFX_EXCEPTION_LINK
 #define END_CATCH_ALL END_CATCH
 #define END_TRY                                                                                              \
     }                                                                                                        \
-    catch (CException * e) {                                                                                 \
+    catch (CException * e)                                                                                   \
+    {                                                                                                        \
         _afxExceptionLink.m_pException = e;                                                                  \
     }                                                                                                        \
     }
 #define THROW(e) throw e
 #define THROW_LAST()                                                                                         \
-    do {                                                                                                     \
+    do                                                                                                       \
+    {                                                                                                        \
         _afxExceptionLink.m_pException = NULL;                                                               \
         throw;                                                                                               \
     } while (0)

@@ -67,8 +67,10 @@ public:
     {
         if (m_pTable == NULL)
             return FALSE;
-        for (CNode** ppLink = &m_pTable[Bucket(key)]; *ppLink != NULL; ppLink = &(*ppLink)->pNext) {
-            if ((*ppLink)->key == key) {
+        for (CNode** ppLink = &m_pTable[Bucket(key)]; *ppLink != NULL; ppLink = &(*ppLink)->pNext)
+        {
+            if ((*ppLink)->key == key)
+            {
                 CNode* pNode = *ppLink;
                 *ppLink = pNode->pNext;
                 delete pNode;
@@ -80,8 +82,10 @@ public:
     }
     void RemoveAll()
     {
-        for (UINT i = 0; m_pTable != NULL && i < m_nTableSize; ++i) {
-            while (CNode* pNode = m_pTable[i]) {
+        for (UINT i = 0; m_pTable != NULL && i < m_nTableSize; ++i)
+        {
+            while (CNode* pNode = m_pTable[i])
+            {
                 m_pTable[i] = pNode->pNext;
                 delete pNode;
             }

@@ -42,7 +42,10 @@ private:
     static CNilStringData s_nil;
 };
 
-inline CStringData* CStringData::Nil() { return reinterpret_cast<CStringData*>(&s_nil); }
+inline CStringData* CStringData::Nil()
+{
+    return reinterpret_cast<CStringData*>(&s_nil);
+}
 
 // A text of characters of type BaseType. The object is one pointer; copies share the characters until one of
 // them is changed. Lengths and positions count characters; positions are zero-based. An out-of-range length
@@ -136,18 +139,22 @@ public:
     void SetString(PCXSTR pszSrc) { SetString(pszSrc, StringLength(pszSrc)); }
     void SetString(PCXSTR pszSrc, int nLength)
     {
-        if (nLength == 0) {
+        if (nLength == 0)
+        {
             Empty();
             return;
         }
         ENSURE_ARG(pszSrc != NULL && nLength > 0);
         CStringData* pData = GetData();
-        if (pData->IsShared() || pData->nAllocLength < nLength) {
+        if (pData->IsShared() || pData->nAllocLength < nLength)
+        {
             // The old block is released last: the text may be in it.
             pData = CStringData::Allocate(nLength, sizeof(XCHAR));
             std::memcpy(pData->data(), pszSrc, ByteCount(nLength));
             Adopt(static_cast<PXSTR>(pData->data()));
-        } else {
+        }
+        else
+        {
             std::memmove(m_pszData, pszSrc, ByteCount(nLength));
         }
         SetLength(nLength);

@@ -16,7 +16,8 @@ template <> struct HandleTraits<CGdiObject>
     // The class that fits the handle, because callers cast the result to it.
     static CGdiObject* New(HGDIOBJ handle)
     {
-        switch (::GetObjectType(handle)) {
+        switch (::GetObjectType(handle))
+        {
         case OBJ_PEN:
         case OBJ_EXTPEN:
             return new CPen;

@@ -90,7 +90,8 @@ BOOL CMenu::SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpU
 int CMenu::GetMenuString(UINT nIDItem, CString& rString, UINT nFlags) const
 {
     const int length = ::GetMenuString(m_hMenu, nIDItem, nullptr, 0, nFlags);
-    if (length <= 0) {
+    if (length <= 0)
+    {
         rString.Empty();
         return length;
     }

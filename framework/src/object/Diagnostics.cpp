@@ -46,7 +46,8 @@ bool AllPagesAllow(const void* address, UINT_PTR byteCount, bool write)
     constexpr DWORD kReadable = kWritable | PAGE_READONLY | PAGE_EXECUTE_READ;
     const char* position = static_cast<const char*>(address);
     const char* const end = position + (byteCount == 0 ? 1 : byteCount);
-    while (position < end) {
+    while (position < end)
+    {
         MEMORY_BASIC_INFORMATION info;
         if (VirtualQuery(position, &info, sizeof(info)) == 0 || info.State != MEM_COMMIT ||
             (info.Protect & (write ? kWritable : kReadable)) == 0 || (info.Protect & PAGE_GUARD) != 0)
@@ -64,7 +65,8 @@ template <typename TChar> bool IsReadableText(const TChar* text, int length)
     if (length >= 0)
         return AllPagesAllow(text, static_cast<UINT_PTR>(length) * sizeof(TChar), false);
     constexpr UINT_PTR kPageSize = 4096;
-    for (const TChar* position = text;; ++position) {
+    for (const TChar* position = text;; ++position)
+    {
         const UINT_PTR address = reinterpret_cast<UINT_PTR>(position);
         const bool startsPage = address % kPageSize < sizeof(TChar);
         if ((position == text || startsPage) && !AllPagesAllow(position, sizeof(TChar), false))

@@ -31,8 +31,10 @@ AFX_CLASSINIT::AFX_CLASSINIT(CRuntimeClass* pNewClass) : m_pClass(pNewClass)
 AFX_CLASSINIT::~AFX_CLASSINIT()
 {
     AcquireSRWLockExclusive(&g_classLock);
-    for (CRuntimeClass** link = &g_firstClass; *link != nullptr; link = &(*link)->m_pNextClass) {
-        if (*link == m_pClass) {
+    for (CRuntimeClass** link = &g_firstClass; *link != nullptr; link = &(*link)->m_pNextClass)
+    {
+        if (*link == m_pClass)
+        {
             *link = m_pClass->m_pNextClass;
             break;
         }
@@ -47,7 +49,8 @@ CObject* CRuntimeClass::CreateObject()
 
 BOOL CRuntimeClass::IsDerivedFrom(const CRuntimeClass* pBaseClass) const
 {
-    for (const CRuntimeClass* record = this; record != nullptr;) {
+    for (const CRuntimeClass* record = this; record != nullptr;)
+    {
         if (record == pBaseClass)
             return TRUE;
         record = record->m_pfnGetBaseClass == nullptr ? nullptr : record->m_pfnGetBaseClass();

@@ -140,7 +140,8 @@ CStringW& CStringW::operator+=(const VARIANT& varSrc)
 
 void CStringW::SetNarrow(PCYSTR pch, int nLength)
 {
-    if (nLength == 0) {
+    if (nLength == 0)
+    {
         Empty();
         return;
     }

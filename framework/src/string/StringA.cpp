@@ -10,7 +10,8 @@ CStringA::CStringA(char ch, int nRepeat)
 
 void CStringA::SetWide(LPCWSTR pch, int nLength)
 {
-    if (nLength == 0) {
+    if (nLength == 0)
+    {
         Empty();
         return;
     }

@@ -111,8 +111,10 @@ int CStringW::Replace(XCHAR chOld, XCHAR chNew)
         return 0;
     const PXSTR text = GetBuffer();
     int count = 0;
-    for (int i = 0; i < GetLength(); ++i) {
-        if (text[i] == chOld) {
+    for (int i = 0; i < GetLength(); ++i)
+    {
+        if (text[i] == chOld)
+        {
             text[i] = chNew;
             ++count;
         }
@@ -129,7 +131,8 @@ int CStringW::Replace(PCXSTR pszOld, PCXSTR pszNew)
     result.Preallocate(GetLength());
     int count = 0;
     int position = 0;
-    for (int match = Find(pszOld); match >= 0; match = Find(pszOld, position)) {
+    for (int match = Find(pszOld); match >= 0; match = Find(pszOld, position))
+    {
         result.Append(GetString() + position, match - position);
         result.Append(pszNew);
         position = match + oldLength;

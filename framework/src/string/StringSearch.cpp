@@ -68,16 +68,21 @@ CStringW CStringW::SpanExcluding(PCXSTR pszCharSet) const
 CStringW CStringW::Tokenize(PCXSTR pszTokens, int& iStart) const
 {
     ENSURE_ARG(iStart >= 0);
-    if (pszTokens == nullptr || *pszTokens == 0) {
-        if (iStart < GetLength()) {
+    if (pszTokens == nullptr || *pszTokens == 0)
+    {
+        if (iStart < GetLength())
+        {
             const int first = iStart;
             // There is no separator to stop at: the rest is the token.
             iStart = GetLength();
             return Mid(first);
         }
-    } else if (iStart < GetLength()) {
+    }
+    else if (iStart < GetLength())
+    {
         const int first = iStart + static_cast<int>(std::wcsspn(GetString() + iStart, pszTokens));
-        if (first < GetLength()) {
+        if (first < GetLength())
+        {
             const int length = static_cast<int>(std::wcscspn(GetString() + first, pszTokens));
             iStart = first + length + 1;
             return Mid(first, length);

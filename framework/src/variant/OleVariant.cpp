@@ -36,7 +36,8 @@ bool SameValue(const VARIANT& left, const VARIANT& right)
 {
     if ((left.vt & (VT_BYREF | VT_ARRAY)) != 0)
         return SamePointer(left, right);
-    switch (left.vt) {
+    switch (left.vt)
+    {
     case VT_EMPTY:
     case VT_NULL:
         return true;
@@ -186,7 +187,8 @@ const COleVariant& COleVariant::operator=(BYTE nSrc)
 
 const COleVariant& COleVariant::operator=(short nSrc)
 {
-    if (vt == VT_BOOL) {
+    if (vt == VT_BOOL)
+    {
         boolVal = ToVariantBool(nSrc != 0);
         return *this;
     }
@@ -197,7 +199,8 @@ const COleVariant& COleVariant::operator=(short nSrc)
 
 const COleVariant& COleVariant::operator=(long lSrc)
 {
-    if (vt == VT_BOOL) {
+    if (vt == VT_BOOL)
+    {
         boolVal = ToVariantBool(lSrc != 0);
         return *this;
     }

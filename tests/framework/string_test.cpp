@@ -347,7 +347,7 @@ TEST(String, StringOfALoadedModule_IsLoaded)
     int compared = 0;
     for (UINT id = 0; id < 2000; ++id)
     {
-        wchar_t expected[512];
+        wchar_t expected[4096];
         const int length = ::LoadString(module, id, expected, _countof(expected));
         CString text;
         ASSERT_EQ(length > 0, text.LoadString(module, id) != FALSE) << id;

@@ -26,6 +26,7 @@ template <class T> class Chain
 {
 public:
     using Node = ChainNode<T>;
+    using CursorMark = ChainCursorMark<T>;
     using BackNode = BackLinkedNode<T>;
     using Iterator = ChainIterator<T, T>;
     using ConstIterator = ChainIterator<T, const T>;
@@ -34,14 +35,6 @@ public:
     {
         Forward,
         BothWays
-    };
-
-    // What brings the cursor back to where it was.
-    struct CursorMark
-    {
-        long index;
-        Node* node;
-        std::uint32_t revision;
     };
 
     explicit Chain(Links kind) : backLinks(kind == Links::BothWays) {}
@@ -105,12 +98,14 @@ public:
     }
 
     // Inserts behind the current node (without one, at the front); the new element becomes current.
-    void InsertAfterCursor(const T& element)
+    void InsertAfterCursor(const T& element) { EnterAfterCursor(Make(element)); }
+
+    // Inserts before the current node (without one, at the end); the new element becomes current.
+    void InsertBeforeCursor(const T& element)
     {
         Node* node = Make(element);
-        Link(current, node, cursor + 1);
-        current = node;
-        ++cursor;
+        MoveToPrevious();
+        EnterAfterCursor(node);
     }
 
     // The new element becomes current.
@@ -303,6 +298,13 @@ private:
         Changed(index);
     }
 
+    void EnterAfterCursor(Node* node)
+    {
+        Link(current, node, cursor + 1);
+        current = node;
+        ++cursor;
+    }
+
     // The elements from `index` on have other positions than before.
     void Changed(long index)
     {
@@ -328,9 +330,9 @@ private:
             return last;
         const Place place = FindNearest(index);
         const long distance = std::abs(index - place.index);
-        if (distance > Positions::spacing && count > Positions::smallestUse && WantsMarks(index, distance))
-            return MarkUpTo(index);
-        return place.WalkTo(index);
+        if (distance <= Positions::spacing || count <= Positions::smallestUse || !MarkUpTo(index, distance))
+            return place.WalkTo(index);
+        return FindNearest(index).WalkTo(index);
     }
 
     Place FindNearest(long index)
@@ -360,27 +362,25 @@ private:
             consider(positions->GetMark(mark + 1), (mark + 1) * Positions::spacing);
     }
 
-    bool WantsMarks(long index, long distance)
-    {
+    // Sets the marks up to `index`, which would otherwise be `distance` steps away, when that pays off.
+    // Without memory for marks the chain does without.
+    bool MarkUpTo(long index, long distance) noexcept
+    try {
         if (!positions)
             positions = std::make_unique<Positions>();
-        return positions->PaysOff(distance, index - positions->GetMarkNum() * Positions::spacing);
-    }
-
-    // Walks from the last mark to `index` and sets the marks on the way.
-    Node* MarkUpTo(long index)
-    {
-        Place place{head.next, 0};
-        if (const long marks = positions->GetMarkNum())
-            place = {positions->GetMark(marks - 1), (marks - 1) * Positions::spacing};
-        else
+        if (!positions->PaysOff(distance, index - positions->GetMarkNum() * Positions::spacing))
+            return false;
+        if (positions->GetMarkNum() == 0)
             positions->AddMark(head.next);
-        while (index - place.index >= Positions::spacing) {
-            const long next = place.index + Positions::spacing;
-            place = {place.WalkTo(next), next};
+        long mark = positions->GetMarkNum() - 1;
+        Place place{positions->GetMark(mark), mark * Positions::spacing};
+        while (++mark * Positions::spacing <= index) {
+            place = {place.WalkTo(mark * Positions::spacing), mark * Positions::spacing};
             positions->AddMark(place.node);
         }
-        return place.WalkTo(index);
+        return true;
+    } catch (const std::bad_alloc&) {
+        return false;
     }
 
     long count = 0;

@@ -1,7 +1,8 @@
-// ChainNode: the nodes of a chain, a place among them and the iterator over them.
+// ChainNode: the nodes of a chain, places among them and the iterator over them.
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <iterator>
 #include <type_traits>
 
@@ -35,6 +36,14 @@ template <class T> struct ChainPlace
             reached = static_cast<BackLinkedNode<T>*>(reached)->previous;
         return reached;
     }
+};
+
+// What brings a cursor back to where it was; `revision` is that of the chain's structure.
+template <class T> struct ChainCursorMark
+{
+    long index;
+    ChainNode<T>* node;
+    std::uint32_t revision;
 };
 
 // Walks the elements of a chain from first to last without touching its cursor.

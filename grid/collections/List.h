@@ -79,15 +79,11 @@ public:
         }
         return -1;
     }
-    void Insert(const T& element) override
-    {
-        chain.MoveToPrevious();
-        chain.InsertAfterCursor(element);
-    }
+    void Insert(const T& element) override { chain.InsertBeforeCursor(element); }
     void Insert(long i, const T& element) override
     {
         chain.MoveTo(i);
-        Insert(element);
+        chain.InsertBeforeCursor(element);
     }
     void InsertAfter(long i, const T& element) override
     {

@@ -14,7 +14,7 @@ namespace QuorUiCtr
 // References to elements stay valid until the element is removed. An element that is removed, by the loop
 // itself or by what the loop calls, must not be the one a saved reference or iterator stands on.
 //
-// Lists belong to one thread. T must be default constructible and copyable; Find needs operator==.
+// Lists belong to one thread. T must be default constructible, copyable and comparable with ==.
 //
 // The virtual operations keep this order; the numbers are their places in it.
 template <class T> class Table

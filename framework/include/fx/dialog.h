@@ -79,7 +79,7 @@ protected:
 
 private:
     BOOL CreateFrom(LPCDLGTEMPLATE lpTemplate, CWnd* pParentWnd);
-    void RunDialog(LPCDLGTEMPLATE lpTemplate, CWnd* pOwner);
+    void RunDialog(LPCDLGTEMPLATE lpTemplate);
     INT_PTR InitDialog();
     static INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 };

@@ -15,16 +15,14 @@ struct CPrintInfo;
 // Passed to the creation of views and frames: what to create for what. Any member may be NULL.
 struct CCreateContext
 {
-    CCreateContext();
-
     // The class of the view, DYNCREATE.
-    CRuntimeClass* m_pNewViewClass;
+    CRuntimeClass* m_pNewViewClass = NULL;
     // The document the view shows.
-    CDocument* m_pCurrentDoc;
+    CDocument* m_pCurrentDoc = NULL;
     // The frame of an existing window that the new one resembles.
-    CFrameWnd* m_pCurrentFrame;
+    CFrameWnd* m_pCurrentFrame = NULL;
     // The last view of the document.
-    CView* m_pLastView;
+    CView* m_pLastView = NULL;
 };
 
 // Data that views show: keeps the list of its views and tells them about changes. It owns no view.

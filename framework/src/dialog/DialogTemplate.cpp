@@ -1,0 +1,64 @@
+// Dialog templates in memory and the windows made from them.
+#include "dialog/DialogTemplate.h"
+#include "controls/CommonControls.h"
+#include "window/CreationScope.h"
+
+namespace quorfx
+{
+
+namespace
+{
+
+// The beginning of an extended template, which has no declaration in the platform's headers.
+struct ExtendedTemplate
+{
+    WORD version;
+    WORD signature;
+    DWORD helpId;
+    DWORD exStyle;
+    DWORD style;
+    WORD itemCount;
+    short x, y, cx, cy;
+};
+
+bool IsExtended(LPCDLGTEMPLATE dialogTemplate)
+{
+    return reinterpret_cast<const ExtendedTemplate*>(dialogTemplate)->signature == 0xffff;
+}
+
+} // namespace
+
+LPCDLGTEMPLATE FindDialogTemplate(LPCTSTR name)
+{
+    const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
+    const HRSRC resource = ::FindResource(module, name, RT_DIALOG);
+    const HGLOBAL memory = resource != NULL ? ::LoadResource(module, resource) : NULL;
+    return memory != NULL ? static_cast<LPCDLGTEMPLATE>(::LockResource(memory)) : NULL;
+}
+
+CSize DialogTemplateSize(HWND dialog, LPCDLGTEMPLATE dialogTemplate)
+{
+    CRect rect;
+    if (IsExtended(dialogTemplate))
+    {
+        const ExtendedTemplate* extended = reinterpret_cast<const ExtendedTemplate*>(dialogTemplate);
+        rect.SetRect(0, 0, extended->cx, extended->cy);
+    }
+    else
+    {
+        rect.SetRect(0, 0, dialogTemplate->cx, dialogTemplate->cy);
+    }
+    ::MapDialogRect(dialog, &rect);
+    return rect.Size();
+}
+
+BOOL CreateFromTemplate(CWnd* window, LPCDLGTEMPLATE dialogTemplate, CWnd* parent, DLGPROC procedure)
+{
+    EnsureCommonControls();
+    CreationScope scope(*window);
+    const HWND created = ::CreateDialogIndirectParam(AfxGetInstanceHandle(), dialogTemplate,
+                                                     parent->GetSafeHwnd(), procedure, 0);
+    return scope.Finish(created);
+}
+
+} // namespace quorfx

@@ -1,0 +1,240 @@
+// CFrameWnd: creation, layout and activation.
+#include "frame/FrameMessages.h"
+
+IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
+
+BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
+    ON_WM_CREATE()
+    ON_WM_DESTROY()
+    ON_WM_CLOSE()
+    ON_WM_SIZE()
+    ON_WM_SETFOCUS()
+    ON_WM_ACTIVATE()
+    ON_WM_INITMENUPOPUP()
+    ON_NOTIFY_EX_RANGE(TTN_NEEDTEXT, 0, 0xffff, &CFrameWnd::OnToolTipText)
+END_MESSAGE_MAP()
+
+const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
+
+namespace quorfx
+{
+
+LPCTSTR RegisterFrameClass(HICON icon)
+{
+    return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW),
+                               reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1)), icon);
+}
+
+} // namespace quorfx
+
+CFrameWnd::CFrameWnd()
+    : m_bAutoMenuEnable(TRUE), m_hAccelTable(NULL), m_pViewActive(NULL), m_bInRecalcLayout(FALSE)
+{
+}
+
+CFrameWnd::~CFrameWnd()
+{
+    // The window must die while this is still a frame: its views ask the frame for the active one.
+    DestroyWindow();
+}
+
+BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
+                       CWnd* pParentWnd, LPCTSTR lpszMenuName, DWORD dwExStyle, CCreateContext* pContext)
+{
+    HMENU menu = NULL;
+    if (lpszMenuName != NULL)
+    {
+        menu = ::LoadMenu(AfxFindResourceHandle(lpszMenuName, RT_MENU), lpszMenuName);
+        if (menu == NULL)
+        {
+            TRACE(_T("Frame: the menu is missing.\n"));
+            PostNcDestroy();
+            return FALSE;
+        }
+    }
+    m_strTitle = lpszWindowName;
+    const int width = rect.left == CW_USEDEFAULT ? CW_USEDEFAULT : rect.right - rect.left;
+    const int height = rect.left == CW_USEDEFAULT ? CW_USEDEFAULT : rect.bottom - rect.top;
+    const BOOL created = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
+                                  width, height, pParentWnd->GetSafeHwnd(), menu, pContext);
+    if (!created && menu != NULL)
+        ::DestroyMenu(menu);
+    return created;
+}
+
+BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentWnd, CCreateContext* pContext)
+{
+    CString text, title;
+    if (text.LoadString(nIDResource))
+        AfxExtractSubString(title, text, 0);
+    const LPCTSTR resource = MAKEINTRESOURCE(nIDResource);
+    const HICON icon = ::LoadIcon(AfxFindResourceHandle(resource, RT_GROUP_ICON), resource);
+    const CString className = quorfx::RegisterFrameClass(icon);
+    if (!Create(className, title, dwDefaultStyle, rectDefault, pParentWnd, resource, 0, pContext))
+        return FALSE;
+    LoadAccelTable(resource);
+    // With a context a document template sends the update after the document has been opened.
+    if (pContext == NULL)
+        SendMessageToDescendants(quorfx::initialUpdateMessage, 0, 0, TRUE, TRUE);
+    return TRUE;
+}
+
+BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName)
+{
+    ASSERT(m_hAccelTable == NULL);
+    m_hAccelTable =
+        ::LoadAccelerators(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
+    return m_hAccelTable != NULL;
+}
+
+BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
+{
+    if (cs.lpszClass == NULL)
+        cs.lpszClass = quorfx::RegisterFrameClass(NULL);
+    if (cs.style & FWS_ADDTOTITLE)
+        cs.style |= FWS_PREFIXTITLE;
+    return CWnd::PreCreateWindow(cs);
+}
+
+int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
+{
+    if (CWnd::OnCreate(lpCreateStruct) == -1)
+        return -1;
+    CCreateContext* context = static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams);
+    if (!OnCreateClient(lpCreateStruct, context))
+    {
+        TRACE(_T("Frame: the client area could not be created.\n"));
+        return -1;
+    }
+    RecalcLayout();
+    return 0;
+}
+
+BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* pContext)
+{
+    const bool wantsView = pContext != NULL && pContext->m_pNewViewClass != NULL;
+    return !wantsView || CreateView(pContext, AFX_IDW_PANE_FIRST) != NULL;
+}
+
+CWnd* CFrameWnd::CreateView(CCreateContext* pContext, UINT nID)
+{
+    CObject* object = pContext->m_pNewViewClass->CreateObject();
+    CWnd* view = DYNAMIC_DOWNCAST(CWnd, object);
+    if (view == NULL)
+    {
+        delete object;
+        return NULL;
+    }
+    // A view that cannot be created deletes itself.
+    if (!view->Create(NULL, NULL, quorfx::defaultViewStyle, CRect(0, 0, 0, 0), this, nID, pContext))
+        return NULL;
+    return view;
+}
+
+void CFrameWnd::OnDestroy()
+{
+    SetActiveView(NULL);
+    CWnd::OnDestroy();
+}
+
+void CFrameWnd::OnClose()
+{
+    DestroyWindow();
+}
+
+void CFrameWnd::PostNcDestroy()
+{
+    delete this;
+}
+
+void CFrameWnd::OnSize(UINT nType, int cx, int cy)
+{
+    CWnd::OnSize(nType, cx, cy);
+    if (nType != SIZE_MINIMIZED)
+        RecalcLayout();
+}
+
+void CFrameWnd::RecalcLayout(BOOL)
+{
+    if (m_bInRecalcLayout)
+        return;
+    m_bInRecalcLayout = TRUE;
+    RepositionBars(0, 0xffff, AFX_IDW_PANE_FIRST);
+    m_bInRecalcLayout = FALSE;
+}
+
+void CFrameWnd::OnSetFocus(CWnd* pOldWnd)
+{
+    if (m_pViewActive != NULL)
+        m_pViewActive->SetFocus();
+    else
+        CWnd::OnSetFocus(pOldWnd);
+}
+
+void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
+{
+    CWnd::OnActivate(nState, pWndOther, bMinimized);
+    CView* view = m_pViewActive;
+    if (view == NULL)
+        return;
+    if (nState != WA_INACTIVE && !bMinimized)
+        view->OnActivateView(TRUE, view, view);
+    view->OnActivateFrame(nState, this);
+}
+
+void CFrameWnd::SetActiveView(CView* pViewNew, BOOL bNotify)
+{
+    CView* before = m_pViewActive;
+    if (pViewNew == before)
+        return;
+    m_pViewActive = NULL;
+    if (before != NULL)
+        before->OnActivateView(FALSE, pViewNew, before);
+    // The old view may have made another one active.
+    if (m_pViewActive != NULL)
+        return;
+    m_pViewActive = pViewNew;
+    if (pViewNew != NULL && bNotify)
+        pViewNew->OnActivateView(TRUE, pViewNew, before);
+}
+
+CDocument* CFrameWnd::GetActiveDocument()
+{
+    return m_pViewActive != NULL ? m_pViewActive->GetDocument() : NULL;
+}
+
+CFrameWnd* CFrameWnd::GetActiveFrame()
+{
+    return this;
+}
+
+void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible)
+{
+    if (m_pViewActive == NULL)
+    {
+        CWnd* pane = GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE);
+        SetActiveView(DYNAMIC_DOWNCAST(CView, pane), FALSE);
+    }
+    if (bMakeVisible)
+    {
+        SendMessageToDescendants(quorfx::initialUpdateMessage, 0, 0, TRUE, TRUE);
+        CView* view = m_pViewActive;
+        if (view != NULL)
+            view->OnActivateFrame(WA_INACTIVE, this);
+        ActivateFrame(-1);
+        if (view != NULL)
+            view->OnActivateView(TRUE, view, view);
+    }
+    OnUpdateFrameTitle(TRUE);
+}
+
+void CFrameWnd::ActivateFrame(int nCmdShow)
+{
+    if (nCmdShow == -1 && !IsWindowVisible())
+        nCmdShow = SW_SHOWNORMAL;
+    else if (nCmdShow == -1 && IsIconic())
+        nCmdShow = SW_RESTORE;
+    if (nCmdShow != -1)
+        ShowWindow(nCmdShow);
+    BringWindowToTop();
+}

@@ -1,0 +1,42 @@
+// Workload: memory per cell, read from the growth of the process's private memory.
+#include "Subjects.h"
+#include "Workloads.h"
+
+#include <memory>
+
+#include <psapi.h>
+
+namespace bench
+{
+namespace
+{
+
+double WorkingSetBytes()
+{
+    PROCESS_MEMORY_COUNTERS counters = {};
+    counters.cb = sizeof(counters);
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+    return static_cast<double>(counters.WorkingSetSize);
+}
+
+// Each subject is kept alive until both are measured, so that neither profits from the other's freed memory.
+template <typename Fill> double BytesPerCell(long rows, Fill fill)
+{
+    const double before = WorkingSetBytes();
+    fill();
+    return (WorkingSetBytes() - before) / static_cast<double>(rows * ColumnCount);
+}
+
+} // namespace
+
+void RunMemory(Report& report)
+{
+    constexpr long Rows = 100000;
+    GridSubject grid(nullptr);
+    RawTable table;
+    const double ours = BytesPerCell(Rows, [&] { grid.AppendRows(Rows); });
+    const double floor = BytesPerCell(Rows, [&] { FillRawTable(table, Rows); });
+    report.Add({"memory per cell of 8 characters (bytes)", Rows, ours, "vectors of wstring", floor});
+}
+
+} // namespace bench

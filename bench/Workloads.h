@@ -1,0 +1,18 @@
+// The workloads, one function a family; each adds its lines to the report.
+#pragma once
+
+#include "Harness.h"
+
+namespace bench
+{
+
+// Filling N x 10 cells: without a window, with one as one change, and row by row.
+void RunPopulate(Report& report);
+// Full repaints at random positions, compared with the list view and with the bare drawing primitives.
+void RunRepaint(Report& report);
+// Line by line scrolling with a paint after each step.
+void RunScroll(Report& report);
+// Memory per cell.
+void RunMemory(Report& report);
+
+} // namespace bench

@@ -1,0 +1,33 @@
+// GridPage: the page with a plain grid, showing the chemical elements or a file of the user's.
+#pragma once
+
+#include "GalleryGrid.h"
+#include "Page.h"
+#include "TableFile.h"
+
+class GridPage : public Page
+{
+public:
+    explicit GridPage(LogPane& log);
+
+    CString GetTitle() const override;
+    CString GetPictureName() const override { return L"grid"; }
+    // Shows the table of a CSV file. A file that cannot be shown leaves the present table alone; the banner says
+    // why, and the log names every line that was left out.
+    bool OpenFile(const CString& path) override;
+
+protected:
+    BOOL OnInitDialog() override;
+    void DoDataExchange(CDataExchange* exchange) override;
+    void LayOut(int width, int height) override;
+
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnFlatHeaders();
+    afx_msg void OnFitLast();
+
+private:
+    void ShowTable(const gallery::CsvTable& table);
+
+    GalleryGrid grid;
+    CStatic banner;
+};

@@ -1,0 +1,43 @@
+// Page: the base of the gallery's pages.
+#pragma once
+
+#include <afxwin.h>
+
+class LogPane;
+
+// A page is a child dialog that shows one control and writes every notification that the control sends to its
+// parent into the log.
+class Page : public CDialog
+{
+public:
+    // `templateId` names the page's dialog resource; `log` outlives the page.
+    Page(UINT templateId, LogPane& log);
+
+    // The name in the page list.
+    virtual CString GetTitle() const = 0;
+    // The page's part of a picture's file name: ASCII, no blanks.
+    virtual CString GetPictureName() const = 0;
+    // Opens a table file in the page; returns false when the page shows no files.
+    virtual bool OpenFile(const CString& path);
+
+    // Creates the hidden page as a child of `parent`.
+    bool CreateIn(CWnd& parent);
+
+protected:
+    LogPane& Log() { return log; }
+    // Places the page's control after the page was resized; sizes in pixels.
+    virtual void LayOut(int width, int height) = 0;
+
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
+    BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+    // Enter and Esc leave the page alone.
+    void OnOK() override {}
+    void OnCancel() override {}
+
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnSize(UINT type, int width, int height);
+
+private:
+    UINT templateId;
+    LogPane& log;
+};

@@ -1,0 +1,158 @@
+// The page with a grid of tree rows.
+#include "TreeRowsPage.h"
+
+#include "GridFill.h"
+#include "LogPane.h"
+#include "resource.h"
+
+#include <algorithm>
+
+using QuorUiCtr::TGGridTreeRow;
+
+namespace
+{
+
+// The columns of the element table that make the two upper levels.
+constexpr const wchar_t* OuterGroupColumn = L"常温状态";
+constexpr const wchar_t* InnerGroupColumn = L"类别";
+constexpr const wchar_t* LabelColumn = L"中文名";
+
+long ColumnNamed(const gallery::CsvTable& table, const wchar_t* name)
+{
+    const auto found = std::find(table.header.begin(), table.header.end(), name);
+    return found == table.header.end() ? -1 : static_cast<long>(found - table.header.begin());
+}
+
+// Moves the label column to the front, where the tree is drawn.
+void MoveToFront(gallery::CsvTable& table, long column)
+{
+    const auto rotate = [column](std::vector<std::wstring>& texts)
+    { std::rotate(texts.begin(), texts.begin() + column, texts.begin() + column + 1); };
+    rotate(table.header);
+    for (std::vector<std::wstring>& row : table.rows)
+        rotate(row);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(TreeRowsPage, Page)
+    ON_BN_CLICKED(IDC_FLAT_HEADERS, &TreeRowsPage::OnFlatHeaders)
+    ON_BN_CLICKED(IDC_TREE_LINES, &TreeRowsPage::OnTreeLines)
+    ON_BN_CLICKED(IDC_FOLD_ALL, &TreeRowsPage::OnFoldAll)
+    ON_BN_CLICKED(IDC_UNFOLD_ALL, &TreeRowsPage::OnUnfoldAll)
+END_MESSAGE_MAP()
+
+TreeRowsPage::TreeRowsPage(LogPane& logPane) : Page(IDD_TREE_ROWS_PAGE, logPane), grid(true, logPane)
+{
+    grid.SetFlatButton(true);
+}
+
+CString TreeRowsPage::GetTitle() const
+{
+    return L"Tree rows 树形行";
+}
+
+void TreeRowsPage::DoDataExchange(CDataExchange* exchange)
+{
+    Page::DoDataExchange(exchange);
+    DDX_Control(exchange, IDC_BANNER, banner);
+}
+
+BOOL TreeRowsPage::OnInitDialog()
+{
+    Page::OnInitDialog();
+    CheckDlgButton(IDC_FLAT_HEADERS, BST_CHECKED);
+    CheckDlgButton(IDC_TREE_LINES, BST_CHECKED);
+    grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
+    const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"elements.csv").GetString());
+    if (table.IsRefused())
+        banner.SetWindowText(table.errors.front().c_str());
+    else
+        ShowTable(table);
+    return TRUE;
+}
+
+void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
+{
+    gallery::CsvTable table = source;
+    MoveToFront(table, std::max(0L, ColumnNamed(table, LabelColumn)));
+    const long outer = ColumnNamed(table, OuterGroupColumn);
+    const long inner = ColumnNamed(table, InnerGroupColumn);
+    if (outer < 0 || inner < 0)
+    {
+        banner.SetWindowText(L"数据表缺少分组列");
+        return;
+    }
+    QuorUiCtr::TGGridUpdate update(grid);
+    MakeColumns(grid, table);
+    for (const std::vector<std::wstring>& texts : table.rows)
+    {
+        TGGridTreeRow& group = ChildRow(RootRow(texts[static_cast<size_t>(outer)]), texts[static_cast<size_t>(inner)]);
+        group.AppendChild(nullptr);
+        FillRow(group.GetLastChild(), texts);
+    }
+    ForEachRoot(&TGGridTreeRow::UnFoldAll);
+    CString summary;
+    summary.Format(L"%d 种元素，三级", static_cast<int>(table.rows.size()));
+    banner.SetWindowText(summary);
+    grid.SetModify(false);
+}
+
+TGGridTreeRow& TreeRowsPage::RootRow(const std::wstring& label)
+{
+    for (long row = 0; row < grid.GetRowNum(); ++row)
+        if (grid.GetTreeRow(row)[0].GetText() == label.c_str())
+            return grid.GetTreeRow(row);
+    grid.AppendRow(nullptr);
+    TGGridTreeRow& root = grid.GetTreeRow(grid.GetRowNum() - 1);
+    root[0].SetText(label.c_str());
+    return root;
+}
+
+TGGridTreeRow& TreeRowsPage::ChildRow(TGGridTreeRow& parent, const std::wstring& label)
+{
+    for (parent.MoveToFirst(); !parent.IsOut(); parent.MoveToNext())
+        if (parent.CurChild()[0].GetText() == label.c_str())
+            return parent.CurChild();
+    parent.AppendChild(nullptr);
+    TGGridTreeRow& child = parent.GetLastChild();
+    child[0].SetText(label.c_str());
+    return child;
+}
+
+void TreeRowsPage::ForEachRoot(void (TGGridTreeRow::*operation)())
+{
+    QuorUiCtr::TGGridUpdate update(grid);
+    std::vector<TGGridTreeRow*> roots;
+    for (long row = 0; row < grid.GetRowNum(); ++row)
+        if (grid.GetTreeRow(row).IsRootRow())
+            roots.push_back(&grid.GetTreeRow(row));
+    for (TGGridTreeRow* root : roots)
+        (root->*operation)();
+}
+
+void TreeRowsPage::LayOut(int width, int height)
+{
+    PlaceBelowToolLine(*this, grid, banner, width, height);
+}
+
+void TreeRowsPage::OnFlatHeaders()
+{
+    grid.SetFlatButton(IsDlgButtonChecked(IDC_FLAT_HEADERS) != 0);
+    grid.Invalidate(TRUE);
+}
+
+void TreeRowsPage::OnTreeLines()
+{
+    grid.SetTreeLine(IsDlgButtonChecked(IDC_TREE_LINES) != 0);
+}
+
+void TreeRowsPage::OnFoldAll()
+{
+    ForEachRoot(&TGGridTreeRow::FoldAll);
+}
+
+void TreeRowsPage::OnUnfoldAll()
+{
+    ForEachRoot(&TGGridTreeRow::UnFoldAll);
+}

@@ -1,0 +1,37 @@
+// TreeRowsPage: the page with a grid of tree rows: the chemical elements by state and category.
+#pragma once
+
+#include "GalleryGrid.h"
+#include "Page.h"
+#include "TableFile.h"
+
+class TreeRowsPage : public Page
+{
+public:
+    explicit TreeRowsPage(LogPane& log);
+
+    CString GetTitle() const override;
+    CString GetPictureName() const override { return L"tree-rows"; }
+
+protected:
+    BOOL OnInitDialog() override;
+    void DoDataExchange(CDataExchange* exchange) override;
+    void LayOut(int width, int height) override;
+
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnFlatHeaders();
+    afx_msg void OnTreeLines();
+    afx_msg void OnFoldAll();
+    afx_msg void OnUnfoldAll();
+
+private:
+    void ShowTable(const gallery::CsvTable& table);
+    // The root row with this label, appended when there is none yet.
+    QuorUiCtr::TGGridTreeRow& RootRow(const std::wstring& label);
+    // The child of `parent` with this label, appended when there is none yet.
+    QuorUiCtr::TGGridTreeRow& ChildRow(QuorUiCtr::TGGridTreeRow& parent, const std::wstring& label);
+    void ForEachRoot(void (QuorUiCtr::TGGridTreeRow::*operation)());
+
+    GalleryGrid grid;
+    CStatic banner;
+};

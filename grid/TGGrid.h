@@ -11,11 +11,13 @@
 #include <afxcmn.h>
 #include <afxwin.h>
 
+#include <memory>
 #include <span>
 
 namespace QuorUiCtr
 {
 
+class CellWatch;
 class TGActiveQuad;
 class TGCellCtrl;
 class TGColSelector;
@@ -297,6 +299,39 @@ public:
     // Commits and closes after `ms` milliseconds.
     void AutoCloseCell(int ms);
 
+    // ---- Commands ---------------------------------------------------------------------------------------
+    // What the user does: these check the style word and the selection, ask the OnBefore... hooks and report
+    // the change. They return false, changing nothing, when refused. A row that a tree command hands to a hook
+    // prepared stays the grid's also when the hook replaces it.
+
+    // At the one selected column: before it, behind it; at the end. The new column is selected.
+    bool DoInsertCol();
+    bool DoInsertColAfter();
+    bool DoAppendCol();
+    // At the one selected row: before it, behind it. Beside a child row the new row becomes its sibling. The
+    // tree forms insert a row with one empty child. The new row is selected.
+    bool DoInsertRow();
+    bool DoInsertRowAfter();
+    bool DoInsertTree();
+    bool DoInsertTreeAfter();
+    // At the end: unselects everything, then selects the new row or scrolls to the new-row line.
+    bool DoAppendRow(bool select);
+    bool DoAppendTree();
+    // As the last child of the one selected row, added to the selection.
+    bool DoAppendChild();
+    // Deletes the selected rows that may be deleted, or the selected columns.
+    bool DoDelete();
+    // Copies the selected rows to the row buffer, also in a read-only grid.
+    bool DoCopy();
+    // Moves the selected rows to the row buffer.
+    bool DoClip();
+    // Moves the row buffer in front of the one selected row, or to the end in reverse order.
+    bool DoPaste();
+    // Moves the row buffer below the last child of the one selected row.
+    bool DoPasteChild();
+    // Sorts the rows, and the children of every row, by the row order; selected rows stay selected.
+    void Arrange(bool ascending);
+
     BOOL PreTranslateMessage(MSG* message) override;
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
@@ -383,8 +418,14 @@ protected:
     virtual bool OnActiveQuadTip(CString& text) const;
 
 protected:
+    friend class CellWatch;
+    friend class GridKeyMap;
     friend class RowWatch;
     friend class TGActiveQuad;
+    friend class TGCellButton;
+    friend class TGCellCombo;
+    friend class TGCellEdit;
+    friend class TGCellSpinEdit;
     friend class TGColSelector;
     friend class TGGridCell;
     friend class TGGridCol;
@@ -394,6 +435,15 @@ protected:
 
     // Sends WM_COMMAND with the grid's control id and `code` to the parent window, if there is one.
     void SendParentNotify(unsigned short code) const;
+
+    // Takes the rows that may not be deleted out of the selection and repaints.
+    void FilterDelUnable();
+    // A selected row may not be deleted.
+    bool IsSelDelUnable();
+    // The cut and the paste without flags and hooks: moves the selected rows to the row buffer, the row buffer
+    // in front of `row`.
+    void ClipSelect();
+    void Paste(long row);
 
     // Empties both selections without repainting and without OnCurChanged().
     void ClearSel();
@@ -425,6 +475,7 @@ protected:
     afx_msg LRESULT OnSetFont(WPARAM newFont, LPARAM redraw);
     afx_msg LRESULT OnSetText(WPARAM unused, LPARAM text);
     afx_msg void OnCancelMode();
+    afx_msg UINT OnGetDlgCode();
     afx_msg void OnPaint();
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* bar);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* bar);
@@ -433,6 +484,7 @@ protected:
     afx_msg HBRUSH OnCtlColor(CDC* context, CWnd* wnd, UINT kind);
     afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnKeyDown(UINT key, UINT repeat, UINT flags);
     afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
     afx_msg BOOL OnEraseBkgnd(CDC* context);
     afx_msg void OnKillFocus(CWnd* newFocus);
@@ -504,6 +556,26 @@ private:
     // Row height and column header height that the header windows were last placed for.
     CSize headerMeasure;
 
+    enum class CommandPlace
+    {
+        Before,
+        After
+    };
+    class Commands;
+    class RowBuffer;
+    class EditSession;
+    void SortRows(bool ascending);
+    bool RunMenuCommand(UINT id);
+    bool RouteEditorKey(UINT key);
+    bool RouteIdleKey(const MSG& message);
+    bool LeavesEditor(UINT key);
+
+    // The cell is being deleted: nothing refers to it from now on.
+    void ForgetCell(const TGGridCell* cell);
+
+    // The cells that operations on the stack are working on.
+    CellWatch* cellWatches = nullptr;
+
     // Postponed work between BeginUpdate and EndUpdate.
     int updateDepth = 0;
     bool layoutPending = false;
@@ -541,7 +613,6 @@ private:
     // Mouse (TGGridMouse.cpp).
     void PressCell(CPoint point);
     void PressTreeCell(long row, CPoint point);
-    void OpenLockedCell();
 
     // Rows and columns (TGGridStructure.cpp). Of these only TakeOut runs hooks and lays out anew.
     TGGridRow* MakeRow();

@@ -1,0 +1,170 @@
+// Deferred destruction of cell editors.
+#include "grid/CellEditorLife.h"
+
+#include "grid/TGCellCtrl.h"
+
+#include <algorithm>
+#include <vector>
+
+namespace QuorUiCtr
+{
+namespace CellEditorLife
+{
+
+struct Record
+{
+    TGCellCtrl* editor;
+    HWND window = nullptr;
+    int running = 0; // messages of the editor's windows being handled, plus its creation
+    bool retired = false;
+    bool windowGone = false;
+    bool deleteWanted = false;
+};
+
+namespace
+{
+
+// The editors alive: a handful at most, all on the user-interface thread.
+std::vector<Record*>& Records()
+{
+    static std::vector<Record*> records;
+    return records;
+}
+
+Record* FindRecord(const TGCellCtrl* editor)
+{
+    const auto found = std::find_if(Records().begin(), Records().end(),
+                                    [editor](const Record* record) { return record->editor == editor; });
+    return found == Records().end() ? nullptr : *found;
+}
+
+void DropRecord(Record* record)
+{
+    Records().erase(std::find(Records().begin(), Records().end(), record));
+    delete record;
+}
+
+// Destroys the window of a retired editor, or the object itself when it never got one.
+void DestroyRetired(Record* record)
+{
+    if (!record->window)
+    {
+        record->deleteWanted = true;
+        record->windowGone = true;
+        return;
+    }
+    ++record->running;
+    ::DestroyWindow(record->window);
+    --record->running;
+}
+
+void Settle(Record* record)
+{
+    if (record->running > 0)
+        return;
+    if (record->retired && !record->windowGone)
+        DestroyRetired(record);
+    if (!record->windowGone)
+        return;
+    TGCellCtrl* finished = record->deleteWanted ? record->editor : nullptr;
+    DropRecord(record);
+    delete finished;
+}
+
+LRESULT CALLBACK WatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                           DWORD_PTR data)
+{
+    Record* record = reinterpret_cast<Record*>(data);
+    ++record->running;
+    const LRESULT result = DefSubclassProc(window, message, wParam, lParam);
+    if (message == WM_NCDESTROY)
+    {
+        RemoveWindowSubclass(window, WatchProc, id);
+        record->windowGone = record->windowGone || window == record->window;
+    }
+    --record->running;
+    Settle(record);
+    return result;
+}
+
+void Watch(Record* record, HWND window)
+{
+    if (window)
+        SetWindowSubclass(window, WatchProc, reinterpret_cast<UINT_PTR>(record),
+                          reinterpret_cast<DWORD_PTR>(record));
+}
+
+BOOL CALLBACK WatchChild(HWND window, LPARAM data)
+{
+    Watch(reinterpret_cast<Record*>(data), window);
+    return TRUE;
+}
+
+// The drop-down list of a combo box is no child of it.
+HWND DropDownList(HWND window)
+{
+    COMBOBOXINFO info = {};
+    info.cbSize = sizeof(info);
+    return GetComboBoxInfo(window, &info) ? info.hwndList : nullptr;
+}
+
+void WatchWindows(Record* record)
+{
+    record->window = record->editor->GetWnd()->GetSafeHwnd();
+    if (!record->window)
+        return;
+    Watch(record, record->window);
+    EnumChildWindows(record->window, WatchChild, reinterpret_cast<LPARAM>(record));
+    const HWND list = DropDownList(record->window);
+    if (!::IsChild(record->window, list))
+        Watch(record, list);
+}
+
+} // namespace
+
+Creation::Creation(TGCellCtrl* newEditor) : record(new Record{newEditor})
+{
+    Records().push_back(record);
+    ++record->running;
+}
+
+Creation::~Creation()
+{
+    // An editor that was deleted meanwhile asked for it through Delete.
+    if (record->deleteWanted)
+        record->windowGone = true;
+    else
+        WatchWindows(record);
+    --record->running;
+    Settle(record);
+}
+
+void Retire(TGCellCtrl* editor)
+{
+    if (!editor)
+        return;
+    if (Record* record = FindRecord(editor))
+    {
+        record->retired = true;
+        Settle(record);
+    }
+}
+
+void Delete(TGCellCtrl* editor)
+{
+    Record* record = FindRecord(editor);
+    if (!record)
+    {
+        delete editor;
+        return;
+    }
+    record->deleteWanted = true;
+    if (record->running == 0)
+    {
+        record->windowGone = true;
+        Settle(record);
+    }
+}
+
+} // namespace CellEditorLife
+} // namespace QuorUiCtr

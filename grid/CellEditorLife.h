@@ -1,0 +1,41 @@
+// CellEditorLife: when a cell editor may be destroyed and deleted, whatever code of it is running.
+#pragma once
+
+#include <afxwin.h>
+
+namespace QuorUiCtr
+{
+
+class TGCellCtrl;
+
+// Hooks that an editor's handlers call may end the session, start another one or destroy the grid's window.
+// An editor whose code is on the stack then must stay in memory until it has returned. The editor's windows
+// are watched for that: destruction and deletion wait until no message of theirs is being handled.
+namespace CellEditorLife
+{
+
+struct Record;
+
+// Covers the making of an editor: keeps it in memory during Create and watches its windows afterwards.
+class Creation
+{
+public:
+    explicit Creation(TGCellCtrl* newEditor);
+    ~Creation();
+    Creation(const Creation&) = delete;
+    Creation& operator=(const Creation&) = delete;
+
+private:
+    Record* record;
+};
+
+// Destroys the editor of a finished session as soon as none of its code is running; null is ignored.
+void Retire(TGCellCtrl* editor);
+
+// Deletes an editor whose window is gone, at once or as soon as none of its code is running. For
+// PostNcDestroy.
+void Delete(TGCellCtrl* editor);
+
+} // namespace CellEditorLife
+
+} // namespace QuorUiCtr

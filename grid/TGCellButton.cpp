@@ -1,0 +1,60 @@
+// The push button of a cell's edit.
+#include "grid/TGCellButton.h"
+
+#include "grid/TGCellCtrl.h"
+#include "grid/TGCellCtrlIds.h"
+#include "grid/TGCellSpin.h"
+#include "grid/TGGrid.h"
+#include "grid/TipAnswer.h"
+
+namespace QuorUiCtr
+{
+
+BEGIN_MESSAGE_MAP(TGCellButton, CButton)
+    ON_CONTROL_REFLECT(BN_CLICKED, &TGCellButton::OnBnClicked)
+END_MESSAGE_MAP()
+
+TGCellButton::TGCellButton(TGCellCtrl* owningEditor) : owner(owningEditor) {}
+
+TGCellButton::~TGCellButton() = default;
+
+bool TGCellButton::Create()
+{
+    CRect square;
+    if (!RightEndSquare(*owner->GetWnd(), square) ||
+        !CButton::Create(L"", WS_CHILD | WS_VISIBLE | WS_BORDER, square, owner->GetWnd(), CellEditorPartId))
+        return false;
+    EnableToolTips(TRUE);
+    return true;
+}
+
+void TGCellButton::OnBnClicked()
+{
+    TGGridCell& cell = owner->GetCell();
+    CString text;
+    owner->GetNewText(text);
+    const bool taken = cell.GetGrid().OnCellButtonDown(cell, text);
+    // The hook may have destroyed the windows; the objects live on until this message is done.
+    if (!m_hWnd)
+        return;
+    if (taken)
+    {
+        owner->SetNewText(text);
+        owner->SetModified(true);
+    }
+    Invalidate();
+    if (owner->GetWnd()->IsWindowVisible())
+        owner->GetWnd()->SetFocus();
+}
+
+INT_PTR TGCellButton::OnToolHitTest(CPoint, TOOLINFO* info) const
+{
+    const TGGridCell& cell = owner->GetCell();
+    CString tip;
+    if (!cell.GetGrid().OnCellButtonTip(cell.GetRowIndex(), cell.GetColIndex(), tip))
+        return -1;
+    AnswerToolHit(*info, m_hWnd, TTF_CENTERTIP, tip);
+    return cell.GetRowIndex();
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,40 @@
+// The parts of the cell editors' interface that do not depend on the kind of editor.
+#include "grid/TGCellCtrl.h"
+
+namespace QuorUiCtr
+{
+
+TGCellCtrl::TGCellCtrl(TGGridCell& editedCell) : cell(editedCell) {}
+
+TGCellCtrl::TGCellCtrl(const TGCellCtrl& other) = default;
+
+TGCellCtrl::~TGCellCtrl() = default;
+
+void TGCellCtrl::SetModified(bool) {}
+
+void TGCellCtrl::SetNewText(const wchar_t*) {}
+
+bool TGCellCtrl::IsMyFocus(CWnd* wnd)
+{
+    const HWND editor = GetWnd()->GetSafeHwnd();
+    const HWND asked = wnd->GetSafeHwnd();
+    return asked == editor || ::IsChild(editor, asked);
+}
+
+void TGCellCtrl::Destroy()
+{
+    GetWnd()->DestroyWindow();
+}
+
+void TGCellCtrl::Hide()
+{
+    CWnd* wnd = GetWnd();
+    if (!wnd->GetSafeHwnd())
+        return;
+    wnd->ShowWindow(SW_HIDE);
+    // Hiding moves the focus, and what follows from that may have destroyed the window.
+    if (wnd->GetSafeHwnd())
+        wnd->EnableWindow(FALSE);
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,73 @@
+// A cell's edit with a spin control.
+#include "grid/TGCellSpinEdit.h"
+
+#include "grid/TGGrid.h"
+
+namespace QuorUiCtr
+{
+
+BEGIN_MESSAGE_MAP(TGCellSpinEdit, TGCellEdit)
+    ON_WM_VSCROLL()
+    ON_CONTROL_REFLECT(EN_CHANGE, &TGCellSpinEdit::OnEnChange)
+END_MESSAGE_MAP()
+
+TGCellSpinEdit::TGCellSpinEdit(TGGridCell& editedCell)
+    : TGCellEdit(editedCell), spin(static_cast<TGCellCtrl*>(this))
+{
+}
+
+TGCellSpinEdit::~TGCellSpinEdit() = default;
+
+void TGCellSpinEdit::Create(CRect& rect)
+{
+    CreateWithRoom(rect);
+    if (spin.Create())
+        InitSpin();
+}
+
+void TGCellSpinEdit::InitSpin()
+{
+    constexpr int DefaultMaximum = 100000;
+    const CString text = GetCell().GetText();
+    spin.SetRange32(0, DefaultMaximum);
+    GetCell().GetGrid().OnCellSpinInit(GetCell(), spin);
+    if (!spin.m_hWnd || FollowText(text))
+        return;
+    int lower = 0;
+    int upper = 0;
+    spin.GetRange32(lower, upper);
+    spin.SetPos(lower);
+}
+
+bool TGCellSpinEdit::FollowText(const CString& text)
+{
+    const int value = _wtoi(text);
+    int lower = 0;
+    int upper = 0;
+    spin.GetRange32(lower, upper);
+    if (value < lower || value > upper)
+        return false;
+    spin.SetPos(value);
+    return true;
+}
+
+void TGCellSpinEdit::OnVScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    TGCellEdit::OnVScroll(code, position, bar);
+    CString text;
+    text.Format(L"%d", static_cast<int>(position));
+    SetNewText(text);
+    SetModified(true);
+    SelectAllText();
+}
+
+void TGCellSpinEdit::OnEnChange()
+{
+    if (!spin.m_hWnd)
+        return;
+    CString text;
+    GetNewText(text);
+    FollowText(text);
+}
+
+} // namespace QuorUiCtr

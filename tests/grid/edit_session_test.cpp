@@ -1,0 +1,350 @@
+// The edit session: opening, committing, dropping, the new-row line, the timers.
+#include "EditGrid.h"
+
+#include "grid/TGCellEdit.h"
+
+using namespace QuorUiCtr;
+
+namespace quor::test
+{
+namespace
+{
+
+class EditSessionTest : public GridWindowTest
+{
+protected:
+    void Make(EditGrid& grid, long rows = 3, long cols = 3)
+    {
+        Create(grid);
+        Fill(grid, rows, cols);
+        grid.recording = true;
+    }
+    static CString TextOf(EditGrid& grid, long row, long col) { return grid.GetCell(row, col).GetText(); }
+};
+
+TEST_F(EditSessionTest, BeginEdit_RunsTheHooksInTheirOrder)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 2);
+    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,2 | editor 1,2 | cur 1,2");
+    EXPECT_TRUE(grid.IsEditing());
+    long row = -1;
+    long col = -1;
+    EXPECT_TRUE(grid.GetCurCell(row, col));
+    EXPECT_EQ(row, 1);
+    EXPECT_EQ(col, 2);
+}
+
+TEST_F(EditSessionTest, BeginEdit_OnAReadOnlyColumn_HasClearedTheSelectionAndCommittedThePreviousEdit)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.GetCol(2).SetReadOnly(true);
+    grid.BeginEditCell(0, 0);
+    grid.Enter(L"typed");
+    grid.SelectRow(1, true);
+    grid.BeginEditCell(0, 1);
+    grid.Enter(L"more");
+    grid.BeginEditCell(1, 2);
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_FALSE(grid.IsRowSelected());
+    EXPECT_EQ(TextOf(grid, 0, 0), L"typed");
+    EXPECT_EQ(TextOf(grid, 0, 1), L"more");
+}
+
+TEST_F(EditSessionTest, ReadOnlyInAnyWay_RefusesTheEdit)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.GetCell(0, 0).SetReadOnly(true);
+    grid.GetRow(1).SetReadOnly(true);
+    grid.BeginEditCell(0, 0);
+    EXPECT_FALSE(grid.IsEditing());
+    grid.BeginEditCell(1, 1);
+    EXPECT_FALSE(grid.IsEditing());
+    grid.SetReadOnly(true);
+    grid.BeginEditCell(2, 2);
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(grid.TakeText().find("before"), std::string::npos);
+}
+
+TEST_F(EditSessionTest, EndEdit_OfAModifiedText_StoresItBetweenModifiedAndChanged)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"new");
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(grid.TakeText(), "modified 1,1 new | changed");
+    EXPECT_EQ(TextOf(grid, 1, 1), L"new");
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_TRUE(grid.IsModified());
+}
+
+TEST_F(EditSessionTest, EndEdit_OfAnUntouchedEditor_CallsNoHook)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(grid.TakeText(), "");
+    EXPECT_FALSE(grid.IsModified());
+}
+
+TEST_F(EditSessionTest, TheModifiedMarkAloneDecides_NotTheText)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    grid.Enter(TextOf(grid, 1, 1));
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(grid.TakeText(), "modified 1,1 1,1 | changed");
+}
+
+TEST_F(EditSessionTest, OnModified_MayChangeOrRefuseTheText)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.modifiedText = [](TGGridCell&, CString& text)
+    {
+        text += L"!";
+        return true;
+    };
+    grid.BeginEditCell(0, 0);
+    grid.Enter(L"a");
+    grid.EndEditCell();
+    EXPECT_EQ(TextOf(grid, 0, 0), L"a!");
+    grid.modifiedText = [](TGGridCell&, CString&) { return false; };
+    grid.BeginEditCell(0, 0);
+    grid.Enter(L"b");
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(TextOf(grid, 0, 0), L"a!");
+    EXPECT_EQ(grid.TakeText(), "modified 0,0 b");
+}
+
+TEST_F(EditSessionTest, CancelEdit_StoresNothingAndCallsNoHook)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"dropped");
+    grid.TakeText();
+    grid.CancelEditCell();
+    EXPECT_EQ(grid.TakeText(), "");
+    EXPECT_EQ(TextOf(grid, 1, 1), L"1,1");
+    EXPECT_FALSE(grid.IsEditing());
+}
+
+TEST_F(EditSessionTest, TheNewRowLine_BecomesOneRowThatHoldsTheText)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(3, 1);
+    ASSERT_TRUE(grid.IsEditing());
+    grid.Enter(L"fresh");
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(grid.TakeText(), "modified 3,1 fresh | insert? 3 | inserted 3 | changed");
+    ASSERT_EQ(grid.GetRowNum(), 4);
+    EXPECT_EQ(TextOf(grid, 3, 1), L"fresh");
+    EXPECT_EQ(grid.GetRow(3).GetIndex(), 3);
+    // The line is there again below the new row.
+    grid.BeginEditCell(4, 0);
+    EXPECT_TRUE(grid.IsEditing());
+}
+
+TEST_F(EditSessionTest, OnModifiedRefusing_OnTheNewRowLine_InsertsNoRow)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.modifiedText = [](TGGridCell&, CString&) { return false; };
+    grid.BeginEditCell(3, 1);
+    grid.Enter(L"no");
+    grid.EndEditCell();
+    EXPECT_EQ(grid.GetRowNum(), 3);
+}
+
+TEST_F(EditSessionTest, OnBeforeInsertRowRefusing_LeavesTheRowCountAndAFreshLine)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeInsertRow = [](long, TGGridRow*&) { return false; };
+    grid.BeginEditCell(3, 1);
+    grid.Enter(L"no");
+    grid.EndEditCell();
+    EXPECT_EQ(grid.GetRowNum(), 3);
+    grid.beforeInsertRow = nullptr;
+    grid.BeginEditCell(3, 1);
+    ASSERT_TRUE(grid.IsEditing());
+    EXPECT_TRUE(grid.editor->GetCell().GetText().IsEmpty());
+}
+
+TEST_F(EditSessionTest, TheHookMaySupplyTheNewRow)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeInsertRow = [&](long, TGGridRow*& row)
+    {
+        row = new TGGridRow(grid);
+        (*row)[0].SetText(L"supplied");
+        return true;
+    };
+    grid.BeginEditCell(3, 1);
+    grid.Enter(L"typed");
+    grid.EndEditCell();
+    ASSERT_EQ(grid.GetRowNum(), 4);
+    EXPECT_EQ(TextOf(grid, 3, 0), L"supplied");
+    EXPECT_EQ(TextOf(grid, 3, 1), L"typed");
+}
+
+TEST_F(EditSessionTest, CommitNewRow_AddsTheNewRowWithoutAnEditor)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow)
+    {
+        commitNewRow = true;
+        return false;
+    };
+    grid.BeginEditCell(3, 0);
+    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 3,0 | insert? 3 | inserted 3 | changed");
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(grid.GetRowNum(), 4);
+}
+
+TEST_F(EditSessionTest, CommitNewRow_OnAnOrdinaryRow_DoesNothing)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow)
+    {
+        commitNewRow = true;
+        return false;
+    };
+    grid.BeginEditCell(1, 0);
+    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,0");
+    EXPECT_EQ(grid.GetRowNum(), 3);
+}
+
+TEST_F(EditSessionTest, WithoutAnEditor_TheGridStaysIdle)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.makeEditor = [](TGGridCell&) -> TGCellCtrl* { return nullptr; };
+    grid.BeginEditCell(1, 1);
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,1 | editor 1,1");
+}
+
+TEST_F(EditSessionTest, AutoEdit_OpensTheCellByTimerAndDropsWhatIsOpen)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(0, 0);
+    grid.Enter(L"dropped");
+    grid.AutoEditCell(&grid.GetCell(2, 1));
+    EXPECT_TRUE(grid.IsCellLocking());
+    grid.AutoEditCell(&grid.GetCell(1, 1));
+    ASSERT_TRUE(PumpUntil([&] { return !grid.IsCellLocking(); }));
+    long row = -1;
+    long col = -1;
+    ASSERT_TRUE(grid.GetCurCell(row, col));
+    EXPECT_EQ(row, 2);
+    EXPECT_EQ(col, 1);
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+}
+
+TEST_F(EditSessionTest, AutoEditOfNothing_WithNoSession_DoesNothing)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.AutoEditCell(nullptr);
+    EXPECT_FALSE(grid.IsCellLocking());
+    PumpPending();
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(grid.TakeText(), "");
+}
+
+TEST_F(EditSessionTest, AutoEditOfNothing_ReopensTheCellUnderEdit)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    TGCellCtrl* first = grid.editor;
+    grid.AutoEditCell(nullptr);
+    EXPECT_TRUE(grid.IsCellLocking());
+    ASSERT_TRUE(PumpUntil([&] { return !grid.IsCellLocking() && grid.editor != first; }));
+    EXPECT_TRUE(grid.IsEditing());
+}
+
+TEST_F(EditSessionTest, AutoClose_CommitsWhenTheTimerFires)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"late");
+    grid.AutoCloseCell(10);
+    ASSERT_TRUE(PumpUntil([&] { return !grid.IsEditing(); }));
+    EXPECT_EQ(TextOf(grid, 1, 1), L"late");
+}
+
+TEST_F(EditSessionTest, EditorsOfFinishedSessions_AreDestroyed)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.recording = false;
+    for (int i = 0; i < 200; ++i)
+        grid.BeginEditCell(i % 3, i % 2);
+    grid.EndEditCell();
+    int children = 0;
+    for (CWnd* child = grid.GetWindow(GW_CHILD); child; child = child->GetWindow(GW_HWNDNEXT))
+        children += child->GetDlgCtrlID() == 101;
+    EXPECT_EQ(children, 1);
+}
+
+TEST_F(EditSessionTest, TheEditorCoversTheCellInsideItsLines)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    // Two pixels right of the cell's inside, where the text begins.
+    CRect expected = grid.InsideOf(1, 1);
+    expected.left += 2;
+    EXPECT_EQ(Text(PlaceOf(*grid.EditorWindow())), Text(expected));
+}
+
+TEST_F(EditSessionTest, BeginEdit_ScrollsTheCellIntoView)
+{
+    EditGrid grid;
+    Make(grid, 100, 20);
+    grid.BeginEditCell(90, 15);
+    CRect area = grid.Area();
+    CRect place = PlaceOf(*grid.EditorWindow());
+    EXPECT_TRUE(area.left <= place.left && place.right <= area.right);
+    EXPECT_TRUE(area.top <= place.top && place.bottom <= area.bottom);
+}
+
+TEST_F(EditSessionTest, InTheTreeColumn_TheEditorBeginsRightOfTheBox)
+{
+    EditGrid grid(true);
+    Create(grid);
+    grid.AppendCol(L"", 200);
+    grid.AppendRow(nullptr);
+    grid.GetTreeRow(0).AppendChild(nullptr);
+    grid.GetTreeRow(0).UnFold();
+    grid.BeginEditCell(0, 0);
+    const long parentLeft = PlaceOf(*grid.EditorWindow()).left;
+    grid.BeginEditCell(1, 0);
+    const long childLeft = PlaceOf(*grid.EditorWindow()).left;
+    // The parent's box is 17 wide from x = 2; the child begins one box width further right.
+    EXPECT_EQ(parentLeft, grid.ToClient(19, 0).x + 2);
+    EXPECT_EQ(childLeft - parentLeft, 17);
+}
+
+} // namespace
+} // namespace quor::test

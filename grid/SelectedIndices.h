@@ -1,0 +1,28 @@
+// The index lists behind the row and column selections: ascending, without duplicates.
+#pragma once
+
+#include "grid/collections/DualList.h"
+
+namespace QuorUiCtr::SelectedIndices
+{
+
+// The position of the first entry that is not below `index`; the number of entries when all are.
+long LowerBound(DualList<long>& entries, long index);
+
+bool Contains(DualList<long>& entries, long index);
+// False when the index is there already.
+bool Add(DualList<long>& entries, long index);
+// False when the index is not there.
+bool Remove(DualList<long>& entries, long index);
+
+// Adds `step` to the entries from the last one back to the first one that is below `first`. The walk ends
+// when the cursor of `bound`, which goes back with it, is out; entries are reached through their own cursor,
+// so another list than `entries` as the bound changes the last entry again and again.
+template <class Bound> void Shift(DualList<long>& entries, Bound& bound, long first, long step)
+{
+    entries.MoveToLast();
+    for (; !bound.IsOut() && !entries.IsOut() && entries.Cur() >= first; bound.MoveToPre())
+        entries.SetCur(entries.Cur() + step);
+}
+
+} // namespace QuorUiCtr::SelectedIndices

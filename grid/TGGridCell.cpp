@@ -1,0 +1,57 @@
+// A cell's text, read-only rule and rectangles; its drawing is in TGGridCellPaint.cpp.
+#include "grid/TGGridCell.h"
+
+#include "grid/TGGrid.h"
+
+namespace QuorUiCtr
+{
+
+TGGridCell::TGGridCell(TGGrid& owner, TGGridRow& ownRow, TGGridCol& ownCol)
+    : row(&ownRow), col(&ownCol), grid(&owner)
+{
+}
+
+TGGridCell::~TGGridCell() = default;
+
+TGGridCell& TGGridCell::operator=(const TGGridCell& other)
+{
+    text = other.text;
+    style = other.style;
+    return *this;
+}
+
+long TGGridCell::GetRowIndex() const
+{
+    return row->GetIndex();
+}
+
+long TGGridCell::GetColIndex() const
+{
+    return col->GetIndex();
+}
+
+bool TGGridCell::IsReadOnly() const
+{
+    return (style & ReadOnlyFlag) != 0 || col->IsReadOnly() || row->IsReadOnly() || grid->IsReadOnly();
+}
+
+void TGGridCell::GetRect(CRect& rect) const
+{
+    rect.SetRect(col->GetLeft(), row->GetTop(), col->GetRight(), row->GetBottom());
+}
+
+void TGGridCell::GetTextRect(CRect& rect) const
+{
+    GetRect(rect);
+    rect.left += 1;
+    rect.top += 1;
+}
+
+void TGGridCell::Select(bool)
+{
+    CRect rect;
+    GetRect(rect);
+    grid->InvertBand(rect);
+}
+
+} // namespace QuorUiCtr

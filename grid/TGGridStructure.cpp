@@ -1,0 +1,376 @@
+// TGGrid's rows and columns: insert, append, delete, move, and what tree rows need to come and go.
+//
+// Ending an edit and deselecting run hooks, which may change the structure or delete the object at hand:
+// indices and pointers are looked up, or their watches asked, again afterwards.
+#include "grid/TGGrid.h"
+
+#include "grid/RowWatch.h"
+#include "grid/SelectedIndices.h"
+
+#include <algorithm>
+#include <iterator>
+#include <memory>
+#include <vector>
+
+namespace QuorUiCtr
+{
+
+// ---- Rows -------------------------------------------------------------------------------------------------
+
+TGGridRow* TGGrid::MakeRow()
+{
+    return treeGrid ? new TGGridTreeRow(*this) : new TGGridRow(*this);
+}
+
+void TGGrid::InsertRow(long i, TGGridRow* row)
+{
+    EndEditCell();
+    ASSERT(i >= 0 && i <= GetRowNum());
+    if (row == nullptr)
+        row = MakeRow();
+    InsertRows(std::clamp(i, 0L, GetRowNum()), {&row, 1});
+    RecalcLayout(1);
+}
+
+void TGGrid::AppendRow(TGGridRow* row)
+{
+    EndEditCell();
+    if (row == nullptr)
+        row = MakeRow();
+    row->SetIndex(rows.Append(row));
+    RecalcLayout(1);
+}
+
+void TGGrid::DelRow(long i)
+{
+    EndEditCell();
+    ASSERT(IsValidRow(i));
+    if (!IsValidRow(i))
+        return;
+    TGGridRow* row = RowAt(i);
+    const RowWatch watch(*this, row);
+    SelectRow(i, false);
+    if (watch.IsAlive())
+        i = row->GetIndex();
+    if (!IsValidRow(i) || RowAt(i) != row)
+        return;
+    if (row != nullptr)
+    {
+        DetachFromTree(*row);
+        i = row->GetIndex();
+    }
+    RemoveRows(i, 1);
+    delete row;
+    RecalcLayout(1);
+}
+
+void TGGrid::DelRowEx(long i)
+{
+    ASSERT(IsValidRow(i));
+    TGGridRow* row = RowAt(i);
+    const RowWatch watch(*this, row);
+    const TGGridUpdate update(*this);
+    if (row != nullptr && row->IsTreeRow())
+    {
+        TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(*row);
+        if (treeRow.IsChildRow())
+        {
+            treeRow.GetParent().DelChild(treeRow.GetParent().GetChildIndex(&treeRow));
+            return;
+        }
+        treeRow.Fold();
+        if (!watch.IsAlive())
+            return;
+        i = treeRow.GetIndex();
+    }
+    DelRow(i);
+}
+
+void TGGrid::MoveRow(long from, long to)
+{
+    if (to == from || to == from + 1)
+        return;
+    ASSERT(IsValidRow(from) && to >= 0 && to <= GetRowNum());
+    if (!rows.Move(from, to))
+        return;
+    NumberRows(0);
+    Invalidate(1);
+}
+
+void TGGrid::SetRowNum(long n)
+{
+    const TGGridUpdate update(*this);
+    while (GetRowNum() > std::max(n, 0L))
+        DelRow(GetRowNum() - 1);
+    while (GetRowNum() < n)
+        AppendRow(nullptr);
+}
+
+void TGGrid::Clear()
+{
+    const TGGridUpdate update(*this);
+    EndEditCell();
+    ClearSel();
+    ReleaseChildRows();
+    rows.Clear();
+    RecalcLayout(1);
+}
+
+void TGGrid::InsertRows(long at, std::span<TGGridRow* const> added)
+{
+    rows.SpliceInsert(at, added);
+    NumberRows(at);
+    SelectedIndices::Shift(rowSel, rowSel, at, static_cast<long>(added.size()));
+}
+
+void TGGrid::RemoveRows(long at, long number)
+{
+    if (number <= 0)
+        return;
+    rows.Release(at, number);
+    NumberRows(at);
+    // A hook may have selected one of the rows again.
+    const long first = SelectedIndices::LowerBound(rowSel, at);
+    rowSel.Release(first, SelectedIndices::LowerBound(rowSel, at + number) - first);
+    SelectedIndices::Shift(rowSel, rowSel, at + number, -number);
+}
+
+void TGGrid::NumberRows(long first)
+{
+    for (rows.MoveTo(first); !rows.IsOut(); rows.MoveToNext())
+        if (TGGridRow* row = rows.Cur())
+            row->SetIndex(rows.GetCur());
+}
+
+// ---- Tree rows --------------------------------------------------------------------------------------------
+
+void TGGrid::TakeOut(TGGridRow& row)
+{
+    const RowWatch watch(*this, &row);
+    EndEditCell();
+    if (watch.IsAlive())
+        SelectRow(row.GetIndex(), false);
+    if (!watch.IsAlive() || RowAt(row.GetIndex()) != &row)
+        return;
+    RemoveRows(row.GetIndex(), 1);
+    row.SetIndex(-1);
+    RecalcLayout(1);
+}
+
+bool TGGrid::IsOffspringAt(long i, const TGGridTreeRow& top)
+{
+    TGGridRow* row = RowAt(i);
+    return row != nullptr && row->IsTreeRow() && static_cast<TGGridTreeRow*>(row)->IsBelow(&top);
+}
+
+bool TGGrid::RemoveOffspring(TGGridTreeRow& top)
+{
+    const long number = top.CountShownOffspring();
+    if (number == 0)
+        return false;
+    top.MarkHidden();
+    RemoveHiddenRows(top.GetIndex() + 1, number);
+    return true;
+}
+
+// Hidden rows stand in one run from `first` on, unless the host has moved rows about: then they are taken out
+// one by one, from the last, because taking out numbers the rows behind.
+void TGGrid::RemoveHiddenRows(long first, long number)
+{
+    const auto isHidden = [](const TGGridRow* row) { return row != nullptr && row->GetIndex() == -1; };
+    const auto run =
+        std::distance(rows.IteratorAt(first), std::find_if_not(rows.IteratorAt(first), rows.end(), isHidden));
+    if (run == number)
+    {
+        RemoveRows(first, number);
+        return;
+    }
+    for (long i = GetRowNum() - 1; i >= 0; --i)
+        if (isHidden(RowAt(i)))
+            RemoveRows(i, 1);
+}
+
+void TGGrid::InsertOffspring(TGGridTreeRow& top)
+{
+    std::vector<TGGridRow*> selected;
+    const bool partlyShown = top.HasShownOffspring();
+    if (partlyShown)
+    {
+        for (const long i : rowSel)
+            selected.push_back(RowAt(i));
+        RemoveOffspring(top);
+    }
+    std::vector<TGGridRow*> shown;
+    top.CollectOffspring(shown);
+    InsertRows(top.GetIndex() + 1, shown);
+    if (!partlyShown)
+        return;
+    rowSel.Clear();
+    for (const TGGridRow* row : selected)
+        if (row != nullptr && row->GetIndex() != -1)
+            SelectedIndices::Add(rowSel, row->GetIndex());
+}
+
+void TGGrid::DetachFromTree(TGGridRow& row)
+{
+    if (!row.IsTreeRow())
+        return;
+    TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(row);
+    RemoveOffspring(treeRow);
+    if (TGGridTreeRow* parent = treeRow.Parent())
+        parent->children.Detach(parent->GetChildIndex(&treeRow));
+}
+
+void TGGrid::ReleaseChildRows()
+{
+    for (TGGridRow* row : rows)
+        if (row != nullptr && row->IsTreeRow() && !row->IsChildRow())
+            static_cast<TGGridTreeRow*>(row)->MarkHidden();
+    for (TGGridRow*& row : rows)
+        if (row != nullptr && row->GetIndex() == -1)
+            row = nullptr;
+}
+
+// ---- Columns ----------------------------------------------------------------------------------------------
+
+// The paste buffer and the new row keep one cell per column like the rows of the grid.
+template <class Change> void TGGrid::ChangeRows(Change change)
+{
+    for (TGGridRow* row : rows)
+        if (row != nullptr && !row->IsChildRow())
+            change(*row);
+    for (TGGridRow* row : rowPaste)
+        if (row != nullptr)
+            change(*row);
+    if (newRow != nullptr)
+        change(*newRow);
+}
+
+void TGGrid::InsertCol(long i, TGGridCol* col, long width)
+{
+    EndEditCell();
+    ASSERT(i >= 0 && i <= GetColNum());
+    i = std::clamp(i, 0L, GetColNum());
+    if (width == 0)
+        width = defaultWidth;
+    if (col == nullptr)
+        col = new TGGridCol(nullptr, *this);
+    const TGGridCol* follower = ColAtIndex(i);
+    const long left = follower != nullptr ? follower->GetLeft() : GetRight();
+    col->SetLeft(left);
+    col->SetRight(left + width);
+    col->SetIndex(i);
+    cols.Insert(i, col);
+    for (cols.MoveToNext(); !cols.IsOut(); cols.MoveToNext())
+    {
+        cols.Cur()->Move(width);
+        cols.Cur()->SetIndex(cols.GetCur());
+    }
+    ChangeRows([i, col](TGGridRow& row) { row.InsertCol(i, *col); });
+    // Bounded by the columns' cursor, which the loop above has left past the end: unless a row moves it, the
+    // selection keeps its numbers.
+    SelectedIndices::Shift(colSel, cols, i, 1);
+    RecalcLayout(1);
+}
+
+void TGGrid::InsertCol(long i, const wchar_t* name, long width)
+{
+    InsertCol(i, new TGGridCol(name, *this), width);
+}
+
+void TGGrid::AppendCol(TGGridCol* col, long width)
+{
+    EndEditCell();
+    if (width == 0)
+        width = defaultWidth;
+    if (col == nullptr)
+        col = new TGGridCol(nullptr, *this);
+    const long left = GetRight();
+    col->SetLeft(left);
+    col->SetRight(left + width);
+    col->SetIndex(cols.Append(col));
+    ChangeRows([col](TGGridRow& row) { row.AppendCol(*col); });
+    RecalcLayout(1);
+}
+
+void TGGrid::AppendCol(const wchar_t* name, long width)
+{
+    AppendCol(new TGGridCol(name, *this), width);
+}
+
+void TGGrid::DelCol(long i)
+{
+    EndEditCell();
+    ASSERT(IsValidCol(i));
+    if (!IsValidCol(i))
+        return;
+    SelectCol(i, false);
+    if (!IsValidCol(i))
+        return;
+    const std::unique_ptr<TGGridCol> col(ColAtIndex(i));
+    const long width = col->GetWidth();
+    cols.MoveTo(i);
+    cols.SetCur(nullptr);
+    cols.Del();
+    for (cols.MoveToNext(); !cols.IsOut(); cols.MoveToNext())
+    {
+        cols.Cur()->Move(-width);
+        cols.Cur()->SetIndex(cols.GetCur());
+    }
+    ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
+    RecalcLayout(1);
+    // As in InsertCol.
+    SelectedIndices::Shift(colSel, cols, i + 1, -1);
+}
+
+void TGGrid::MoveCol(long from, long to)
+{
+    if (to == from || to == from + 1)
+        return;
+    ASSERT(IsValidCol(from) && to >= 0 && to <= GetColNum());
+    if (!IsValidCol(from) || to < 0 || to > GetColNum())
+        return;
+    PlaceMovingCol(from, to);
+    ChangeRows([from, to](TGGridRow& row) { row.MoveCol(from, to); });
+    cols.Move(from, to);
+    for (cols.MoveToFirst(); !cols.IsOut(); cols.MoveToNext())
+        cols.Cur()->SetIndex(cols.GetCur());
+    Invalidate(1);
+}
+
+// The edges of a column that is about to move and of the columns that it passes.
+void TGGrid::PlaceMovingCol(long from, long to)
+{
+    TGGridCol& moving = *ColAtIndex(from);
+    const long width = moving.GetWidth();
+    if (from < to)
+    {
+        const long right = ColAtIndex(to - 1)->GetRight();
+        MoveColEdges(from + 1, to, -width);
+        moving.Move(right - moving.GetRight());
+    }
+    else
+    {
+        const long left = ColAtIndex(to)->GetLeft();
+        MoveColEdges(to, from, width);
+        moving.Move(left - moving.GetLeft());
+    }
+}
+
+void TGGrid::MoveColEdges(long first, long last, long distance)
+{
+    auto col = cols.IteratorAt(first);
+    for (long i = first; i < last; ++i, ++col)
+        (*col)->Move(distance);
+}
+
+void TGGrid::SetColNum(long n)
+{
+    const TGGridUpdate update(*this);
+    while (GetColNum() > std::max(n, 0L))
+        DelCol(GetColNum() - 1);
+    while (GetColNum() < n)
+        AppendCol(static_cast<TGGridCol*>(nullptr), 0);
+}
+
+} // namespace QuorUiCtr

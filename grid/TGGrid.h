@@ -1,6 +1,7 @@
 // TGGrid: the editable grid control: model, window, hooks.
 #pragma once
 
+#include "grid/BrushWindowClass.h"
 #include "grid/TGGridCol.h"
 #include "grid/TGGridRow.h"
 #include "grid/TGGridTreeRow.h"
@@ -504,6 +505,8 @@ private:
     // Row height and column header height that the header windows were last placed for.
     CSize headerMeasure;
 
+    BrushWindowClass windowClass;
+
     // Postponed work between BeginUpdate and EndUpdate.
     int updateDepth = 0;
     bool layoutPending = false;
@@ -521,6 +524,7 @@ private:
     void PerformLayout(int redraw);
     void LayOutScrollBars();
     void LayOutBar(int bar, bool needed, int position, int maximum);
+    TGGridCol& LastCol();
     void PlaceHeaders();
     void RenewNewRow();
     bool IsBarShown(int bar) const;

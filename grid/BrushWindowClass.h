@@ -6,9 +6,9 @@
 namespace QuorUiCtr
 {
 
-// Registers a window class for one brush and unregisters it at the end of its life. A class is named after its
-// brush: without unregistering, every window made would leave a class behind until the process has used up its
-// class names. Declare it behind the brush and destroy the window before.
+// Registers a window class for one brush and unregisters it at the end of its life. A class is named after
+// its brush: without unregistering, every window made would leave a class behind until the process has used
+// up its class names. Declare it behind the brush and destroy the window before.
 class BrushWindowClass
 {
 public:

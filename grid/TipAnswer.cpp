@@ -15,8 +15,8 @@ namespace
 {
 
 // The platform's formatter writes at most 1024 units and a terminator, but forgets that limit when a format
-// combines prefixes, widths and precisions. Each conversion is therefore formatted alone, in a piece of limited
-// length and with a limited width, none of which shows in the few units that a tip has.
+// combines prefixes, widths and precisions. Each conversion is therefore formatted alone, in a piece of
+// limited length and with a limited width, none of which shows in the few units that a tip has.
 const int formatterLimit = 1025;
 const int pieceLimit = 64;
 const int widthLimit = 64;
@@ -44,7 +44,8 @@ std::wstring LimitedNumber(const wchar_t*& unit)
     return value == 0 ? number : number + std::to_wstring(value);
 }
 
-// The conversion at `unit` with limited width and precision, and the text behind it up to the next conversion.
+// The conversion at `unit` with limited width and precision, and the text behind it up to the next
+// conversion.
 std::wstring TakeConversion(const wchar_t*& unit)
 {
     std::wstring piece(1, *unit++);

@@ -18,7 +18,8 @@ long Clamp(long long value, long minimum, long maximum)
 long long PlainScrollTarget(UINT code, const ScrollRequest& request)
 {
     const long long position = request.position;
-    switch (code) {
+    switch (code)
+    {
     case SB_LINEUP:
         return position - request.line;
     case SB_LINEDOWN:
@@ -45,7 +46,8 @@ long CaptionLineCount(const CString& caption)
     const int length = caption.GetLength();
     long lines = 1;
     int position = caption.Find(L'\n');
-    while (position > 0 && position < length) {
+    while (position > 0 && position < length)
+    {
         ++lines;
         ++position;
         // The index counts from the beginning of the caption but is applied to the remainder: a further break
@@ -59,12 +61,15 @@ long CaptionLineCount(const CString& caption)
 ScrollBarPlan PlanScrollBars(CSize content, CSize area, int barWidth, int barHeight)
 {
     ScrollBarPlan plan{content.cx > area.cx, content.cy > area.cy, area};
-    if (plan.vertical) {
+    if (plan.vertical)
+    {
         plan.area.cx -= barWidth;
         plan.horizontal = plan.horizontal || content.cx > plan.area.cx;
         if (plan.horizontal)
             plan.area.cy -= barHeight;
-    } else if (plan.horizontal) {
+    }
+    else if (plan.horizontal)
+    {
         plan.area.cy -= barHeight;
         plan.vertical = content.cy > plan.area.cy;
         if (plan.vertical)

@@ -49,7 +49,8 @@ void TGColSelector::OnPaint()
     context.SetBkMode(TRANSPARENT);
     context.SelectObject(grid->GetFont());
     const long height = grid->GetColHeaderHeight();
-    for (TGGridCol* col : grid->cols) {
+    for (TGGridCol* col : grid->cols)
+    {
         const CRect box(col->GetLeft(), 0, col->GetRight(), height);
         if (context.RectVisible(&box))
             DrawCaption(context, *col, box);

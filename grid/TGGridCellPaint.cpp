@@ -69,7 +69,8 @@ long TGGridCell::DrawTreeDecoration(CDC& context, const CRect& cell) const
     TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(*row);
     const bool lines = grid->IsNeedTreeLine();
     long textLeft = CellInsideRect(cell).left;
-    if (treeRow.IsParentRow()) {
+    if (treeRow.IsParentRow())
+    {
         CRect box;
         treeRow.GetTreeQuad(box);
         textLeft = box.right;
@@ -78,7 +79,8 @@ long TGGridCell::DrawTreeDecoration(CDC& context, const CRect& cell) const
             DrawLine(context, Middle(box.left, box.right), box.bottom, Middle(box.left, box.right),
                      cell.bottom);
     }
-    if (treeRow.IsChildRow()) {
+    if (treeRow.IsChildRow())
+    {
         CRect parentBox;
         treeRow.GetParent().GetTreeQuad(parentBox);
         if (!treeRow.IsParentRow())
@@ -99,7 +101,8 @@ void TGGridCell::DrawChildLines(CDC& context, const CRect& cell, const CRect& pa
     DrawLine(context, x, y, end, y);
     if (!treeRow.IsLastChild())
         DrawLine(context, x, y, x, cell.bottom);
-    for (TGGridTreeRow* ancestor = treeRow.Parent(); ancestor->IsChildRow(); ancestor = ancestor->Parent()) {
+    for (TGGridTreeRow* ancestor = treeRow.Parent(); ancestor->IsChildRow(); ancestor = ancestor->Parent())
+    {
         if (ancestor->IsLastChild())
             continue;
         CRect box;

@@ -113,7 +113,8 @@ void TGGrid::RecalcLayout(int redraw)
 {
     if (layingOut || GetSafeHwnd() == nullptr)
         return;
-    if (IsUpdating()) {
+    if (IsUpdating())
+    {
         layoutPending = true;
         redrawPending = redrawPending || redraw != 0;
         return;
@@ -170,7 +171,8 @@ void TGGrid::LayOutBar(int bar, bool needed, int position, int maximum)
     int oldMinimum = 0;
     int oldMaximum = 0;
     GetScrollRange(bar, &oldMinimum, &oldMaximum);
-    if (oldMinimum != 0 || oldMaximum != maximum) {
+    if (oldMinimum != 0 || oldMaximum != maximum)
+    {
         SetScrollRange(bar, 0, maximum, FALSE);
         RepaintBar(bar);
     }
@@ -224,7 +226,8 @@ void TGGrid::PlaceHeaders()
 void TGGrid::RenewNewRow()
 {
     // While an edit of the new row is being committed, its cells are in use.
-    if (newRow != nullptr && editCell != nullptr && &editCell->GetRow() == newRow) {
+    if (newRow != nullptr && editCell != nullptr && &editCell->GetRow() == newRow)
+    {
         newRow->SetIndex(GetRowNum());
         return;
     }
@@ -242,11 +245,13 @@ void TGGrid::Invalidate(int erase)
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    if (IsUpdating()) {
+    if (IsUpdating())
+    {
         redrawPending = true;
         return;
     }
-    if (erase != 0) {
+    if (erase != 0)
+    {
         RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
         return;
     }
@@ -291,10 +296,13 @@ void TGGrid::FlushLayout()
 
 void TGGrid::PrepareDC(CDC* context)
 {
-    if (context != nullptr) {
+    if (context != nullptr)
+    {
         ClearDC();
         dc = context;
-    } else if (dc == nullptr) {
+    }
+    else if (dc == nullptr)
+    {
         if (GetSafeHwnd() == nullptr)
             return;
         dc = new CClientDC(this);

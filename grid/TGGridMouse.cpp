@@ -26,7 +26,8 @@ void TGGrid::PtToCell(CPoint point, long& row, long& col) const
 long TGGrid::ColAt(long logicalX) const
 {
     long index = 0;
-    for (const TGGridCol* col : cols) {
+    for (const TGGridCol* col : cols)
+    {
         if (col->GetLeft() <= logicalX && logicalX < col->GetRight())
             break;
         ++index;
@@ -84,7 +85,8 @@ void TGGrid::PressTreeCell(long row, CPoint point)
 {
     TGGridTreeRow& treeRow = GetTreeRow(row);
     CPoint logical = ClientToLogical(point);
-    if (!treeRow.IsParentRow() || !treeRow.IsPtInTreeQuad(logical)) {
+    if (!treeRow.IsParentRow() || !treeRow.IsPtInTreeQuad(logical))
+    {
         BeginEditCell(row, 0);
         return;
     }
@@ -156,7 +158,8 @@ void TGGrid::OnTimer(UINT_PTR id)
     CWnd::OnTimer(id);
     if (id == EditTimer)
         OpenLockedCell();
-    else if (id == CloseTimer) {
+    else if (id == CloseTimer)
+    {
         KillTimer(CloseTimer);
         EndEditCell();
     }

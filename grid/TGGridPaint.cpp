@@ -16,7 +16,8 @@ long FirstNotBelow(DualList<long>& ascending, long value)
 {
     long first = 0;
     long last = ascending.GetNum();
-    while (first < last) {
+    while (first < last)
+    {
         const long middle = (first + last) / 2;
         if (*ascending.IteratorAt(middle) < value)
             first = middle + 1;
@@ -30,7 +31,8 @@ long FirstNotBelow(DualList<long>& ascending, long value)
 
 void TGGrid::OnPaint()
 {
-    if (IsUpdating()) {
+    if (IsUpdating())
+    {
         const CPaintDC validated(this);
         redrawPending = true;
         return;
@@ -50,13 +52,15 @@ void TGGrid::Refresh()
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    if (IsUpdating()) {
+    if (IsUpdating())
+    {
         redrawPending = true;
         return;
     }
     long first = 0;
     long last = GetRowNum();
-    if (dc != nullptr) {
+    if (dc != nullptr)
+    {
         const CRect view = ViewRect();
         first = view.top / GetRowHeight();
         last = view.bottom / GetRowHeight();
@@ -74,7 +78,8 @@ void TGGrid::Refresh()
 void TGGrid::DrawRows(long first, long last)
 {
     const CursorGuard<TGGridRow*> cursor(rows);
-    for (long i = std::max(first, 0L); i <= last && rows.MoveTo(i); ++i) {
+    for (long i = std::max(first, 0L); i <= last && rows.MoveTo(i); ++i)
+    {
         TGGridRow* row = rows.Cur();
         if (row != nullptr)
             row->Refresh();
@@ -83,7 +88,8 @@ void TGGrid::DrawRows(long first, long last)
 
 void TGGrid::DrawSelectedCols()
 {
-    for (const long index : colSel) {
+    for (const long index : colSel)
+    {
         TGGridCol* col = IsValidCol(index) ? *cols.IteratorAt(index) : nullptr;
         if (col != nullptr)
             col->Select(true);
@@ -93,7 +99,8 @@ void TGGrid::DrawSelectedCols()
 void TGGrid::DrawSelectedRows(long first, long last)
 {
     auto entry = rowSel.IteratorAt(FirstNotBelow(rowSel, first));
-    for (; entry != rowSel.end() && *entry <= last; ++entry) {
+    for (; entry != rowSel.end() && *entry <= last; ++entry)
+    {
         TGGridRow* row = IsValidRow(*entry) ? *rows.IteratorAt(*entry) : nullptr;
         if (row != nullptr)
             row->Select(true);

@@ -49,7 +49,8 @@ void TGGrid::ShowRect(CRect rect)
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    if (IsUpdating()) {
+    if (IsUpdating())
+    {
         pendingShowRect = rect;
         showPending = true;
         return;
@@ -123,7 +124,8 @@ BOOL TGGrid::OnMouseWheel(UINT flags, short delta, CPoint point)
 {
     // Tracking takes the bar's own tracking position, so that the position given here only travels with the
     // default handling.
-    if (vScrollShown) {
+    if (vScrollShown)
+    {
         const long position = WheelPosition(GetScrollPos(SB_VERT), GetRowHeight(), delta);
         OnVScroll(SB_THUMBTRACK, static_cast<UINT>(position), nullptr);
     }

@@ -108,7 +108,8 @@ void TGRowSelector::OnCurRowChanged()
     markedRow = current;
     if (GetSafeHwnd() == nullptr)
         return;
-    if (grid->IsUpdating()) {
+    if (grid->IsUpdating())
+    {
         grid->Invalidate(1);
         return;
     }

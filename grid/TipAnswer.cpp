@@ -51,7 +51,8 @@ std::wstring TakeConversion(const wchar_t*& unit)
     std::wstring piece(1, *unit++);
     if (*unit == L'%')
         return piece + *unit++;
-    while (IsDigit(*unit) || (*unit != L'\0' && std::wcschr(L"-+#. *", *unit) != nullptr)) {
+    while (IsDigit(*unit) || (*unit != L'\0' && std::wcschr(L"-+#. *", *unit) != nullptr))
+    {
         if (IsDigit(*unit))
             piece += LimitedNumber(unit);
         else
@@ -89,7 +90,8 @@ std::wstring FormatTip(const wchar_t* unit)
 {
     std::wstring text;
     bool more = true;
-    while (more && *unit != L'\0' && text.length() < tipBufferLength) {
+    while (more && *unit != L'\0' && text.length() < tipBufferLength)
+    {
         if (*unit == L'%')
             more = AppendConversion(TakeConversion(unit), text);
         else

@@ -99,7 +99,8 @@ TEST(TipAnswer, AnyText_FitsItsBuffer)
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const std::wstring alphabet = L"%%%%%%%%0123456789.-+# *sSdiuxXcCpnlhIw6432|\u884C";
-    for (int i = 0; i < 20000; ++i) {
+    for (int i = 0; i < 20000; ++i)
+    {
         CString tip;
         for (unsigned length = random() % 80; length > 0; --length)
             tip += alphabet[random() % alphabet.length()];

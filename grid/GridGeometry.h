@@ -46,6 +46,9 @@ long VerticalScrollTarget(UINT code, const ScrollRequest& request);
 // The same for the horizontal bar, whose SB_TOP is not clamped.
 long HorizontalScrollTarget(UINT code, const ScrollRequest& request);
 
+// The position that a turn of the mouse wheel by `delta` (120 per notch, positive away from the user) names.
+long WheelPosition(long position, long rowHeight, int delta);
+
 // The outline of a cell, which shares its border lines with its neighbours, the inside of it and the text
 // rectangle (before tree indentation), from the cell's logical rectangle (left, top, right, bottom).
 CRect CellOutlineRect(const CRect& cell);

@@ -1,6 +1,8 @@
 // TGColSelector: the column header, the window along the grid's top edge.
 #pragma once
 
+#include "grid/BrushWindowClass.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -39,6 +41,7 @@ private:
     bool resizing = false;
     long resizeCol = -1;
     long markX = -1;
+    BrushWindowClass windowClass;
 };
 
 } // namespace QuorUiCtr

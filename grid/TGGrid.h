@@ -1,6 +1,7 @@
 // TGGrid: the editable grid control: model, window, hooks.
 #pragma once
 
+#include "grid/BrushWindowClass.h"
 #include "grid/TGGridCol.h"
 #include "grid/TGGridRow.h"
 #include "grid/TGGridTreeRow.h"
@@ -576,6 +577,8 @@ private:
     // The cells that operations on the stack are working on.
     CellWatch* cellWatches = nullptr;
 
+    BrushWindowClass windowClass;
+
     // Postponed work between BeginUpdate and EndUpdate.
     int updateDepth = 0;
     bool layoutPending = false;
@@ -593,6 +596,7 @@ private:
     void PerformLayout(int redraw);
     void LayOutScrollBars();
     void LayOutBar(int bar, bool needed, int position, int maximum);
+    TGGridCol& LastCol();
     void PlaceHeaders();
     void RenewNewRow();
     bool IsBarShown(int bar) const;

@@ -1,6 +1,8 @@
 // TGRowSelector: the row header, the narrow window at the grid's left edge.
 #pragma once
 
+#include "grid/BrushWindowClass.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -48,6 +50,7 @@ private:
     long dropMarkY = -1;
     long dragRow = -1;
     long markedRow = -1;
+    BrushWindowClass windowClass;
 };
 
 } // namespace QuorUiCtr

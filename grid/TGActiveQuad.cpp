@@ -1,0 +1,59 @@
+// The corner window: its picture of the focus and its tool tip.
+#include "grid/TGActiveQuad.h"
+
+#include "grid/HeaderBox.h"
+#include "grid/TGGrid.h"
+#include "grid/TipAnswer.h"
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+const UINT controlId = 102;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(TGActiveQuad, CWnd)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+TGActiveQuad::TGActiveQuad(TGGrid& owner) : grid(&owner)
+{
+    const CRect place(0, 0, owner.GetRowHeight(), owner.GetColHeaderHeight());
+    if (Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
+        EnableToolTips(TRUE);
+}
+
+TGActiveQuad::~TGActiveQuad()
+{
+    DestroyWindow();
+}
+
+void TGActiveQuad::ShowActive(bool newActive)
+{
+    active = newActive;
+    if (GetSafeHwnd() != nullptr)
+        Invalidate(TRUE);
+}
+
+void TGActiveQuad::OnPaint()
+{
+    CPaintDC context(this);
+    CRect rect;
+    GetClientRect(&rect);
+    DrawHeaderBox(context, rect, grid->IsFlatButton());
+    const CRect inside(rect.left + 1, rect.top + 1, rect.right - 2, rect.bottom - 2);
+    context.FillSolidRect(&inside, ::GetSysColor(active ? COLOR_ACTIVECAPTION : COLOR_BTNFACE));
+}
+
+INT_PTR TGActiveQuad::OnToolHitTest(CPoint, TOOLINFO* info) const
+{
+    CString tip;
+    if (!grid->OnActiveQuadTip(tip))
+        return -1;
+    return AnswerTip(*this, tip, 0, TTF_CENTERTIP, info);
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,157 @@
+// TGGrid's window: its message map, creation, fonts and header windows.
+#include "grid/TGGrid.h"
+
+#include "grid/TGActiveQuad.h"
+#include "grid/TGColSelector.h"
+#include "grid/TGRowSelector.h"
+
+#include <cstdlib>
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+// The font's description; the system font's for a null font, which is what null means to WM_GETFONT.
+LOGFONT DescribeFont(HFONT font)
+{
+    LOGFONT description = {};
+    const HGDIOBJ source = font != nullptr ? font : ::GetStockObject(SYSTEM_FONT);
+    ::GetObject(source, sizeof(description), &description);
+    return description;
+}
+
+HFONT FontOfParent(const CWnd& window)
+{
+    const HWND parent = ::GetParent(window.GetSafeHwnd());
+    return parent == nullptr ? nullptr : reinterpret_cast<HFONT>(::SendMessage(parent, WM_GETFONT, 0, 0));
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(TGGrid, CWnd)
+    ON_WM_SIZE()
+    ON_MESSAGE(WM_SETFONT, OnSetFont)
+    ON_MESSAGE(WM_SETTEXT, OnSetText)
+    ON_WM_CANCELMODE()
+    ON_WM_GETDLGCODE()
+    ON_WM_PAINT()
+    ON_WM_VSCROLL()
+    ON_WM_HSCROLL()
+    ON_WM_MOUSEWHEEL()
+    ON_WM_CREATE()
+    ON_WM_CTLCOLOR()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_KEYDOWN()
+    ON_WM_SETCURSOR()
+    ON_WM_ERASEBKGND()
+    ON_WM_KILLFOCUS()
+    ON_WM_SETFOCUS()
+    ON_WM_DESTROY()
+    ON_WM_RBUTTONUP()
+    ON_WM_TIMER()
+END_MESSAGE_MAP()
+
+BOOL TGGrid::Create(const RECT& rect, DWORD windowStyle, CWnd* parent)
+{
+    return CreateWindowIn(rect, windowStyle, parent, 0);
+}
+
+BOOL TGGrid::Create(CWnd* parent, UINT id, DWORD windowStyle)
+{
+    CWnd* placeholder = parent == nullptr ? nullptr : parent->GetDlgItem(static_cast<int>(id));
+    if (placeholder == nullptr)
+        return FALSE;
+    CRect rect;
+    placeholder->GetWindowRect(&rect);
+    parent->ScreenToClient(&rect);
+    placeholder->DestroyWindow();
+    return CreateWindowIn(rect, windowStyle, parent, id);
+}
+
+BOOL TGGrid::CreateWindowIn(const RECT& rect, DWORD windowStyle, CWnd* parent, UINT id)
+{
+    return CreateEx(0, windowClass.Register(backBrush), nullptr, windowStyle, rect, parent, id);
+}
+
+int TGGrid::OnCreate(LPCREATESTRUCT create)
+{
+    if (CWnd::OnCreate(create) == -1)
+        return -1;
+    CreateFont();
+    RecalcLayout(1);
+    EnableToolTips(TRUE);
+    CreateHeaders();
+    return 0;
+}
+
+void TGGrid::CreateHeaders()
+{
+    // A grid whose window is made a second time still holds the objects of the first one.
+    delete colHeader;
+    delete rowHeader;
+    delete quad;
+    colHeader = IsColSel() ? new TGColSelector(*this) : nullptr;
+    rowHeader = IsRowSel() ? new TGRowSelector(*this) : nullptr;
+    quad = IsColSel() && IsRowSel() ? new TGActiveQuad(*this) : nullptr;
+    headerMeasure = CSize(GetRowHeight(), GetColHeaderHeight());
+}
+
+void TGGrid::CreateFont()
+{
+    if (font.GetSafeHandle() == nullptr)
+        AdoptFont(FontOfParent(*this), DEFAULT_QUALITY);
+}
+
+void TGGrid::AdoptFont(HFONT source, BYTE quality)
+{
+    LOGFONT description = DescribeFont(source);
+    description.lfWidth = 0;
+    description.lfQuality = quality;
+    ClearDC();
+    font.DeleteObject();
+    font.CreateFontIndirect(&description);
+    textHeight = std::abs(description.lfHeight) + 1;
+}
+
+LRESULT TGGrid::OnSetFont(WPARAM newFont, LPARAM)
+{
+    Default();
+    AdoptFont(reinterpret_cast<HFONT>(newFont), PROOF_QUALITY);
+    RecalcLayout(1);
+    // A layout that is postponed or refused leaves the grid without a context for hit tests.
+    PrepareDC(nullptr);
+    return 0;
+}
+
+LRESULT TGGrid::OnSetText(WPARAM, LPARAM)
+{
+    Default();
+    RecalcLayout(1);
+    return 0;
+}
+
+void TGGrid::OnSize(UINT type, int cx, int cy)
+{
+    CWnd::OnSize(type, cx, cy);
+    RecalcLayout(0);
+}
+
+void TGGrid::PostNcDestroy()
+{
+    ClearDC();
+    // Editors delete themselves with their windows, which are gone by now.
+    editCell = nullptr;
+    cellLock = nullptr;
+    cellCtrl = nullptr;
+    vScrollShown = false;
+    hScrollShown = false;
+    layoutPending = false;
+    redrawPending = false;
+    showPending = false;
+    CWnd::PostNcDestroy();
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,150 @@
+// The row header: its boxes and icons, the row under a point and its tool tips.
+#include "grid/TGRowSelector.h"
+
+#include "grid/HeaderBox.h"
+#include "grid/TGGrid.h"
+#include "grid/TipAnswer.h"
+
+#include <algorithm>
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+const UINT controlId = 104;
+const UINT currentRowIcon = 1000;
+const UINT newRowIcon = 1001;
+
+// A shared icon of the library, found through the chain of resource modules; null when it is missing.
+HICON LoadModuleIcon(UINT id)
+{
+    const LPCWSTR name = MAKEINTRESOURCE(id);
+    return ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(TGRowSelector, CWnd)
+    ON_WM_PAINT()
+END_MESSAGE_MAP()
+
+TGRowSelector::TGRowSelector(TGGrid& owner) : grid(&owner)
+{
+    bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
+    const long top = owner.IsColSel() ? owner.GetColHeaderHeight() : 0;
+    const CRect place(0, top, owner.GetRowHeight(), headerExtent);
+    const CString& className = windowClass.Register(bkBrush);
+    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
+        EnableToolTips(TRUE);
+}
+
+TGRowSelector::~TGRowSelector()
+{
+    DestroyWindow();
+}
+
+void TGRowSelector::PrepareContext(CDC& context) const
+{
+    CPoint corner;
+    grid->GetUpCorner(corner);
+    context.SetViewportOrg(0, corner.y - (grid->IsColSel() ? grid->GetColHeaderHeight() : 0));
+}
+
+CRect TGRowSelector::BoxRect(long row) const
+{
+    const long height = grid->GetRowHeight();
+    return CRect(0, row * height, height, (row + 1) * height);
+}
+
+void TGRowSelector::OnPaint()
+{
+    CPaintDC context(this);
+    PrepareContext(context);
+    CRect clip;
+    context.GetClipBox(&clip);
+    const long height = grid->GetRowHeight();
+    const long first = std::max(0L, clip.top / height);
+    const long last = std::min(grid->GetRowNum() - 1, clip.bottom / height);
+    for (long row = first; row <= last; ++row)
+        DrawRow(context, row);
+    if (grid->IsAppendRowShown())
+        DrawNewRow(context);
+}
+
+void TGRowSelector::DrawRow(CDC& context, long row) const
+{
+    DrawHeaderBox(context, BoxRect(row), grid->IsFlatButton());
+    if (row == markedRow)
+        DrawRowIcon(context, row, currentRowIcon);
+}
+
+void TGRowSelector::DrawNewRow(CDC& context) const
+{
+    const long row = grid->GetRowNum();
+    const CRect box = BoxRect(row);
+    if (!context.RectVisible(&box))
+        return;
+    DrawHeaderBox(context, box, grid->IsFlatButton());
+    DrawRowIcon(context, row, newRowIcon);
+}
+
+void TGRowSelector::DrawRowIcon(CDC& context, long row, UINT iconId) const
+{
+    const HICON icon = LoadModuleIcon(iconId);
+    const int size = grid->GetRowHeight();
+    const CRect box = BoxRect(row);
+    if (icon != nullptr)
+        ::DrawIconEx(context.GetSafeHdc(), box.left, box.top, icon, size, size, 0, nullptr, DI_NORMAL);
+}
+
+void TGRowSelector::OnCurRowChanged()
+{
+    const long current = grid->GetCurRowIndex();
+    if (current == markedRow)
+        return;
+    const long unmarked = markedRow;
+    markedRow = current;
+    if (GetSafeHwnd() == nullptr)
+        return;
+    if (grid->IsUpdating())
+    {
+        grid->Invalidate(1);
+        return;
+    }
+    CClientDC context(this);
+    PrepareContext(context);
+    RedrawRow(context, unmarked);
+    RedrawRow(context, markedRow);
+}
+
+// The frame leaves the inside of a box as it is, so that an icon has to be wiped out first.
+void TGRowSelector::RedrawRow(CDC& context, long row)
+{
+    if (!grid->IsValidRow(row))
+        return;
+    const CRect box = BoxRect(row);
+    context.FillRect(&box, &bkBrush);
+    DrawRow(context, row);
+}
+
+long TGRowSelector::PtToRow(CPoint point) const
+{
+    if (grid->GetDC() == nullptr)
+        return point.y;
+    if (grid->IsColSel())
+        point.y += grid->GetColHeaderHeight();
+    return grid->ClientToLogical(point).y / grid->GetRowHeight();
+}
+
+INT_PTR TGRowSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const
+{
+    const long row = PtToRow(point);
+    CString tip;
+    if (!grid->IsValidRow(row) || !grid->OnRowTip(row, tip))
+        return -1;
+    return AnswerTip(*this, tip, row, TTF_CENTERTIP, info);
+}
+
+} // namespace QuorUiCtr

@@ -53,8 +53,7 @@ INT_PTR TGCellButton::OnToolHitTest(CPoint, TOOLINFO* info) const
     CString tip;
     if (!cell.GetGrid().OnCellButtonTip(cell.GetRowIndex(), cell.GetColIndex(), tip))
         return -1;
-    AnswerToolHit(*info, m_hWnd, TTF_CENTERTIP, tip);
-    return cell.GetRowIndex();
+    return AnswerTip(*this, tip, cell.GetRowIndex(), TTF_CENTERTIP, info);
 }
 
 } // namespace QuorUiCtr

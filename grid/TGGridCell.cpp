@@ -11,7 +11,10 @@ TGGridCell::TGGridCell(TGGrid& owner, TGGridRow& ownRow, TGGridCol& ownCol)
 {
 }
 
-TGGridCell::~TGGridCell() = default;
+TGGridCell::~TGGridCell()
+{
+    grid->ForgetCell(this);
+}
 
 TGGridCell& TGGridCell::operator=(const TGGridCell& other)
 {

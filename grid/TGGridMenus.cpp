@@ -57,8 +57,6 @@ private:
 
 } // namespace
 
-void TGGrid::OnRClickCell(TGGridCell&, CPoint) {}
-
 void TGGrid::OnRClickRow(TGGridRow& row, CPoint point)
 {
     if (IsNoDefaultMenu() || IsRowFixLength())

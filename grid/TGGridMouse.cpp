@@ -151,30 +151,4 @@ void TGGrid::OnKillFocus(CWnd* newFocus)
         ShowActive(false);
 }
 
-// ---- Timers -----------------------------------------------------------------------------------------------
-
-void TGGrid::OnTimer(UINT_PTR id)
-{
-    CWnd::OnTimer(id);
-    if (id == EditTimer)
-        OpenLockedCell();
-    else if (id == CloseTimer)
-    {
-        KillTimer(CloseTimer);
-        EndEditCell();
-    }
-}
-
-void TGGrid::OpenLockedCell()
-{
-    KillTimer(EditTimer);
-    if (cellLock == nullptr)
-        return;
-    const long row = cellLock->GetRowIndex();
-    const long col = cellLock->GetColIndex();
-    cellLock = nullptr;
-    CancelEditCell();
-    BeginEditCell(row, col);
-}
-
 } // namespace QuorUiCtr

@@ -218,4 +218,9 @@ bool TGGridTreeRow::IsPtInTreeQuad(CPoint& point)
     return rect.PtInRect(point) != FALSE;
 }
 
+bool TGGridTreeRow::IsLastChild() const
+{
+    return parent != nullptr && *parent->children.IteratorAt(parent->GetChildNum() - 1) == this;
+}
+
 } // namespace QuorUiCtr

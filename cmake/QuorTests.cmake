@@ -7,6 +7,9 @@ else()
     set(QUOR_TEST_VARIANT plain)
 endif()
 
+# Compiling the tests takes longer than running them: what they test is fully optimised, they are less so.
+set(QUOR_TEST_OPTIMISATION -O1)
+
 # GoogleTest comes as sources with the system and is built like the project, because the checked variant changes the
 # layout of the standard containers. Its own warnings are not ours to fix.
 set(QUOR_GOOGLETEST_DIR /usr/src/googletest CACHE PATH "Where the sources of GoogleTest are")
@@ -21,24 +24,22 @@ function(_quor_build_googletest)
     endif()
 endfunction()
 
-# quor_add_test(name [CONSOLE] [TIMEOUT seconds] [LIBRARIES targets...] [SOURCES files...])
+# quor_add_test(name [CONSOLE] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
 #
-# Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder <name>) and adds it to ctest. Windowed
-# programs initialise the framework and get the harness of tests/support; CONSOLE programs use neither. A folder that
+# Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder, which is <name> unless given) and adds
+# it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and get the harness of tests/support; CONSOLE programs use neither. A folder that
 # has no sources yet is skipped.
 function(quor_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT" "LIBRARIES;SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
+    if(NOT arg_FOLDER)
+        set(arg_FOLDER ${name})
+    endif()
     if(NOT arg_SOURCES)
-        file(GLOB arg_SOURCES CONFIGURE_DEPENDS ${name}/*.cpp ${name}/*.rc)
+        file(GLOB arg_SOURCES CONFIGURE_DEPENDS ${arg_FOLDER}/*.cpp ${arg_FOLDER}/*.rc)
     endif()
     if(NOT arg_SOURCES)
         return()
     endif()
-    foreach(library IN LISTS arg_LIBRARIES)
-        if(NOT TARGET ${library})
-            return()
-        endif()
-    endforeach()
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 300)
     endif()
@@ -51,6 +52,10 @@ function(quor_add_test name)
     add_executable(${name}_test ${arg_SOURCES})
     target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name}_test PRIVATE QuorFlags ${main} ${arg_LIBRARIES})
+    target_compile_options(${name}_test PRIVATE ${QUOR_TEST_OPTIMISATION})
+    if(TARGET QuorTestHeaders AND NOT arg_CONSOLE)
+        target_precompile_headers(${name}_test REUSE_FROM QuorTestHeaders)
+    endif()
     add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
     set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
 endfunction()

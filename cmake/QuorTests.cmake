@@ -24,15 +24,18 @@ function(_quor_build_googletest)
     endif()
 endfunction()
 
-# quor_add_test(name [CONSOLE] [TIMEOUT seconds] [LIBRARIES targets...] [SOURCES files...])
+# quor_add_test(name [CONSOLE] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
 #
-# Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder <name>) and adds it to ctest. Windowed
-# programs initialise the framework and get the harness of tests/support; CONSOLE programs use neither. A folder that
+# Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder, which is <name> unless given) and adds
+# it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and get the harness of tests/support; CONSOLE programs use neither. A folder that
 # has no sources yet is skipped.
 function(quor_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT" "LIBRARIES;SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
+    if(NOT arg_FOLDER)
+        set(arg_FOLDER ${name})
+    endif()
     if(NOT arg_SOURCES)
-        file(GLOB arg_SOURCES CONFIGURE_DEPENDS ${name}/*.cpp ${name}/*.rc)
+        file(GLOB arg_SOURCES CONFIGURE_DEPENDS ${arg_FOLDER}/*.cpp ${arg_FOLDER}/*.rc)
     endif()
     if(NOT arg_SOURCES)
         return()

@@ -7,8 +7,12 @@
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <random>
 #include <set>
 #include <string>
+#include <string_view>
+#include <vector>
 
 namespace gallery
 {
@@ -176,6 +180,87 @@ TEST(CsvParsing, ManyBrokenQuotes_TakeTimeProportionalToTheSize)
     const std::chrono::duration<double> seconds = std::chrono::steady_clock::now() - start;
     EXPECT_FALSE(table.errors.empty());
     EXPECT_LT(seconds.count(), 5.0);
+}
+
+// Random text over the characters that mean something in CSV files.
+std::string RandomText(std::mt19937& random, std::size_t longest)
+{
+    static constexpr std::string_view pieces[] = {"a",    "b",  " ",  ",",    "\"",
+                                                  "\"\"", "\r", "\n", "\r\n", "\xE6\xB0\xA2"};
+    std::string text;
+    for (std::size_t n = random() % (longest + 1); n > 0; --n)
+        text += pieces[random() % std::size(pieces)];
+    return text;
+}
+
+// The text that the bytes of RandomText stand for.
+std::wstring Decoded(const std::string& bytes)
+{
+    std::wstring text;
+    for (const char c : bytes)
+    {
+        if (c == '\xE6')
+            text += L'\u6C22';
+        else if ((c & 0x80) == 0)
+            text += static_cast<wchar_t>(c);
+    }
+    return text;
+}
+
+std::string Quoted(const std::string& field)
+{
+    std::string text = "\"";
+    for (const char c : field)
+        text += c == '"' ? "\"\"" : std::string(1, c);
+    return text + '"';
+}
+
+TEST(CsvParsing, WhatAWriterQuotes_IsReadBack)
+{
+    for (unsigned seed = 0; seed < 500; ++seed)
+    {
+        std::mt19937 random(seed);
+        const std::size_t columns = 1 + random() % 4;
+        std::string bytes;
+        std::vector<std::vector<std::string>> written(1 + random() % 5);
+        for (std::vector<std::string>& row : written)
+        {
+            for (std::size_t i = 0; i < columns; ++i)
+            {
+                row.push_back(RandomText(random, 6));
+                bytes += (i == 0 ? "" : ",") + Quoted(row.back());
+            }
+            bytes += random() % 2 == 0 ? "\n" : "\r\n";
+        }
+        const CsvTable table = ParseCsv(bytes);
+        ASSERT_TRUE(table.errors.empty()) << "seed " << seed;
+        ASSERT_EQ(table.rows.size() + 1, written.size()) << "seed " << seed;
+        for (std::size_t i = 0; i < written.size(); ++i)
+        {
+            const CsvRow& read = i == 0 ? table.header : table.rows[i - 1];
+            for (std::size_t column = 0; column < columns; ++column)
+                ASSERT_EQ(read[column], Decoded(written[i][column])) << "seed " << seed;
+        }
+    }
+}
+
+TEST(CsvParsing, AnyText_GivesRowsOfOneWidthAndNamesEveryBadLine)
+{
+    for (unsigned seed = 0; seed < 5000; ++seed)
+    {
+        std::mt19937 random(seed);
+        const std::string bytes = "h,i\n" + RandomText(random, 40);
+        const CsvTable table = ParseCsv(bytes);
+        ASSERT_EQ(table.header.size(), 2u) << "seed " << seed;
+        for (const CsvRow& row : table.rows)
+            ASSERT_EQ(row.size(), 2u) << "seed " << seed;
+        std::set<std::wstring> lines;
+        for (const std::wstring& error : table.errors)
+        {
+            ASSERT_EQ(error.rfind(L"line ", 0), 0u) << "seed " << seed;
+            ASSERT_TRUE(lines.insert(error.substr(0, error.find(L':'))).second) << "seed " << seed;
+        }
+    }
 }
 
 class CsvFile : public testing::Test

@@ -202,10 +202,52 @@ INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFO* pTI) const
     return ::GetDlgCtrlID(child);
 }
 
+namespace
+{
+
+// Puts the tool that was hit into the control in place of the one before.
+void ChangeHit(CWnd& window, INT_PTR hit, const TOOLINFO& tool)
+{
+    ForgetHit();
+    const bool showsInactive = (tool.uFlags & static_cast<UINT>(TTF_ALWAYSTIP)) != 0;
+    if (hit == -1 || !(showsInactive || window.IsTopParentActive()))
+        return;
+    AddTool(window.GetParentOwner()->GetSafeHwnd(), tool);
+    ToolTips().window = &window;
+    ToolTips().hit = hit;
+}
+
+void FollowMouse(CWnd& window, const MSG& message, CPoint screenPoint)
+{
+    CPoint clientPoint = screenPoint;
+    window.ScreenToClient(&clientPoint);
+    TOOLINFO tool = {};
+    tool.cbSize = sizeof(tool);
+    tool.lpszText = LPSTR_TEXTCALLBACK;
+    const INT_PTR hit = window.OnToolHitTest(clientPoint, &tool);
+    if (ToolTips().window != &window || ToolTips().hit != hit)
+        ChangeHit(window, hit, tool);
+    FreeToolText(tool);
+    if (ToolTips().window == &window)
+        RelayToControl(message, screenPoint);
+}
+
+void FilterMouseMessage(CWnd& window, const MSG& message)
+{
+    const CPoint screenPoint = ScreenPointOf(message);
+    if (!IsMouseMove(message.message))
+        RelayToControl(message, screenPoint);
+    else if (IsMouseButtonHeld() && !KeepsTipWithButtonHeld())
+        CWnd::CancelToolTips();
+    else
+        FollowMouse(window, message, screenPoint);
+}
+
+} // namespace
+
 void CWnd::FilterToolTipMessage(MSG* pMsg)
 {
     const UINT message = pMsg->message;
-    const auto flagsOf = [](const CWnd* window) { return window->m_nFlags; };
     if (message == WM_KEYDOWN || message == WM_SYSKEYDOWN)
     {
         if (m_nFlags & WF_TOOLTIPS)
@@ -214,42 +256,9 @@ void CWnd::FilterToolTipMessage(MSG* pMsg)
     }
     if (!IsMouseMessage(message))
         return;
-    if (!OwnsToolTipsOf(pMsg->hwnd, this, flagsOf))
-    {
+    const auto flagsOf = [](const CWnd* window) { return window->m_nFlags; };
+    if (OwnsToolTipsOf(pMsg->hwnd, this, flagsOf))
+        FilterMouseMessage(*this, *pMsg);
+    else
         ForgetToolTips(this);
-        return;
-    }
-    const CPoint screenPoint = ScreenPointOf(*pMsg);
-    ToolTipState& state = ToolTips();
-    if (!IsMouseMove(message))
-    {
-        RelayToControl(*pMsg, screenPoint);
-        return;
-    }
-    if (IsMouseButtonHeld() && !KeepsTipWithButtonHeld())
-    {
-        CancelToolTips();
-        return;
-    }
-    CPoint clientPoint = screenPoint;
-    ScreenToClient(&clientPoint);
-    TOOLINFO tool = {};
-    tool.cbSize = sizeof(tool);
-    tool.lpszText = LPSTR_TEXTCALLBACK;
-    const INT_PTR hit = OnToolHitTest(clientPoint, &tool);
-    const bool isSameHit = state.window == this && state.hit == hit;
-    if (!isSameHit)
-    {
-        ForgetHit();
-        const bool mayShow = (tool.uFlags & static_cast<UINT>(TTF_ALWAYSTIP)) != 0 || IsTopParentActive();
-        if (hit != -1 && mayShow)
-        {
-            AddTool(GetParentOwner()->GetSafeHwnd(), tool);
-            state.window = this;
-            state.hit = hit;
-        }
-    }
-    FreeToolText(tool);
-    if (state.window == this)
-        RelayToControl(*pMsg, screenPoint);
 }

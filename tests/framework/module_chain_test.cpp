@@ -35,7 +35,7 @@ private:
     AFX_EXTENSION_MODULE m_state = {};
 };
 
-constexpr LPCTSTR FirstVersion = MAKEINTRESOURCE(1);
+const LPCTSTR FirstVersion = MAKEINTRESOURCE(1);
 
 HINSTANCE VersionModule()
 {

@@ -1,7 +1,7 @@
 // The grid for tests of the edit session.
 #include "EditGrid.h"
 
-#include "tests/support/Text.h"
+#include "ModelGrid.h"
 
 namespace quor::test
 {

@@ -618,7 +618,7 @@ private:
     void PressCell(CPoint point);
     void PressTreeCell(long row, CPoint point);
 
-    // Rows and columns (TGGridStructure.cpp). Of these only TakeOut runs hooks and lays out anew.
+    // Rows and columns (TGGridStructure.cpp). These run no hooks.
     TGGridRow* MakeRow();
     TGGridRow* RowAt(long i);
     TGGridCol* ColAtIndex(long i);
@@ -628,12 +628,12 @@ private:
     void RemoveRows(long at, long number);
     // Gives the rows from `first` on their indices; the row cursor ends past the last row.
     void NumberRows(long first);
-    // Deselects a shown row and takes it out of the rows.
-    void TakeOut(TGGridRow& row);
     bool IsOffspringAt(long i, const TGGridTreeRow& top);
     // Takes the shown offspring of a row out of the rows; false when there was none.
     bool RemoveOffspring(TGGridTreeRow& top);
     void RemoveHiddenRows(long first, long number);
+    // Takes a row and its shown offspring out of the rows.
+    void HideTree(TGGridTreeRow& top);
     // Puts the offspring that the unfold flags ask for below a shown row.
     void InsertOffspring(TGGridTreeRow& top);
     // Takes a row out of its parent's children and its shown offspring out of the rows.

@@ -144,19 +144,6 @@ void TGGrid::NumberRows(long first)
 
 // ---- Tree rows --------------------------------------------------------------------------------------------
 
-void TGGrid::TakeOut(TGGridRow& row)
-{
-    const RowWatch watch(*this, &row);
-    EndEditCell();
-    if (watch.IsAlive())
-        SelectRow(row.GetIndex(), false);
-    if (!watch.IsAlive() || RowAt(row.GetIndex()) != &row)
-        return;
-    RemoveRows(row.GetIndex(), 1);
-    row.SetIndex(-1);
-    RecalcLayout(1);
-}
-
 bool TGGrid::IsOffspringAt(long i, const TGGridTreeRow& top)
 {
     TGGridRow* row = RowAt(i);
@@ -188,6 +175,15 @@ void TGGrid::RemoveHiddenRows(long first, long number)
     for (long i = GetRowNum() - 1; i >= 0; --i)
         if (isHidden(RowAt(i)))
             RemoveRows(i, 1);
+}
+
+void TGGrid::HideTree(TGGridTreeRow& top)
+{
+    RemoveOffspring(top);
+    if (RowAt(top.GetIndex()) != &top)
+        return;
+    RemoveRows(top.GetIndex(), 1);
+    top.SetIndex(-1);
 }
 
 void TGGrid::InsertOffspring(TGGridTreeRow& top)

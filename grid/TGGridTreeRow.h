@@ -135,6 +135,7 @@ private:
     // The grid row index behind the last shown row among the children up to `position` and their offspring.
     long PlaceBehind(long position);
 
+    bool PrepareToGo();
     void HideOffspring();
     void ShowOffspring();
     bool HasShownOffspring() const;

@@ -138,22 +138,36 @@ void TGGridTreeRow::DelChild(long position)
     TGGrid& owner = GetGrid();
     const RowWatch self(owner, this);
     const RowWatch doomed(owner, child);
+    const TGGridUpdate update(owner);
     const bool shown = child != nullptr && child->IsVisible();
-    if (shown)
-    {
-        const TGGridUpdate update(owner);
-        child->Fold();
-        if (doomed.IsAlive())
-            owner.TakeOut(*child);
-    }
+    if (shown && !child->PrepareToGo())
+        return;
     if (!self.IsAlive() || doomed.IsAlive() != (child != nullptr))
         return;
+
     children.MoveTo(position);
     if (children.Cur() != child)
         children.MoveTo(children.Find(child));
+    if (child != nullptr)
+        owner.HideTree(*child);
     children.Del();
-    if (self.IsAlive() && !shown && IsVisible() && !IsParentRow())
+    if (shown)
+        owner.RecalcLayout(1);
+    else if (self.IsAlive() && IsVisible() && !IsParentRow())
         Refresh();
+}
+
+// Runs the hooks of hiding a shown row and its offspring; false when they have deleted the row.
+bool TGGridTreeRow::PrepareToGo()
+{
+    TGGrid& owner = GetGrid();
+    const RowWatch self(owner, this);
+    owner.EndEditCell();
+    if (self.IsAlive())
+        Fold();
+    if (self.IsAlive())
+        owner.SelectRow(GetIndex(), false);
+    return self.IsAlive();
 }
 
 void TGGridTreeRow::ClearChild()
@@ -162,8 +176,10 @@ void TGGridTreeRow::ClearChild()
         return;
     const RowWatch self(GetGrid(), this);
     Fold();
-    if (self.IsAlive())
-        children.Clear();
+    if (!self.IsAlive())
+        return;
+    GetGrid().RemoveOffspring(*this);
+    children.Clear();
 }
 
 // ---- Folding ----------------------------------------------------------------------------------------------

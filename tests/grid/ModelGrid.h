@@ -27,8 +27,9 @@ protected:
     {
         ++curChanges;
         TGGrid::OnCurChanged();
-        if (onCurChanged)
-            onCurChanged();
+        // A copy, because the action may replace itself.
+        if (const auto act = onCurChanged)
+            act();
     }
 };
 

@@ -80,7 +80,8 @@ void ReferenceGrid::DelRowEx(long i)
     if (row->parent != nullptr)
     {
         const auto& siblings = row->parent->children;
-        DelChild(row->parent, std::find(siblings.begin(), siblings.end(), row) - siblings.begin());
+        DelChild(row->parent,
+                 static_cast<long>(std::find(siblings.begin(), siblings.end(), row) - siblings.begin()));
         return;
     }
     if (!row->children.empty())

@@ -340,7 +340,7 @@ std::string Fuzzer::TreeStep()
     return "ArrangeChild" + at;
 }
 
-void Run(bool tree)
+void RunFuzz(bool tree)
 {
 #ifdef _DEBUG
     const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 20000);
@@ -362,12 +362,12 @@ void Run(bool tree)
 
 TEST(ModelFuzz, RandomOperationsOnAPlainGridMatchTheReference)
 {
-    Run(false);
+    RunFuzz(false);
 }
 
 TEST(ModelFuzz, RandomOperationsOnATreeGridMatchTheReference)
 {
-    Run(true);
+    RunFuzz(true);
 }
 
 } // namespace

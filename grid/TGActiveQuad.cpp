@@ -43,6 +43,8 @@ void TGActiveQuad::OnPaint()
     CPaintDC context(this);
     CRect rect;
     GetClientRect(&rect);
+    // The window class has no background, and neither the frame nor the inside covers everything.
+    context.FillSolidRect(&rect, ::GetSysColor(COLOR_BTNFACE));
     DrawHeaderBox(context, rect, grid->IsFlatButton());
     const CRect inside(rect.left + 1, rect.top + 1, rect.right - 2, rect.bottom - 2);
     context.FillSolidRect(&inside, ::GetSysColor(active ? COLOR_ACTIVECAPTION : COLOR_BTNFACE));

@@ -598,6 +598,7 @@ private:
     void LayOutBar(int bar, bool needed, int position, int maximum);
     TGGridCol& LastCol();
     void PlaceHeaders();
+    void MapDC();
     void RenewNewRow();
     bool IsBarShown(int bar) const;
     int BarPosition(int bar) const;

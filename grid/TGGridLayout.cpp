@@ -308,11 +308,23 @@ void TGGrid::PrepareDC(CDC* context)
         dc = new CClientDC(this);
         ownsDC = true;
     }
-    CPoint corner;
-    GetUpCorner(corner);
     dc->SetROP2(R2_COPYPEN);
     dc->SelectObject(&font);
     dc->SelectObject(&gridPen);
+    MapDC();
+}
+
+// The logical origin lies one pixel outside the data area, so that the first grid lines are hidden. Nothing is
+// drawn over the header windows, whether or not the host made the window with WS_CLIPCHILDREN.
+void TGGrid::MapDC()
+{
+    CRect area;
+    GetClientRect(&area);
+    CPoint corner;
+    GetUpCorner(corner);
+    dc->SetViewportOrg(0, 0);
+    dc->SelectClipRgn(nullptr);
+    dc->IntersectClipRect(&area);
     dc->SetViewportOrg(corner.x - 1, corner.y - 1);
 }
 

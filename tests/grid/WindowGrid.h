@@ -62,7 +62,7 @@ private:
 class GridWindowTest : public testing::Test
 {
 protected:
-    static const long rowHeight = 20;
+    static constexpr long rowHeight = 20;
 
     // Creates the grid with a client area of that size at (10, 10) in the host.
     void Create(WindowGrid& grid, int width = 400, int height = 300, DWORD style = WS_CHILD | WS_VISIBLE);

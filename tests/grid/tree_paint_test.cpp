@@ -108,7 +108,7 @@ TEST_F(GridTreePainting, Leaf_HasALineBeyondItsParentsBox)
 
 TEST_F(GridTreePainting, LastLeaf_EndsItsParentsLine)
 {
-    EXPECT_EQ("#########..........#", Column(27, 61, 70) + Column(27, 71, 82));
+    EXPECT_EQ("##########.........#", Column(27, 61, 81));
     EXPECT_EQ("####################", Column(10, 61, 81));
 }
 
@@ -155,7 +155,7 @@ TEST_F(GridTreePainting, Text_StartsRightOfTheDecoration)
             if (!picture.IsAll(CRect(x, inside.top, x + 1, inside.bottom), white))
                 return x - grid.ToClient(0, 0).x;
         }
-        return 0;
+        return 0L;
     };
     grid.SetTreeLine(false);
     for (long row = 0; row < 6; ++row)

@@ -56,7 +56,6 @@ TEST_F(GridWindow, Create_RegistersItsClass)
               ::GetClassLongPtr(grid, GCLP_HBRBACKGROUND));
     EXPECT_EQ(reinterpret_cast<ULONG_PTR>(::LoadCursor(nullptr, IDC_ARROW)),
               ::GetClassLongPtr(grid, GCLP_HCURSOR));
-    EXPECT_EQ(0u, ::GetClassLongPtr(grid, GCLP_HICON));
 }
 
 TEST_F(GridWindow, CreateOverAPlaceholder_TakesItsPlaceAndId)

@@ -81,10 +81,10 @@ public:
 
     // Many changes as one: between the first BeginUpdate and the last EndUpdate layout and repaint are
     // postponed; the last EndUpdate does them once. Calls nest. See TGGridUpdate for the scoped form.
-    // Inside, nothing is painted, scroll bars and new-row line keep the state of the last layout, and rows or
-    // columns that get selected are scrolled into view by the last EndUpdate (the last one wins). Operations
-    // that need an up-to-date layout at once (MoveView, FitLastCol, opening an editor, a click) do a
-    // postponed layout first.
+    // Inside, nothing is painted. While a layout is postponed, scroll bars and new-row line keep the state of
+    // the last one, and rows or columns that get selected are scrolled into view by the last EndUpdate (the
+    // last one wins). Operations that need the layout at once (MoveView, FitLastCol, opening an editor, a
+    // click) do it first.
     void BeginUpdate();
     void EndUpdate();
     bool IsUpdating() const { return updateDepth > 0; }
@@ -302,8 +302,8 @@ public:
 
     // ---- Commands ---------------------------------------------------------------------------------------
     // What the user does: these check the style word and the selection, ask the OnBefore... hooks and report
-    // the change. They return false, changing nothing, when refused. A row that a tree command hands to a hook
-    // prepared stays the grid's also when the hook replaces it.
+    // the change. They return false, changing nothing, when refused. A row that a tree command hands to a
+    // hook prepared stays the grid's also when the hook replaces it.
 
     // At the one selected column: before it, behind it; at the end. The new column is selected.
     bool DoInsertCol();
@@ -441,8 +441,8 @@ protected:
     void FilterDelUnable();
     // A selected row may not be deleted.
     bool IsSelDelUnable();
-    // The cut and the paste without flags and hooks: moves the selected rows to the row buffer, the row buffer
-    // in front of `row`.
+    // The cut and the paste without flags and hooks: moves the selected rows to the row buffer, the row
+    // buffer in front of `row`.
     void ClipSelect();
     void Paste(long row);
 
@@ -514,12 +514,6 @@ private:
         FlatButtonFlag = 0x2000,
         NoAppendButtonFlag = 0x4000,
         NoDefaultMenuFlag = 0x8000
-    };
-    // Timers of the window: AutoEditCell and AutoCloseCell.
-    enum Timer
-    {
-        EditTimer = 0,
-        CloseTimer = 1
     };
     bool HasFlag(int flags) const { return (style & flags) != 0; }
     void SetFlag(Flag flag, bool on) { style = on ? style | flag : style & ~flag; }

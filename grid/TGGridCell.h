@@ -70,6 +70,8 @@ private:
         ReadOnlyFlag = 0x01
     };
 
+    // Draws the cell in the colours of the context, unless it lies outside what is being painted.
+    void Draw(CDC& context) const;
     void DrawCellText(CDC& context, CRect textRect) const;
     // Draw the fold box and the lines of a tree row; the first returns the x from which its text starts.
     long DrawTreeDecoration(CDC& context, const CRect& cell) const;

@@ -1,6 +1,7 @@
 // The drawing of one cell: frame, background, tree decoration and text.
 #include "grid/TGGridCell.h"
 
+#include "grid/CellWatch.h"
 #include "grid/GridGeometry.h"
 #include "grid/TGGrid.h"
 
@@ -36,24 +37,37 @@ void DrawFoldBox(CDC& context, const CRect& box, bool folded)
 
 void TGGridCell::Refresh()
 {
-    if (grid == nullptr || grid->GetSafeHwnd() == nullptr || !grid->OnRefresh(*this))
+    if (grid == nullptr || grid->GetSafeHwnd() == nullptr)
         return;
-    CDC* context = grid->GetDC();
-    if (context == nullptr)
+    TGGrid& owner = *grid;
+    if (owner.IsUpdating())
+    {
+        owner.Invalidate(1);
         return;
-    grid->OnBeforeRefresh(*this);
+    }
+    // Hooks may delete the cell, and ask for a layout, which makes a new context.
+    const CellWatch self(owner, this);
+    if (!owner.OnRefresh(*this) || owner.GetDC() == nullptr || self.Cell() == nullptr)
+        return;
+    owner.OnBeforeRefresh(*this);
+    if (owner.GetDC() != nullptr && self.Cell() != nullptr)
+        Draw(*owner.GetDC());
+}
+
+void TGGridCell::Draw(CDC& context) const
+{
     CRect cell;
     GetRect(cell);
     const CRect outline = CellOutlineRect(cell);
-    if (!context->RectVisible(&outline))
+    if (!context.RectVisible(&outline))
         return;
-    context->Rectangle(&outline);
+    context.Rectangle(&outline);
     const CRect inside = CellInsideRect(cell);
-    context->FillSolidRect(&inside, context->GetBkColor());
+    context.FillSolidRect(&inside, context.GetBkColor());
     CRect textRect = CellTextRect(cell, grid->GetRowSpace());
     if (col->GetIndex() == 0 && row->IsTreeRow())
-        textRect.left += DrawTreeDecoration(*context, cell) - inside.left;
-    DrawCellText(*context, textRect);
+        textRect.left += DrawTreeDecoration(context, cell) - inside.left;
+    DrawCellText(context, textRect);
 }
 
 void TGGridCell::DrawCellText(CDC& context, CRect textRect) const

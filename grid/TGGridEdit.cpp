@@ -82,6 +82,7 @@ void TGGrid::BeginEditCell(long row, long col)
         return;
     UnSelect();
     EndEditCell();
+    FlushLayout();
     TGGridCell* cell = EditSession(*this).FindCell(row, col);
     if (!m_hWnd || !cell || cell->IsReadOnly())
         return;

@@ -314,8 +314,8 @@ void TGGrid::PrepareDC(CDC* context)
     MapDC();
 }
 
-// The logical origin lies one pixel outside the data area, so that the first grid lines are hidden. Nothing is
-// drawn over the header windows, whether or not the host made the window with WS_CLIPCHILDREN.
+// The logical origin lies one pixel outside the data area, so that the first grid lines are hidden. Nothing
+// is drawn over the header windows, whether or not the host made the window with WS_CLIPCHILDREN.
 void TGGrid::MapDC()
 {
     CRect area;

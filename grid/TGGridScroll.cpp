@@ -49,7 +49,7 @@ void TGGrid::ShowRect(CRect rect)
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    if (IsUpdating())
+    if (layoutPending)
     {
         pendingShowRect = rect;
         showPending = true;

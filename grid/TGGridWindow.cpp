@@ -2,6 +2,7 @@
 #include "grid/TGGrid.h"
 
 #include "grid/TGActiveQuad.h"
+#include "grid/TGCellCtrlIds.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 
@@ -52,6 +53,8 @@ BEGIN_MESSAGE_MAP(TGGrid, CWnd)
     ON_WM_DESTROY()
     ON_WM_RBUTTONUP()
     ON_WM_TIMER()
+    ON_CBN_SELCHANGE(CellEditorId, OnCbnSelchange)
+    ON_CBN_EDITCHANGE(CellEditorId, OnCbnEditChange)
 END_MESSAGE_MAP()
 
 BOOL TGGrid::Create(const RECT& rect, DWORD windowStyle, CWnd* parent)

@@ -6,6 +6,7 @@
 
 #include "fx/config.h"
 #include "handlemap/TemporaryLevel.h"
+#include "thread/PerThread.h"
 
 // How a handle map makes and drops the temporary objects of a class. A class that is kept in a handle map
 // specialises it beside its own functions:
@@ -25,11 +26,7 @@ public:
     HandleMap& operator=(const HandleMap&) = delete;
     ~HandleMap() = default;
 
-    static HandleMap& OfThisThread()
-    {
-        static thread_local HandleMap map;
-        return map;
-    }
+    static HandleMap& OfThisThread() { return PerThread<HandleMap>::Get(); }
 
     // The attached object of the handle, or NULL.
     TObject* FindPermanent(THandle handle) const

@@ -1,6 +1,8 @@
 // The per-thread state of the framework.
 #include "thread/ThreadState.h"
 
+static_assert(std::is_trivially_destructible_v<ThreadState>);
+
 ThreadState& CurrentThreadState()
 {
     static thread_local ThreadState state;

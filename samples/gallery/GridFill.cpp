@@ -10,17 +10,20 @@ constexpr int MinColumnWidth = 44;
 constexpr int MaxColumnWidth = 220;
 constexpr size_t MeasuredRows = 200;
 
-// The text up to its first line break, which is what a cell shows.
-CString FirstLine(const std::wstring& text)
+// Cells show one line: line breaks become blanks.
+CString OnOneLine(const std::wstring& text)
 {
-    return CString(text.substr(0, text.find_first_of(L"\r\n")).c_str());
+    CString line(text.c_str());
+    line.Replace(L"\r\n", L" ");
+    line.Replace(L'\n', L' ');
+    return line;
 }
 
 int MeasureColumn(CDC& context, const gallery::CsvTable& table, size_t column)
 {
     long width = context.GetTextExtent(CString(table.header[column].c_str())).cx;
     for (size_t row = 0; row < std::min(table.rows.size(), MeasuredRows); ++row)
-        width = std::max<long>(width, context.GetTextExtent(FirstLine(table.rows[row][column])).cx);
+        width = std::max<long>(width, context.GetTextExtent(OnOneLine(table.rows[row][column])).cx);
     return std::clamp(static_cast<int>(width) + 12, MinColumnWidth, MaxColumnWidth);
 }
 
@@ -50,7 +53,21 @@ void MakeColumns(QuorUiCtr::TGGrid& grid, const gallery::CsvTable& table)
 void FillRow(QuorUiCtr::TGGridRow& row, const std::vector<std::wstring>& texts)
 {
     for (size_t column = 0; column < texts.size(); ++column)
-        row[static_cast<long>(column)].SetText(texts[column].c_str());
+        row[static_cast<long>(column)].SetText(OnOneLine(texts[column]));
+}
+
+void SetRoomyFont(QuorUiCtr::TGGrid& grid, CFont& font)
+{
+    CClientDC context(&grid);
+    CFont* previous = context.SelectObject(grid.GetFont());
+    TEXTMETRIC metrics = {};
+    context.GetTextMetrics(&metrics);
+    context.SelectObject(previous);
+    LOGFONT description = {};
+    grid.GetFont()->GetLogFont(&description);
+    description.lfHeight = metrics.tmHeight;
+    font.CreateFontIndirect(&description);
+    grid.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), TRUE);
 }
 
 void PlaceBelowToolLine(CWnd& page, CWnd& control, CWnd& banner, int width, int height)

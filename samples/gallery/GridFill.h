@@ -9,6 +9,10 @@
 // are centred.
 void MakeColumns(QuorUiCtr::TGGrid& grid, const gallery::CsvTable& table);
 
+// Gives the grid its own font in a size that counts the whole line of text, not just the letters: rows are then
+// high enough for accents and descenders. `font` keeps the font and outlives the grid's window.
+void SetRoomyFont(QuorUiCtr::TGGrid& grid, CFont& font);
+
 // Stores the texts of `texts` in the cells of `row`.
 void FillRow(QuorUiCtr::TGGridRow& row, const std::vector<std::wstring>& texts);
 

@@ -33,6 +33,7 @@ BOOL GridPage::OnInitDialog()
     Page::OnInitDialog();
     CheckDlgButton(IDC_FLAT_HEADERS, BST_CHECKED);
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
+    SetRoomyFont(grid, font);
     OpenFile(DataFilePath(L"elements.csv"));
     return TRUE;
 }

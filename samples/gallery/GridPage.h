@@ -28,6 +28,7 @@ protected:
 private:
     void ShowTable(const gallery::CsvTable& table);
 
+    CFont font;
     GalleryGrid grid;
     CStatic banner;
 };

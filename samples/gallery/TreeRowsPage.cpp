@@ -64,6 +64,7 @@ BOOL TreeRowsPage::OnInitDialog()
     CheckDlgButton(IDC_FLAT_HEADERS, BST_CHECKED);
     CheckDlgButton(IDC_TREE_LINES, BST_CHECKED);
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
+    SetRoomyFont(grid, font);
     const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"elements.csv").GetString());
     if (table.IsRefused())
         banner.SetWindowText(table.errors.front().c_str());
@@ -85,6 +86,7 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     }
     QuorUiCtr::TGGridUpdate update(grid);
     MakeColumns(grid, table);
+    WidenForTree();
     for (const std::vector<std::wstring>& texts : table.rows)
     {
         TGGridTreeRow& group = ChildRow(RootRow(texts[static_cast<size_t>(outer)]), texts[static_cast<size_t>(inner)]);
@@ -96,6 +98,16 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     summary.Format(L"%d 种元素，三级", static_cast<int>(table.rows.size()));
     banner.SetWindowText(summary);
     grid.SetModify(false);
+}
+
+// The column that draws the tree needs room for three levels; there is no operation to set a width, so the
+// column is made anew.
+void TreeRowsPage::WidenForTree()
+{
+    constexpr long TreeColumnWidth = 150;
+    const CString name = grid.GetCol(0).GetName();
+    grid.DelCol(0);
+    grid.InsertCol(0, name, TreeColumnWidth);
 }
 
 TGGridTreeRow& TreeRowsPage::RootRow(const std::wstring& label)

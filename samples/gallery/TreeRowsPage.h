@@ -26,12 +26,14 @@ protected:
 
 private:
     void ShowTable(const gallery::CsvTable& table);
+    void WidenForTree();
     // The root row with this label, appended when there is none yet.
     QuorUiCtr::TGGridTreeRow& RootRow(const std::wstring& label);
     // The child of `parent` with this label, appended when there is none yet.
     QuorUiCtr::TGGridTreeRow& ChildRow(QuorUiCtr::TGGridTreeRow& parent, const std::wstring& label);
     void ForEachRoot(void (QuorUiCtr::TGGridTreeRow::*operation)());
 
+    CFont font;
     GalleryGrid grid;
     CStatic banner;
 };

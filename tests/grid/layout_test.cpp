@@ -276,6 +276,27 @@ TEST_F(GridLayout, SetRowSpace_LaysOut)
     EXPECT_EQ("V " + std::to_string(14 * 21 - (300 - 21)) + "@0", grid.Bars());
 }
 
+TEST_F(GridLayout, Invalidate_ErasesTheHeadersInAnyCase)
+{
+    for (int erase : {0, 1})
+    {
+        PumpPending();
+        EXPECT_FALSE(grid.GetUpdateRect(nullptr));
+        grid.Invalidate(erase);
+        EXPECT_TRUE(grid.GetUpdateRect(nullptr));
+        for (int id : {102, 103, 104})
+        {
+            CWnd& header = *grid.GetDlgItem(id);
+            EXPECT_TRUE(header.GetUpdateRect(nullptr)) << id;
+            PAINTSTRUCT paint = {};
+            ::BeginPaint(header, &paint);
+            ::EndPaint(header, &paint);
+            // Erased, as far as the window class can: the corner's has no background.
+            EXPECT_EQ(id == 102, paint.fErase != FALSE) << id;
+        }
+    }
+}
+
 TEST_F(GridLayout, Update_PostponesTheLayoutToItsLastEnd)
 {
     grid.BeginUpdate();

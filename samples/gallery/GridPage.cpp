@@ -45,7 +45,7 @@ bool GridPage::OpenFile(const CString& path)
         Log().Add(problem.c_str());
     if (table.IsRefused())
     {
-        banner.SetWindowText(table.errors.front().c_str());
+        banner.SetWindowText(CString(PathFindFileName(path)) + L"：" + table.errors.front().c_str());
         return true;
     }
     ShowTable(table);

@@ -90,4 +90,8 @@ protected:
     afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    // What LoadAccelTable loaded, to be given back with the frame.
+    HACCEL m_hLoadedAccelTable;
 };

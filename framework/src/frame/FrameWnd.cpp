@@ -36,6 +36,8 @@ CFrameWnd::~CFrameWnd()
 {
     // The window must die while this is still a frame: its views ask the frame for the active one.
     DestroyWindow();
+    if (m_hLoadedAccelTable != NULL)
+        ::DestroyAcceleratorTable(m_hLoadedAccelTable);
 }
 
 BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
@@ -82,8 +84,9 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName)
 {
     ASSERT(m_hAccelTable == NULL);
-    m_hAccelTable =
-        ::LoadAccelerators(AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR), lpszResourceName);
+    const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR);
+    m_hLoadedAccelTable = ::LoadAccelerators(module, lpszResourceName);
+    m_hAccelTable = m_hLoadedAccelTable;
     return m_hAccelTable != NULL;
 }
 

@@ -1,0 +1,274 @@
+// Uses the classic programs from outside, as a person would: starts them, presses, types, reads, and closes
+// them.
+#include "tests/compat/programs/classic_dialog.h"
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <string>
+
+namespace
+{
+
+constexpr DWORD deadline = 30'000;
+
+// Asks until the condition holds. Other processes give no event to wait for.
+bool WaitUntil(const std::function<bool()>& condition)
+{
+    const ULONGLONG end = ::GetTickCount64() + deadline;
+    while (!condition())
+    {
+        if (::GetTickCount64() > end)
+            return false;
+        ::Sleep(5);
+    }
+    return true;
+}
+
+std::wstring TextOf(HWND window)
+{
+    wchar_t text[256] = L"";
+    ::SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
+    return text;
+}
+
+// A running program; ended by force if a test leaves it running.
+class Program
+{
+public:
+    explicit Program(const std::wstring& name)
+    {
+        wchar_t path[MAX_PATH] = L"";
+        ::GetModuleFileNameW(NULL, path, MAX_PATH);
+        std::wstring command(path);
+        command = L"\"" + command.substr(0, command.rfind(L'\\') + 1) + name + L"\"";
+        STARTUPINFOW startup = {};
+        startup.cb = sizeof startup;
+        if (::CreateProcessW(NULL, command.data(), NULL, NULL, FALSE, 0, NULL, NULL, &startup, &m_process))
+            ::WaitForInputIdle(m_process.hProcess, deadline);
+    }
+    ~Program()
+    {
+        ::TerminateProcess(m_process.hProcess, 99);
+        ::CloseHandle(m_process.hThread);
+        ::CloseHandle(m_process.hProcess);
+    }
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // Waits for a visible top-level window of the program whose title begins so.
+    HWND Window(const std::wstring& title) const
+    {
+        HWND found = NULL;
+        WaitUntil([&] { return (found = Find(title)) != NULL; });
+        return found;
+    }
+
+    // Waits for the program's end.
+    DWORD ExitCode() const
+    {
+        DWORD code = STILL_ACTIVE;
+        ::WaitForSingleObject(m_process.hProcess, deadline);
+        ::GetExitCodeProcess(m_process.hProcess, &code);
+        return code;
+    }
+
+private:
+    struct Search
+    {
+        DWORD process;
+        const std::wstring& title;
+        HWND found;
+    };
+
+    HWND Find(const std::wstring& title) const
+    {
+        Search search = {m_process.dwProcessId, title, NULL};
+        ::EnumWindows(
+            [](HWND window, LPARAM parameter) -> BOOL {
+                Search& wanted = *reinterpret_cast<Search*>(parameter);
+                DWORD process = 0;
+                ::GetWindowThreadProcessId(window, &process);
+                if (process == wanted.process && ::IsWindowVisible(window) &&
+                    TextOf(window).rfind(wanted.title, 0) == 0)
+                    wanted.found = window;
+                return wanted.found == NULL;
+            },
+            reinterpret_cast<LPARAM>(&search));
+        return search.found;
+    }
+
+    PROCESS_INFORMATION m_process = {};
+};
+
+// Commands as the menu sends them.
+constexpr WPARAM appAbout = 0xE140;
+constexpr WPARAM appExit = 0xE141;
+constexpr WPARAM editClearAll = 0xE121;
+constexpr WPARAM viewLoud = 32771;
+constexpr WPARAM colorGreen = 32781;
+constexpr int firstPane = 0xE900;
+constexpr int aboutText = 1000;
+
+TEST(ClassicHello, ShowsItsFrameAndFollowsItsMenu)
+{
+    const Program program(L"classic_hello.exe");
+    const HWND frame = program.Window(L"Classic hello");
+    ASSERT_NE(frame, nullptr);
+    const HWND view = ::GetDlgItem(frame, firstPane);
+    ASSERT_NE(view, nullptr);
+    RECT client, inside;
+    ::GetClientRect(frame, &client);
+    ::GetWindowRect(view, &inside);
+    EXPECT_EQ(inside.right - inside.left, client.right);
+    ::SendMessageW(frame, WM_COMMAND, viewLoud, 0);
+    EXPECT_EQ(TextOf(frame), L"Classic hello (loud)");
+    ::SendMessageW(frame, WM_COMMAND, viewLoud, 0);
+    EXPECT_EQ(TextOf(frame), L"Classic hello (quiet)");
+    ::PostMessageW(frame, WM_COMMAND, appExit, 0);
+    EXPECT_EQ(program.ExitCode(), 0u);
+}
+
+TEST(ClassicHello, ShowsItsAboutBoxOverTheDisabledFrame)
+{
+    const Program program(L"classic_hello.exe");
+    const HWND frame = program.Window(L"Classic hello");
+    ASSERT_NE(frame, nullptr);
+    ::PostMessageW(frame, WM_COMMAND, appAbout, 0);
+    const HWND box = program.Window(L"About Hello");
+    ASSERT_NE(box, nullptr);
+    EXPECT_EQ(TextOf(::GetDlgItem(box, aboutText)), L"Hello, version 3");
+    EXPECT_FALSE(::IsWindowEnabled(frame));
+    ::PostMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(frame) != FALSE; }));
+    ::PostMessageW(frame, WM_CLOSE, 0, 0);
+    EXPECT_EQ(program.ExitCode(), 0u);
+}
+
+class ClassicDialog : public testing::Test
+{
+protected:
+    void SetUp() override { ASSERT_NE(m_dialog, nullptr); }
+
+    HWND Item(int id) const { return ::GetDlgItem(m_dialog, id); }
+    void Type(int id, LPCWSTR text) const
+    {
+        ::SendMessageW(Item(id), WM_SETTEXT, 0, reinterpret_cast<LPARAM>(text));
+    }
+    void Press(int id) const { ::SendMessageW(Item(id), BM_CLICK, 0, 0); }
+    std::wstring Result() const { return TextOf(Item(IDC_RESULT)); }
+
+    const Program m_program{L"classic_dialog.exe"};
+    const HWND m_dialog = m_program.Window(L"Classic converter");
+};
+
+TEST_F(ClassicDialog, ExchangesItsMembers)
+{
+    EXPECT_EQ(TextOf(Item(IDC_INPUT)), L"100");
+    EXPECT_EQ(TextOf(Item(IDC_DIGITS)), L"1");
+    EXPECT_EQ(::SendMessageW(Item(IDC_TO_FAHRENHEIT), BM_GETCHECK, 0, 0), BST_CHECKED);
+    Press(IDC_CONVERT);
+    EXPECT_EQ(Result(), L"212.0");
+    Press(IDC_TO_CELSIUS);
+    EXPECT_EQ(TextOf(Item(IDC_UNIT)), L"Fahrenheit");
+    Type(IDC_DIGITS, L"3");
+    Type(IDC_INPUT, L"50");
+    Press(IDC_CONVERT);
+    EXPECT_EQ(Result(), L"10.000");
+    EXPECT_EQ(::SendMessageW(Item(IDC_HISTORY), LB_GETCOUNT, 0, 0), 2);
+    Press(IDC_KEEP);
+    Press(IDC_CONVERT);
+    EXPECT_EQ(::SendMessageW(Item(IDC_HISTORY), LB_GETCOUNT, 0, 0), 2);
+    Press(IDOK);
+    EXPECT_EQ(m_program.ExitCode(), 10u);
+}
+
+TEST_F(ClassicDialog, EnterInTheInputConverts)
+{
+    Type(IDC_INPUT, L"0");
+    ::PostMessageW(Item(IDC_INPUT), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_TRUE(WaitUntil([this] { return Result() == L"32.0"; }));
+    ::PostMessageW(Item(IDC_INPUT), WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_EQ(m_program.ExitCode(), 20u);
+}
+
+TEST_F(ClassicDialog, TellsTheUserWhatIsOutOfRange)
+{
+    Type(IDC_INPUT, L"-300");
+    ::PostMessageW(Item(IDC_CONVERT), BM_CLICK, 0, 0);
+    const HWND box = m_program.Window(L"classic_dialog");
+    ASSERT_NE(box, nullptr);
+    const HWND text = ::GetDlgItem(box, 0xffff);
+    EXPECT_EQ(TextOf(text), L"Please enter a number between -273 and 10000.");
+    ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_EQ(Result(), L"");
+    ::PostMessageW(m_dialog, WM_CLOSE, 0, 0);
+    EXPECT_EQ(m_program.ExitCode(), 20u);
+}
+
+class ClassicView : public testing::Test
+{
+protected:
+    void SetUp() override
+    {
+        ASSERT_NE(m_frame, nullptr);
+        m_view = ::GetDlgItem(m_frame, firstPane);
+        ASSERT_NE(m_view, nullptr);
+    }
+
+    void Click(int x, int y) const { ::SendMessageW(m_view, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y)); }
+    void Command(WPARAM command) const { ::SendMessageW(m_frame, WM_COMMAND, command, 0); }
+    LRESULT Report(WPARAM what) const
+    {
+        return ::SendMessageW(m_view, ::RegisterWindowMessageW(L"ClassicViewReport"), what, 0);
+    }
+
+    const Program m_program{L"classic_view.exe"};
+    const HWND m_frame = m_program.Window(L"0 points, color 0 - Classic points");
+    HWND m_view = NULL;
+};
+
+TEST_F(ClassicView, RoutesMessagesToViewAndDocument)
+{
+    Click(20, 30);
+    Click(40, 50);
+    EXPECT_EQ(TextOf(m_frame), L"2 points, color 0 - Classic points");
+    EXPECT_EQ(Report(0), 2);
+    Command(colorGreen);
+    EXPECT_EQ(TextOf(m_frame), L"2 points, color 1 - Classic points");
+    ::SendMessageW(m_view, WM_MOUSEWHEEL, MAKEWPARAM(0, WHEEL_DELTA), 0);
+    EXPECT_EQ(TextOf(m_frame), L"2 points, color 2 - Classic points");
+    Command(editClearAll);
+    EXPECT_EQ(Report(0), 0);
+    EXPECT_TRUE(WaitUntil([this] { return Report(1) > 0; })) << "no timer message";
+}
+
+TEST_F(ClassicView, AcceleratorsAndKeysReachTheirHandlers)
+{
+    Click(20, 30);
+    ::PostMessageW(m_view, WM_KEYDOWN, VK_F7, 0);
+    EXPECT_TRUE(WaitUntil([this] { return TextOf(m_frame) == L"1 points, color 2 - Classic points"; }));
+    ::PostMessageW(m_view, WM_KEYDOWN, VK_DELETE, 0);
+    EXPECT_TRUE(WaitUntil([this] { return Report(0) == 0; }));
+}
+
+TEST_F(ClassicView, AsksBeforeItDiscards)
+{
+    Click(20, 30);
+    for (const WPARAM answer : {IDNO, IDYES})
+    {
+        ::PostMessageW(m_frame, WM_CLOSE, 0, 0);
+        const HWND box = m_program.Window(L"classic_view");
+        ASSERT_NE(box, nullptr);
+        EXPECT_EQ(TextOf(::GetDlgItem(box, 0xffff)), L"Discard the points?");
+        ::PostMessageW(box, WM_COMMAND, answer, 0);
+        EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    }
+    EXPECT_EQ(m_program.ExitCode(), 0u);
+}
+
+} // namespace

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <psapi.h>
+
 namespace quor::test
 {
 namespace
@@ -270,6 +272,47 @@ TEST(ToolTips, TheInnermostWindowWithToolTipsIsAsked)
     child.EnableToolTips();
     MoveMouse(child, {30, 30});
     EXPECT_EQ(window.m_hitTests, asked);
+}
+
+// Describes tools with texts of a megabyte.
+class LargeTextWindow : public TipWindow
+{
+public:
+    INT_PTR OnToolHitTest(CPoint point, TOOLINFO* tool) const override
+    {
+        const INT_PTR hit = TipWindow::OnToolHitTest(point, tool);
+        free(tool->lpszText);
+        constexpr size_t size = 1 << 20;
+        tool->lpszText = static_cast<LPTSTR>(malloc(size));
+        memset(tool->lpszText, 'x', size);
+        tool->lpszText[5] = 0;
+        return hit;
+    }
+};
+
+size_t CommittedBytes()
+{
+    PROCESS_MEMORY_COUNTERS counters = {};
+    counters.cb = sizeof(counters);
+    ::GetProcessMemoryInfo(::GetCurrentProcess(), &counters, sizeof(counters));
+    return counters.PagefileUsage;
+}
+
+TEST(ToolTips, TheTextOfEveryHitIsFreed)
+{
+    LargeTextWindow window;
+    ASSERT_TRUE(Activate(window));
+    const size_t before = CommittedBytes();
+    for (int move = 0; move < 300; ++move)
+    {
+        MSG message = {};
+        message.hwnd = window;
+        message.message = WM_MOUSEMOVE;
+        message.lParam = MAKELPARAM(InItem(move / 2 % 2).x, 50);
+        window.FilterToolTipMessage(&message);
+    }
+    EXPECT_EQ(window.m_hitTests, 300);
+    EXPECT_LT(CommittedBytes(), before + (50u << 20)) << "300 MB of texts were made";
 }
 
 // The default test: the child under the point.

@@ -28,7 +28,8 @@ LPCTSTR RegisterFrameClass(HICON icon)
 } // namespace quorfx
 
 CFrameWnd::CFrameWnd()
-    : m_bAutoMenuEnable(TRUE), m_hAccelTable(NULL), m_pViewActive(NULL), m_bInRecalcLayout(FALSE)
+    : m_bAutoMenuEnable(TRUE), m_hAccelTable(NULL), m_pViewActive(NULL), m_bInRecalcLayout(FALSE),
+      m_hLoadedAccelTable(NULL)
 {
 }
 

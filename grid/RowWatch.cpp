@@ -7,19 +7,23 @@ namespace QuorUiCtr
 {
 
 RowWatch::RowWatch(TGGrid& watchingGrid, const TGGridRow* watchedRow)
-    : grid(watchingGrid), row(watchedRow), outer(watchingGrid.rowWatches)
+    : grid(watchingGrid), row(watchedRow), next(watchingGrid.rowWatches)
 {
+    if (next != nullptr)
+        next->previous = this;
     grid.rowWatches = this;
 }
 
 RowWatch::~RowWatch()
 {
-    grid.rowWatches = outer;
+    (previous != nullptr ? previous->next : grid.rowWatches) = next;
+    if (next != nullptr)
+        next->previous = previous;
 }
 
 void TGGrid::ForgetRow(const TGGridRow* row)
 {
-    for (RowWatch* watch = rowWatches; watch != nullptr; watch = watch->outer)
+    for (RowWatch* watch = rowWatches; watch != nullptr; watch = watch->next)
         if (watch->row == row)
             watch->row = nullptr;
 }

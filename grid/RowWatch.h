@@ -8,7 +8,7 @@ class TGGrid;
 class TGGridRow;
 
 // Hooks may delete the row that an operation is working on; the operation watches it and asks again after the
-// hook. Lives on the stack, inside an operation of the grid.
+// hook. Must not outlive the grid.
 class RowWatch
 {
 public:
@@ -26,7 +26,8 @@ private:
 
     TGGrid& grid;
     const TGGridRow* row;
-    RowWatch* outer;
+    RowWatch* previous = nullptr;
+    RowWatch* next;
 };
 
 } // namespace QuorUiCtr

@@ -57,6 +57,7 @@ protected:
     friend class TGGridCell;
     friend class TGGridTreeRow;
     friend class TGRowSelector;
+    friend class TGTreeGrid;
 
     // The virtual operations keep this order. The first four are called by the grid when its columns change;
     // positions have the meaning of the grid's operations of the same name.

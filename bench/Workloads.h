@@ -12,6 +12,10 @@ void RunPopulate(Report& report);
 void RunRepaint(Report& report);
 // Line by line scrolling with a paint after each step.
 void RunScroll(Report& report);
+// Selecting rows one by one in several orders, all at once, and repainting them.
+void RunSelection(Report& report);
+// Beginning and committing cell edits, with the windows and the memory that they leave.
+void RunEdit(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
 

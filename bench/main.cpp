@@ -19,10 +19,12 @@ struct Workload
 };
 
 constexpr Workload Workloads[] = {
+    {"edit", bench::RunEdit},
     {"memory", bench::RunMemory},
     {"populate", bench::RunPopulate},
     {"repaint", bench::RunRepaint},
     {"scroll", bench::RunScroll},
+    {"select", bench::RunSelection},
 };
 
 } // namespace

@@ -81,9 +81,9 @@ public:
 
     // Many changes as one: between the first BeginUpdate and the last EndUpdate layout and repaint are
     // postponed; the last EndUpdate does them once. Calls nest. See TGGridUpdate for the scoped form.
-    // Inside, nothing is painted. While a layout is postponed, scroll bars and new-row line keep the state of
-    // the last one, and rows or columns that get selected are scrolled into view by the last EndUpdate (the
-    // last one wins). Operations that need the layout at once (MoveView, FitLastCol, opening an editor, a
+    // Inside, nothing is painted, and rows or columns that get selected are scrolled into view by the last
+    // EndUpdate (the last one wins). While a layout is postponed, scroll bars and new-row line keep the state
+    // of the last one. Operations that need the layout at once (MoveView, FitLastCol, opening an editor, a
     // click) do it first.
     void BeginUpdate();
     void EndUpdate();

@@ -49,7 +49,7 @@ void TGGrid::ShowRect(CRect rect)
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    if (layoutPending)
+    if (IsUpdating())
     {
         pendingShowRect = rect;
         showPending = true;

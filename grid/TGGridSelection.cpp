@@ -98,15 +98,19 @@ void TGGrid::UnselectCols()
 
 void TGGrid::UnselectRows()
 {
-    for (const long i : rowSel)
-        if (TGGridRow* row = RowAt(i))
-            row->Select(false);
+    if (GetSafeHwnd() != nullptr)
+    {
+        const CRect view = ViewRect();
+        DrawSelectedRows(view.top / GetRowHeight(), view.bottom / GetRowHeight());
+    }
     rowSel.Clear();
 }
 
 void TGGrid::InvertBand(const CRect& band)
 {
-    if (GetSafeHwnd() != nullptr && dc != nullptr)
+    if (IsUpdating())
+        redrawPending = true;
+    else if (GetSafeHwnd() != nullptr && dc != nullptr)
         dc->InvertRect(band);
 }
 

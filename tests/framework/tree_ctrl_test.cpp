@@ -291,4 +291,41 @@ TEST(TreeClass, CreateEx_SetsTheExtendedStyle)
     EXPECT_STREQ(tree.GetRuntimeClass()->m_lpszClassName, "CTreeCtrl");
 }
 
+// How many pixels a list's first image covers.
+int CoveredPixels(CImageList& list, CSize size)
+{
+    CClientDC screen(NULL);
+    CDC memory;
+    memory.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, size.cx, size.cy);
+    CBitmap* const previous = memory.SelectObject(&bitmap);
+    memory.FillSolidRect(0, 0, size.cx, size.cy, RGB(0, 200, 0));
+    list.Draw(&memory, 0, CPoint(0, 0), ILD_TRANSPARENT);
+    int count = 0;
+    for (int y = 0; y < size.cy; ++y)
+        for (int x = 0; x < size.cx; ++x)
+            count += memory.GetPixel(x, y) != RGB(0, 200, 0);
+    memory.SelectObject(previous);
+    return count;
+}
+
+TEST_F(TreeWrapper, CreateDragImage_ShowsIconAndText)
+{
+    EXPECT_EQ(m_tree.CreateDragImage(m_root), nullptr) << "without images";
+    m_tree.SetImageList(&m_images, TVSIL_NORMAL);
+    const std::unique_ptr<CImageList> drag(m_tree.CreateDragImage(m_root));
+    ASSERT_NE(drag, nullptr);
+    ASSERT_EQ(drag->GetImageCount(), 1);
+    IMAGEINFO info = {};
+    ASSERT_TRUE(drag->GetImageInfo(0, &info));
+    const CSize size = CRect(info.rcImage).Size();
+    EXPECT_GT(size.cx, 16) << "the text is beside the icon";
+    EXPECT_GE(size.cy, 16);
+    const int drawn = CoveredPixels(*drag, size);
+    EXPECT_GT(drawn, 100);
+    EXPECT_LT(drawn, size.cx * size.cy) << "the ground is transparent";
+    EXPECT_EQ(m_tree.CreateDragImage(NULL), nullptr);
+}
+
 } // namespace

@@ -191,13 +191,3 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
         *pFlags = info.flags;
     return item;
 }
-
-CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)
-{
-    const HIMAGELIST handle = quorfx::Send<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem);
-    if (handle == NULL)
-        return NULL;
-    CImageList* list = new CImageList;
-    list->Attach(handle);
-    return list;
-}

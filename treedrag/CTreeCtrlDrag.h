@@ -1,0 +1,252 @@
+// CTreeCtrlDrag: a tree control whose items the user rearranges by dragging, with folders.
+#pragma once
+
+#include <afxcmn.h>
+
+namespace QuorUiCtr
+{
+
+class TreeWatch;
+
+// The messages that a CTreeCtrlDrag sends to its parent window. Items are HTREEITEM.
+//
+// An item was copied to a new place by a move; the original is deleted next. wParam: the copy; lParam: the
+// item that it was inserted after, or its parent item when it became the first child (TVI_ROOT at root
+// level). Moving down sends it again after the original is gone, with wParam: the handle that the original
+// had; lParam: the copy.
+constexpr UINT TDM_ITEM_INSERTED = WM_USER + 6;
+// An item is about to be deleted by DeleteSelected; children are told before their parents. wParam: the item.
+constexpr UINT TDM_ITEM_DELETED = WM_USER + 7;
+// A label edit is about to begin. wParam: its NMTVDISPINFO*; lParam: LRESULT*, where TRUE refuses the edit.
+constexpr UINT TDM_BEGIN_LABEL_EDIT = WM_USER + 8;
+// The user gave an item a new label. wParam: the item.
+constexpr UINT TDM_ITEM_RENAMED = WM_USER + 9;
+// An item was dropped and is about to be moved. wParam: the item; lParam: the item that it would be inserted
+// after, or its new parent when it would become the first child (TVI_ROOT at root level). A result other than
+// 0 means that the owner has handled or refuses the drop: nothing is moved.
+constexpr UINT TDM_DROP_QUERY = WM_USER + 10;
+
+// A tree whose items can be rearranged with the mouse or by commands, which a dialog usually binds to
+// buttons.
+//
+// An item with the image index 0 is a folder, any other an ordinary item. A drag shows an insertion line
+// before or after an item, scrolls the tree when the mouse leaves it, and opens or closes the folder on which
+// the mouse rests for a second; the right mouse button cancels it, and so does losing the mouse capture. A
+// move copies the item with everything below it (texts, images, states, check marks, item data, expansion) to
+// the new place and deletes the original, so handles of moved items change; TDM_ITEM_INSERTED tells. An item
+// that is dropped into its own subtree stays where it is.
+//
+// The tree sees its drag and label-edit notifications itself; the parent learns of them by the TDM_ messages
+// above, which are sent. The owner may do anything while it handles one, also delete items, or destroy the
+// tree: the operation then ends early and leaves what is there intact. Destroying the window from inside
+// TDM_BEGIN_LABEL_EDIT or TDM_ITEM_RENAMED is the exception: the platform's control, which is amid its
+// notification, does not allow it.
+//
+// Item handles are given and returned as they are: null means none. Points and rectangles are client pixels.
+// Commands need the window; with an empty tree they do nothing but CreateNewFolder.
+class AFX_EXT_CLASS CTreeCtrlDrag : public CTreeCtrl
+{
+public:
+    CTreeCtrlDrag();
+    // Ends what is going on and destroys the window.
+    ~CTreeCtrlDrag() override;
+
+    // Dragging.
+
+    // Whether a drag with the mouse is in progress.
+    BOOL IsDragging() const { return isDragging; }
+    // Ends the drag from outside. `success` carries the drop out when there is a drop target, as letting the
+    // mouse button go does; FALSE cancels and shows the dragged item.
+    void CompleteDrag(BOOL success);
+    // The item data of the item that is, or was last, dragged or moved; 0 when there is none any more.
+    DWORD_PTR GetDragItemData();
+
+    // Commands on the selected item. An open label edit is ended first and its text kept; when that is
+    // refused, the command does nothing. Moves cancel a drag.
+
+    // Inserts a folder named "New Folder" as first child of the selected folder, else after the selected
+    // item, or first in the tree when nothing is selected; selects it and begins to edit its label. Where
+    // names must be unique and that one is not, a number from 1 is appended. Returns the folder.
+    HTREEITEM CreateNewFolder();
+    // Deletes the selected item with everything below it, after a question if there is something. Sends
+    // TDM_ITEM_DELETED for each item, children first. Items that the owner deletes meanwhile are left out.
+    void DeleteSelected();
+    // Begins to edit the label; the tree needs the style TVS_EDITLABELS and the focus.
+    void RenameSelected();
+    // Moves the item one place up: to the end of the open folder or into the empty folder before it, before
+    // its previous sibling, or out of its folder. Sends TDM_ITEM_INSERTED. Refused with a message when the
+    // name must be unique and is not in the other folder.
+    void MoveItemUp();
+    // Moves the item one place down: first into the open folder or into the empty folder after it, after its
+    // next sibling, or out of its folder. Sends TDM_ITEM_INSERTED twice. Refused like MoveItemUp.
+    void MoveItemDown();
+
+    // Whether MoveItemUp can move the selected item: it is not the first of the tree. With nothing selected,
+    // selects the first item and returns 0.
+    BOOL ShouldUpBtnBeEnabled();
+    // Whether MoveItemDown can move the selected item: it is not the last root item. With nothing selected,
+    // selects the first item and returns whether there are more items than one.
+    BOOL ShouldDownBtnBeEnabled();
+    // Whether the selected item, or the first one when nothing is selected, is a folder; 0 for an empty tree.
+    BOOL IsSelectedItemAFolder();
+
+    // Names.
+
+    // Whether siblings must have different names, apart from case. Binds label edits, new folders and
+    // MoveItemUp and MoveItemDown; drags and the owner's own insertions are not checked. Off at first.
+    void SetNoDuplicates(BOOL unique) { noDuplicates = unique; }
+
+    // Walking the whole tree, whether expanded or not.
+
+    using CTreeCtrl::GetNextItem;
+    // The next item: the first child, else the next sibling, else that of the nearest ancestor that has one.
+    // Null after the last item and for null.
+    HTREEITEM GetNextItem(HTREEITEM item);
+    // The item before: the opposite of GetNextItem.
+    HTREEITEM GetPrevItem(HTREEITEM item);
+
+protected:
+    // The item and the side of it (`above`: before it) where a drop at `point` goes, when `item` is under it:
+    // the upper half of a row means before the item; the lower half before the first child of an open folder,
+    // and after any other item.
+    HTREEITEM GetDragTarget(HTREEITEM item, POINT point, BOOL& above);
+    // Draws the insertion line at the top or bottom edge of `rect`, as dropAbove says, up to the right client
+    // edge.
+    void DrawDropTargetLine(CRect rect, CDC* context);
+    // Gives back timers, capture, cursor and drag image and removes the drop highlight. Keeps dragItem,
+    // dropTarget and dropAbove.
+    void TidyUpEndOfDrag();
+    // Moves dragItem to dropTarget, unless it is there already or the parent answers TDM_DROP_QUERY with
+    // non-zero.
+    void SuccessfulDrag();
+
+    // Copies dragItem with everything below it to dropTarget, under `parent`; null means the parent of
+    // dropTarget. Sends TDM_ITEM_INSERTED. Returns the copy; null when there is nothing to copy, when the
+    // place lies in the subtree of dragItem itself, when the insertion fails, and when the parent has deleted
+    // the copy.
+    HTREEITEM InsertItemAndSubtree(HTREEITEM parent);
+    // Appends copies of what is below `source` to `destination`, which lies outside of it. False when an
+    // insertion fails: then the copy is incomplete.
+    bool CopySubtree(HTREEITEM destination, HTREEITEM source);
+    // Copies images, states, item data, text, check mark and expansion.
+    void CopyItem(HTREEITEM destination, HTREEITEM source);
+    // Walks the subtrees of both items in step. Sends nothing.
+    void ReportDragBackToParent(HTREEITEM source, HTREEITEM destination);
+
+    // Whether the item is a folder without children.
+    BOOL IsItemEmptyFolder(HTREEITEM item);
+    // How far labels of children stand to the right of their parent's, as seen at the first expanded item; 19
+    // when there is none.
+    int GetParentToChildIndent();
+    // Stores the first visible item and the last expanded one into firstVisibleItem and lastVisibleItem.
+    void SaveFirstAndLastVisibleItems();
+    // Scrolls back to where the stored items show, unless `oldItem` is one of them; shows `extra` when it is
+    // not null; switches redrawing on and shows `newItem`.
+    void ResetVisibleItems(HTREEITEM newItem, HTREEITEM oldItem, HTREEITEM extra);
+
+    // Where an item goes when it moves one place down, and whether before (`above`) or after it. Null at the
+    // end.
+    HTREEITEM GetNextNonChildItem(HTREEITEM item, BOOL& above);
+    // Where an item goes when it moves one place up, on which side of it, and under which parent. Null at the
+    // start.
+    HTREEITEM GetPrevVisibleItemToMoveTo(HTREEITEM item, BOOL& above, HTREEITEM& newParent);
+    // Whether no child of `parent` (null: no root item) but `exclude` has that name, apart from case.
+    BOOL IsUniqueNameOnThisLevel(const CString& name, HTREEITEM exclude, HTREEITEM parent);
+
+    // While a label is edited, Enter, Esc and Ctrl+X go to the edit control; F2 begins to edit.
+    BOOL PreTranslateMessage(MSG* message) override;
+    // Notes deleted items, then goes on as usual.
+    BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
+
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnBeginDrag(NMHDR* header, LRESULT* result);
+    afx_msg void OnBeginLabelEdit(NMHDR* header, LRESULT* result);
+    afx_msg void OnEndLabelEdit(NMHDR* header, LRESULT* result);
+    afx_msg void OnTimer(UINT_PTR id);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg BOOL OnEraseBkgnd(CDC* context);
+    afx_msg void OnPaint();
+    afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* newOwner);
+    afx_msg void OnDestroy();
+    afx_msg LRESULT OnReopenLabelEdit(WPARAM wParam, LPARAM lParam);
+
+    UINT scrollTimerId = 0; // 0: not running
+    UINT hoverTimerId = 0;  // 0: not running
+    CPoint hoverPoint;      // where the mouse rests
+    BOOL isDragging = FALSE;
+    CImageList* dragImage = nullptr; // owned
+    HTREEITEM dragItem = nullptr;    // the item that is dragged or moved; null once it is deleted
+    BOOL dropAbove = FALSE; // before dropTarget; else after it, or into it when it is an empty folder
+    HTREEITEM dropTarget = nullptr;
+    BOOL labelEditTemporary = FALSE; // TVS_EDITLABELS is on for one label edit only
+    BOOL noDuplicates = FALSE;
+    HTREEITEM firstVisibleItem = nullptr; // as stored by SaveFirstAndLastVisibleItems
+    HTREEITEM lastVisibleItem = nullptr;
+
+private:
+    // Sends a message to the parent window; 0 without one.
+    LRESULT TellParent(UINT message, HTREEITEM item, HTREEITEM place = nullptr);
+
+    bool IsFolder(HTREEITEM item) const;
+    // The item has children and is expanded.
+    bool IsOpen(HTREEITEM item) const;
+    bool IsSelfOrBelow(HTREEITEM item, HTREEITEM ancestor) const;
+    // The parent item, TVI_ROOT for root items and for null.
+    HTREEITEM ParentOrRoot(HTREEITEM item) const;
+    // The first item of the subtree when children come before their parents.
+    HTREEITEM DeepestFirstChild(HTREEITEM item) const;
+    // Null without children.
+    HTREEITEM LastChild(HTREEITEM item) const;
+    void ForgetItem(HTREEITEM item);
+
+    void StartDragging(CPoint dragPoint);
+    void CancelDrag();
+    void TrackDrag(CPoint point);
+    void StopTimer(UINT& id);
+    void ToggleHoveredItem();
+    void ScrollDuringDrag();
+    void ScrollVertically(CPoint point);
+    void ScrollHorizontally(CPoint point);
+    HTREEITEM ItemBelowView() const;
+    void ShowDropTarget(HTREEITEM item, CPoint point);
+    void SetDropTarget(HTREEITEM target, BOOL above);
+    void Repaint();
+
+    bool IsDropWithoutEffect();
+    bool IsDropLeftToUs();
+    HTREEITEM DropParent();
+    // The item to insert after for dropTarget and dropAbove, TVI_FIRST for the start of the parent's
+    // children.
+    HTREEITEM InsertAfterUnder(HTREEITEM parent) const;
+    HTREEITEM InsertPlaceholder(const wchar_t* text, HTREEITEM parent, HTREEITEM after);
+    HTREEITEM ReplaceDragItem(HTREEITEM newParent);
+    bool BeginCommandMove();
+    void CarryOutCommandMove(HTREEITEM newParent, bool tellAgain);
+    bool IsMoveAllowed(HTREEITEM newParent);
+    void EndMove();
+
+    void PaintTree(CDC& context, const CRect& client);
+    void PaintDragLabels(CDC& context, const CRect& client);
+    void PaintDragLabel(CDC& context, HTREEITEM item, int clientRight);
+
+    HTREEITEM InsertFolder();
+    bool OpenLabelEdit(HTREEITEM item);
+    bool FinishLabelEdit();
+    void AcceptLabel(HTREEITEM item, const CString& text);
+    void RefuseLabel(HTREEITEM item);
+    void SwitchTemporaryEditOff();
+    void ReportDeletion(HTREEITEM item);
+
+    // Posted to itself: a refused label is edited again.
+    static const UINT ReopenLabelEditMessage;
+
+    bool isEndingDrag = false;
+    bool isRefusingLabel = false;
+    HTREEITEM itemToReopen = nullptr; // its label was refused and is to be edited again
+    TreeWatch* newestWatch = nullptr;
+};
+
+} // namespace QuorUiCtr

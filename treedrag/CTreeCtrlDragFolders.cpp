@@ -1,0 +1,261 @@
+// Commands on the selected item, names and the editing of labels.
+#include "treedrag/CTreeCtrlDrag.h"
+
+#include "treedrag/TreeDragRules.h"
+#include "treedrag/TreeWatch.h"
+
+#include <vector>
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+constexpr const wchar_t* NewFolderName = L"New Folder";
+constexpr const wchar_t* DeleteQuestion = L"You have chosen to delete a folder.  Please confirm you want to "
+                                          L"delete this folder and all items in it?";
+constexpr const wchar_t* InvalidNameText =
+    L"Invalid name - an item with the same name already exists in this location.";
+
+// A function key's code stands beside the letter's: both cut.
+constexpr WPARAM CutKeys[] = {0x58, 0x78};
+
+bool IsCutKey(WPARAM key)
+{
+    return (key == CutKeys[0] || key == CutKeys[1]) && ::GetKeyState(VK_CONTROL) < 0;
+}
+
+// Passes a key to the edit control of a label; returns whether it is one of the control's.
+bool PassKeyToEdit(const MSG& message, CWnd& edit)
+{
+    if (message.wParam == VK_RETURN || message.wParam == VK_ESCAPE)
+        edit.SendMessage(message.message, message.wParam, message.lParam);
+    else if (IsCutKey(message.wParam))
+        edit.SendMessage(WM_CUT);
+    else
+        return false;
+    return true;
+}
+
+} // namespace
+
+BOOL CTreeCtrlDrag::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN)
+    {
+        CEdit* edit = GetEditControl();
+        if (edit != nullptr && PassKeyToEdit(*message, *edit))
+            return TRUE;
+        if (edit == nullptr && message->wParam == VK_F2 && (GetStyle() & TVS_EDITLABELS) != 0)
+            RenameSelected();
+    }
+    return CTreeCtrl::PreTranslateMessage(message);
+}
+
+BOOL CTreeCtrlDrag::IsUniqueNameOnThisLevel(const CString& name, HTREEITEM exclude, HTREEITEM parent)
+{
+    const bool isRootLevel = parent == nullptr || parent == TVI_ROOT;
+    HTREEITEM sibling = isRootLevel ? GetRootItem() : GetChildItem(parent);
+    for (; sibling != nullptr; sibling = GetNextSiblingItem(sibling))
+        if (sibling != exclude && IsSameName(GetItemText(sibling), name))
+            return FALSE;
+    return TRUE;
+}
+
+BOOL CTreeCtrlDrag::IsSelectedItemAFolder()
+{
+    const HTREEITEM selected = GetSelectedItem();
+    const HTREEITEM item = selected != nullptr ? selected : GetRootItem();
+    return item != nullptr && IsFolder(item);
+}
+
+BOOL CTreeCtrlDrag::ShouldUpBtnBeEnabled()
+{
+    const HTREEITEM selected = GetSelectedItem();
+    if (selected != nullptr)
+        return selected != GetRootItem();
+    SelectItem(GetRootItem());
+    return FALSE;
+}
+
+BOOL CTreeCtrlDrag::ShouldDownBtnBeEnabled()
+{
+    const HTREEITEM selected = GetSelectedItem();
+    if (selected != nullptr)
+        return GetNextSiblingItem(selected) != nullptr || GetParentItem(selected) != nullptr;
+    SelectItem(GetRootItem());
+    return GetCount() > 1;
+}
+
+HTREEITEM CTreeCtrlDrag::CreateNewFolder()
+{
+    if (!FinishLabelEdit())
+        return nullptr;
+    labelEditTemporary = (GetStyle() & TVS_EDITLABELS) == 0;
+    if (labelEditTemporary)
+        ModifyStyle(0, TVS_EDITLABELS);
+    TreeWatch watch(newestWatch);
+    const HTREEITEM folder = InsertFolder();
+    SelectItem(folder);
+    if (!watch.IsGone(folder))
+        EnsureVisible(folder);
+    const bool isEditing = !watch.IsGone(folder) && OpenLabelEdit(folder);
+    // Where no edit begins, none will end and take the style away.
+    if (!isEditing && !watch.IsTreeGone())
+        SwitchTemporaryEditOff();
+    return watch.IsGone(folder) ? nullptr : folder;
+}
+
+HTREEITEM CTreeCtrlDrag::InsertFolder()
+{
+    const HTREEITEM selected = GetSelectedItem();
+    HTREEITEM parent = TVI_ROOT;
+    HTREEITEM after = TVI_FIRST;
+    if (selected != nullptr && IsSelectedItemAFolder())
+        parent = selected;
+    else if (selected != nullptr)
+    {
+        parent = ParentOrRoot(selected);
+        after = selected;
+    }
+    const CString name = FreeFolderName(NewFolderName, [&](const CString& candidate) {
+        return !noDuplicates || IsUniqueNameOnThisLevel(candidate, nullptr, parent);
+    });
+    return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, name, 0, 0, 0, 0, 0, parent, after);
+}
+
+void CTreeCtrlDrag::RenameSelected()
+{
+    if (const HTREEITEM selected = GetSelectedItem())
+        EditLabel(selected);
+}
+
+void CTreeCtrlDrag::DeleteSelected()
+{
+    if (!FinishLabelEdit())
+        return;
+    const HTREEITEM selected = GetSelectedItem();
+    if (selected == nullptr)
+        return;
+    TreeWatch watch(newestWatch);
+    if (ItemHasChildren(selected) && AfxMessageBox(DeleteQuestion, MB_YESNO) != IDYES)
+        return;
+    if (!watch.IsGone(selected))
+        ReportDeletion(selected);
+    if (!watch.IsGone(selected))
+        DeleteItem(selected);
+}
+
+void CTreeCtrlDrag::ReportDeletion(HTREEITEM top)
+{
+    std::vector<HTREEITEM> items;
+    HTREEITEM item = DeepestFirstChild(top);
+    while (item != top)
+    {
+        items.push_back(item);
+        const HTREEITEM sibling = GetNextSiblingItem(item);
+        item = sibling != nullptr ? DeepestFirstChild(sibling) : GetParentItem(item);
+    }
+    items.push_back(top);
+    TreeWatch watch(newestWatch);
+    for (const HTREEITEM deleted : items)
+        if (!watch.IsGone(deleted))
+            TellParent(TDM_ITEM_DELETED, deleted);
+}
+
+void CTreeCtrlDrag::OnBeginLabelEdit(NMHDR* header, LRESULT* result)
+{
+    const HTREEITEM item = reinterpret_cast<const NMTVDISPINFO*>(header)->item.hItem;
+    TreeWatch watch(newestWatch);
+    if (CWnd* parent = GetParent())
+        parent->SendMessage(TDM_BEGIN_LABEL_EDIT, reinterpret_cast<WPARAM>(header),
+                            reinterpret_cast<LPARAM>(result));
+    if (watch.IsGone(item))
+        *result = TRUE;
+}
+
+void CTreeCtrlDrag::OnEndLabelEdit(NMHDR* header, LRESULT* result)
+{
+    *result = 0;
+    // The message box of the refusal takes the focus from the edit that is ending, which ends it once more.
+    if (isRefusingLabel)
+        return;
+    itemToReopen = nullptr;
+    const TVITEM& edited = reinterpret_cast<const NMTVDISPINFO*>(header)->item;
+    const HTREEITEM item = edited.hItem;
+    CString text(edited.pszText);
+    text.Trim();
+    TreeWatch watch(newestWatch);
+    if (!text.IsEmpty())
+    {
+        if (noDuplicates && !IsUniqueNameOnThisLevel(text, item, GetParentItem(item)))
+            RefuseLabel(item);
+        else
+            AcceptLabel(item, text);
+    }
+    if (!watch.IsTreeGone())
+        SwitchTemporaryEditOff();
+}
+
+void CTreeCtrlDrag::AcceptLabel(HTREEITEM item, const CString& text)
+{
+    SetItemText(item, text);
+    TellParent(TDM_ITEM_RENAMED, item);
+}
+
+void CTreeCtrlDrag::RefuseLabel(HTREEITEM item)
+{
+    TreeWatch watch(newestWatch);
+    isRefusingLabel = true;
+    AfxMessageBox(InvalidNameText, MB_ICONEXCLAMATION);
+    if (watch.IsTreeGone())
+        return;
+    isRefusingLabel = false;
+    if (watch.IsGone(item))
+        return;
+    EditLabel(item);
+    // Not every version of the platform's tree can open an edit before the old one is closed.
+    itemToReopen = item;
+    PostMessage(ReopenLabelEditMessage);
+}
+
+LRESULT CTreeCtrlDrag::OnReopenLabelEdit(WPARAM, LPARAM)
+{
+    const HTREEITEM item = itemToReopen;
+    itemToReopen = nullptr;
+    if (item == nullptr || GetEditControl() != nullptr)
+        return 0;
+    const bool lacksStyle = (GetStyle() & TVS_EDITLABELS) == 0;
+    if (lacksStyle)
+        ModifyStyle(0, TVS_EDITLABELS);
+    TreeWatch watch(newestWatch);
+    EditLabel(item);
+    if (lacksStyle && !watch.IsTreeGone())
+        ModifyStyle(TVS_EDITLABELS, 0);
+    return 0;
+}
+
+bool CTreeCtrlDrag::OpenLabelEdit(HTREEITEM item)
+{
+    TreeWatch watch(newestWatch);
+    EditLabel(item);
+    return !watch.IsTreeGone() && GetEditControl() != nullptr;
+}
+
+// An edit that is to go on because its text was refused counts as open.
+bool CTreeCtrlDrag::FinishLabelEdit()
+{
+    TreeWatch watch(newestWatch);
+    if (GetEditControl() != nullptr)
+        SendMessage(TVM_ENDEDITLABELNOW, FALSE);
+    return !watch.IsTreeGone() && GetEditControl() == nullptr && itemToReopen == nullptr;
+}
+
+void CTreeCtrlDrag::SwitchTemporaryEditOff()
+{
+    if (labelEditTemporary)
+        ModifyStyle(TVS_EDITLABELS, 0);
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,274 @@
+// Moving items: the drop of a drag, one place up or down, the copy of a subtree.
+#include "treedrag/CTreeCtrlDrag.h"
+
+#include "treedrag/TreeWatch.h"
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+constexpr UINT AllStates = 0xFFFF;
+
+constexpr const wchar_t* InvalidMoveText =
+    L"Invalid move - an item with the same name has been found in the destination location.";
+
+} // namespace
+
+void CTreeCtrlDrag::SuccessfulDrag()
+{
+    if (!FinishLabelEdit())
+        return;
+    TreeWatch watch(newestWatch);
+    SaveFirstAndLastVisibleItems();
+    if (dragItem != nullptr && dropTarget != nullptr && !IsDropWithoutEffect())
+    {
+        SetRedraw(FALSE);
+        const HTREEITEM original = dragItem;
+        if (IsDropLeftToUs())
+            if (const HTREEITEM copy = ReplaceDragItem(DropParent()))
+                ResetVisibleItems(copy, original, nullptr);
+    }
+    if (!watch.IsTreeGone())
+        EndMove();
+}
+
+bool CTreeCtrlDrag::IsDropWithoutEffect()
+{
+    if (dropTarget == dragItem)
+        return true;
+    if (dropAbove)
+        return dropTarget == GetNextSiblingItem(dragItem);
+    return dropTarget == GetPrevSiblingItem(dragItem) && !IsItemEmptyFolder(dropTarget);
+}
+
+bool CTreeCtrlDrag::IsDropLeftToUs()
+{
+    const HTREEITEM item = dragItem;
+    const HTREEITEM target = dropTarget;
+    const HTREEITEM parent = DropParent();
+    const HTREEITEM after = InsertAfterUnder(parent);
+    TreeWatch watch(newestWatch);
+    if (TellParent(TDM_DROP_QUERY, item, after == TVI_FIRST ? parent : after) != 0)
+        return false;
+    return !watch.IsTreeGone() && dragItem == item && dropTarget == target;
+}
+
+HTREEITEM CTreeCtrlDrag::DropParent()
+{
+    return !dropAbove && IsItemEmptyFolder(dropTarget) ? dropTarget : ParentOrRoot(dropTarget);
+}
+
+HTREEITEM CTreeCtrlDrag::InsertAfterUnder(HTREEITEM parent) const
+{
+    const HTREEITEM after = dropAbove ? GetPrevSiblingItem(dropTarget) : dropTarget;
+    return after == nullptr || after == parent ? TVI_FIRST : after;
+}
+
+HTREEITEM CTreeCtrlDrag::InsertItemAndSubtree(HTREEITEM parent)
+{
+    if (dropTarget == nullptr || dragItem == nullptr)
+        return nullptr;
+    if (parent == nullptr)
+        parent = ParentOrRoot(dropTarget);
+    // A copy inside of what is copied would never be complete, and it would be deleted with the original.
+    if (IsSelfOrBelow(parent, dragItem))
+        return nullptr;
+    const HTREEITEM after = InsertAfterUnder(parent);
+    const HTREEITEM copy = InsertPlaceholder(L"dummy", parent, after);
+    if (copy == nullptr)
+        return nullptr;
+    if (!CopySubtree(copy, dragItem))
+    {
+        DeleteItem(copy);
+        return nullptr;
+    }
+    CopyItem(copy, dragItem);
+    TreeWatch watch(newestWatch);
+    TellParent(TDM_ITEM_INSERTED, copy, after == TVI_FIRST ? parent : after);
+    return watch.IsGone(copy) ? nullptr : copy;
+}
+
+HTREEITEM CTreeCtrlDrag::InsertPlaceholder(const wchar_t* text, HTREEITEM parent, HTREEITEM after)
+{
+    return InsertItem(TVIF_TEXT, text, 0, 0, 0, 0, 0, parent, after);
+}
+
+// Each item is completed after everything below it, because only an item with children can be expanded.
+// Without recursion, because trees may be deep.
+bool CTreeCtrlDrag::CopySubtree(HTREEITEM destination, HTREEITEM source)
+{
+    HTREEITEM from = source;
+    HTREEITEM to = destination;
+    for (;;)
+    {
+        HTREEITEM next = GetChildItem(from);
+        HTREEITEM parent = to;
+        while (next == nullptr)
+        {
+            if (from == source)
+                return true;
+            CopyItem(to, from);
+            parent = GetParentItem(to);
+            next = GetNextSiblingItem(from);
+            if (next == nullptr)
+            {
+                from = GetParentItem(from);
+                to = parent;
+            }
+        }
+        from = next;
+        to = InsertPlaceholder(L"dest child", parent, TVI_LAST);
+        if (to == nullptr)
+            return false;
+    }
+}
+
+void CTreeCtrlDrag::CopyItem(HTREEITEM destination, HTREEITEM source)
+{
+    TVITEM item = {};
+    item.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_STATE | TVIF_PARAM;
+    item.hItem = source;
+    item.stateMask = AllStates;
+    if (!GetItem(&item))
+        return;
+    item.hItem = destination;
+    item.stateMask = AllStates;
+    SetItem(&item);
+    SetItemText(destination, GetItemText(source));
+    // Not when they agree already: in a tree without check boxes it would replace the state image.
+    const BOOL checked = GetCheck(source);
+    if (GetCheck(destination) != checked)
+        SetCheck(destination, checked);
+    if ((item.state & TVIS_EXPANDED) != 0)
+        Expand(destination, TVE_EXPAND);
+}
+
+HTREEITEM CTreeCtrlDrag::ReplaceDragItem(HTREEITEM newParent)
+{
+    const HTREEITEM original = dragItem;
+    TreeWatch watch(newestWatch);
+    const HTREEITEM copy = InsertItemAndSubtree(newParent);
+    if (watch.IsGone(copy))
+        return nullptr;
+    SelectItem(copy);
+    if (!watch.IsGone(original))
+        DeleteItem(original);
+    return watch.IsGone(copy) ? nullptr : copy;
+}
+
+void CTreeCtrlDrag::EndMove()
+{
+    SetRedraw(TRUE);
+    Invalidate();
+}
+
+void CTreeCtrlDrag::SaveFirstAndLastVisibleItems()
+{
+    firstVisibleItem = GetFirstVisibleItem();
+    lastVisibleItem = nullptr;
+    for (HTREEITEM item = firstVisibleItem; item != nullptr; item = GetNextVisibleItem(item))
+        lastVisibleItem = item;
+}
+
+void CTreeCtrlDrag::ResetVisibleItems(HTREEITEM newItem, HTREEITEM oldItem, HTREEITEM extra)
+{
+    if (firstVisibleItem != oldItem && lastVisibleItem != oldItem)
+        for (const HTREEITEM item : {lastVisibleItem, firstVisibleItem})
+            if (item != nullptr)
+                EnsureVisible(item);
+    if (extra != nullptr)
+        EnsureVisible(extra);
+    SetRedraw(TRUE);
+    EnsureVisible(newItem);
+}
+
+void CTreeCtrlDrag::MoveItemUp()
+{
+    if (!BeginCommandMove())
+        return;
+    HTREEITEM newParent = nullptr;
+    dropTarget = GetPrevVisibleItemToMoveTo(dragItem, dropAbove, newParent);
+    CarryOutCommandMove(newParent, false);
+}
+
+void CTreeCtrlDrag::MoveItemDown()
+{
+    if (!BeginCommandMove())
+        return;
+    dropTarget = GetNextNonChildItem(dragItem, dropAbove);
+    CarryOutCommandMove(DropParent(), true);
+}
+
+bool CTreeCtrlDrag::BeginCommandMove()
+{
+    if (!FinishLabelEdit())
+        return false;
+    if (isDragging)
+        CancelDrag();
+    SetRedraw(FALSE);
+    SaveFirstAndLastVisibleItems();
+    dragItem = GetSelectedItem();
+    return true;
+}
+
+void CTreeCtrlDrag::CarryOutCommandMove(HTREEITEM newParent, bool tellAgain)
+{
+    const HTREEITEM original = dragItem;
+    TreeWatch watch(newestWatch);
+    const HTREEITEM copy = IsMoveAllowed(newParent) ? ReplaceDragItem(newParent) : nullptr;
+    if (copy != nullptr)
+    {
+        ResetVisibleItems(copy, original, GetPrevVisibleItem(copy));
+        if (tellAgain)
+            TellParent(TDM_ITEM_INSERTED, original, copy);
+    }
+    if (!watch.IsTreeGone())
+        EndMove();
+}
+
+bool CTreeCtrlDrag::IsMoveAllowed(HTREEITEM newParent)
+{
+    if (dragItem == nullptr || !noDuplicates || newParent == ParentOrRoot(dragItem))
+        return true;
+    if (IsUniqueNameOnThisLevel(GetItemText(dragItem), dragItem, newParent))
+        return true;
+    AfxMessageBox(InvalidMoveText, MB_ICONEXCLAMATION);
+    return false;
+}
+
+HTREEITEM CTreeCtrlDrag::GetPrevVisibleItemToMoveTo(HTREEITEM item, BOOL& above, HTREEITEM& newParent)
+{
+    const HTREEITEM previous = item == nullptr ? nullptr : GetPrevSiblingItem(item);
+    HTREEITEM target = previous;
+    above = previous == nullptr;
+    newParent = nullptr;
+    if (previous == nullptr)
+        target = item == nullptr ? nullptr : GetParentItem(item);
+    else if (IsOpen(previous))
+        target = LastChild(previous);
+    else if (IsItemEmptyFolder(previous))
+        newParent = previous;
+    else
+        above = TRUE;
+    if (newParent == nullptr)
+        newParent = ParentOrRoot(target);
+    return target;
+}
+
+HTREEITEM CTreeCtrlDrag::GetNextNonChildItem(HTREEITEM item, BOOL& above)
+{
+    above = FALSE;
+    if (item == nullptr)
+        return nullptr;
+    const HTREEITEM next = GetNextSiblingItem(item);
+    if (next == nullptr)
+        return GetParentItem(item);
+    if (!IsOpen(next))
+        return next;
+    above = TRUE;
+    return GetChildItem(next);
+}
+
+} // namespace QuorUiCtr

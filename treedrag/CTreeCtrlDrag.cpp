@@ -47,7 +47,7 @@ void CTreeCtrlDrag::OnDestroy()
     if (isDragging)
         TidyUpEndOfDrag();
     dragItem = dropTarget = firstVisibleItem = lastVisibleItem = itemToReopen = nullptr;
-    isRefusingLabel = false;
+    endedEdit = nullptr;
     TreeWatch::NoteTreeGone(newestWatch);
     CTreeCtrl::OnDestroy();
 }

@@ -233,10 +233,11 @@ private:
     void PaintDragLabel(CDC& context, HTREEITEM item, int clientRight);
 
     HTREEITEM InsertFolder();
-    bool OpenLabelEdit(HTREEITEM item);
+    void OpenLabelEdit(HTREEITEM item);
     bool FinishLabelEdit();
     void AcceptLabel(HTREEITEM item, const CString& text);
     void RefuseLabel(HTREEITEM item);
+    bool IsEndedAlready();
     void SwitchTemporaryEditOff();
     void ReportDeletion(HTREEITEM item);
 
@@ -244,7 +245,7 @@ private:
     static const UINT ReopenLabelEditMessage;
 
     bool isEndingDrag = false;
-    bool isRefusingLabel = false;
+    HWND endedEdit = nullptr;         // the label edit whose end was handled last
     HTREEITEM itemToReopen = nullptr; // its label was refused and is to be edited again
     TreeWatch* newestWatch = nullptr;
 };

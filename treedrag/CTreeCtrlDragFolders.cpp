@@ -92,18 +92,13 @@ HTREEITEM CTreeCtrlDrag::CreateNewFolder()
 {
     if (!FinishLabelEdit())
         return nullptr;
-    labelEditTemporary = (GetStyle() & TVS_EDITLABELS) == 0;
-    if (labelEditTemporary)
-        ModifyStyle(0, TVS_EDITLABELS);
     TreeWatch watch(newestWatch);
     const HTREEITEM folder = InsertFolder();
     SelectItem(folder);
     if (!watch.IsGone(folder))
         EnsureVisible(folder);
-    const bool isEditing = !watch.IsGone(folder) && OpenLabelEdit(folder);
-    // Where no edit begins, none will end and take the style away.
-    if (!isEditing && !watch.IsTreeGone())
-        SwitchTemporaryEditOff();
+    if (!watch.IsGone(folder))
+        OpenLabelEdit(folder);
     return watch.IsGone(folder) ? nullptr : folder;
 }
 
@@ -166,6 +161,7 @@ void CTreeCtrlDrag::ReportDeletion(HTREEITEM top)
 
 void CTreeCtrlDrag::OnBeginLabelEdit(NMHDR* header, LRESULT* result)
 {
+    endedEdit = nullptr;
     const HTREEITEM item = reinterpret_cast<const NMTVDISPINFO*>(header)->item.hItem;
     TreeWatch watch(newestWatch);
     if (CWnd* parent = GetParent())
@@ -178,10 +174,8 @@ void CTreeCtrlDrag::OnBeginLabelEdit(NMHDR* header, LRESULT* result)
 void CTreeCtrlDrag::OnEndLabelEdit(NMHDR* header, LRESULT* result)
 {
     *result = 0;
-    // The message box of the refusal takes the focus from the edit that is ending, which ends it once more.
-    if (isRefusingLabel)
+    if (IsEndedAlready())
         return;
-    itemToReopen = nullptr;
     const TVITEM& edited = reinterpret_cast<const NMTVDISPINFO*>(header)->item;
     const HTREEITEM item = edited.hItem;
     CString text(edited.pszText);
@@ -198,6 +192,16 @@ void CTreeCtrlDrag::OnEndLabelEdit(NMHDR* header, LRESULT* result)
         SwitchTemporaryEditOff();
 }
 
+// An edit that is ending loses the focus, to a message box or as its window goes; not every version of the
+// platform's tree knows then that it is ending, and says so again.
+bool CTreeCtrlDrag::IsEndedAlready()
+{
+    const HWND edit = GetEditControl()->GetSafeHwnd();
+    const bool isEnded = edit != nullptr && edit == endedEdit;
+    endedEdit = edit;
+    return isEnded;
+}
+
 void CTreeCtrlDrag::AcceptLabel(HTREEITEM item, const CString& text)
 {
     SetItemText(item, text);
@@ -206,41 +210,40 @@ void CTreeCtrlDrag::AcceptLabel(HTREEITEM item, const CString& text)
 
 void CTreeCtrlDrag::RefuseLabel(HTREEITEM item)
 {
+    const bool isEditEnding = endedEdit != nullptr;
     TreeWatch watch(newestWatch);
-    isRefusingLabel = true;
     AfxMessageBox(InvalidNameText, MB_ICONEXCLAMATION);
-    if (watch.IsTreeGone())
-        return;
-    isRefusingLabel = false;
     if (watch.IsGone(item))
         return;
-    EditLabel(item);
-    // Not every version of the platform's tree can open an edit before the old one is closed.
-    itemToReopen = item;
-    PostMessage(ReopenLabelEditMessage);
+    if (isEditEnding)
+    {
+        // The next edit can only be opened when this one is closed.
+        itemToReopen = item;
+        PostMessage(ReopenLabelEditMessage);
+    }
+    else
+        EditLabel(item);
 }
 
 LRESULT CTreeCtrlDrag::OnReopenLabelEdit(WPARAM, LPARAM)
 {
     const HTREEITEM item = itemToReopen;
     itemToReopen = nullptr;
-    if (item == nullptr || GetEditControl() != nullptr)
-        return 0;
-    const bool lacksStyle = (GetStyle() & TVS_EDITLABELS) == 0;
-    if (lacksStyle)
-        ModifyStyle(0, TVS_EDITLABELS);
-    TreeWatch watch(newestWatch);
-    EditLabel(item);
-    if (lacksStyle && !watch.IsTreeGone())
-        ModifyStyle(TVS_EDITLABELS, 0);
+    if (item != nullptr && GetEditControl() == nullptr)
+        OpenLabelEdit(item);
     return 0;
 }
 
-bool CTreeCtrlDrag::OpenLabelEdit(HTREEITEM item)
+void CTreeCtrlDrag::OpenLabelEdit(HTREEITEM item)
 {
+    labelEditTemporary = (GetStyle() & TVS_EDITLABELS) == 0;
+    if (labelEditTemporary)
+        ModifyStyle(0, TVS_EDITLABELS);
     TreeWatch watch(newestWatch);
     EditLabel(item);
-    return !watch.IsTreeGone() && GetEditControl() != nullptr;
+    // Where no edit begins, none will end and take the style away.
+    if (!watch.IsTreeGone() && GetEditControl() == nullptr)
+        SwitchTemporaryEditOff();
 }
 
 // An edit that is to go on because its text was refused counts as open.

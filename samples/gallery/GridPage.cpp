@@ -1,14 +1,37 @@
 // The page with a plain grid.
 #include "GridPage.h"
 
+#include "ColumnEditors.h"
 #include "GridFill.h"
 #include "LogPane.h"
 #include "resource.h"
 
 #include <shlwapi.h>
 
+namespace
+{
+
+// The pictures of the page: an editor of that kind, with its list dropped down or without.
+struct PictureView
+{
+    const wchar_t* suffix;
+    EditorKind kind;
+    bool dropDown;
+};
+
+constexpr PictureView PictureViews[] = {
+    {L"", EditorKind::ReadOnly, false},      {L"-edit", EditorKind::Text, false},
+    {L"-spin", EditorKind::Spin, false},     {L"-list", EditorKind::List, false},
+    {L"-list-open", EditorKind::List, true}, {L"-combo", EditorKind::Combo, false},
+    {L"-button", EditorKind::Button, false},
+};
+constexpr long PictureRow = 4;
+
+} // namespace
+
 BEGIN_MESSAGE_MAP(GridPage, Page)
     ON_BN_CLICKED(IDC_FLAT_HEADERS, &GridPage::OnFlatHeaders)
+    ON_BN_CLICKED(IDC_LOG_PAINTING, &GridPage::OnLogPainting)
     ON_BN_CLICKED(IDC_FIT_LAST, &GridPage::OnFitLast)
 END_MESSAGE_MAP()
 
@@ -62,6 +85,7 @@ void GridPage::ShowTable(const gallery::CsvTable& table)
     QuorUiCtr::TGGridUpdate update(grid);
     grid.Clear();
     MakeColumns(grid, table);
+    SetColumnEditors(grid);
     for (const gallery::CsvRow& texts : table.rows)
     {
         grid.AppendRow(nullptr);
@@ -70,9 +94,29 @@ void GridPage::ShowTable(const gallery::CsvTable& table)
     grid.SetModify(false);
 }
 
+bool GridPage::ShowPictureView(size_t view, CString& nameSuffix)
+{
+    grid.CancelEditCell();
+    if (view >= std::size(PictureViews))
+        return false;
+    const PictureView& shown = PictureViews[view];
+    nameSuffix = shown.suffix;
+    const long col = FindColumn(grid, shown.kind);
+    if (col >= 0 && grid.GetRowNum() > PictureRow)
+        grid.BeginEditCell(PictureRow, col);
+    if (shown.dropDown && grid.IsEditing())
+        CWnd::GetFocus()->SendMessage(CB_SHOWDROPDOWN, TRUE);
+    return true;
+}
+
 void GridPage::LayOut(int width, int height)
 {
     PlaceBelowToolLine(*this, grid, banner, width, height);
+}
+
+void GridPage::OnLogPainting()
+{
+    grid.LogPainting(IsDlgButtonChecked(IDC_LOG_PAINTING) != 0);
 }
 
 void GridPage::OnFlatHeaders()

@@ -12,8 +12,10 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"grid"; }
-    // Shows the table of a CSV file. A file that cannot be shown leaves the present table alone; the banner says
-    // why, and the log names every line that was left out.
+    // The page, then an open editor of each kind.
+    bool ShowPictureView(size_t view, CString& nameSuffix) override;
+    // Shows the table of a CSV file. A file that cannot be shown leaves the present table alone; the banner
+    // says why, and the log names every line that was left out.
     bool OpenFile(const CString& path) override;
 
 protected:
@@ -23,6 +25,7 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnFlatHeaders();
+    afx_msg void OnLogPainting();
     afx_msg void OnFitLast();
 
 private:

@@ -39,9 +39,7 @@ BEGIN_MESSAGE_MAP(MainDialog, CDialog)
     ON_COMMAND(ID_HELP_ABOUT_GALLERY, &MainDialog::OnAbout)
 END_MESSAGE_MAP()
 
-MainDialog::MainDialog(const CString& path) : CDialog(IDD_MAIN), tablePath(path)
-{
-}
+MainDialog::MainDialog(const CString& path) : CDialog(IDD_MAIN), tablePath(path) {}
 
 MainDialog::~MainDialog() = default;
 
@@ -95,7 +93,8 @@ void MainDialog::LayOut(int width, int height)
     const int pageLeft = PageListWidth + 2 * Margin;
     pageList.MoveWindow(Margin, Margin, PageListWidth, pageHeight);
     pages[shownPage]->MoveWindow(pageLeft, Margin, std::max(0, width - pageLeft - Margin), pageHeight);
-    GetDlgItem(IDC_LOG_CAPTION)->MoveWindow(Margin, logTop - captionHeight, width - 2 * Margin, captionHeight);
+    GetDlgItem(IDC_LOG_CAPTION)
+        ->MoveWindow(Margin, logTop - captionHeight, width - 2 * Margin, captionHeight);
     log.MoveWindow(Margin, logTop, width - 2 * Margin, LogHeight - Margin);
 }
 
@@ -169,9 +168,14 @@ bool MainDialog::WritePictures(const CString& folder)
     for (size_t index = 0; index < pages.size(); ++index)
     {
         ShowPage(index);
-        UpdateWindow();
-        DrainMessages();
-        written = WriteWindowPicture(*this, folder + L"\\" + pages[index]->GetPictureName() + L".bmp") && written;
+        CString suffix;
+        for (size_t view = 0; pages[index]->ShowPictureView(view, suffix); ++view)
+        {
+            UpdateWindow();
+            DrainMessages();
+            const CString name = pages[index]->GetPictureName() + suffix + L".bmp";
+            written = WriteWindowPicture(*this, folder + L"\\" + name) && written;
+        }
     }
     return written;
 }

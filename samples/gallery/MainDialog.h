@@ -14,7 +14,7 @@ public:
     explicit MainDialog(const CString& tablePath);
     ~MainDialog() override;
 
-    // Shows every page in turn and writes one picture each into `folder`. Returns false when one fails.
+    // Shows every page in turn and writes its pictures into `folder`. Returns false when one fails.
     bool WritePictures(const CString& folder);
 
 protected:

@@ -15,8 +15,8 @@ struct CodeName
 
 // Names of the WM_COMMAND codes that the shown controls send.
 constexpr CodeName CommandCodes[] = {
-    {EN_CHANGE, L"EN_CHANGE"},       {EN_KILLFOCUS, L"EN_KILLFOCUS"},     {EN_SETFOCUS, L"EN_SETFOCUS"},
-    {EN_UPDATE, L"EN_UPDATE"},       {BN_CLICKED, L"BN_CLICKED"},         {BN_SETFOCUS, L"BN_SETFOCUS"},
+    {EN_CHANGE, L"EN_CHANGE"},       {EN_KILLFOCUS, L"EN_KILLFOCUS"}, {EN_SETFOCUS, L"EN_SETFOCUS"},
+    {EN_UPDATE, L"EN_UPDATE"},       {BN_CLICKED, L"BN_CLICKED"},     {BN_SETFOCUS, L"BN_SETFOCUS"},
     {BN_KILLFOCUS, L"BN_KILLFOCUS"}, {CBN_SELENDOK, L"CBN_SELENDOK"},
 };
 
@@ -36,8 +36,14 @@ BEGIN_MESSAGE_MAP(Page, CDialog)
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
-Page::Page(UINT pageTemplateId, LogPane& logPane) : CDialog(pageTemplateId), templateId(pageTemplateId), log(logPane)
+Page::Page(UINT pageTemplateId, LogPane& logPane)
+    : CDialog(pageTemplateId), templateId(pageTemplateId), log(logPane)
 {
+}
+
+bool Page::ShowPictureView(size_t view, CString&)
+{
+    return view == 0;
 }
 
 bool Page::OpenFile(const CString&)
@@ -66,7 +72,8 @@ BOOL Page::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     const NMHDR* header = reinterpret_cast<const NMHDR*>(lParam);
     CString line;
-    line.Format(L"WM_NOTIFY  code %d  id %u", static_cast<int>(header->code), static_cast<UINT>(header->idFrom));
+    line.Format(L"WM_NOTIFY  code %d  id %u", static_cast<int>(header->code),
+                static_cast<UINT>(header->idFrom));
     log.Add(line);
     return CDialog::OnNotify(wParam, lParam, result);
 }

@@ -17,6 +17,9 @@ public:
     virtual CString GetTitle() const = 0;
     // The page's part of a picture's file name: ASCII, no blanks.
     virtual CString GetPictureName() const = 0;
+    // Brings the page into its state for the picture `view` (0, 1, ...) and says what to add to the picture's
+    // name; returns false when there is no such picture. By default a page has one picture.
+    virtual bool ShowPictureView(size_t view, CString& nameSuffix);
     // Opens a table file in the page; returns false when the page shows no files.
     virtual bool OpenFile(const CString& path);
 

@@ -1,6 +1,7 @@
 // The page with a grid of tree rows.
 #include "TreeRowsPage.h"
 
+#include "ColumnEditors.h"
 #include "GridFill.h"
 #include "LogPane.h"
 #include "resource.h"
@@ -26,8 +27,9 @@ long ColumnNamed(const gallery::CsvTable& table, const wchar_t* name)
 // Moves the label column to the front, where the tree is drawn.
 void MoveToFront(gallery::CsvTable& table, long column)
 {
-    const auto rotate = [column](std::vector<std::wstring>& texts)
-    { std::rotate(texts.begin(), texts.begin() + column, texts.begin() + column + 1); };
+    const auto rotate = [column](std::vector<std::wstring>& texts) {
+        std::rotate(texts.begin(), texts.begin() + column, texts.begin() + column + 1);
+    };
     rotate(table.header);
     for (std::vector<std::wstring>& row : table.rows)
         rotate(row);
@@ -37,6 +39,7 @@ void MoveToFront(gallery::CsvTable& table, long column)
 
 BEGIN_MESSAGE_MAP(TreeRowsPage, Page)
     ON_BN_CLICKED(IDC_FLAT_HEADERS, &TreeRowsPage::OnFlatHeaders)
+    ON_BN_CLICKED(IDC_LOG_PAINTING, &TreeRowsPage::OnLogPainting)
     ON_BN_CLICKED(IDC_TREE_LINES, &TreeRowsPage::OnTreeLines)
     ON_BN_CLICKED(IDC_FOLD_ALL, &TreeRowsPage::OnFoldAll)
     ON_BN_CLICKED(IDC_UNFOLD_ALL, &TreeRowsPage::OnUnfoldAll)
@@ -87,9 +90,11 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     QuorUiCtr::TGGridUpdate update(grid);
     MakeColumns(grid, table);
     WidenForTree();
+    SetColumnEditors(grid);
     for (const std::vector<std::wstring>& texts : table.rows)
     {
-        TGGridTreeRow& group = ChildRow(RootRow(texts[static_cast<size_t>(outer)]), texts[static_cast<size_t>(inner)]);
+        TGGridTreeRow& group =
+            ChildRow(RootRow(texts[static_cast<size_t>(outer)]), texts[static_cast<size_t>(inner)]);
         group.AppendChild(nullptr);
         FillRow(group.GetLastChild(), texts);
     }
@@ -143,9 +148,26 @@ void TreeRowsPage::ForEachRoot(void (TGGridTreeRow::*operation)())
         (root->*operation)();
 }
 
+bool TreeRowsPage::ShowPictureView(size_t view, CString& nameSuffix)
+{
+    constexpr long PictureRow = 2;
+    grid.CancelEditCell();
+    if (view == 1)
+    {
+        nameSuffix = L"-edit";
+        grid.BeginEditCell(PictureRow, 0);
+    }
+    return view < 2;
+}
+
 void TreeRowsPage::LayOut(int width, int height)
 {
     PlaceBelowToolLine(*this, grid, banner, width, height);
+}
+
+void TreeRowsPage::OnLogPainting()
+{
+    grid.LogPainting(IsDlgButtonChecked(IDC_LOG_PAINTING) != 0);
 }
 
 void TreeRowsPage::OnFlatHeaders()

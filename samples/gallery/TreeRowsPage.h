@@ -12,6 +12,8 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-rows"; }
+    // The page, then an editor in the column of the tree.
+    bool ShowPictureView(size_t view, CString& nameSuffix) override;
 
 protected:
     BOOL OnInitDialog() override;
@@ -20,6 +22,7 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnFlatHeaders();
+    afx_msg void OnLogPainting();
     afx_msg void OnTreeLines();
     afx_msg void OnFoldAll();
     afx_msg void OnUnfoldAll();

@@ -17,6 +17,9 @@ const UINT controlId = 102;
 
 BEGIN_MESSAGE_MAP(TGActiveQuad, CWnd)
     ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_RBUTTONUP()
 END_MESSAGE_MAP()
 
 TGActiveQuad::TGActiveQuad(TGGrid& owner) : grid(&owner)
@@ -48,6 +51,37 @@ void TGActiveQuad::OnPaint()
     DrawHeaderBox(context, rect, grid->IsFlatButton());
     const CRect inside(rect.left + 1, rect.top + 1, rect.right - 2, rect.bottom - 2);
     context.FillSolidRect(&inside, ::GetSysColor(active ? COLOR_ACTIVECAPTION : COLOR_BTNFACE));
+}
+
+void TGActiveQuad::FocusGrid()
+{
+    grid->SetFocus();
+    ShowActive(true);
+}
+
+void TGActiveQuad::OnLButtonDown(UINT flags, CPoint point)
+{
+    FocusGrid();
+    if (m_hWnd != nullptr)
+        CWnd::OnLButtonDown(flags, point);
+}
+
+void TGActiveQuad::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    FocusGrid();
+    grid->SelectAll();
+    if (m_hWnd != nullptr)
+        CWnd::OnLButtonDblClk(flags, point);
+}
+
+void TGActiveQuad::OnRButtonUp(UINT flags, CPoint point)
+{
+    CWnd::OnRButtonUp(flags, point);
+    if (m_hWnd == nullptr)
+        return;
+    grid->SetFocus();
+    ClientToScreen(&point);
+    grid->OnRClickQuad(point);
 }
 
 INT_PTR TGActiveQuad::OnToolHitTest(CPoint, TOOLINFO* info) const

@@ -8,8 +8,8 @@ namespace QuorUiCtr
 
 class TGGrid;
 
-// Shows whether the grid has the keyboard focus. The grid makes one (control id 102) when both headers are
-// enabled and owns it.
+// Shows whether the grid has the keyboard focus; a double click selects all rows. The grid makes one (control
+// id 102) when both headers are enabled and owns it.
 class AFX_EXT_CLASS TGActiveQuad : public CWnd
 {
 public:
@@ -26,8 +26,13 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
 
 private:
+    void FocusGrid();
+
     bool active = false;
     TGGrid* grid;
 };

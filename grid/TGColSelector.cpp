@@ -17,6 +17,12 @@ const UINT controlId = 103;
 
 BEGIN_MESSAGE_MAP(TGColSelector, CWnd)
     ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_SETCURSOR()
+    ON_WM_LBUTTONUP()
+    ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 TGColSelector::TGColSelector(TGGrid& owner) : grid(&owner)

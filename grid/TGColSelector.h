@@ -12,13 +12,19 @@ class TGGrid;
 class TGGridCol;
 
 // Draws one caption box per column. The grid makes one (control id 103) when the column header is enabled and
-// owns it. It scrolls horizontally with the grid.
+// owns it. It scrolls horizontally with the grid. Clicks select columns, with Ctrl and Shift several;
+// dragging a right edge resizes a column, dragging a selected column moves the selection; a drag ends without
+// effect when the mouse capture is lost.
 class AFX_EXT_CLASS TGColSelector : public CWnd
 {
 public:
     // Creates the window as a child of `grid`.
     explicit TGColSelector(TGGrid& grid);
     ~TGColSelector() override;
+
+    // Inverts the mark of a running drag on the grid's drawing context; called when the grid has drawn what
+    // the mark stands on.
+    void InvertMark();
 
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
@@ -29,11 +35,30 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* newCapture);
 
 private:
     // Moves the origin of `context` to the grid's horizontal scroll position.
     void PrepareContext(CDC& context) const;
     void DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const;
+
+    // Mouse (TGColSelectorMouse.cpp).
+    long LogicalX(CPoint point) const;
+    long ColWithEdgeAt(long x) const;
+    void ClickCol(long col);
+    void ExtendSelection(long col);
+    bool ScrollAtEdge(CPoint point);
+    long CutColumnWidth(CPoint point) const;
+    void MarkMoveTarget(long col);
+    void MoveMark(long x);
+    void ResizeTo(long x);
+    void DropAt(long to);
+    void CancelDrag();
 
     TGGrid* grid;
     CBrush bkBrush;

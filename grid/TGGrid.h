@@ -560,6 +560,10 @@ private:
     class RowBuffer;
     class EditSession;
     void SortRows(bool ascending);
+    // Move the selected rows in front of the row `to`, the selected columns, which form the run from `first` to
+    // `last`, in front of the column `to`; they stay selected.
+    void MoveSelectedRows(long to);
+    void MoveSelectedCols(long first, long last, long to);
     bool RunMenuCommand(UINT id);
     bool RouteEditorKey(UINT key);
     bool RouteIdleKey(const MSG& message);

@@ -2,6 +2,8 @@
 #include "grid/TGGrid.h"
 
 #include "grid/TGCellCtrl.h"
+#include "grid/TGColSelector.h"
+#include "grid/TGRowSelector.h"
 
 #include <algorithm>
 
@@ -72,6 +74,11 @@ void TGGrid::Refresh()
         DrawSelectedCols();
     else if (IsRowSelected())
         DrawSelectedRows(first, last);
+    // The marks of a running drag stand on what was just drawn.
+    if (rowHeader != nullptr)
+        rowHeader->InvertDropMark();
+    if (colHeader != nullptr)
+        colHeader->InvertMark();
 }
 
 // The cursor walks along, so that hooks may change the rows meanwhile, and is brought back for the host.

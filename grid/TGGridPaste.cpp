@@ -1,6 +1,8 @@
 // Copy, cut and paste through the grid's row buffer.
+#include "grid/SelectedIndices.h"
 #include "grid/TGGrid.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace QuorUiCtr
@@ -188,6 +190,25 @@ bool TGGrid::DoPasteChild()
     OnEndPaste();
     OnDataChanged();
     return true;
+}
+
+// The rows travel through the row buffer, whose content is kept aside meanwhile.
+void TGGrid::MoveSelectedRows(long to)
+{
+    const long above = SelectedIndices::LowerBound(rowSel, to);
+    PDList<TGGridRow> kept;
+    const auto moveAll = [](PDList<TGGridRow>& source, PDList<TGGridRow>& target) {
+        while (!source.IsEmpty())
+            target.Append(source.Detach(0));
+    };
+    moveAll(rowPaste, kept);
+    {
+        TGGridUpdate update(*this);
+        ClipSelect();
+        Paste(std::clamp(to - above, 0L, GetRowNum()));
+    }
+    rowPaste.Clear();
+    moveAll(kept, rowPaste);
 }
 
 } // namespace QuorUiCtr

@@ -335,6 +335,21 @@ void TGGrid::MoveCol(long from, long to)
 }
 
 // The edges of a column that is about to move and of the columns that it passes.
+void TGGrid::MoveSelectedCols(long first, long last, long to)
+{
+    const TGGridUpdate update(*this);
+    const bool right = to > last;
+    if (right)
+        for (long i = last; i >= first; --i)
+            MoveCol(i, i + (to - last));
+    else
+        for (long i = first; i <= last; ++i)
+            MoveCol(i, i + (to - first));
+    const long distance = right ? to - last - 1 : to - first;
+    for (long& selected : colSel)
+        selected += distance;
+}
+
 void TGGrid::PlaceMovingCol(long from, long to)
 {
     TGGridCol& moving = *ColAtIndex(from);

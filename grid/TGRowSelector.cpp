@@ -18,16 +18,23 @@ const UINT currentRowIcon = 1000;
 const UINT newRowIcon = 1001;
 
 // A shared icon of the library, found through the chain of resource modules; null when it is missing.
-HICON LoadModuleIcon(UINT id)
+HICON LoadModuleIcon(UINT id, int size)
 {
     const LPCWSTR name = MAKEINTRESOURCE(id);
-    return ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name);
+    const HINSTANCE module = AfxFindResourceHandle(name, RT_GROUP_ICON);
+    return static_cast<HICON>(::LoadImage(module, name, IMAGE_ICON, size, size, LR_SHARED));
 }
 
 } // namespace
 
 BEGIN_MESSAGE_MAP(TGRowSelector, CWnd)
     ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_LBUTTONUP()
+    ON_WM_RBUTTONUP()
+    ON_WM_LBUTTONDBLCLK()
+    ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
 TGRowSelector::TGRowSelector(TGGrid& owner) : grid(&owner)
@@ -92,8 +99,8 @@ void TGRowSelector::DrawNewRow(CDC& context) const
 
 void TGRowSelector::DrawRowIcon(CDC& context, long row, UINT iconId) const
 {
-    const HICON icon = LoadModuleIcon(iconId);
     const int size = grid->GetRowHeight();
+    const HICON icon = LoadModuleIcon(iconId, size);
     const CRect box = BoxRect(row);
     if (icon != nullptr)
         ::DrawIconEx(context.GetSafeHdc(), box.left, box.top, icon, size, size, 0, nullptr, DI_NORMAL);

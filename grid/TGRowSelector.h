@@ -12,13 +12,18 @@ class TGGrid;
 
 // Draws one box per row, as wide as one row is high, with icons in the current row and in the new-row line.
 // The grid makes one (control id 104) when the row header is enabled and owns it. It scrolls vertically with
-// the grid.
+// the grid. Clicks select rows, with Ctrl and Shift several; dragging moves the selected rows; a drag ends
+// without effect when the mouse capture is lost.
 class AFX_EXT_CLASS TGRowSelector : public CWnd
 {
 public:
     // Creates the window as a child of `grid`.
     explicit TGRowSelector(TGGrid& grid);
     ~TGRowSelector() override;
+
+    // Inverts the drop mark of a running drag on the grid's drawing context; called when the grid has drawn
+    // what the mark stands on.
+    void InvertDropMark();
 
     // The grid's current row changed: moves the icon from the marked row to the current one, drawing at once.
     void OnCurRowChanged();
@@ -32,6 +37,12 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnPaint();
+    afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    afx_msg void OnMouseMove(UINT flags, CPoint point);
+    afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    afx_msg void OnLButtonDblClk(UINT flags, CPoint point);
+    afx_msg void OnCaptureChanged(CWnd* newCapture);
 
 private:
     // Moves the origin of `context` to the grid's vertical scroll position.
@@ -43,6 +54,17 @@ private:
     void DrawRowIcon(CDC& context, long row, UINT iconId) const;
     // Draws a row's box over what stands there; nothing for an index outside the rows.
     void RedrawRow(CDC& context, long row);
+
+    // Mouse (TGRowSelectorMouse.cpp).
+    void ClickNewRowBox();
+    void ClickRow(long row);
+    void ExtendSelection(long row);
+    void BeginDrag(long row);
+    bool ScrollAtEdge(CPoint point);
+    void DragTo(long row);
+    void MoveDropMark(long y);
+    void Drop(long to);
+    void CancelDrag();
 
     TGGrid* grid;
     CBrush bkBrush;

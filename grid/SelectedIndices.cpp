@@ -4,44 +4,51 @@
 namespace QuorUiCtr::SelectedIndices
 {
 
-// The ends are tried first: selections mostly grow upwards or downwards.
+namespace
+{
+
+auto IsBelow(long index)
+{
+    return [index](long entry) { return entry < index; };
+}
+
+// Makes the first entry that is not below `index` current; tells whether that is `index` itself.
+bool MoveTo(DualList<long>& entries, long index)
+{
+    entries.MoveToPartition(IsBelow(index));
+    return !entries.IsOut() && entries.Cur() == index;
+}
+
+} // namespace
+
+DualList<long>::Iterator FindNotBelow(DualList<long>& entries, long index)
+{
+    return entries.FindPartition(IsBelow(index));
+}
+
 long LowerBound(DualList<long>& entries, long index)
 {
-    long first = 0;
-    long last = entries.GetNum();
-    if (last == 0 || entries[last - 1] < index)
-        return last;
-    if (entries[0] >= index)
-        return 0;
-    while (first < last)
-    {
-        const long middle = first + (last - first) / 2;
-        if (entries[middle] < index)
-            first = middle + 1;
-        else
-            last = middle;
-    }
-    return first;
+    MoveTo(entries, index);
+    return entries.IsOut() ? entries.GetNum() : entries.GetCur();
 }
 
 bool Contains(DualList<long>& entries, long index)
 {
-    const long position = LowerBound(entries, index);
-    return position < entries.GetNum() && entries[position] == index;
+    const auto entry = FindNotBelow(entries, index);
+    return entry != entries.end() && *entry == index;
 }
 
 bool Add(DualList<long>& entries, long index)
 {
-    const long position = LowerBound(entries, index);
-    if (position < entries.GetNum() && entries[position] == index)
+    if (MoveTo(entries, index))
         return false;
-    entries.Insert(position, index);
+    entries.Insert(index);
     return true;
 }
 
 bool Remove(DualList<long>& entries, long index)
 {
-    if (!Contains(entries, index))
+    if (!MoveTo(entries, index))
         return false;
     entries.Del();
     return true;

@@ -6,9 +6,10 @@
 namespace QuorUiCtr::SelectedIndices
 {
 
-// The position of the first entry that is not below `index`; the number of entries when all are.
+// The first entry that is not below `index`; the end when all are.
+DualList<long>::Iterator FindNotBelow(DualList<long>& entries, long index);
+// Its position, which becomes current; the number of entries when all are.
 long LowerBound(DualList<long>& entries, long index);
-
 bool Contains(DualList<long>& entries, long index);
 // False when the index is there already.
 bool Add(DualList<long>& entries, long index);

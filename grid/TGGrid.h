@@ -577,6 +577,9 @@ private:
 
     BrushWindowClass windowClass;
 
+    // Refresh() is drawing the rows; the selection follows.
+    bool refreshing = false;
+
     // Postponed work between BeginUpdate and EndUpdate.
     int updateDepth = 0;
     bool layoutPending = false;
@@ -609,9 +612,17 @@ private:
     ScrollRequest ReadScrollRequest(int bar, UINT trackMask);
 
     // Painting (TGGridPaint.cpp).
+    struct RowRange
+    {
+        long first;
+        long last; // inclusive, and maybe behind the last row
+    };
+    RowRange VisibleRows();
     void DrawRows(long first, long last);
-    void DrawSelectedCols();
-    void DrawSelectedRows(long first, long last);
+    void InvertSelectedCols();
+    void InvertSelectedRows();
+    // Inverts again what has been drawn over the selection outside Refresh().
+    void InvertSelectionIn(const CRect& drawn);
 
     // Mouse (TGGridMouse.cpp).
     void PressCell(CPoint point);
@@ -649,6 +660,9 @@ private:
     // Selection (TGGridSelection.cpp).
     void UnselectCols();
     void UnselectRows();
+    bool CanInvertNow() const;
+    template <class Line> void ChangeBand(Line& line, bool select);
+    void ShowBand(const CRect& band);
     void ShowRowBand(const TGGridRow& row);
     void ShowColBand(const TGGridCol& col);
     // Makes a shown row the only one selected.

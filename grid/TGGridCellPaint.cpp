@@ -50,8 +50,12 @@ void TGGridCell::Refresh()
     if (!owner.OnRefresh(*this) || owner.GetDC() == nullptr || self.Cell() == nullptr)
         return;
     owner.OnBeforeRefresh(*this);
-    if (owner.GetDC() != nullptr && self.Cell() != nullptr)
-        Draw(*owner.GetDC());
+    if (owner.GetDC() == nullptr || self.Cell() == nullptr)
+        return;
+    Draw(*owner.GetDC());
+    CRect cell;
+    GetRect(cell);
+    owner.InvertSelectionIn(CellOutlineRect(cell));
 }
 
 void TGGridCell::Draw(CDC& context) const

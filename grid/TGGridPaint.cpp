@@ -1,6 +1,7 @@
 // TGGrid's painting: the visible rows, the new-row line, the selection, and the colours of an open editor.
 #include "grid/TGGrid.h"
 
+#include "grid/SelectedIndices.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
@@ -13,21 +14,19 @@ namespace QuorUiCtr
 namespace
 {
 
-// The position in an ascending list from which its elements are at least `value`.
-long FirstNotBelow(DualList<long>& ascending, long value)
+// Sets a flag for the length of a scope, also when a hook throws.
+class FlagGuard
 {
-    long first = 0;
-    long last = ascending.GetNum();
-    while (first < last)
-    {
-        const long middle = (first + last) / 2;
-        if (*ascending.IteratorAt(middle) < value)
-            first = middle + 1;
-        else
-            last = middle;
-    }
-    return first;
-}
+public:
+    explicit FlagGuard(bool& guarded) : flag(guarded), before(guarded) { flag = true; }
+    ~FlagGuard() { flag = before; }
+    FlagGuard(const FlagGuard&) = delete;
+    FlagGuard& operator=(const FlagGuard&) = delete;
+
+private:
+    bool& flag;
+    bool before;
+};
 
 } // namespace
 
@@ -59,26 +58,31 @@ void TGGrid::Refresh()
         redrawPending = true;
         return;
     }
-    long first = 0;
-    long last = GetRowNum();
-    if (dc != nullptr)
     {
-        const CRect view = ViewRect();
-        first = view.top / GetRowHeight();
-        last = view.bottom / GetRowHeight();
+        const FlagGuard guard(refreshing);
+        const RowRange visible = VisibleRows();
+        DrawRows(visible.first, visible.last);
+        if (GetRowNum() <= visible.last && IsAppendRowShown() && newRow != nullptr)
+            newRow->Refresh();
     }
-    DrawRows(first, last);
-    if (GetRowNum() <= last && IsAppendRowShown() && newRow != nullptr)
-        newRow->Refresh();
     if (IsColSelected())
-        DrawSelectedCols();
-    else if (IsRowSelected())
-        DrawSelectedRows(first, last);
+        InvertSelectedCols();
+    else
+        InvertSelectedRows();
     // The marks of a running drag stand on what was just drawn.
     if (rowHeader != nullptr)
         rowHeader->InvertDropMark();
     if (colHeader != nullptr)
         colHeader->InvertMark();
+}
+
+// All rows without a drawing context.
+TGGrid::RowRange TGGrid::VisibleRows()
+{
+    if (dc == nullptr)
+        return {0, GetRowNum()};
+    const CRect view = ViewRect();
+    return {view.top / GetRowHeight(), view.bottom / GetRowHeight()};
 }
 
 // The cursor walks along, so that hooks may change the rows meanwhile, and is brought back for the host.
@@ -93,7 +97,7 @@ void TGGrid::DrawRows(long first, long last)
     }
 }
 
-void TGGrid::DrawSelectedCols()
+void TGGrid::InvertSelectedCols()
 {
     for (const long index : colSel)
     {
@@ -103,15 +107,40 @@ void TGGrid::DrawSelectedCols()
     }
 }
 
-void TGGrid::DrawSelectedRows(long first, long last)
+// The bands outside the view need no inverting, so that this costs what is visible, not what is selected.
+void TGGrid::InvertSelectedRows()
 {
-    auto entry = rowSel.IteratorAt(FirstNotBelow(rowSel, first));
-    for (; entry != rowSel.end() && *entry <= last; ++entry)
+    if (!IsRowSelected() || GetSafeHwnd() == nullptr || dc == nullptr)
+        return;
+    const RowRange visible = VisibleRows();
+    auto entry = SelectedIndices::FindNotBelow(rowSel, visible.first);
+    for (; entry != rowSel.end() && *entry <= visible.last; ++entry)
     {
         TGGridRow* row = IsValidRow(*entry) ? *rows.IteratorAt(*entry) : nullptr;
         if (row != nullptr)
             row->Select(true);
     }
+}
+
+// A cell drawn by itself lies on the bands of its row, of the row below, whose top line it draws, and of the
+// columns that its frame touches.
+void TGGrid::InvertSelectionIn(const CRect& drawn)
+{
+    if (refreshing || dc == nullptr)
+        return;
+    CRect band;
+    const auto invertPart = [&](auto& line) {
+        line.GetRect(band);
+        if (band.IntersectRect(&band, &drawn))
+            InvertBand(band);
+    };
+    for (const long i : colSel)
+        if (TGGridCol* col = ColAtIndex(i))
+            invertPart(*col);
+    auto entry = SelectedIndices::FindNotBelow(rowSel, drawn.top / GetRowHeight());
+    for (; entry != rowSel.end() && *entry <= drawn.bottom / GetRowHeight(); ++entry)
+        if (TGGridRow* row = RowAt(*entry))
+            invertPart(*row);
 }
 
 BOOL TGGrid::OnEraseBkgnd(CDC* context)

@@ -27,8 +27,12 @@ void TGGrid::MoveView(int dx, int dy)
     SetBarPosition(SB_VERT, vPosition + dy);
     ClearDC();
     PrepareDC(nullptr);
+    // What the end of an edit draws stands where it is to be after the scrolling already.
+    const bool drawn = IsEditing();
     EndEditCell();
     ScrollContents(dx, dy);
+    if (drawn)
+        Invalidate(0);
 }
 
 // The data area scrolls by itself, so that the header windows and an editor stay where they are.
@@ -49,7 +53,7 @@ void TGGrid::ShowRect(CRect rect)
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    if (IsUpdating())
+    if (layoutPending)
     {
         pendingShowRect = rect;
         showPending = true;

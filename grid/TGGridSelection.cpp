@@ -1,8 +1,9 @@
 // TGGrid's two selections and the search that selects.
 //
 // Selected bands are shown by inverting them: each change of a selection inverts its band once, and painting
-// inverts what is selected after drawing, so the screen and the index lists always agree. Hooks run last in
-// every step, or are followed by a fresh look at what they may have changed.
+// inverts what is selected after drawing, so the screen and the index lists always agree. While painting is
+// postponed or under way a change repaints instead, because nobody knows then which bands are drawn already.
+// Hooks run last in every step, or are followed by a fresh look at what they may have changed.
 #include "grid/TGGrid.h"
 
 #include "grid/RowWatch.h"
@@ -27,7 +28,7 @@ void TGGrid::SelectRow(long row, bool select)
     if (select ? SelectedIndices::Add(rowSel, row) : SelectedIndices::Remove(rowSel, row))
         if (TGGridRow* changed = RowAt(row))
         {
-            changed->Select(select);
+            ChangeBand(*changed, select);
             if (select)
                 ShowRowBand(*changed);
         }
@@ -48,7 +49,7 @@ void TGGrid::SelectCol(long col, bool select)
     if (select ? SelectedIndices::Add(colSel, col) : SelectedIndices::Remove(colSel, col))
     {
         TGGridCol* changed = ColAtIndex(col);
-        changed->Select(select);
+        ChangeBand(*changed, select);
         if (select)
             ShowColBand(*changed);
     }
@@ -92,18 +93,30 @@ void TGGrid::UnselectCols()
 {
     for (const long i : colSel)
         if (TGGridCol* col = ColAtIndex(i))
-            col->Select(false);
+            ChangeBand(*col, false);
     colSel.Clear();
 }
 
 void TGGrid::UnselectRows()
 {
-    if (GetSafeHwnd() != nullptr)
-    {
-        const CRect view = ViewRect();
-        DrawSelectedRows(view.top / GetRowHeight(), view.bottom / GetRowHeight());
-    }
+    if (CanInvertNow())
+        InvertSelectedRows();
+    else if (IsRowSelected())
+        Invalidate(0);
     rowSel.Clear();
+}
+
+bool TGGrid::CanInvertNow() const
+{
+    return !IsUpdating() && !refreshing;
+}
+
+template <class Line> void TGGrid::ChangeBand(Line& line, bool select)
+{
+    if (CanInvertNow())
+        line.Select(select);
+    else
+        Invalidate(0);
 }
 
 void TGGrid::InvertBand(const CRect& band)
@@ -124,7 +137,7 @@ void TGGrid::ShowRowBand(const TGGridRow& row)
     CRect area;
     GetClientRect(&area);
     const long x = ClientToLogical(area.CenterPoint()).x;
-    ShowRect(CRect(x, row.GetTop(), x, row.GetBottom()));
+    ShowBand(CRect(x, row.GetTop(), x, row.GetBottom()));
 }
 
 void TGGrid::ShowColBand(const TGGridCol& col)
@@ -134,7 +147,18 @@ void TGGrid::ShowColBand(const TGGridCol& col)
     CRect area;
     GetClientRect(&area);
     const long y = ClientToLogical(area.CenterPoint()).y;
-    ShowRect(CRect(col.GetLeft(), y, col.GetRight(), y));
+    ShowBand(CRect(col.GetLeft(), y, col.GetRight(), y));
+}
+
+void TGGrid::ShowBand(const CRect& band)
+{
+    if (!IsUpdating())
+    {
+        ShowRect(band);
+        return;
+    }
+    pendingShowRect = band;
+    showPending = true;
 }
 
 // ---- Queries ----------------------------------------------------------------------------------------------

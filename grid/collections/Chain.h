@@ -3,13 +3,12 @@
 
 #include "grid/collections/ChainNode.h"
 #include "grid/collections/NodeStore.h"
-#include "grid/collections/PositionIndex.h"
+#include "grid/collections/RememberedPlaces.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <cstdint>
 #include <cstdlib>
-#include <memory>
 #include <new>
 #include <span>
 #include <type_traits>
@@ -30,6 +29,7 @@ public:
     using BackNode = BackLinkedNode<T>;
     using Iterator = ChainIterator<T, T>;
     using ConstIterator = ChainIterator<T, const T>;
+    using Place = ChainPlace<T>;
 
     enum class Links
     {
@@ -68,6 +68,26 @@ public:
         cursor = current == &head ? -1 : index;
     }
 
+    // In a chain whose elements for which `precedes` holds come first: the place of the first element for
+    // which it does not hold; the head, at the count, when there is none.
+    template <class Precedes> Place FindPartition(const Precedes& precedes)
+    {
+        if (count == 0 || precedes(last->element))
+            return {&head, count};
+        Place place{head.next, 0};
+        if (const auto* index = places.Find(head.next, count, count))
+            place = index->FindPartition(precedes);
+        for (; precedes(place.node->element); ++place.index)
+            place.node = place.node->next;
+        return place;
+    }
+
+    void MoveToPlace(const Place& place)
+    {
+        current = place.node;
+        cursor = current == &head ? -1 : place.index;
+    }
+
     void MoveToNext()
     {
         current = current->next;
@@ -76,7 +96,8 @@ public:
 
     void MoveToPrevious()
     {
-        if (cursor < 0) {
+        if (cursor < 0)
+        {
             MoveTo(count - 1);
             return;
         }
@@ -89,7 +110,8 @@ public:
     // In constant time while the structure has not changed since the mark was made; by index otherwise.
     void RestoreCursor(const CursorMark& mark)
     {
-        if (mark.revision != revision) {
+        if (mark.revision != revision)
+        {
             MoveTo(mark.index);
             return;
         }
@@ -122,7 +144,8 @@ public:
     {
         Reserve(count + static_cast<long>(elements.size()));
         Node* before = NodeBefore(index);
-        for (const T& element : elements) {
+        for (const T& element : elements)
+        {
             Node* node = Make(element);
             Link(before, node, index++);
             before = node;
@@ -148,10 +171,13 @@ public:
             after = after->next;
         Join(before, after);
         count -= number;
-        Changed(first);
-        if (cursor >= first + number) {
+        Removed(first, number, after);
+        if (cursor >= first + number)
+        {
             cursor -= number;
-        } else if (cursor >= first) {
+        }
+        else if (cursor >= first)
+        {
             cursor = first - 1;
             current = before;
         }
@@ -171,8 +197,9 @@ public:
     void TakeAll(Chain& other)
     {
         store.Swap(other.store);
-        positions.swap(other.positions);
-        if (other.count > 0) {
+        places.Swap(other.places);
+        if (other.count > 0)
+        {
             Join(&head, other.head.next);
             Join(other.last, &head);
         }
@@ -191,13 +218,15 @@ public:
         Node* before = NodeBefore(from);
         Node* node = before->next;
         Node* newBefore = NodeBefore(to);
-        Join(before, node->next);
+        Node* after = node->next;
+        Join(before, after);
+        Removed(from, 1, after);
         Node* newAfter = newBefore->next;
         Join(newBefore, node);
         Join(node, newAfter);
-        Changed(from < to ? from : to);
         cursor = to > from ? to - 1 : to;
         current = node;
+        Inserted(cursor, node);
     }
 
     // All nodes in order, for sorting; and the way back: `nodes` holds the same nodes in another order. The
@@ -215,7 +244,8 @@ public:
     {
         Node* before = &head;
         long index = 0;
-        for (Node* node : nodes) {
+        for (Node* node : nodes)
+        {
             Join(before, node);
             before = node;
             if (node == current)
@@ -223,7 +253,8 @@ public:
             ++index;
         }
         Join(before, &head);
-        Changed(0);
+        ++revision;
+        places.Forget();
     }
 
     void Reserve(long elements)
@@ -233,20 +264,20 @@ public:
     }
 
 private:
-    using Positions = PositionIndex<Node>;
-    using Place = ChainPlace<T>;
-
     std::size_t GetNodeSize() const { return backLinks ? sizeof(BackNode) : sizeof(Node); }
 
     Node* Make(const T& element)
     {
         static_assert(alignof(BackNode) <= alignof(std::max_align_t));
         void* slot = store.Take(GetNodeSize());
-        try {
+        try
+        {
             if (backLinks)
                 return new (slot) BackNode{{nullptr, element}, nullptr};
             return new (slot) Node{nullptr, element};
-        } catch (...) {
+        }
+        catch (...)
+        {
             store.Give(slot);
             throw;
         }
@@ -263,7 +294,8 @@ private:
 
     void DestroyAll()
     {
-        if constexpr (!NodeStore::usesBlocks || !std::is_trivially_destructible_v<T>) {
+        if constexpr (!NodeStore::usesBlocks || !std::is_trivially_destructible_v<T>)
+        {
             for (Node* node = head.next; node != &head;)
                 node = Destroy(node);
         }
@@ -273,7 +305,7 @@ private:
     void ReleaseMemory()
     {
         store.Release();
-        positions.reset();
+        places.Release();
     }
 
     // Makes `after` the successor of `before`. Either may be the head.
@@ -295,7 +327,7 @@ private:
         ++count;
         if (cursor >= index)
             ++cursor;
-        Changed(index);
+        Inserted(index, node);
     }
 
     void EnterAfterCursor(Node* node)
@@ -305,12 +337,18 @@ private:
         ++cursor;
     }
 
-    // The elements from `index` on have other positions than before.
-    void Changed(long index)
+    // The element number `index` is `node`, which has just been linked in.
+    void Inserted(long index, Node* node)
     {
         ++revision;
-        if (positions)
-            positions->Truncate(index);
+        places.Inserted(index, node);
+    }
+
+    // `number` elements have been taken out in front of `after`, which is the element number `index` now.
+    void Removed(long index, long number, Node* after)
+    {
+        ++revision;
+        places.Removed(index, number, after, count);
     }
 
     // The node before position `index`, which may be the count.
@@ -328,60 +366,25 @@ private:
     {
         if (index == count - 1)
             return last;
-        const Place place = FindNearest(index);
-        const long distance = std::abs(index - place.index);
-        if (distance <= Positions::spacing || count <= Positions::smallestUse || !MarkUpTo(index, distance))
-            return place.WalkTo(index);
-        return FindNearest(index).WalkTo(index);
-    }
-
-    Place FindNearest(long index)
-    {
-        Place nearest{head.next, 0};
-        const auto consider = [&](Node* node, long position) {
-            if ((backLinks || position <= index) &&
-                std::abs(index - position) < std::abs(index - nearest.index))
-                nearest = {node, position};
-        };
-        consider(last, count - 1);
+        Place nearest = NearestOf({head.next, 0}, {last, count - 1}, index);
         if (cursor >= 0)
-            consider(current, cursor);
-        if (positions)
-            ConsiderMarks(index, consider);
-        return nearest;
+            nearest = NearestOf(nearest, {current, cursor}, index);
+        const long distance = std::abs(index - nearest.index);
+        if (distance > shortWalk)
+            if (const auto* known = places.Find(head.next, count, distance))
+                nearest = NearestOf(nearest, known->FindNearest(index, backLinks), index);
+        return nearest.WalkTo(index);
     }
 
-    // The marks on either side of `index`, or the last one before it.
-    template <class Consider> void ConsiderMarks(long index, const Consider& consider)
+    // The place from which `index` is reached in fewer steps; it can be reached from `first`.
+    Place NearestOf(const Place& first, const Place& second, long index) const
     {
-        const long marks = positions->GetMarkNum();
-        const long mark = std::min(index / Positions::spacing, marks - 1);
-        if (mark >= 0)
-            consider(positions->GetMark(mark), mark * Positions::spacing);
-        if (mark + 1 < marks)
-            consider(positions->GetMark(mark + 1), (mark + 1) * Positions::spacing);
+        const bool reaches = backLinks || second.index <= index;
+        return reaches && std::abs(index - second.index) < std::abs(index - first.index) ? second : first;
     }
 
-    // Sets the marks up to `index`, which would otherwise be `distance` steps away, when that pays off.
-    // Without memory for marks the chain does without.
-    bool MarkUpTo(long index, long distance) noexcept
-    try {
-        if (!positions)
-            positions = std::make_unique<Positions>();
-        if (!positions->PaysOff(distance, index - positions->GetMarkNum() * Positions::spacing))
-            return false;
-        if (positions->GetMarkNum() == 0)
-            positions->AddMark(head.next);
-        long mark = positions->GetMarkNum() - 1;
-        Place place{positions->GetMark(mark), mark * Positions::spacing};
-        while (++mark * Positions::spacing <= index) {
-            place = {place.WalkTo(mark * Positions::spacing), mark * Positions::spacing};
-            positions->AddMark(place.node);
-        }
-        return true;
-    } catch (const std::bad_alloc&) {
-        return false;
-    }
+    // Walks of at most this many steps are not worth looking for a better one.
+    static constexpr long shortWalk = 8;
 
     long count = 0;
     long cursor = -1;
@@ -389,7 +392,7 @@ private:
     Node* last = &head;
     Node* current = &head;
     NodeStore store;
-    std::unique_ptr<Positions> positions;
+    RememberedPlaces<T> places;
     std::uint32_t revision = 0; // grows with every structural change
     bool backLinks;
 };

@@ -18,7 +18,7 @@ template <class T> class CursorGuard;
 //
 // Appending, inserting behind the cursor and stepping forward take constant time. Positional access starts
 // from the cursor, the first or the last element or, in lists of more than 512 elements, a remembered place
-// nearby; a singly linked list walks forward only, so steps back cost positional access.
+// at most 64 steps away; a singly linked list walks forward only, so steps back cost positional access.
 //
 // An empty list owns no memory beyond the object. Memory of removed elements is used again and is freed when
 // the list gets empty. Element destructors that reach their own list find it without them, but must not
@@ -72,7 +72,8 @@ public:
     long Find(const T& element) const override
     {
         long position = 0;
-        for (const T& candidate : chain) {
+        for (const T& candidate : chain)
+        {
             if (candidate == element)
                 return position;
             ++position;
@@ -128,6 +129,19 @@ public:
     ConstIterator end() const { return chain.end(); }
     // The iterator at position `i`, end() when there is no such element.
     Iterator IteratorAt(long i) { return chain.IteratorAt(i); }
+
+    // Searches of a list in which the elements for which `precedes` holds stand before all others, in
+    // O(log n) or near; `precedes` must not change the list. The first element for which it does not hold: as
+    // an iterator (end() when there is none), or made current (none when there is none), so that Insert adds
+    // an element where it belongs. Only the second form moves the cursor.
+    template <class Precedes> Iterator FindPartition(const Precedes& precedes)
+    {
+        return Iterator(chain.FindPartition(precedes).node);
+    }
+    template <class Precedes> void MoveToPartition(const Precedes& precedes)
+    {
+        chain.MoveToPlace(chain.FindPartition(precedes));
+    }
 
 protected:
     using Links = typename Detail::Chain<T>::Links;

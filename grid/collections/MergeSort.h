@@ -51,11 +51,13 @@ template <class Item, class SortsAfter> void StableMergeSort(std::span<Item> ite
         ends.push_back(MakeRun(items, start, sortsAfter));
 
     std::vector<Item> merged(ends.size() > 1 ? items.size() : 0);
-    while (ends.size() > 1) {
+    while (ends.size() > 1)
+    {
         std::vector<std::size_t> mergedEnds;
         std::size_t start = 0;
         Item* target = merged.data();
-        for (std::size_t run = 0; run < ends.size(); run += 2) {
+        for (std::size_t run = 0; run < ends.size(); run += 2)
+        {
             const std::size_t middle = ends[run];
             const std::size_t end = run + 1 < ends.size() ? ends[run + 1] : middle;
             target = MergeRuns(items.subspan(start, middle - start), items.subspan(middle, end - middle),

@@ -39,7 +39,8 @@ public:
             return ::operator new(slotSize);
         if (newest == nullptr || (newest->freeSlots == nullptr && newest->used == newest->capacity))
             AddBlock(NextCapacity(), slotSize);
-        if (FreeSlot* slot = newest->freeSlots) {
+        if (FreeSlot* slot = newest->freeSlots)
+        {
             newest->freeSlots = slot->next;
             return slot;
         }
@@ -66,7 +67,8 @@ public:
     // Frees every block. Every node must have been destroyed, or need no destruction.
     void Release() noexcept
     {
-        while (newest != nullptr) {
+        while (newest != nullptr)
+        {
             Block* block = std::exchange(newest, newest->older);
             ::operator delete(block);
         }
@@ -102,7 +104,8 @@ private:
     {
         void* memory = ::operator new(sizeof(Block) + capacity * slotSize);
         const auto slots = static_cast<std::uint32_t>(capacity);
-        if (newest == nullptr) {
+        if (newest == nullptr)
+        {
             newest = new (memory) Block{nullptr, nullptr, 0, slots, slots};
             return;
         }

@@ -81,7 +81,8 @@ public:
         const auto nulls = std::stable_partition(nodes.begin(), nodes.end(),
                                                  [](const auto* node) { return node->element != nullptr; });
         const auto objects = static_cast<std::size_t>(nulls - nodes.begin());
-        if constexpr (requires(T & first, T & second) { first > second ? 1 : first < second ? 2 : 3; }) {
+        if constexpr (requires(T & first, T & second) { first > second ? 1 : first < second ? 2 : 3; })
+        {
             this->SortNodes(std::span(nodes).first(objects), [ascending](T* first, T* second) {
                 return ascending ? *first > *second : *first < *second;
             });

@@ -80,7 +80,7 @@ TYPED_TEST_SUITE(ListSort, BothLists);
 
 TYPED_TEST(ListSort, RandomElements_EndInTheOrderOfAStableInsertionSort)
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = 83;
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     for (std::size_t number : {0u, 1u, 2u, 3u, 5u, 16u, 33u, 100u, 257u, 1000u}) {
@@ -269,7 +269,7 @@ TEST(PDListSort, OnlyNullSlotsOrOneElement_Stay)
 
 TEST(PDListSort, RandomRows_EndInTheOrderOfAStableInsertionSortThatSkipsNulls)
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = 83;
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
     std::vector<Keyed> elements = RandomElements(random, 700, 40);

@@ -3,6 +3,8 @@
 
 #include "tests/support/Input.h"
 
+#include <cstdlib>
+
 using namespace QuorUiCtr;
 using namespace quor::test;
 
@@ -17,6 +19,7 @@ public:
     explicit ClickGrid(bool tree = false) : WindowGrid(tree) {}
 
     std::string rightClick;
+    CString tip = L"tip %d,%d"; // formatted with row and column
 
 protected:
     void OnRClickCell(TGGridCell& cell, CPoint point) override
@@ -28,7 +31,10 @@ protected:
 
     bool OnCellTip(long row, long col, CString& text) const override
     {
-        text.Format(L"tip %d,%d", static_cast<int>(row), static_cast<int>(col));
+        if (tip == L"tip %d,%d")
+            text.Format(tip, static_cast<int>(row), static_cast<int>(col));
+        else
+            text = tip;
         return true;
     }
 };
@@ -139,11 +145,23 @@ TEST_F(GridMouse, RightClick_ReportsTheCellAndTheScreenPoint)
     EXPECT_EQ(grid.m_hWnd, ::GetFocus());
 }
 
+TEST_F(GridMouse, RightClick_LeavesTheSelectionAndOpensNoEditor)
+{
+    grid.SelectRow(2, true);
+    SendMouse(grid, WM_RBUTTONUP, CPoint(150, 50));
+    EXPECT_EQ("1,1 at 150,50", grid.rightClick);
+    EXPECT_TRUE(grid.IsRowSelected(2));
+    EXPECT_EQ("-", Edited(grid));
+}
+
 TEST_F(GridMouse, RightClickOutsideTheCells_ReportsNothing)
 {
     SendMouse(grid, WM_RBUTTONUP, CPoint(150, 20 + 85));
     SendMouse(grid, WM_RBUTTONUP, CPoint(250, 50));
     EXPECT_EQ("", grid.rightClick);
+    host.SetFocus();
+    SendMouse(grid, WM_RBUTTONUP, CPoint(250, 50));
+    EXPECT_EQ(grid.m_hWnd, ::GetFocus());
 }
 
 TEST_F(GridMouse, CancelMode_ReleasesTheGridsCapture)
@@ -188,6 +206,46 @@ TEST_F(GridMouse, ClickOnAFoldBox_FoldsAndOpensNoEditor)
     EXPECT_EQ(1, tree.GetRowNum());
 }
 
+// The second press of a double click acts like the first.
+TEST_F(GridMouse, DoubleClickOnAFoldBox_FoldsBack)
+{
+    ClickGrid tree(true);
+    Create(tree);
+    tree.AppendCol(L"Tree", 200);
+    tree.AppendRow(nullptr);
+    tree.GetTreeRow(0).AppendChild(nullptr);
+    const CPoint box = tree.ToClient(10, 10);
+    SendMouse(tree, WM_LBUTTONDOWN, box, MK_LBUTTON);
+    EXPECT_EQ(2, tree.GetRowNum());
+    SendMouse(tree, WM_LBUTTONDBLCLK, box, MK_LBUTTON);
+    EXPECT_EQ(1, tree.GetRowNum());
+    EXPECT_EQ("-", Edited(tree));
+}
+
+TEST_F(GridMouse, DoubleClickOutsideTheCells_ClearsTheSelection)
+{
+    grid.SelectRow(1, true);
+    Click(grid, 6, 0, WM_LBUTTONDBLCLK);
+    EXPECT_FALSE(grid.IsRowSelected());
+    grid.SelectCol(1, true);
+    Click(grid, 0, 2, WM_LBUTTONDBLCLK);
+    EXPECT_FALSE(grid.IsColSelected());
+}
+
+TEST_F(GridMouse, ClickOnTheBoxPlaceOfALeaf_OpensTheEditor)
+{
+    ClickGrid tree(true);
+    Create(tree);
+    tree.AppendCol(L"Tree", 200);
+    tree.AppendRow(nullptr);
+    tree.GetTreeRow(0).AppendChild(nullptr);
+    tree.GetTreeRow(0).UnFold();
+    // Where its parent has the box, one row above.
+    SendMouse(tree, WM_LBUTTONDOWN, tree.ToClient(10, 10 + rowHeight), MK_LBUTTON);
+    EXPECT_EQ("1,0", Edited(tree));
+    EXPECT_EQ(2, tree.GetRowNum());
+}
+
 TEST_F(GridMouse, ClickIntoTheFirstColumnOfALeaf_OpensTheEditor)
 {
     ClickGrid tree(true);
@@ -196,6 +254,22 @@ TEST_F(GridMouse, ClickIntoTheFirstColumnOfALeaf_OpensTheEditor)
     tree.AppendRow(nullptr);
     SendMouse(tree, WM_LBUTTONDOWN, tree.ToClient(10, 10), MK_LBUTTON);
     EXPECT_EQ("0,0", Edited(tree));
+}
+
+// The focus goes from the grid to the editor and back while the corner shows it all the time.
+TEST_F(GridMouse, CellEditor_CountsAsTheGridsFocus)
+{
+    const COLORREF active = ::GetSysColor(COLOR_ACTIVECAPTION);
+    const auto corner = [this] { return Snapshot(grid).At(9, 9); };
+    Click(grid, 1, 1);
+    ASSERT_TRUE(grid.IsMyFocus(CWnd::GetFocus()));
+    ASSERT_NE(grid.m_hWnd, ::GetFocus());
+    EXPECT_EQ(active, corner());
+    Click(grid, 2, 0);
+    EXPECT_EQ(active, corner());
+    grid.CancelEditCell();
+    host.SetFocus();
+    EXPECT_NE(active, corner());
 }
 
 // ---- Colours of the editor --------------------------------------------------------------------------------
@@ -275,6 +349,23 @@ TEST_F(GridMouse, FrameworkTips_FollowTheMouse)
     EXPECT_EQ(L"tip 3,1", move(150, 90));
     EXPECT_EQ(L"", move(150, 290));
     EXPECT_EQ(L"tip 3,1", move(150, 90));
+}
+
+// Such texts once were a format that read whatever lay on the stack, into a buffer of twenty characters.
+TEST_F(GridMouse, TipsWithPercentSigns_ReadAndWriteNoForeignMemory)
+{
+    for (const wchar_t* wild :
+         {L"%s%s%s%s%s%s%s%s", L"%n%n%n", L"%d %x %p", L"%5000d", L"100%", L"%hs%ls%S%C",
+          L"a text that is much longer than the twenty characters of a tip"})
+    {
+        grid.tip = wild;
+        TOOLINFO info = {};
+        info.cbSize = sizeof info;
+        EXPECT_EQ(10 + 1, grid.OnToolHitTest(CPoint(150, 50), &info));
+        ASSERT_NE(nullptr, info.lpszText);
+        EXPECT_LT(wcslen(info.lpszText), 20u) << wild;
+        std::free(info.lpszText);
+    }
 }
 
 } // namespace

@@ -95,7 +95,7 @@ TEST(TipAnswer, ThousandsOfConversions_AreSafe)
 
 TEST(TipAnswer, AnyText_FitsItsBuffer)
 {
-    const unsigned seed = std::random_device()();
+    const unsigned seed = 20;
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const std::wstring alphabet = L"%%%%%%%%0123456789.-+# *sSdiuxXcCpnlhIw6432|\u884C";

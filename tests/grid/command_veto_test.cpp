@@ -1,0 +1,271 @@
+// Every command with every hook: the whole order of hooks, and each veto on its own.
+#include "tests/grid/CommandGrid.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+
+using namespace QuorUiCtr;
+
+namespace quor::test
+{
+namespace
+{
+
+// A command, the state it starts from and what it does.
+struct CommandCase
+{
+    const char* name;
+    bool tree;
+    std::function<void(CommandGrid&)> prepare;
+    std::function<bool(CommandGrid&)> run;
+    const char* hooks;
+    const char* rowsAfter;
+    const char* colsAfter;
+};
+
+// Rows a b(c d) e, where b is unfolded: their indices are 0 to 4.
+void MakeTree(CommandGrid& grid)
+{
+    grid.AddRows("abe");
+    TGGridTreeRow& parent = grid.GetTreeRow(1);
+    grid.AddChild(parent, 'c');
+    grid.AddChild(parent, 'd');
+    parent.UnFold();
+}
+
+std::function<void(CommandGrid&)> PlainRows(std::initializer_list<long> selected)
+{
+    const std::vector<long> rows(selected);
+    return [rows](CommandGrid& grid) {
+        grid.AddRows("abcd");
+        for (const long row : rows)
+            grid.SelectRow(row, true);
+    };
+}
+
+std::function<void(CommandGrid&)> PlainCols(std::initializer_list<long> selected)
+{
+    const std::vector<long> cols(selected);
+    return [cols](CommandGrid& grid) {
+        grid.AddRows("ab");
+        for (const long col : cols)
+            grid.SelectCol(col, true);
+    };
+}
+
+std::function<void(CommandGrid&)> TreeRows(long selected)
+{
+    return [selected](CommandGrid& grid) {
+        MakeTree(grid);
+        grid.SelectRow(selected, true);
+    };
+}
+
+// The same with row 0 in the row buffer.
+std::function<void(CommandGrid&)> WithBuffer(const std::function<void(CommandGrid&)>& prepare, long selected)
+{
+    return [prepare, selected](CommandGrid& grid) {
+        prepare(grid);
+        grid.SelectRows({0});
+        grid.DoCopy();
+        grid.UnSelect();
+        if (selected >= 0)
+            grid.SelectRow(selected, true);
+    };
+}
+
+const CommandCase commands[] = {
+    {"DoInsertRow", false, PlainRows({1}), [](CommandGrid& g) { return g.DoInsertRow(); },
+     "insert row? 1 | inserted row 1 | changed", "a * b c d", "A B C"},
+    {"DoInsertRowAfter", false, PlainRows({1}), [](CommandGrid& g) { return g.DoInsertRowAfter(); },
+     "insert row? 2 | inserted row 2 | changed", "a b * c d", "A B C"},
+    {"DoAppendRow selecting", false, PlainRows({1}), [](CommandGrid& g) { return g.DoAppendRow(true); },
+     "insert row? 4 | inserted row 4 | changed", "a b c d *", "A B C"},
+    {"DoAppendRow", false, PlainRows({1}), [](CommandGrid& g) { return g.DoAppendRow(false); },
+     "insert row? 4 | inserted row 4 | changed", "a b c d ", "A B C"},
+    {"DoInsertCol", false, PlainCols({1}), [](CommandGrid& g) { return g.DoInsertCol(); },
+     "insert col? 1 | inserted col 1 | changed", "a b", "A * B C"},
+    {"DoInsertColAfter", false, PlainCols({1}), [](CommandGrid& g) { return g.DoInsertColAfter(); },
+     "insert col? 2 | inserted col 2 | changed", "a b", "A B * C"},
+    {"DoAppendCol", false, PlainCols({1}), [](CommandGrid& g) { return g.DoAppendCol(); },
+     "insert col? 3 | inserted col 3 | changed", "a b", "A B C *"},
+    {"DoDelete of rows", false, PlainRows({1, 3}), [](CommandGrid& g) { return g.DoDelete(); },
+     "delete row? | deleted row | changed", "a c", "A B C"},
+    {"DoDelete of columns", false, PlainCols({0, 2}), [](CommandGrid& g) { return g.DoDelete(); },
+     "delete col? | deleted col | changed", " ", "B"},
+    {"DoCopy", false, PlainRows({1, 3}), [](CommandGrid& g) { return g.DoCopy(); }, "copy? | copied",
+     "a b* c d*", "A B C"},
+    {"DoClip", false, PlainRows({1, 3}), [](CommandGrid& g) { return g.DoClip(); }, "cut? | cut | changed",
+     "a c", "A B C"},
+    {"DoPaste", false, WithBuffer(PlainRows({}), 2), [](CommandGrid& g) { return g.DoPaste(); },
+     "paste? 2 | pasted | changed", "a b a* c d", "A B C"},
+    {"DoPaste at the end", false, WithBuffer(PlainRows({}), -1), [](CommandGrid& g) { return g.DoPaste(); },
+     "paste? 4 | pasted | changed", "a b c d a*", "A B C"},
+    {"DoInsertRow beside a child", true, TreeRows(3), [](CommandGrid& g) { return g.DoInsertRow(); },
+     "insert child? b 1 | inserted row 3 | changed", "a b(c * d) e", "A B C"},
+    {"DoInsertRowAfter a child", true, TreeRows(3), [](CommandGrid& g) { return g.DoInsertRowAfter(); },
+     "insert child? b 2 | inserted row 4 | changed", "a b(c d *) e", "A B C"},
+    {"DoInsertTree", true, TreeRows(0), [](CommandGrid& g) { return g.DoInsertTree(); },
+     "insert row? 0 | inserted row 0 | changed", "*() a b(c d) e", "A B C"},
+    {"DoInsertTree beside a child", true, TreeRows(2), [](CommandGrid& g) { return g.DoInsertTree(); },
+     "insert child? b 0 | inserted row 2 | changed", "a b(*() c d) e", "A B C"},
+    {"DoInsertTreeAfter", true, TreeRows(0), [](CommandGrid& g) { return g.DoInsertTreeAfter(); },
+     "insert row? 1 | inserted row 1 | changed", "a *() b(c d) e", "A B C"},
+    {"DoInsertTreeAfter a child", true, TreeRows(2), [](CommandGrid& g) { return g.DoInsertTreeAfter(); },
+     "insert child? b 1 | inserted row 3 | changed", "a b(c *() d) e", "A B C"},
+    {"DoAppendTree", true, TreeRows(0), [](CommandGrid& g) { return g.DoAppendTree(); },
+     "insert row? 5 | inserted row 5 | changed", "a* b(c d) e ()", "A B C"},
+    {"DoAppendChild", true, TreeRows(1), [](CommandGrid& g) { return g.DoAppendChild(); },
+     "insert child? b 2 | inserted row 4 | changed", "a b*(c d *) e", "A B C"},
+    {"DoPaste beside a child", true, WithBuffer(MakeTree, 3), [](CommandGrid& g) { return g.DoPaste(); },
+     "paste? 3 | pasted | changed", "a b(c a* d) e", "A B C"},
+    {"DoPasteChild", true, WithBuffer(MakeTree, 4), [](CommandGrid& g) { return g.DoPasteChild(); },
+     "paste child? e | pasted | changed", "a b(c d) e(a*)", "A B C"},
+    {"DoDelete of a parent", true, TreeRows(1), [](CommandGrid& g) { return g.DoDelete(); },
+     "delete row? | deleted row | changed", "a e", "A B C"},
+    {"DoClip of a parent", true, TreeRows(1), [](CommandGrid& g) { return g.DoClip(); },
+     "cut? | cut | changed", "a e", "A B C"},
+    {"Arrange descending", false, PlainRows({1}),
+     [](CommandGrid& g) {
+         g.AppendKey(0);
+         g.Arrange(false);
+         return true;
+     },
+     "changed", "d c b* a", "A B C"},
+};
+
+class Commands : public testing::TestWithParam<CommandCase>
+{
+protected:
+    void Start(CommandGrid& grid)
+    {
+        for (const wchar_t* name : {L"A", L"B", L"C"})
+            grid.AppendCol(name, 50);
+        GetParam().prepare(grid);
+        grid.TakeLog();
+    }
+};
+
+// The names of the hooks in a log.
+std::vector<std::string> NamesIn(const std::string& log)
+{
+    std::vector<std::string> names;
+    for (std::size_t at = 0; at <= log.size();)
+    {
+        const std::size_t end = std::min(log.find(" | ", at), log.size());
+        const std::string line = log.substr(at, end - at);
+        names.push_back(line.find('?') == std::string::npos ? line : line.substr(0, line.find('?') + 1));
+        at = end + 3;
+    }
+    return names;
+}
+
+TEST_P(Commands, RunTheHooksInOrder)
+{
+    CommandGrid grid(GetParam().tree);
+    Start(grid);
+    EXPECT_TRUE(GetParam().run(grid));
+    EXPECT_EQ(grid.TakeText(), GetParam().hooks);
+    EXPECT_EQ(grid.Rows(), GetParam().rowsAfter);
+    EXPECT_EQ(grid.Cols(), GetParam().colsAfter);
+}
+
+TEST_P(Commands, AreStoppedByTheVetoThatTheyAskFor)
+{
+    for (const std::string& name : NamesIn(GetParam().hooks))
+    {
+        if (name.back() != '?')
+            continue;
+        CommandGrid grid(GetParam().tree);
+        Start(grid);
+        const std::string rows = grid.Rows();
+        const std::string cols = grid.Cols();
+        const std::string buffer = grid.Buffer();
+        grid.vetoes = {name};
+        EXPECT_FALSE(GetParam().run(grid));
+        const std::string log = grid.TakeText();
+        EXPECT_EQ(NamesIn(log), std::vector<std::string>{name});
+        EXPECT_EQ(grid.Rows(), rows);
+        EXPECT_EQ(grid.Cols(), cols);
+        EXPECT_EQ(grid.Buffer(), buffer);
+    }
+}
+
+TEST_P(Commands, AreNotStoppedByTheVetoesOfOthers)
+{
+    static const char* const all[] = {"insert row?", "insert child?", "insert col?",
+                                      "delete row?", "delete col?",   "cut?",
+                                      "copy?",       "paste?",        "paste child?"};
+    const std::vector<std::string> own = NamesIn(GetParam().hooks);
+    for (const char* name : all)
+    {
+        if (std::find(own.begin(), own.end(), name) != own.end())
+            continue;
+        CommandGrid grid(GetParam().tree);
+        Start(grid);
+        grid.vetoes = {name};
+        EXPECT_TRUE(GetParam().run(grid));
+        EXPECT_EQ(grid.TakeText(), GetParam().hooks) << name;
+        EXPECT_EQ(grid.Rows(), GetParam().rowsAfter);
+    }
+}
+
+// Hosts that empty the grid inside any hook of any command must not bring it down.
+TEST_P(Commands, SurviveAHookThatClearsTheGrid)
+{
+    for (const std::string& name : NamesIn(GetParam().hooks))
+    {
+        CommandGrid grid(GetParam().tree);
+        Start(grid);
+        grid.actions[name.substr(0, name.find_last_not_of("0123456789 ") + 1)] = [&] {
+            grid.actions.clear();
+            grid.Clear();
+        };
+        GetParam().run(grid);
+        EXPECT_LE(grid.GetRowNum(), 1) << name;
+    }
+}
+
+TEST_P(Commands, SurviveAHookThatDeletesEveryColumn)
+{
+    for (const std::string& name : NamesIn(GetParam().hooks))
+    {
+        CommandGrid grid(GetParam().tree);
+        Start(grid);
+        grid.actions[name.substr(0, name.find_last_not_of("0123456789 ") + 1)] = [&] {
+            grid.actions.clear();
+            grid.SetColNum(0);
+        };
+        GetParam().run(grid);
+        EXPECT_LE(grid.GetColNum(), 1) << name;
+    }
+}
+
+TEST_P(Commands, SurviveASelectionHookThatClearsTheGrid)
+{
+    CommandGrid grid(GetParam().tree);
+    Start(grid);
+    grid.actions["cur"] = [&] {
+        grid.actions.clear();
+        grid.Clear();
+    };
+    GetParam().run(grid);
+    EXPECT_LE(grid.GetRowNum(), 2);
+}
+
+// The letters and digits of the command's name.
+std::string TestName(const testing::TestParamInfo<CommandCase>& test)
+{
+    std::string name;
+    for (const char character : std::string(test.param.name))
+        if (std::isalnum(static_cast<unsigned char>(character)))
+            name += character;
+    return name;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, Commands, testing::ValuesIn(commands), TestName);
+
+} // namespace
+} // namespace quor::test

@@ -1,4 +1,5 @@
 // Copy, cut and paste through the grid's row buffer.
+#include "grid/RowWatch.h"
 #include "grid/SelectedIndices.h"
 #include "grid/TGGrid.h"
 
@@ -99,12 +100,20 @@ void TGGrid::RowBuffer::ClipRow(long i)
         ClipPlainRow(i);
 }
 
-// The row itself moves to the buffer; its emptied slot is deleted.
+// The row itself moves to the buffer; its emptied slot is deleted. Meanwhile it stands in both lists, and the hook may
+// delete it through either.
 void TGGrid::RowBuffer::ClipPlainRow(long i)
 {
-    grid.rowPaste.Insert(0, &grid.GetRow(i));
+    TGGridRow* row = &grid.GetRow(i);
+    const RowWatch watch(grid, row);
+    grid.rowPaste.Insert(0, row);
     grid.OnCurChanged();
-    grid.rows.MoveTo(i);
+    if (watch.IsAlive())
+        i = row->GetIndex();
+    else if (const long dead = grid.rowPaste.Find(row); dead != -1)
+        grid.rowPaste.Detach(dead);
+    if (!grid.rows.MoveTo(i) || grid.rows.Cur() != row)
+        return;
     grid.rows.SetCur(nullptr);
     grid.DelRow(i);
 }

@@ -94,7 +94,7 @@ const CommandCase commands[] = {
     {"DoDelete of rows", false, PlainRows({1, 3}), [](CommandGrid& g) { return g.DoDelete(); },
      "delete row? | deleted row | changed", "a c", "A B C"},
     {"DoDelete of columns", false, PlainCols({0, 2}), [](CommandGrid& g) { return g.DoDelete(); },
-     "delete col? | deleted col | changed", " ", "B"},
+     "delete col? | deleted col | changed", "", "B"},
     {"DoCopy", false, PlainRows({1, 3}), [](CommandGrid& g) { return g.DoCopy(); }, "copy? | copied",
      "a b* c d*", "A B C"},
     {"DoClip", false, PlainRows({1, 3}), [](CommandGrid& g) { return g.DoClip(); }, "cut? | cut | changed",
@@ -252,7 +252,8 @@ TEST_P(Commands, SurviveASelectionHookThatClearsTheGrid)
         grid.Clear();
     };
     GetParam().run(grid);
-    EXPECT_LE(grid.GetRowNum(), 2);
+    const bool cleared = grid.actions.empty();
+    EXPECT_TRUE(!cleared || grid.GetRowNum() <= 2) << grid.GetRowNum();
 }
 
 // The letters and digits of the command's name.

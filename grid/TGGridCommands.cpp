@@ -1,4 +1,5 @@
 // The user's row and column commands: insert, append, delete.
+#include "grid/RowWatch.h"
 #include "grid/TGGrid.h"
 
 #include <memory>
@@ -253,10 +254,14 @@ bool TGGrid::DoAppendChild()
         delete child;
         return false;
     }
+    const RowWatch alive(*this, parent);
     parent->InsertChild(parent->GetChildNum(), child);
-    TGGridTreeRow& appended = parent->GetLastChild();
-    SelectRow(appended.GetIndex(), true);
-    OnInsertRow(appended);
+    TGGridTreeRow* appended = alive.IsAlive() && parent->IsParentRow() ? &parent->GetLastChild() : nullptr;
+    const RowWatch watch(*this, appended);
+    if (watch.IsAlive())
+        SelectRow(appended->GetIndex(), true);
+    if (watch.IsAlive())
+        OnInsertRow(*appended);
     OnDataChanged();
     return true;
 }

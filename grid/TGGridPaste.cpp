@@ -185,13 +185,17 @@ bool TGGrid::DoPasteChild()
     TGGridTreeRow& parent = GetTreeRow(selected);
     if (!OnBeforePasteChild(parent) || !IsValidRow(selected) || rows[selected] != &parent)
         return false;
+    const RowWatch watch(*this, &parent);
     UnSelect();
-    parent.UnFold();
+    if (watch.IsAlive())
+        parent.UnFold();
+    if (!watch.IsAlive())
+        return false;
     const long first = selected + parent.GetRowNum();
     const long count = rowPaste.GetNum();
     {
         TGGridUpdate update(*this);
-        while (!rowPaste.IsEmpty())
+        while (watch.IsAlive() && !rowPaste.IsEmpty())
             parent.InsertChild(parent.GetChildNum(), static_cast<TGGridTreeRow*>(rowPaste.Detach(0)));
     }
     for (long i = first; i < first + count; ++i)

@@ -1,7 +1,6 @@
 // TGGrid itself: construction and destruction, the writers of the style word that have an effect, access to
 // rows, columns and cells, the row cursor and the sort keys.
-#include "grid/TGGrid.h"
-
+#include "grid/GridStructure.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
@@ -13,7 +12,7 @@ namespace QuorUiCtr
 
 IMPLEMENT_DYNCREATE(TGGrid, CWnd)
 
-TGGrid::TGGrid(bool tree, long columnWidth) : treeGrid(tree), defaultWidth(columnWidth)
+TGGrid::TGGrid(bool tree, long columnWidth) : TGGridStyle(tree), defaultWidth(columnWidth)
 {
     backBrush.CreateSolidBrush(RGB(255, 255, 255));
     gridPen.CreatePen(PS_SOLID, 1, RGB(168, 168, 168));
@@ -24,7 +23,7 @@ TGGrid::~TGGrid()
 {
     BeginUpdate();
     CancelEditCell();
-    ReleaseChildRows();
+    Structure(*this).ReleaseChildRows();
     delete std::exchange(quad, nullptr);
     delete std::exchange(rowHeader, nullptr);
     delete std::exchange(colHeader, nullptr);

@@ -4,6 +4,7 @@
 #include "grid/BrushWindowClass.h"
 #include "grid/TGGridCol.h"
 #include "grid/TGGridRow.h"
+#include "grid/TGGridStyle.h"
 #include "grid/TGGridTreeRow.h"
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"
@@ -11,9 +12,6 @@
 
 #include <afxcmn.h>
 #include <afxwin.h>
-
-#include <memory>
-#include <span>
 
 namespace QuorUiCtr
 {
@@ -24,7 +22,6 @@ class TGCellCtrl;
 class TGColSelector;
 class TGRowSelector;
 class RowWatch;
-struct ScrollRequest;
 
 // A custom-drawn grid of editable text cells with an optional tree of rows.
 //
@@ -40,7 +37,7 @@ struct ScrollRequest;
 //
 // The grid owns its columns, rows, tree rows, paste buffer, header windows, font and editors. All calls
 // belong to the thread that created the window.
-class AFX_EXT_CLASS TGGrid : public CWnd
+class AFX_EXT_CLASS TGGrid : public CWnd, public TGGridStyle
 {
     DECLARE_DYNCREATE(TGGrid)
 
@@ -108,62 +105,15 @@ public:
     CFont* GetFont() { return &font; }
     CBrush& GetBrush() { return backBrush; }
 
-    // ---- Style word -------------------------------------------------------------------------------------
+    // ---- Style word, see TGGridStyle --------------------------------------------------------------------
 
-    int GetStyle() const { return style; }
-    // Adds the bits of `bits`; never clears one.
-    void SetStyle(int bits) { style |= bits; }
-
-    bool IsTreeGrid() const { return treeGrid; }
-    // No edits, no structure commands; implies the fixed lengths and positions and hides the new-row line.
-    bool IsReadOnly() const { return HasFlag(ReadOnlyFlag); }
-    void SetReadOnly(bool on) { SetFlag(ReadOnlyFlag, on); }
-    // The user cannot insert, append, delete or cut rows.
-    bool IsRowFixLength() const { return HasFlag(RowFixLengthFlag | ReadOnlyFlag); }
-    void SetRowFixLength(bool on) { SetFlag(RowFixLengthFlag, on); }
-    // The user cannot insert, append or delete columns.
-    bool IsColFixLength() const { return HasFlag(ColFixLengthFlag | ReadOnlyFlag); }
-    void SetColFixLength(bool on) { SetFlag(ColFixLengthFlag, on); }
-    // The row header is enabled. The header window is made when the grid's window is; the setter lays out
-    // anew.
-    bool IsRowSel() const { return !HasFlag(RowSelOffFlag); }
+    using TGGridStyle::GetStyle;
+    // The row header is enabled. The header window is made when the grid's window is; lays out anew.
     void SetRowSel(bool on);
     // The column header is enabled; likewise.
-    bool IsColSel() const { return !HasFlag(ColSelOffFlag); }
     void SetColSel(bool on);
-    // Rows may be sorted: not switched off, not fixed in position, not read-only.
-    bool IsSortEnable() const { return !HasFlag(SortOffFlag | RowPosFixFlag | ReadOnlyFlag); }
-    void SetSortEnable(bool on) { SetFlag(SortOffFlag, !on); }
-    // The user cannot resize columns.
-    bool IsColFixWidth() const { return HasFlag(ColFixWidthFlag); }
-    void SetColFixWidth(bool on) { SetFlag(ColFixWidthFlag, on); }
-    // The user cannot move columns.
-    bool IsColPosFix() const { return HasFlag(ColPosFixFlag | ReadOnlyFlag); }
-    void SetColPosFix(bool on) { SetFlag(ColPosFixFlag, on); }
-    // The user cannot move rows.
-    bool IsRowPosFix() const { return HasFlag(RowPosFixFlag | ReadOnlyFlag); }
-    void SetRowPosFix(bool on) { SetFlag(RowPosFixFlag, on); }
-    // Tree rows are joined by lines; the setter repaints grid and headers.
-    bool IsNeedTreeLine() const { return !HasFlag(TreeLineOffFlag); }
+    // Tree rows are joined by lines; repaints grid and headers.
     void SetTreeLine(bool on);
-    // At most one row is selected by the user at a time.
-    bool IsSingleSelRow() const { return HasFlag(SingleSelRowFlag); }
-    void SetSingleSelRow(bool on) { SetFlag(SingleSelRowFlag, on); }
-    // The user cannot paste rows.
-    bool IsNoPaste() const { return HasFlag(NoPasteFlag); }
-    void SetNoPaste(bool on) { SetFlag(NoPasteFlag, on); }
-    // A mark for hosts that sort by labels; the row order does not depend on it.
-    bool IsLabelSort() const { return HasFlag(LabelSortFlag); }
-    void SetLabelSort(bool on) { SetFlag(LabelSortFlag, on); }
-    // Header boxes are drawn flat.
-    bool IsFlatButton() const { return HasFlag(FlatButtonFlag); }
-    void SetFlatButton(bool on) { SetFlag(FlatButtonFlag, on); }
-    // The new-row line is hidden.
-    bool IsNoAppendButton() const { return HasFlag(NoAppendButtonFlag | RowFixLengthFlag | ReadOnlyFlag); }
-    void SetNoAppendButton(bool on) { SetFlag(NoAppendButtonFlag, on); }
-    // The grid shows no context menus of its own.
-    bool IsNoDefaultMenu() const { return HasFlag(NoDefaultMenuFlag); }
-    void SetNoDefaultMenu(bool on) { SetFlag(NoDefaultMenuFlag, on); }
 
     // ---- Counts and access ------------------------------------------------------------------------------
 
@@ -496,30 +446,6 @@ protected:
     afx_msg void OnCbnEditChange();
 
 private:
-    enum Flag
-    {
-        ReadOnlyFlag = 0x0001,
-        RowFixLengthFlag = 0x0002,
-        ColFixLengthFlag = 0x0004,
-        RowSelOffFlag = 0x0008,
-        ColSelOffFlag = 0x0010,
-        SortOffFlag = 0x0020,
-        ColFixWidthFlag = 0x0040,
-        ColPosFixFlag = 0x0080,
-        RowPosFixFlag = 0x0100,
-        TreeLineOffFlag = 0x0200,
-        SingleSelRowFlag = 0x0400,
-        NoPasteFlag = 0x0800,
-        LabelSortFlag = 0x1000,
-        FlatButtonFlag = 0x2000,
-        NoAppendButtonFlag = 0x4000,
-        NoDefaultMenuFlag = 0x8000
-    };
-    bool HasFlag(int flags) const { return (style & flags) != 0; }
-    void SetFlag(Flag flag, bool on) { style = on ? style | flag : style & ~flag; }
-
-    bool treeGrid;
-    int style = 0;
     PDList<TGGridCol> cols;
     PDList<TGGridRow> rows;
     PDList<TGGridRow> rowPaste;
@@ -551,29 +477,20 @@ private:
     // Row height and column header height that the header windows were last placed for.
     CSize headerMeasure;
 
-    enum class CommandPlace
-    {
-        Before,
-        After
-    };
+    // The steps of operations, each kind with the grid at hand.
     class Commands;
-    class RowBuffer;
     class EditSession;
+    class Keyboard;
+    class Layout;
+    class RowBuffer;
+    class Structure;
+
     void SortRows(bool ascending);
-    // Move the selected rows in front of the row `to`, the selected columns, which form the run from `first` to
-    // `last`, in front of the column `to`; they stay selected.
+    // Move the selected rows in front of the row `to`, the selected columns, which form the run from `first`
+    // to `last`, in front of the column `to`; they stay selected.
     void MoveSelectedRows(long to);
     void MoveSelectedCols(long first, long last, long to);
     bool RunMenuCommand(UINT id);
-    bool RouteEditorKey(UINT key);
-    bool RouteIdleKey(const MSG& message);
-    bool LeavesEditor(UINT key);
-
-    // The cell is being deleted: nothing refers to it from now on.
-    void ForgetCell(const TGGridCell* cell);
-
-    // The cells that operations on the stack are working on.
-    CellWatch* cellWatches = nullptr;
 
     BrushWindowClass windowClass;
 
@@ -587,29 +504,10 @@ private:
     bool showPending = false;
     CRect pendingShowRect;
 
-    // Window creation (TGGridWindow.cpp).
-    BOOL CreateWindowIn(const RECT& rect, DWORD windowStyle, CWnd* parent, UINT id);
-    void CreateFont();
-    void AdoptFont(HFONT source, BYTE quality);
-    void CreateHeaders();
-
-    // Layout (TGGridLayout.cpp).
-    void PerformLayout(int redraw);
-    void LayOutScrollBars();
-    void LayOutBar(int bar, bool needed, int position, int maximum);
-    TGGridCol& LastCol();
-    void PlaceHeaders();
-    void MapDC();
-    void RenewNewRow();
-    bool IsBarShown(int bar) const;
+    // Scrolling (TGGridScroll.cpp).
+    CRect ViewRect();
     int BarPosition(int bar) const;
     void SetBarPosition(int bar, int position);
-    void RepaintBar(int bar);
-
-    // Scrolling (TGGridScroll.cpp).
-    void ScrollContents(int dx, int dy);
-    CRect ViewRect();
-    ScrollRequest ReadScrollRequest(int bar, UINT trackMask);
 
     // Painting (TGGridPaint.cpp).
     struct RowRange
@@ -628,34 +526,9 @@ private:
     void PressCell(CPoint point);
     void PressTreeCell(long row, CPoint point);
 
-    // Rows and columns (TGGridStructure.cpp). These run no hooks.
-    TGGridRow* MakeRow();
+    // The row or column in a slot; null outside and for an empty slot.
     TGGridRow* RowAt(long i);
     TGGridCol* ColAtIndex(long i);
-    // Enters rows before the row at `at`, or takes rows out without deleting them; numbers the rows behind
-    // and shifts the selection.
-    void InsertRows(long at, std::span<TGGridRow* const> added);
-    void RemoveRows(long at, long number);
-    // Gives the rows from `first` on their indices; the row cursor ends past the last row.
-    void NumberRows(long first);
-    bool IsOffspringAt(long i, const TGGridTreeRow& top);
-    // Takes the shown offspring of a row out of the rows; false when there was none.
-    bool RemoveOffspring(TGGridTreeRow& top);
-    void RemoveHiddenRows(long first, long number);
-    // Takes a row and its shown offspring out of the rows.
-    void HideTree(TGGridTreeRow& top);
-    // Puts the offspring that the unfold flags ask for below a shown row.
-    void InsertOffspring(TGGridTreeRow& top);
-    // Takes a row out of its parent's children and its shown offspring out of the rows.
-    void DetachFromTree(TGGridRow& row);
-    // Leaves the child rows to their parents: empties their slots.
-    void ReleaseChildRows();
-    // Calls `change` for every row whose cells follow the columns, but for child rows, which their parents
-    // tell.
-    template <class Change> void ChangeRows(Change change);
-    // Moves the columns from `first` to before `last` by `distance` pixels.
-    void MoveColEdges(long first, long last, long distance);
-    void PlaceMovingCol(long from, long to);
 
     // Selection (TGGridSelection.cpp).
     void UnselectCols();
@@ -670,10 +543,12 @@ private:
     // Inverts a rectangle in logical coordinates on the drawing context; nothing without one.
     void InvertBand(const CRect& band);
 
-    // The row is being deleted: no watch refers to it from now on.
+    // The cell or row is being deleted: nothing refers to it from now on.
+    void ForgetCell(const TGGridCell* cell);
     void ForgetRow(const TGGridRow* row);
 
-    // The rows that operations on the stack are working on.
+    // The cells and rows that operations on the stack are working on.
+    CellWatch* cellWatches = nullptr;
     RowWatch* rowWatches = nullptr;
 };
 

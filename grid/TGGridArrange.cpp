@@ -1,5 +1,5 @@
 // Sorting the rows by the row order, tree rows with their offspring.
-#include "grid/TGGrid.h"
+#include "grid/GridStructure.h"
 
 #include <algorithm>
 #include <vector>
@@ -63,12 +63,12 @@ void TGGrid::SortRows(bool ascending)
     if (!treeGrid)
     {
         rows.Sort(ascending);
-        NumberRows(0);
+        Structure(*this).NumberRows(0);
         return;
     }
     FoldedRoots folded(rows);
     rows.Sort(ascending);
-    NumberRows(0);
+    Structure(*this).NumberRows(0);
     for (TGGridRow* row : rows)
         if (row && row->IsParentRow())
             static_cast<TGGridTreeRow*>(row)->ArrangeChild(ascending);

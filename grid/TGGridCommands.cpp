@@ -8,6 +8,17 @@
 namespace QuorUiCtr
 {
 
+namespace
+{
+
+enum class CommandPlace
+{
+    Before,
+    After
+};
+
+} // namespace
+
 // The steps that the commands share.
 class TGGrid::Commands
 {

@@ -19,6 +19,21 @@ bool IsFormWindow(CWnd* window)
 
 } // namespace
 
+// Where a key goes before any window sees it.
+class TGGrid::Keyboard
+{
+public:
+    explicit Keyboard(TGGrid& servedGrid) : grid(servedGrid) {}
+
+    bool RouteEditorKey(UINT key);
+    bool RouteIdleKey(const MSG& message);
+
+private:
+    bool LeavesEditor(UINT key);
+
+    TGGrid& grid;
+};
+
 UINT TGGrid::OnGetDlgCode()
 {
     return DLGC_WANTALLKEYS;
@@ -29,7 +44,7 @@ BOOL TGGrid::PreTranslateMessage(MSG* message)
     if (message->message == WM_KEYDOWN)
     {
         const UINT key = static_cast<UINT>(message->wParam);
-        if (editCell ? RouteEditorKey(key) : RouteIdleKey(*message))
+        if (editCell ? Keyboard(*this).RouteEditorKey(key) : Keyboard(*this).RouteIdleKey(*message))
             return TRUE;
     }
     else if (message->message == WM_COMMAND && message->hwnd == m_hWnd && HIWORD(message->wParam) == 0 &&
@@ -39,15 +54,15 @@ BOOL TGGrid::PreTranslateMessage(MSG* message)
 }
 
 // Keys that leave or steer the open editor go to the grid's key map; the editor gets the others.
-bool TGGrid::RouteEditorKey(UINT key)
+bool TGGrid::Keyboard::RouteEditorKey(UINT key)
 {
-    if (!cellCtrl || !LeavesEditor(key))
+    if (!grid.cellCtrl || !LeavesEditor(key))
         return false;
-    GridKeyMap(*this).Run(key);
+    GridKeyMap(grid).Run(key);
     return true;
 }
 
-bool TGGrid::LeavesEditor(UINT key)
+bool TGGrid::Keyboard::LeavesEditor(UINT key)
 {
     switch (key)
     {
@@ -58,25 +73,25 @@ bool TGGrid::LeavesEditor(UINT key)
     case VK_NEXT:
         return true;
     case VK_LEFT:
-        return cellCtrl->IsLeftEnd();
+        return grid.cellCtrl->IsLeftEnd();
     case VK_RIGHT:
-        return cellCtrl->IsRightEnd();
+        return grid.cellCtrl->IsRightEnd();
     case VK_UP:
-        return cellCtrl->IsUpEnd();
+        return grid.cellCtrl->IsUpEnd();
     case VK_DOWN:
-        return cellCtrl->IsDownEnd();
+        return grid.cellCtrl->IsDownEnd();
     default:
         return false;
     }
 }
 
-bool TGGrid::RouteIdleKey(const MSG& message)
+bool TGGrid::Keyboard::RouteIdleKey(const MSG& message)
 {
-    CWnd* parent = GetParent();
+    CWnd* parent = grid.GetParent();
     switch (message.wParam)
     {
     case VK_TAB:
-        if (GetFocus() != this || !parent)
+        if (CWnd::GetFocus() != &grid || !parent)
             return false;
         parent->SetFocus();
         return true;

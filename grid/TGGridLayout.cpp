@@ -1,8 +1,7 @@
 // TGGrid's layout: measures, scroll bars, header placement, the new-row line, the prepared drawing context
 // and the bracket that makes many changes as one.
-#include "grid/TGGrid.h"
-
 #include "grid/GridGeometry.h"
+#include "grid/GridLayout.h"
 #include "grid/HeaderBox.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
@@ -53,12 +52,7 @@ long TGGrid::GetBottom()
 
 long TGGrid::GetRight()
 {
-    return IsColEmpty() ? 0 : LastCol().GetRight();
-}
-
-TGGridCol& TGGrid::LastCol()
-{
-    return **cols.IteratorAt(GetColNum() - 1);
+    return IsColEmpty() ? 0 : ColAtIndex(GetColNum() - 1)->GetRight();
 }
 
 long TGGrid::GetColHeaderHeight()
@@ -98,7 +92,7 @@ bool TGGrid::FitLastCol()
     FlushLayout();
     CRect area;
     GetClientRect(&area);
-    TGGridCol& last = LastCol();
+    TGGridCol& last = *ColAtIndex(GetColNum() - 1);
     const long difference = area.Width() - GetRight();
     if (difference == 0 || difference < GetRowHeight() - last.GetWidth())
         return false;
@@ -119,69 +113,69 @@ void TGGrid::RecalcLayout(int redraw)
         redrawPending = redrawPending || redraw != 0;
         return;
     }
-    PerformLayout(redraw);
+    Layout(*this).PerformLayout(redraw);
 }
 
-void TGGrid::PerformLayout(int redraw)
+void TGGrid::Layout::PerformLayout(int redraw)
 {
     const LayoutGuard guard;
-    layoutPending = false;
-    EndEditCell();
+    grid.layoutPending = false;
+    grid.EndEditCell();
     // The hooks of the edit may have closed the window.
-    if (GetSafeHwnd() == nullptr)
+    if (grid.GetSafeHwnd() == nullptr)
         return;
     PlaceHeaders();
     LayOutScrollBars();
-    ClearDC();
-    PrepareDC(nullptr);
+    grid.ClearDC();
+    grid.PrepareDC(nullptr);
     RenewNewRow();
     if (redraw != 0)
-        Invalidate(1);
+        grid.Invalidate(1);
 }
 
-void TGGrid::LayOutScrollBars()
+void TGGrid::Layout::LayOutScrollBars()
 {
     const int barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
     const int barHeight = ::GetSystemMetrics(SM_CYHSCROLL);
     CRect area;
-    GetClientRect(&area);
+    grid.GetClientRect(&area);
     // A host may have created the window with bars: what the window shows counts, not what was laid out last.
     if (IsBarShown(SB_VERT))
         area.right += barWidth;
     if (IsBarShown(SB_HORZ))
         area.bottom += barHeight;
-    const CSize content(GetRight(), GetBottom());
+    const CSize content(grid.GetRight(), grid.GetBottom());
     const ScrollBarPlan plan = PlanScrollBars(content, area.Size(), barWidth, barHeight);
-    const int hPosition = BarPosition(SB_HORZ);
-    const int vPosition = BarPosition(SB_VERT);
+    const int hPosition = grid.BarPosition(SB_HORZ);
+    const int vPosition = grid.BarPosition(SB_VERT);
     LayOutBar(SB_HORZ, plan.horizontal, hPosition, content.cx - plan.area.cx);
     LayOutBar(SB_VERT, plan.vertical, vPosition, content.cy - plan.area.cy);
-    hScrollShown = plan.horizontal;
-    vScrollShown = plan.vertical;
+    grid.hScrollShown = plan.horizontal;
+    grid.vScrollShown = plan.vertical;
 }
 
 // Drawing a scroll bar costs more than the rest of a layout together, so that its values are set without and
 // its picture is left to the next paint.
-void TGGrid::LayOutBar(int bar, bool needed, int position, int maximum)
+void TGGrid::Layout::LayOutBar(int bar, bool needed, int position, int maximum)
 {
     if (needed != IsBarShown(bar))
-        ShowScrollBar(static_cast<UINT>(bar), needed);
+        grid.ShowScrollBar(static_cast<UINT>(bar), needed);
     if (!needed)
         return;
     int oldMinimum = 0;
     int oldMaximum = 0;
-    GetScrollRange(bar, &oldMinimum, &oldMaximum);
+    grid.GetScrollRange(bar, &oldMinimum, &oldMaximum);
     if (oldMinimum != 0 || oldMaximum != maximum)
     {
-        SetScrollRange(bar, 0, maximum, FALSE);
+        grid.SetScrollRange(bar, 0, maximum, FALSE);
         RepaintBar(bar);
     }
-    SetBarPosition(bar, std::min(position, maximum));
+    grid.SetBarPosition(bar, std::min(position, maximum));
 }
 
-bool TGGrid::IsBarShown(int bar) const
+bool TGGrid::Layout::IsBarShown(int bar) const
 {
-    return (CWnd::GetStyle() & (bar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL)) != 0;
+    return (grid.CWnd::GetStyle() & (bar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL)) != 0;
 }
 
 int TGGrid::BarPosition(int bar) const
@@ -194,51 +188,52 @@ void TGGrid::SetBarPosition(int bar, int position)
     if (GetScrollPos(bar) == position)
         return;
     SetScrollPos(bar, position, FALSE);
-    RepaintBar(bar);
+    Layout(*this).RepaintBar(bar);
 }
 
-void TGGrid::RepaintBar(int bar)
+void TGGrid::Layout::RepaintBar(int bar)
 {
     CRect place;
-    CWnd::GetClientRect(&place);
+    grid.CWnd::GetClientRect(&place);
     if (bar == SB_VERT)
         place = CRect(place.right, place.top, place.right + ::GetSystemMetrics(SM_CXVSCROLL), place.bottom);
     else
         place = CRect(place.left, place.bottom, place.right, place.bottom + ::GetSystemMetrics(SM_CYHSCROLL));
-    RedrawWindow(&place, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_NOCHILDREN);
+    grid.RedrawWindow(&place, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_NOCHILDREN);
 }
 
 // The header windows follow the row height and the header height, which change with the font, the row space
 // and the captions.
-void TGGrid::PlaceHeaders()
+void TGGrid::Layout::PlaceHeaders()
 {
-    const CSize measure(GetRowHeight(), GetColHeaderHeight());
-    if (measure == headerMeasure)
+    const CSize measure(grid.GetRowHeight(), grid.GetColHeaderHeight());
+    if (measure == grid.headerMeasure)
         return;
-    headerMeasure = measure;
-    const long left = IsRowSel() ? measure.cx : 0;
-    const long top = IsColSel() ? measure.cy : 0;
-    PlaceChild(quad, CRect(0, 0, measure.cx, measure.cy));
-    PlaceChild(colHeader, CRect(left, 0, headerExtent, measure.cy));
-    PlaceChild(rowHeader, CRect(0, top, measure.cx, headerExtent));
+    grid.headerMeasure = measure;
+    const long left = grid.IsRowSel() ? measure.cx : 0;
+    const long top = grid.IsColSel() ? measure.cy : 0;
+    PlaceChild(grid.quad, CRect(0, 0, measure.cx, measure.cy));
+    PlaceChild(grid.colHeader, CRect(left, 0, headerExtent, measure.cy));
+    PlaceChild(grid.rowHeader, CRect(0, top, measure.cx, headerExtent));
 }
 
-void TGGrid::RenewNewRow()
+void TGGrid::Layout::RenewNewRow()
 {
     // While an edit of the new row is being committed, its cells are in use.
-    if (newRow != nullptr && editCell != nullptr && &editCell->GetRow() == newRow)
+    if (grid.newRow != nullptr && grid.editCell != nullptr && &grid.editCell->GetRow() == grid.newRow)
     {
-        newRow->SetIndex(GetRowNum());
+        grid.newRow->SetIndex(grid.GetRowNum());
         return;
     }
-    const bool locked = newRow != nullptr && cellLock != nullptr && &cellLock->GetRow() == newRow;
-    const long lockedCol = locked ? cellLock->GetColIndex() : -1;
-    delete newRow;
-    newRow = nullptr;
-    newRow = treeGrid ? new TGGridTreeRow(*this) : new TGGridRow(*this);
-    newRow->SetIndex(GetRowNum());
+    const bool locked =
+        grid.newRow != nullptr && grid.cellLock != nullptr && &grid.cellLock->GetRow() == grid.newRow;
+    const long lockedCol = locked ? grid.cellLock->GetColIndex() : -1;
+    delete grid.newRow;
+    grid.newRow = nullptr;
+    grid.newRow = grid.treeGrid ? new TGGridTreeRow(grid) : new TGGridRow(grid);
+    grid.newRow->SetIndex(grid.GetRowNum());
     if (locked)
-        cellLock = IsValidCol(lockedCol) ? &(*newRow)[lockedCol] : nullptr;
+        grid.cellLock = grid.IsValidCol(lockedCol) ? &(*grid.newRow)[lockedCol] : nullptr;
 }
 
 void TGGrid::Invalidate(int erase)
@@ -289,7 +284,7 @@ void TGGrid::EndUpdate()
 void TGGrid::FlushLayout()
 {
     if (layoutPending && !layingOut && GetSafeHwnd() != nullptr)
-        PerformLayout(0);
+        Layout(*this).PerformLayout(0);
 }
 
 // ---- Drawing context --------------------------------------------------------------------------------------
@@ -311,21 +306,21 @@ void TGGrid::PrepareDC(CDC* context)
     dc->SetROP2(R2_COPYPEN);
     dc->SelectObject(&font);
     dc->SelectObject(&gridPen);
-    MapDC();
+    Layout(*this).MapDC();
 }
 
 // The logical origin lies one pixel outside the data area, so that the first grid lines are hidden. Nothing
 // is drawn over the header windows, whether or not the host made the window with WS_CLIPCHILDREN.
-void TGGrid::MapDC()
+void TGGrid::Layout::MapDC()
 {
     CRect area;
-    GetClientRect(&area);
+    grid.GetClientRect(&area);
     CPoint corner;
-    GetUpCorner(corner);
-    dc->SetViewportOrg(0, 0);
-    dc->SelectClipRgn(nullptr);
-    dc->IntersectClipRect(&area);
-    dc->SetViewportOrg(corner.x - 1, corner.y - 1);
+    grid.GetUpCorner(corner);
+    grid.dc->SetViewportOrg(0, 0);
+    grid.dc->SelectClipRgn(nullptr);
+    grid.dc->IntersectClipRect(&area);
+    grid.dc->SetViewportOrg(corner.x - 1, corner.y - 1);
 }
 
 void TGGrid::ClearDC()

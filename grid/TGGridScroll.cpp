@@ -1,7 +1,6 @@
 // TGGrid's scrolling: moving the view, bringing rectangles into view, scroll bar and wheel messages.
-#include "grid/TGGrid.h"
-
 #include "grid/GridGeometry.h"
+#include "grid/GridLayout.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 
@@ -30,23 +29,23 @@ void TGGrid::MoveView(int dx, int dy)
     // What the end of an edit draws stands where it is to be after the scrolling already.
     const bool drawn = IsEditing();
     EndEditCell();
-    ScrollContents(dx, dy);
+    Layout(*this).ScrollContents(dx, dy);
     if (drawn)
         Invalidate(0);
 }
 
 // The data area scrolls by itself, so that the header windows and an editor stay where they are.
-void TGGrid::ScrollContents(int dx, int dy)
+void TGGrid::Layout::ScrollContents(int dx, int dy)
 {
-    if (GetSafeHwnd() == nullptr)
+    if (grid.GetSafeHwnd() == nullptr)
         return;
     CRect area;
-    GetClientRect(&area);
-    ScrollWindow(-dx, -dy, &area, &area);
-    if (IsColSel() && colHeader->GetSafeHwnd() != nullptr)
-        colHeader->ScrollWindow(-dx, 0);
-    if (IsRowSel() && rowHeader->GetSafeHwnd() != nullptr)
-        rowHeader->ScrollWindow(0, -dy);
+    grid.GetClientRect(&area);
+    grid.ScrollWindow(-dx, -dy, &area, &area);
+    if (grid.IsColSel() && grid.colHeader->GetSafeHwnd() != nullptr)
+        grid.colHeader->ScrollWindow(-dx, 0);
+    if (grid.IsRowSel() && grid.rowHeader->GetSafeHwnd() != nullptr)
+        grid.rowHeader->ScrollWindow(0, -dy);
 }
 
 void TGGrid::ShowRect(CRect rect)
@@ -84,7 +83,7 @@ CRect TGGrid::ViewRect()
 
 void TGGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    ScrollRequest request = ReadScrollRequest(SB_VERT, SIF_TRACKPOS);
+    ScrollRequest request = Layout(*this).ReadScrollRequest(SB_VERT, SIF_TRACKPOS);
     CRect area;
     GetClientRect(&area);
     request.line = GetRowHeight();
@@ -96,7 +95,7 @@ void TGGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 
 void TGGrid::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 {
-    ScrollRequest request = ReadScrollRequest(SB_HORZ, SIF_ALL);
+    ScrollRequest request = Layout(*this).ReadScrollRequest(SB_HORZ, SIF_ALL);
     CRect area;
     GetClientRect(&area);
     request.line = GetDefaultWidth();
@@ -108,16 +107,16 @@ void TGGrid::OnHScroll(UINT code, UINT position, CScrollBar* bar)
 
 // The position that a message carries has 16 bits only, hence the tracking position is always read from the
 // bar.
-ScrollRequest TGGrid::ReadScrollRequest(int bar, UINT trackMask)
+ScrollRequest TGGrid::Layout::ReadScrollRequest(int bar, UINT trackMask)
 {
     ScrollRequest request = {};
     int minimum = 0;
     int maximum = 0;
-    GetScrollRange(bar, &minimum, &maximum);
+    grid.GetScrollRange(bar, &minimum, &maximum);
     SCROLLINFO info = {};
     info.cbSize = sizeof(info);
-    GetScrollInfo(bar, &info, trackMask);
-    request.position = GetScrollPos(bar);
+    grid.GetScrollInfo(bar, &info, trackMask);
+    request.position = grid.GetScrollPos(bar);
     request.minimum = minimum;
     request.maximum = maximum;
     request.track = info.nTrackPos;

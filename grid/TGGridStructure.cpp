@@ -2,7 +2,7 @@
 //
 // Ending an edit and deselecting run hooks, which may change the structure or delete the object at hand:
 // indices and pointers are looked up, or their watches asked, again afterwards.
-#include "grid/TGGrid.h"
+#include "grid/GridStructure.h"
 
 #include "grid/RowWatch.h"
 #include "grid/SelectedIndices.h"
@@ -17,9 +17,9 @@ namespace QuorUiCtr
 
 // ---- Rows -------------------------------------------------------------------------------------------------
 
-TGGridRow* TGGrid::MakeRow()
+TGGridRow* TGGrid::Structure::MakeRow()
 {
-    return treeGrid ? new TGGridTreeRow(*this) : new TGGridRow(*this);
+    return grid.treeGrid ? new TGGridTreeRow(grid) : new TGGridRow(grid);
 }
 
 void TGGrid::InsertRow(long i, TGGridRow* row)
@@ -27,8 +27,8 @@ void TGGrid::InsertRow(long i, TGGridRow* row)
     EndEditCell();
     ASSERT(i >= 0 && i <= GetRowNum());
     if (row == nullptr)
-        row = MakeRow();
-    InsertRows(std::clamp(i, 0L, GetRowNum()), {&row, 1});
+        row = Structure(*this).MakeRow();
+    Structure(*this).InsertRows(std::clamp(i, 0L, GetRowNum()), {&row, 1});
     RecalcLayout(1);
 }
 
@@ -36,7 +36,7 @@ void TGGrid::AppendRow(TGGridRow* row)
 {
     EndEditCell();
     if (row == nullptr)
-        row = MakeRow();
+        row = Structure(*this).MakeRow();
     row->SetIndex(rows.Append(row));
     RecalcLayout(1);
 }
@@ -56,10 +56,10 @@ void TGGrid::DelRow(long i)
         return;
     if (row != nullptr)
     {
-        DetachFromTree(*row);
+        Structure(*this).DetachFromTree(*row);
         i = row->GetIndex();
     }
-    RemoveRows(i, 1);
+    Structure(*this).RemoveRows(i, 1);
     delete row;
     RecalcLayout(1);
 }
@@ -93,7 +93,7 @@ void TGGrid::MoveRow(long from, long to)
     ASSERT(IsValidRow(from) && to >= 0 && to <= GetRowNum());
     if (!rows.Move(from, to))
         return;
-    NumberRows(0);
+    Structure(*this).NumberRows(0);
     Invalidate(1);
 }
 
@@ -111,46 +111,46 @@ void TGGrid::Clear()
     const TGGridUpdate update(*this);
     EndEditCell();
     ClearSel();
-    ReleaseChildRows();
+    Structure(*this).ReleaseChildRows();
     rows.Clear();
     RecalcLayout(1);
 }
 
-void TGGrid::InsertRows(long at, std::span<TGGridRow* const> added)
+void TGGrid::Structure::InsertRows(long at, std::span<TGGridRow* const> added)
 {
-    rows.SpliceInsert(at, added);
+    grid.rows.SpliceInsert(at, added);
     NumberRows(at);
-    SelectedIndices::Shift(rowSel, rowSel, at, static_cast<long>(added.size()));
+    SelectedIndices::Shift(grid.rowSel, grid.rowSel, at, static_cast<long>(added.size()));
 }
 
-void TGGrid::RemoveRows(long at, long number)
+void TGGrid::Structure::RemoveRows(long at, long number)
 {
     if (number <= 0)
         return;
-    rows.Release(at, number);
+    grid.rows.Release(at, number);
     NumberRows(at);
     // A hook may have selected one of the rows again.
-    const long first = SelectedIndices::LowerBound(rowSel, at);
-    rowSel.Release(first, SelectedIndices::LowerBound(rowSel, at + number) - first);
-    SelectedIndices::Shift(rowSel, rowSel, at + number, -number);
+    const long first = SelectedIndices::LowerBound(grid.rowSel, at);
+    grid.rowSel.Release(first, SelectedIndices::LowerBound(grid.rowSel, at + number) - first);
+    SelectedIndices::Shift(grid.rowSel, grid.rowSel, at + number, -number);
 }
 
-void TGGrid::NumberRows(long first)
+void TGGrid::Structure::NumberRows(long first)
 {
-    for (rows.MoveTo(first); !rows.IsOut(); rows.MoveToNext())
-        if (TGGridRow* row = rows.Cur())
-            row->SetIndex(rows.GetCur());
+    for (grid.rows.MoveTo(first); !grid.rows.IsOut(); grid.rows.MoveToNext())
+        if (TGGridRow* row = grid.rows.Cur())
+            row->SetIndex(grid.rows.GetCur());
 }
 
 // ---- Tree rows --------------------------------------------------------------------------------------------
 
-bool TGGrid::IsOffspringAt(long i, const TGGridTreeRow& top)
+bool TGGrid::Structure::IsOffspringAt(long i, const TGGridTreeRow& top)
 {
-    TGGridRow* row = RowAt(i);
+    TGGridRow* row = grid.RowAt(i);
     return row != nullptr && row->IsTreeRow() && static_cast<TGGridTreeRow*>(row)->IsBelow(&top);
 }
 
-bool TGGrid::RemoveOffspring(TGGridTreeRow& top)
+bool TGGrid::Structure::RemoveOffspring(TGGridTreeRow& top)
 {
     const long number = top.CountShownOffspring();
     if (number == 0)
@@ -162,38 +162,38 @@ bool TGGrid::RemoveOffspring(TGGridTreeRow& top)
 
 // Hidden rows stand in one run from `first` on, unless the host has moved rows about: then they are taken out
 // one by one, from the last, because taking out numbers the rows behind.
-void TGGrid::RemoveHiddenRows(long first, long number)
+void TGGrid::Structure::RemoveHiddenRows(long first, long number)
 {
     const auto isHidden = [](const TGGridRow* row) { return row != nullptr && row->GetIndex() == -1; };
-    const auto run =
-        std::distance(rows.IteratorAt(first), std::find_if_not(rows.IteratorAt(first), rows.end(), isHidden));
+    const auto run = std::distance(grid.rows.IteratorAt(first),
+                                   std::find_if_not(grid.rows.IteratorAt(first), grid.rows.end(), isHidden));
     if (run == number)
     {
         RemoveRows(first, number);
         return;
     }
-    for (long i = GetRowNum() - 1; i >= 0; --i)
-        if (isHidden(RowAt(i)))
+    for (long i = grid.GetRowNum() - 1; i >= 0; --i)
+        if (isHidden(grid.RowAt(i)))
             RemoveRows(i, 1);
 }
 
-void TGGrid::HideTree(TGGridTreeRow& top)
+void TGGrid::Structure::HideTree(TGGridTreeRow& top)
 {
     RemoveOffspring(top);
-    if (RowAt(top.GetIndex()) != &top)
+    if (grid.RowAt(top.GetIndex()) != &top)
         return;
     RemoveRows(top.GetIndex(), 1);
     top.SetIndex(-1);
 }
 
-void TGGrid::InsertOffspring(TGGridTreeRow& top)
+void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
 {
     std::vector<TGGridRow*> selected;
     const bool partlyShown = top.HasShownOffspring();
     if (partlyShown)
     {
-        for (const long i : rowSel)
-            selected.push_back(RowAt(i));
+        for (const long i : grid.rowSel)
+            selected.push_back(grid.RowAt(i));
         RemoveOffspring(top);
     }
     std::vector<TGGridRow*> shown;
@@ -201,13 +201,13 @@ void TGGrid::InsertOffspring(TGGridTreeRow& top)
     InsertRows(top.GetIndex() + 1, shown);
     if (!partlyShown)
         return;
-    rowSel.Clear();
+    grid.rowSel.Clear();
     for (const TGGridRow* row : selected)
         if (row != nullptr && row->GetIndex() != -1)
-            SelectedIndices::Add(rowSel, row->GetIndex());
+            SelectedIndices::Add(grid.rowSel, row->GetIndex());
 }
 
-void TGGrid::DetachFromTree(TGGridRow& row)
+void TGGrid::Structure::DetachFromTree(TGGridRow& row)
 {
     if (!row.IsTreeRow())
         return;
@@ -217,12 +217,12 @@ void TGGrid::DetachFromTree(TGGridRow& row)
         parent->children.Detach(parent->GetChildIndex(&treeRow));
 }
 
-void TGGrid::ReleaseChildRows()
+void TGGrid::Structure::ReleaseChildRows()
 {
-    for (TGGridRow* row : rows)
+    for (TGGridRow* row : grid.rows)
         if (row != nullptr && row->IsTreeRow() && !row->IsChildRow())
             static_cast<TGGridTreeRow*>(row)->MarkHidden();
-    for (TGGridRow*& row : rows)
+    for (TGGridRow*& row : grid.rows)
         if (row != nullptr && row->GetIndex() == -1)
             row = nullptr;
 }
@@ -230,16 +230,16 @@ void TGGrid::ReleaseChildRows()
 // ---- Columns ----------------------------------------------------------------------------------------------
 
 // The paste buffer and the new row keep one cell per column like the rows of the grid.
-template <class Change> void TGGrid::ChangeRows(Change change)
+template <class Change> void TGGrid::Structure::ChangeRows(Change change)
 {
-    for (TGGridRow* row : rows)
+    for (TGGridRow* row : grid.rows)
         if (row != nullptr && !row->IsChildRow())
             change(*row);
-    for (TGGridRow* row : rowPaste)
+    for (TGGridRow* row : grid.rowPaste)
         if (row != nullptr)
             change(*row);
-    if (newRow != nullptr)
-        change(*newRow);
+    if (grid.newRow != nullptr)
+        change(*grid.newRow);
 }
 
 void TGGrid::InsertCol(long i, TGGridCol* col, long width)
@@ -262,7 +262,7 @@ void TGGrid::InsertCol(long i, TGGridCol* col, long width)
         cols.Cur()->Move(width);
         cols.Cur()->SetIndex(cols.GetCur());
     }
-    ChangeRows([i, col](TGGridRow& row) { row.InsertCol(i, *col); });
+    Structure(*this).ChangeRows([i, col](TGGridRow& row) { row.InsertCol(i, *col); });
     // Bounded by the columns' cursor, which the loop above has left past the end: unless a row moves it, the
     // selection keeps its numbers.
     SelectedIndices::Shift(colSel, cols, i, 1);
@@ -285,7 +285,7 @@ void TGGrid::AppendCol(TGGridCol* col, long width)
     col->SetLeft(left);
     col->SetRight(left + width);
     col->SetIndex(cols.Append(col));
-    ChangeRows([col](TGGridRow& row) { row.AppendCol(*col); });
+    Structure(*this).ChangeRows([col](TGGridRow& row) { row.AppendCol(*col); });
     RecalcLayout(1);
 }
 
@@ -313,7 +313,7 @@ void TGGrid::DelCol(long i)
         cols.Cur()->Move(-width);
         cols.Cur()->SetIndex(cols.GetCur());
     }
-    ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
+    Structure(*this).ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
     RecalcLayout(1);
     // As in InsertCol.
     SelectedIndices::Shift(colSel, cols, i + 1, -1);
@@ -326,15 +326,14 @@ void TGGrid::MoveCol(long from, long to)
     ASSERT(IsValidCol(from) && to >= 0 && to <= GetColNum());
     if (!IsValidCol(from) || to < 0 || to > GetColNum())
         return;
-    PlaceMovingCol(from, to);
-    ChangeRows([from, to](TGGridRow& row) { row.MoveCol(from, to); });
+    Structure(*this).PlaceMovingCol(from, to);
+    Structure(*this).ChangeRows([from, to](TGGridRow& row) { row.MoveCol(from, to); });
     cols.Move(from, to);
     for (cols.MoveToFirst(); !cols.IsOut(); cols.MoveToNext())
         cols.Cur()->SetIndex(cols.GetCur());
     Invalidate(1);
 }
 
-// The edges of a column that is about to move and of the columns that it passes.
 void TGGrid::MoveSelectedCols(long first, long last, long to)
 {
     const TGGridUpdate update(*this);
@@ -350,27 +349,27 @@ void TGGrid::MoveSelectedCols(long first, long last, long to)
         selected += distance;
 }
 
-void TGGrid::PlaceMovingCol(long from, long to)
+void TGGrid::Structure::PlaceMovingCol(long from, long to)
 {
-    TGGridCol& moving = *ColAtIndex(from);
+    TGGridCol& moving = *grid.ColAtIndex(from);
     const long width = moving.GetWidth();
     if (from < to)
     {
-        const long right = ColAtIndex(to - 1)->GetRight();
+        const long right = grid.ColAtIndex(to - 1)->GetRight();
         MoveColEdges(from + 1, to, -width);
         moving.Move(right - moving.GetRight());
     }
     else
     {
-        const long left = ColAtIndex(to)->GetLeft();
+        const long left = grid.ColAtIndex(to)->GetLeft();
         MoveColEdges(to, from, width);
         moving.Move(left - moving.GetLeft());
     }
 }
 
-void TGGrid::MoveColEdges(long first, long last, long distance)
+void TGGrid::Structure::MoveColEdges(long first, long last, long distance)
 {
-    auto col = cols.IteratorAt(first);
+    auto col = grid.cols.IteratorAt(first);
     for (long i = first; i < last; ++i, ++col)
         (*col)->Move(distance);
 }

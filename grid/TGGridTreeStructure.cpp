@@ -4,8 +4,8 @@
 // that it still exists. The steps that move rows in and out of the grid's row list run no hooks.
 #include "grid/TGGridTreeRow.h"
 
+#include "grid/GridStructure.h"
 #include "grid/RowWatch.h"
-#include "grid/TGGrid.h"
 
 #include <algorithm>
 
@@ -107,7 +107,7 @@ void TGGridTreeRow::InsertChildren(long position, OwnedRows& added)
         return;
     if (!IsFold())
     {
-        owner.InsertRows(rowIndex, shown);
+        TGGrid::Structure(owner).InsertRows(rowIndex, shown);
         owner.RecalcLayout(1);
     }
     else if (!wasParent)
@@ -149,7 +149,7 @@ void TGGridTreeRow::DelChild(long position)
     if (children.Cur() != child)
         children.MoveTo(children.Find(child));
     if (child != nullptr)
-        owner.HideTree(*child);
+        TGGrid::Structure(owner).HideTree(*child);
     children.Del();
     if (shown)
         owner.RecalcLayout(1);
@@ -178,7 +178,7 @@ void TGGridTreeRow::ClearChild()
     Fold();
     if (!self.IsAlive())
         return;
-    GetGrid().RemoveOffspring(*this);
+    TGGrid::Structure(GetGrid()).RemoveOffspring(*this);
     children.Clear();
 }
 
@@ -235,9 +235,10 @@ void TGGridTreeRow::HideOffspring()
     const TGGridUpdate update(owner);
     const CursorGuard cursor(owner.rows);
     owner.EndEditCell();
-    for (long below = 1; self.IsAlive() && owner.IsOffspringAt(GetIndex() + below, *this); ++below)
+    for (long below = 1; self.IsAlive() && TGGrid::Structure(owner).IsOffspringAt(GetIndex() + below, *this);
+         ++below)
         owner.SelectRow(GetIndex() + below, false);
-    if (self.IsAlive() && owner.RemoveOffspring(*this))
+    if (self.IsAlive() && TGGrid::Structure(owner).RemoveOffspring(*this))
         owner.RecalcLayout(1);
 }
 
@@ -250,7 +251,7 @@ void TGGridTreeRow::ShowOffspring()
     owner.EndEditCell();
     if (!self.IsAlive() || !IsVisible())
         return;
-    owner.InsertOffspring(*this);
+    TGGrid::Structure(owner).InsertOffspring(*this);
     owner.RecalcLayout(1);
 }
 

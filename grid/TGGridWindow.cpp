@@ -1,6 +1,5 @@
 // TGGrid's window: its message map, creation, fonts and header windows.
-#include "grid/TGGrid.h"
-
+#include "grid/GridLayout.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGColSelector.h"
@@ -59,7 +58,7 @@ END_MESSAGE_MAP()
 
 BOOL TGGrid::Create(const RECT& rect, DWORD windowStyle, CWnd* parent)
 {
-    return CreateWindowIn(rect, windowStyle, parent, 0);
+    return CreateEx(0, windowClass.Register(backBrush), nullptr, windowStyle, rect, parent, 0);
 }
 
 BOOL TGGrid::Create(CWnd* parent, UINT id, DWORD windowStyle)
@@ -71,11 +70,6 @@ BOOL TGGrid::Create(CWnd* parent, UINT id, DWORD windowStyle)
     placeholder->GetWindowRect(&rect);
     parent->ScreenToClient(&rect);
     placeholder->DestroyWindow();
-    return CreateWindowIn(rect, windowStyle, parent, id);
-}
-
-BOOL TGGrid::CreateWindowIn(const RECT& rect, DWORD windowStyle, CWnd* parent, UINT id)
-{
     return CreateEx(0, windowClass.Register(backBrush), nullptr, windowStyle, rect, parent, id);
 }
 
@@ -83,46 +77,46 @@ int TGGrid::OnCreate(LPCREATESTRUCT create)
 {
     if (CWnd::OnCreate(create) == -1)
         return -1;
-    CreateFont();
+    Layout(*this).CreateFont();
     RecalcLayout(1);
     EnableToolTips(TRUE);
-    CreateHeaders();
+    Layout(*this).CreateHeaders();
     return 0;
 }
 
-void TGGrid::CreateHeaders()
+void TGGrid::Layout::CreateHeaders()
 {
     // A grid whose window is made a second time still holds the objects of the first one.
-    delete colHeader;
-    delete rowHeader;
-    delete quad;
-    colHeader = IsColSel() ? new TGColSelector(*this) : nullptr;
-    rowHeader = IsRowSel() ? new TGRowSelector(*this) : nullptr;
-    quad = IsColSel() && IsRowSel() ? new TGActiveQuad(*this) : nullptr;
-    headerMeasure = CSize(GetRowHeight(), GetColHeaderHeight());
+    delete grid.colHeader;
+    delete grid.rowHeader;
+    delete grid.quad;
+    grid.colHeader = grid.IsColSel() ? new TGColSelector(grid) : nullptr;
+    grid.rowHeader = grid.IsRowSel() ? new TGRowSelector(grid) : nullptr;
+    grid.quad = grid.IsColSel() && grid.IsRowSel() ? new TGActiveQuad(grid) : nullptr;
+    grid.headerMeasure = CSize(grid.GetRowHeight(), grid.GetColHeaderHeight());
 }
 
-void TGGrid::CreateFont()
+void TGGrid::Layout::CreateFont()
 {
-    if (font.GetSafeHandle() == nullptr)
-        AdoptFont(FontOfParent(*this), DEFAULT_QUALITY);
+    if (grid.font.GetSafeHandle() == nullptr)
+        AdoptFont(FontOfParent(grid), DEFAULT_QUALITY);
 }
 
-void TGGrid::AdoptFont(HFONT source, BYTE quality)
+void TGGrid::Layout::AdoptFont(HFONT source, BYTE quality)
 {
     LOGFONT description = DescribeFont(source);
     description.lfWidth = 0;
     description.lfQuality = quality;
-    ClearDC();
-    font.DeleteObject();
-    font.CreateFontIndirect(&description);
-    textHeight = std::abs(description.lfHeight) + 1;
+    grid.ClearDC();
+    grid.font.DeleteObject();
+    grid.font.CreateFontIndirect(&description);
+    grid.textHeight = std::abs(description.lfHeight) + 1;
 }
 
 LRESULT TGGrid::OnSetFont(WPARAM newFont, LPARAM)
 {
     Default();
-    AdoptFont(reinterpret_cast<HFONT>(newFont), PROOF_QUALITY);
+    Layout(*this).AdoptFont(reinterpret_cast<HFONT>(newFont), PROOF_QUALITY);
     RecalcLayout(1);
     // A layout that is postponed or refused leaves the grid without a context for hit tests.
     PrepareDC(nullptr);

@@ -1,0 +1,47 @@
+// TGGrid::Structure: the steps of the structure operations that the tree rows share.
+#pragma once
+
+#include "grid/TGGrid.h"
+
+namespace QuorUiCtr
+{
+
+// Keeps rows, their indices and the selection in step. Runs no hooks and lays out nothing.
+class TGGrid::Structure
+{
+public:
+    explicit Structure(TGGrid& servedGrid) : grid(servedGrid) {}
+
+    TGGridRow* MakeRow();
+    // Enters rows before the row at `at`, or takes rows out without deleting them; numbers the rows behind
+    // and shifts the selection.
+    void InsertRows(long at, std::span<TGGridRow* const> added);
+    void RemoveRows(long at, long number);
+    // Gives the rows from `first` on their indices; the row cursor ends past the last row.
+    void NumberRows(long first);
+    bool IsOffspringAt(long i, const TGGridTreeRow& top);
+    // Takes the shown offspring of a row out of the rows; false when there was none.
+    bool RemoveOffspring(TGGridTreeRow& top);
+    // Takes a row and its shown offspring out of the rows.
+    void HideTree(TGGridTreeRow& top);
+    // Puts the offspring that the unfold flags ask for below a shown row.
+    void InsertOffspring(TGGridTreeRow& top);
+    // Takes a row out of its parent's children and its shown offspring out of the rows.
+    void DetachFromTree(TGGridRow& row);
+    // Leaves the child rows to their parents: empties their slots.
+    void ReleaseChildRows();
+    // Calls `change` for every row whose cells follow the columns, but for child rows, which their parents
+    // tell.
+    template <class Change> void ChangeRows(Change change);
+    // Gives a column that is about to move and the columns that it passes their edges.
+    void PlaceMovingCol(long from, long to);
+
+private:
+    void RemoveHiddenRows(long first, long number);
+    // Moves the columns from `first` to before `last` by `distance` pixels.
+    void MoveColEdges(long first, long last, long distance);
+
+    TGGrid& grid;
+};
+
+} // namespace QuorUiCtr

@@ -16,6 +16,8 @@ void RunScroll(Report& report);
 void RunSelection(Report& report);
 // Beginning and committing cell edits, with the windows and the memory that they leave.
 void RunEdit(Report& report);
+// Deleting, pasting and moving rows, and repainting the row header.
+void RunCommands(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
 

@@ -19,6 +19,7 @@ struct Workload
 };
 
 constexpr Workload Workloads[] = {
+    {"command", bench::RunCommands},
     {"edit", bench::RunEdit},
     {"memory", bench::RunMemory},
     {"populate", bench::RunPopulate},

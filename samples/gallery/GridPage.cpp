@@ -30,12 +30,11 @@ constexpr long PictureRow = 4;
 } // namespace
 
 BEGIN_MESSAGE_MAP(GridPage, Page)
-    ON_BN_CLICKED(IDC_FLAT_HEADERS, &GridPage::OnFlatHeaders)
     ON_BN_CLICKED(IDC_LOG_PAINTING, &GridPage::OnLogPainting)
     ON_BN_CLICKED(IDC_FIT_LAST, &GridPage::OnFitLast)
 END_MESSAGE_MAP()
 
-GridPage::GridPage(LogPane& logPane) : Page(IDD_GRID_PAGE, logPane), grid(false, logPane)
+GridPage::GridPage(LogPane& logPane) : Page(IDD_GRID_PAGE, logPane), grid(false, logPane), styles(grid, logPane)
 {
     grid.SetFlatButton(true);
 }
@@ -54,9 +53,9 @@ void GridPage::DoDataExchange(CDataExchange* exchange)
 BOOL GridPage::OnInitDialog()
 {
     Page::OnInitDialog();
-    CheckDlgButton(IDC_FLAT_HEADERS, BST_CHECKED);
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
     SetRoomyFont(grid, font);
+    styles.CreateIn(*this);
     OpenFile(DataFilePath(L"elements.csv"));
     return TRUE;
 }
@@ -111,18 +110,12 @@ bool GridPage::ShowPictureView(size_t view, CString& nameSuffix)
 
 void GridPage::LayOut(int width, int height)
 {
-    PlaceBelowToolLine(*this, grid, banner, width, height);
+    PlaceBelowToolLine(*this, grid, banner, styles.PlaceAtRight(width, height), height);
 }
 
 void GridPage::OnLogPainting()
 {
     grid.LogPainting(IsDlgButtonChecked(IDC_LOG_PAINTING) != 0);
-}
-
-void GridPage::OnFlatHeaders()
-{
-    grid.SetFlatButton(IsDlgButtonChecked(IDC_FLAT_HEADERS) != 0);
-    grid.Invalidate(TRUE);
 }
 
 void GridPage::OnFitLast()

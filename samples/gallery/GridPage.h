@@ -2,6 +2,7 @@
 #pragma once
 
 #include "GalleryGrid.h"
+#include "GridStylePanel.h"
 #include "Page.h"
 #include "TableFile.h"
 
@@ -24,7 +25,6 @@ protected:
     void LayOut(int width, int height) override;
 
     DECLARE_MESSAGE_MAP()
-    afx_msg void OnFlatHeaders();
     afx_msg void OnLogPainting();
     afx_msg void OnFitLast();
 
@@ -33,5 +33,6 @@ private:
 
     CFont font;
     GalleryGrid grid;
+    GridStylePanel styles;
     CStatic banner;
 };

@@ -38,14 +38,12 @@ void MoveToFront(gallery::CsvTable& table, long column)
 } // namespace
 
 BEGIN_MESSAGE_MAP(TreeRowsPage, Page)
-    ON_BN_CLICKED(IDC_FLAT_HEADERS, &TreeRowsPage::OnFlatHeaders)
     ON_BN_CLICKED(IDC_LOG_PAINTING, &TreeRowsPage::OnLogPainting)
-    ON_BN_CLICKED(IDC_TREE_LINES, &TreeRowsPage::OnTreeLines)
     ON_BN_CLICKED(IDC_FOLD_ALL, &TreeRowsPage::OnFoldAll)
     ON_BN_CLICKED(IDC_UNFOLD_ALL, &TreeRowsPage::OnUnfoldAll)
 END_MESSAGE_MAP()
 
-TreeRowsPage::TreeRowsPage(LogPane& logPane) : Page(IDD_TREE_ROWS_PAGE, logPane), grid(true, logPane)
+TreeRowsPage::TreeRowsPage(LogPane& logPane) : Page(IDD_TREE_ROWS_PAGE, logPane), grid(true, logPane), styles(grid, logPane)
 {
     grid.SetFlatButton(true);
 }
@@ -64,10 +62,9 @@ void TreeRowsPage::DoDataExchange(CDataExchange* exchange)
 BOOL TreeRowsPage::OnInitDialog()
 {
     Page::OnInitDialog();
-    CheckDlgButton(IDC_FLAT_HEADERS, BST_CHECKED);
-    CheckDlgButton(IDC_TREE_LINES, BST_CHECKED);
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
     SetRoomyFont(grid, font);
+    styles.CreateIn(*this);
     const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"elements.csv").GetString());
     if (table.IsRefused())
         banner.SetWindowText(table.errors.front().c_str());
@@ -162,23 +159,12 @@ bool TreeRowsPage::ShowPictureView(size_t view, CString& nameSuffix)
 
 void TreeRowsPage::LayOut(int width, int height)
 {
-    PlaceBelowToolLine(*this, grid, banner, width, height);
+    PlaceBelowToolLine(*this, grid, banner, styles.PlaceAtRight(width, height), height);
 }
 
 void TreeRowsPage::OnLogPainting()
 {
     grid.LogPainting(IsDlgButtonChecked(IDC_LOG_PAINTING) != 0);
-}
-
-void TreeRowsPage::OnFlatHeaders()
-{
-    grid.SetFlatButton(IsDlgButtonChecked(IDC_FLAT_HEADERS) != 0);
-    grid.Invalidate(TRUE);
-}
-
-void TreeRowsPage::OnTreeLines()
-{
-    grid.SetTreeLine(IsDlgButtonChecked(IDC_TREE_LINES) != 0);
 }
 
 void TreeRowsPage::OnFoldAll()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "GalleryGrid.h"
+#include "GridStylePanel.h"
 #include "Page.h"
 #include "TableFile.h"
 
@@ -21,9 +22,7 @@ protected:
     void LayOut(int width, int height) override;
 
     DECLARE_MESSAGE_MAP()
-    afx_msg void OnFlatHeaders();
     afx_msg void OnLogPainting();
-    afx_msg void OnTreeLines();
     afx_msg void OnFoldAll();
     afx_msg void OnUnfoldAll();
 
@@ -38,5 +37,6 @@ private:
 
     CFont font;
     GalleryGrid grid;
+    GridStylePanel styles;
     CStatic banner;
 };

@@ -20,5 +20,7 @@ void RunEdit(Report& report);
 void RunCommands(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
+// Trees of groups and items, compared with the tree view.
+void RunTreeGrid(Report& report);
 
 } // namespace bench

@@ -26,6 +26,7 @@ constexpr Workload Workloads[] = {
     {"repaint", bench::RunRepaint},
     {"scroll", bench::RunScroll},
     {"select", bench::RunSelection},
+    {"treegrid", bench::RunTreeGrid},
 };
 
 } // namespace

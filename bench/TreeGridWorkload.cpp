@@ -1,0 +1,102 @@
+// Workload: trees of groups and items: filling, folding, sorting, identifiers and paste.
+#include "TreeGridSubjects.h"
+#include "Workloads.h"
+
+#include <cwchar>
+
+namespace bench
+{
+namespace
+{
+
+constexpr long Groups = 1000;
+constexpr long ItemsPerGroup = 100;
+constexpr long Items = Groups * ItemsPerGroup;
+constexpr long PastedRows = 1000;
+
+void FillAndFoldMany(Report& report, Host& host)
+{
+    TreeGridSubject grid(host);
+    TreeViewSubject view(host);
+    const double fill = MedianMs([&] { grid.Fill(Groups, ItemsPerGroup); }, [&] { grid.Empty(); });
+    const double peerFill = MedianMs([&] { view.Fill(Groups, ItemsPerGroup); }, [&] { view.Empty(); });
+    report.Add({"tree: fill 1000 groups of 100 items", Items, fill, "tree view redraw off", peerFill});
+
+    // The tree view takes seconds; one run of it tells enough.
+    const double unfold = MedianMs([&] { grid.UnfoldAll(), grid.Paint(); }, [&] { grid.FoldAll(); });
+    const double peerUnfold = MedianMs([&] { view.UnfoldAll(), view.Paint(); }, {}, 1);
+    report.Add({"tree: unfold 1000 groups of 100 items", Items, unfold, "tree view redraw off", peerUnfold});
+
+    const double fold = MedianMs([&] { grid.FoldAll(), grid.Paint(); }, [&] { grid.UnfoldAll(); });
+    const double peerFold = MedianMs([&] { view.FoldAll(), view.Paint(); }, {}, 1);
+    report.Add({"tree: fold 1000 groups of 100 items", Items, fold, "tree view redraw off", peerFold});
+}
+
+void FoldOne(Report& report, TreeGridSubject& grid, TreeViewSubject& view)
+{
+    const auto fold = [&] { grid.Group(0).Fold(), grid.Paint(); };
+    const auto unfold = [&] { grid.Group(0).UnFold(), grid.Paint(); };
+    const auto peerFold = [&] { view.Expand(view.Group(0), TVE_COLLAPSE), view.Paint(); };
+    const auto peerUnfold = [&] { view.Expand(view.Group(0), TVE_EXPAND), view.Paint(); };
+    report.Add({"tree: unfold one group of 100000 items", Items, MedianMs(unfold, fold), "tree view",
+                MedianMs(peerUnfold, peerFold)});
+    report.Add({"tree: fold one group of 100000 items", Items, MedianMs(fold, unfold), "tree view",
+                MedianMs(peerFold, peerUnfold)});
+}
+
+// Each run sorts an unsorted group.
+void SortOne(Report& report, TreeGridSubject& grid, TreeViewSubject& view)
+{
+    const auto refill = [](auto& subject) { subject.Empty(), subject.Fill(1, Items); };
+    const double ours = MedianMs([&] { grid.Grid().Arrange(true); }, [&] { refill(grid); }, 3);
+    const double peer = MedianMs([&] { view.SortGroup(0); }, [&] { refill(view); }, 3);
+    report.Add({"tree: sort one folded group of 100000 items", Items, ours, "tree view", peer});
+}
+
+void FindIdentifier(Report& report, TreeGridSubject& grid)
+{
+    const double ours = MedianMs([&] { grid.Grid().GetAutoId(7); });
+    RawTable table;
+    FillRawTable(table, Items);
+    volatile int maximum = 0;
+    const double floor = MedianMs([&] {
+        for (const auto& row : table)
+            if (const int id = static_cast<int>(std::wcstol(row[0].c_str(), nullptr, 10)); id > maximum)
+                maximum = id;
+    });
+    report.Add({"tree: GetAutoId among 100000 items", Items, ours, "largest in wstrings", floor});
+}
+
+void Paste(Report& report, TreeGridSubject& grid, TreeViewSubject& view)
+{
+    const auto copy = [&] {
+        grid.Empty();
+        grid.Fill(1, Items);
+        grid.Group(0).UnFold();
+        const QuorUiCtr::TGGridUpdate update(grid.Grid());
+        for (long i = 1; i <= PastedRows; ++i)
+            grid.Grid().SelectRow(i, true);
+        grid.Grid().DoCopy();
+        grid.Grid().UnSelect();
+        grid.Grid().SelectRow(Items / 2, true);
+    };
+    const double ours = MedianMs([&] { grid.Grid().DoPaste(), grid.Paint(); }, copy, 3);
+    const double peer = MedianMs([&] { view.InsertItems(0, PastedRows), view.Paint(); }, {}, 3);
+    report.Add({"tree: paste 1000 items among 100000", PastedRows, ours, "tree view inserts", peer});
+}
+
+} // namespace
+
+void RunTreeGrid(Report& report)
+{
+    Host host;
+    FillAndFoldMany(report, host);
+    TreeGridSubject grid(host);
+    TreeViewSubject view(host);
+    SortOne(report, grid, view);
+    FoldOne(report, grid, view);
+    FindIdentifier(report, grid);
+    Paste(report, grid, view);
+}
+
+} // namespace bench

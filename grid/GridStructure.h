@@ -37,7 +37,7 @@ public:
     void PlaceMovingCol(long from, long to);
 
 private:
-    void RemoveHiddenRows(long first, long number);
+    void RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden);
     // Moves the columns from `first` to before `last` by `distance` pixels.
     void MoveColEdges(long first, long last, long distance);
 

@@ -1,4 +1,5 @@
 // Copy, cut and paste through the grid's row buffer.
+#include "grid/GridStructure.h"
 #include "grid/RowWatch.h"
 #include "grid/SelectedIndices.h"
 #include "grid/TGGrid.h"
@@ -20,7 +21,11 @@ public:
     void ClipRow(long i);
     void ClipPlainRow(long i);
     void ClipTreeRow(long i);
-    void PlacePasted(TGGridRow* pasted, long row, bool atEnd);
+    std::vector<TGGridRow*> TakeAll();
+    void AppendPasted();
+    void InsertPasted(long row);
+    void InsertAsChildren(TGGridTreeRow& parent, long position);
+    void SelectPasted(long first, long number);
 
 private:
     TGGrid& grid;
@@ -100,8 +105,8 @@ void TGGrid::RowBuffer::ClipRow(long i)
         ClipPlainRow(i);
 }
 
-// The row itself moves to the buffer; its emptied slot is deleted. Meanwhile it stands in both lists, and the hook may
-// delete it through either.
+// The row itself moves to the buffer; its emptied slot is deleted. Meanwhile it stands in both lists, and the
+// hook may delete it through either.
 void TGGrid::RowBuffer::ClipPlainRow(long i)
 {
     TGGridRow* row = &grid.GetRow(i);
@@ -151,29 +156,67 @@ void TGGrid::Paste(long row)
 {
     UnSelect();
     const long count = rowPaste.GetNum();
-    // Rows pasted at the end are appended last to first, which turns their order around.
-    const bool atEnd = row >= GetRowNum();
     {
-        TGGridUpdate update(*this);
-        while (!rowPaste.IsEmpty())
-            RowBuffer(*this).PlacePasted(rowPaste.Detach(rowPaste.GetNum() - 1), row, atEnd);
+        const TGGridUpdate update(*this);
+        if (row >= GetRowNum())
+            RowBuffer(*this).AppendPasted();
+        else
+            RowBuffer(*this).InsertPasted(row);
     }
-    for (long i = row; i < row + count; ++i)
-        SelectRow(i, true);
+    RowBuffer(*this).SelectPasted(row, count);
 }
 
-void TGGrid::RowBuffer::PlacePasted(TGGridRow* pasted, long row, bool atEnd)
+// Scrolls to the first row and from there to the last one, as selecting all in turn would.
+void TGGrid::RowBuffer::SelectPasted(long first, long number)
 {
-    if (atEnd)
-        grid.AppendRow(pasted);
+    grid.SelectRow(first, true);
+    const TGGridUpdate update(grid);
+    for (long i = first + 1; i < first + number; ++i)
+        grid.SelectRow(i, true);
+}
+
+// The rows of the buffer, which gives them up.
+std::vector<TGGridRow*> TGGrid::RowBuffer::TakeAll()
+{
+    std::vector<TGGridRow*> taken(grid.rowPaste.begin(), grid.rowPaste.end());
+    grid.rowPaste.Release(0, grid.rowPaste.GetNum());
+    return taken;
+}
+
+// Last to first, which turns their order around.
+void TGGrid::RowBuffer::AppendPasted()
+{
+    const std::vector<TGGridRow*> pasted = TakeAll();
+    for (auto row = pasted.rbegin(); row != pasted.rend(); ++row)
+        grid.AppendRow(*row);
+}
+
+// All at once, because each insertion numbers the rows behind it.
+void TGGrid::RowBuffer::InsertPasted(long row)
+{
+    grid.EndEditCell();
+    if (!grid.IsValidRow(row))
+    {
+        AppendPasted();
+    }
     else if (grid.GetRow(row).IsChildRow())
     {
         TGGridTreeRow& sibling = grid.GetTreeRow(row);
-        TGGridTreeRow& parent = sibling.GetParent();
-        parent.InsertChild(parent.GetChildIndex(&sibling), static_cast<TGGridTreeRow*>(pasted));
+        InsertAsChildren(sibling.GetParent(), sibling.GetParent().GetChildIndex(&sibling));
     }
     else
-        grid.InsertRow(row, pasted);
+    {
+        Structure(grid).InsertRows(row, TakeAll());
+        grid.RecalcLayout(1);
+    }
+}
+
+void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
+{
+    TGGridTreeRow::OwnedRows pasted;
+    for (TGGridRow* row : TakeAll())
+        pasted.emplace_back(static_cast<TGGridTreeRow*>(row));
+    parent.InsertChildren(position, pasted);
 }
 
 bool TGGrid::DoPasteChild()
@@ -194,12 +237,10 @@ bool TGGrid::DoPasteChild()
     const long first = selected + parent.GetRowNum();
     const long count = rowPaste.GetNum();
     {
-        TGGridUpdate update(*this);
-        while (watch.IsAlive() && !rowPaste.IsEmpty())
-            parent.InsertChild(parent.GetChildNum(), static_cast<TGGridTreeRow*>(rowPaste.Detach(0)));
+        const TGGridUpdate update(*this);
+        RowBuffer(*this).InsertAsChildren(parent, parent.GetChildNum());
     }
-    for (long i = first; i < first + count; ++i)
-        SelectRow(i, true);
+    RowBuffer(*this).SelectPasted(first, count);
     OnEndPaste();
     OnDataChanged();
     return true;

@@ -8,7 +8,6 @@
 #include "grid/SelectedIndices.h"
 
 #include <algorithm>
-#include <iterator>
 #include <memory>
 #include <vector>
 
@@ -144,36 +143,35 @@ void TGGrid::Structure::NumberRows(long first)
 
 // ---- Tree rows --------------------------------------------------------------------------------------------
 
+// Leaves the cursor there, so that a walk over the rows takes one step for each.
 bool TGGrid::Structure::IsOffspringAt(long i, const TGGridTreeRow& top)
 {
-    TGGridRow* row = grid.RowAt(i);
+    grid.rows.MoveTo(i);
+    TGGridRow* row = grid.rows.IsOut() ? nullptr : grid.rows.Cur();
     return row != nullptr && row->IsTreeRow() && static_cast<TGGridTreeRow*>(row)->IsBelow(&top);
 }
 
 bool TGGrid::Structure::RemoveOffspring(TGGridTreeRow& top)
 {
-    const long number = top.CountShownOffspring();
-    if (number == 0)
+    TGGridTreeRow::IndexRange hidden;
+    top.MarkHidden(hidden);
+    if (hidden.number == 0)
         return false;
-    top.MarkHidden();
-    RemoveHiddenRows(top.GetIndex() + 1, number);
+    RemoveHiddenRows(hidden);
     return true;
 }
 
-// Hidden rows stand in one run from `first` on, unless the host has moved rows about: then they are taken out
-// one by one, from the last, because taking out numbers the rows behind.
-void TGGrid::Structure::RemoveHiddenRows(long first, long number)
+// Hidden rows stood in one run, unless the host has moved rows about: then they are taken out one by one,
+// from the last, because taking out numbers the rows behind.
+void TGGrid::Structure::RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden)
 {
-    const auto isHidden = [](const TGGridRow* row) { return row != nullptr && row->GetIndex() == -1; };
-    const auto run = std::distance(grid.rows.IteratorAt(first),
-                                   std::find_if_not(grid.rows.IteratorAt(first), grid.rows.end(), isHidden));
-    if (run == number)
+    if (hidden.IsRun())
     {
-        RemoveRows(first, number);
+        RemoveRows(hidden.first, hidden.number);
         return;
     }
-    for (long i = grid.GetRowNum() - 1; i >= 0; --i)
-        if (isHidden(grid.RowAt(i)))
+    for (long i = hidden.last; i >= hidden.first; --i)
+        if (const TGGridRow* row = grid.RowAt(i); row != nullptr && row->GetIndex() == -1)
             RemoveRows(i, 1);
 }
 
@@ -221,7 +219,10 @@ void TGGrid::Structure::ReleaseChildRows()
 {
     for (TGGridRow* row : grid.rows)
         if (row != nullptr && row->IsTreeRow() && !row->IsChildRow())
-            static_cast<TGGridTreeRow*>(row)->MarkHidden();
+        {
+            TGGridTreeRow::IndexRange hidden;
+            static_cast<TGGridTreeRow*>(row)->MarkHidden(hidden);
+        }
     for (TGGridRow*& row : grid.rows)
         if (row != nullptr && row->GetIndex() == -1)
             row = nullptr;

@@ -125,6 +125,18 @@ protected:
 private:
     using OwnedRows = std::vector<std::unique_ptr<TGGridTreeRow>>;
 
+    // The indices of a number of shown rows.
+    struct IndexRange
+    {
+        long number = 0;
+        long first = 0;
+        long last = -1;
+
+        void Add(long index);
+        // There is none between them that is not one of them.
+        bool IsRun() const { return last - first + 1 == number; }
+    };
+
     bool IsBelow(const TGGridTreeRow* ancestor) const;
     TGGridTreeRow* FindOffspring(const wchar_t* text, long col);
 
@@ -140,8 +152,8 @@ private:
     void ShowOffspring();
     bool HasShownOffspring() const;
     long CountShownOffspring() const;
-    // Sets the index of all offspring to -1.
-    void MarkHidden();
+    // Sets the index of all offspring to -1 and adds the indices that they had to `hidden`.
+    void MarkHidden(IndexRange& hidden);
     // Sets or clears the unfold flag of this row and all offspring.
     void MarkAll(bool unfolded);
     // The rows below this one that the unfold flags show, in grid order; the second form begins with the row.

@@ -272,14 +272,23 @@ long TGGridTreeRow::CountShownOffspring() const
     return number;
 }
 
-void TGGridTreeRow::MarkHidden()
+void TGGridTreeRow::IndexRange::Add(long index)
+{
+    first = number == 0 ? index : std::min(first, index);
+    last = std::max(last, index);
+    ++number;
+}
+
+void TGGridTreeRow::MarkHidden(IndexRange& hidden)
 {
     for (TGGridTreeRow* child : children)
     {
         if (child == nullptr)
             continue;
+        if (child->IsVisible())
+            hidden.Add(child->GetIndex());
         child->SetIndex(-1);
-        child->MarkHidden();
+        child->MarkHidden(hidden);
     }
 }
 

@@ -1,6 +1,7 @@
 // The identifier services of the tree grid: the walk over all leaves and the rule for new identifiers.
 #include "grid/TGTreeIdentifiers.h"
 
+#include <algorithm>
 #include <climits>
 
 namespace QuorUiCtr
@@ -10,14 +11,14 @@ namespace QuorUiCtr
 
 TGGridRow* TGTreeGrid::Leaves::Next()
 {
-    while (!waiting.IsEmpty())
+    while (front < waiting.size())
     {
-        TGGridRow* row = waiting.Pop();
+        TGGridRow* row = waiting[front++];
         if (!row->IsTreeRow() || !row->IsParentRow())
             return row;
         for (TGGridTreeRow* child : static_cast<TGGridTreeRow*>(row)->children)
             if (child != nullptr)
-                waiting.Push(child);
+                waiting.push_back(child);
     }
     return nullptr;
 }
@@ -28,7 +29,8 @@ void TGTreeGrid::AddAllLeaves(Leaves& leaves)
         if (!CurRow().IsChildRow())
             leaves.Add(CurRow());
     for (TGGridRow* row : GetRowPaste())
-        leaves.Add(*row);
+        if (row != nullptr)
+            leaves.Add(*row);
 }
 
 // ---- The rule ---------------------------------------------------------------------------------------------
@@ -76,11 +78,26 @@ void TGTreeGrid::Identifiers::Renumber(TGGridRow& leaf)
 
 // ---- The services -----------------------------------------------------------------------------------------
 
+// Counts what one answer needs; the table of all identifiers is for the rare case that they are exhausted.
 int TGTreeGrid::GetAutoId(int id)
 {
     Leaves leaves;
     AddAllLeaves(leaves);
-    return Identifiers(leaves).AutoId(id);
+    int maximum = 0;
+    long holders = 0;
+    while (TGGridRow* leaf = leaves.Next())
+    {
+        const int present = Leaves::IdentifierOf(Leaves::IdentifierCell(*leaf));
+        maximum = std::max(maximum, present);
+        holders += present == id ? 1 : 0;
+    }
+    if (id != 0 && holders < 2)
+        return id;
+    if (maximum < INT_MAX)
+        return maximum + 1;
+    Leaves again;
+    AddAllLeaves(again);
+    return Identifiers(again).AutoId(id);
 }
 
 bool TGTreeGrid::IsRightLabel(const wchar_t* label)

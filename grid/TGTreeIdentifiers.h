@@ -2,9 +2,10 @@
 #pragma once
 
 #include "grid/TGTreeGrid.h"
-#include "grid/collections/ListQuene.h"
 
+#include <cstddef>
 #include <unordered_map>
+#include <vector>
 
 namespace QuorUiCtr
 {
@@ -13,7 +14,7 @@ namespace QuorUiCtr
 class TGTreeGrid::Leaves
 {
 public:
-    void Add(TGGridRow& tree) { waiting.Push(&tree); }
+    void Add(TGGridRow& tree) { waiting.push_back(&tree); }
     // The next leaf, null at the end.
     TGGridRow* Next();
 
@@ -25,7 +26,9 @@ public:
 private:
     static constexpr long identifierCol = 1;
 
-    ListQuene<TGGridRow*> waiting;
+    // A queue whose front is at `front`: what has been taken stays, which is quicker than taking it out.
+    std::vector<TGGridRow*> waiting;
+    size_t front = 0;
 };
 
 // The identifiers of a number of leaves, and the rule for new ones.

@@ -3,6 +3,7 @@
 
 #include "GridPage.h"
 #include "PictureWriter.h"
+#include "TreeGridPage.h"
 #include "TreeRowsPage.h"
 #include "resource.h"
 
@@ -56,6 +57,7 @@ BOOL MainDialog::OnInitDialog()
     SetIcon(AfxGetApp()->LoadIcon(1), TRUE);
     AddPage(std::make_unique<GridPage>(log));
     AddPage(std::make_unique<TreeRowsPage>(log));
+    AddPage(std::make_unique<TreeGridPage>(log));
     SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
     CenterWindow();
     ShowPage(0);

@@ -4,3 +4,4 @@
 #include "afxwin.h"
 #include "afxcmn.h"
 #include "afxdisp.h"
+#include "afxpropertygridctrl.h"

@@ -1,0 +1,5 @@
+// The property grid.
+#pragma once
+
+#include "fx/propertygridproperty.h"
+#include "fx/propertygridctrl.h"

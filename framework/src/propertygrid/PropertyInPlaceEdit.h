@@ -1,0 +1,34 @@
+// PropertyInPlaceEdit: the edit control over the value of a property.
+#pragma once
+
+#include "afxpropertygridctrl.h"
+#include "propertygrid/EditMask.h"
+
+// A child of the grid, to which it gives its keys and the loss of the focus. Characters that the mask refuses
+// are not taken. The property deletes it.
+class PropertyInPlaceEdit : public CEdit
+{
+public:
+    explicit PropertyInPlaceEdit(const quorfx::EditMask& mask);
+
+protected:
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
+    afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
+    afx_msg LRESULT OnPaste(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnCut(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnClear(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+
+private:
+    CMFCPropertyGridCtrl& Grid() const;
+    void TypeMasked(wchar_t character);
+    void EraseMasked(int first, int last);
+    void EraseSelection();
+    void ShowMasked(const CString& text, int caret);
+    CString ClipboardText();
+
+    quorfx::EditMask m_mask;
+};

@@ -1,0 +1,64 @@
+// CMFCPropertyGridCtrlEx: a property grid whose properties are reached by their titles.
+#pragma once
+
+#include <afxcontrolbars.h>
+#include <afxtempl.h>
+
+class CPropertyGridComboProperty;
+
+// A property grid for hosts that keep no pointers to properties: values are read and written by title, and
+// drop-down (combo) properties are made from a list of options or from one compact text.
+//
+// A title is found only among the direct sub-items of the grid's first level (the groups), group by group;
+// the first property with exactly that name, case included, is the one. Groups themselves and deeper
+// properties have no title. Before the window exists nothing is found. Results are 1 when the property was
+// found and 0 otherwise; nothing is reported to a user. Writing does not convert: a value whose type is not
+// that of the property changes nothing, although the property counts as found. Writing does not notify the
+// owner.
+class AFX_EXT_CLASS CMFCPropertyGridCtrlEx : public CMFCPropertyGridCtrl
+{
+    DECLARE_DYNAMIC(CMFCPropertyGridCtrlEx)
+
+public:
+    CMFCPropertyGridCtrlEx();
+    ~CMFCPropertyGridCtrlEx() override;
+
+    // The property with that title, which the grid owns; NULL when there is none.
+    int GetItemByTitle(CMFCPropertyGridProperty*& property, CString title);
+
+    // The value as it is; `value` stays as it is when the title is not found.
+    int GetItemValue(CString title, COleVariant& value);
+    // The value as a number: of its text, up to the first blank unless that is the first character, what
+    // reads as a number. 0 when the title is not found. "12.5 kg" gives 12.5.
+    int GetItemValue(CString title, double& value);
+    // The value as a text; empty when the title is not found or the value is no text.
+    int GetItemValue(CString title, CString& value);
+
+    // Write the value as it is, as VT_INT, as VT_BOOL, as VT_BSTR and as VT_R8. A text literal is taken for a
+    // flag: write CString(L"...").
+    int SetItemValue(CString title, COleVariant value);
+    int SetItemValue(CString title, int value);
+    int SetItemValue(CString title, bool value);
+    int SetItemValue(CString title, CString value);
+    int SetItemValue(CString title, double value);
+
+    // Adds a text property with a drop-down list to `parent`; equal options appear once. Without a parent
+    // nothing is added.
+    void AddComboStringSubItem(CMFCPropertyGridProperty* parent, CString name, CString value,
+                               CArray<CString, const CString&>& options, CString description);
+    // The same from "value,<option,option,...>[description]". A text that lacks the first comma, a bracket
+    // or their order adds nothing. Blanks count.
+    void AddComboSubItem(CMFCPropertyGridProperty* parent, CString name, CString specification);
+
+    // The index of the option that the value equals, case included; -1 when there is none or no such title.
+    int GetOptionItemCurSel(CString title);
+    // Writes the option with that index as the value; an index out of range changes nothing.
+    void SetOptionItemCurSel(CString title, int index);
+
+protected:
+    // What AddComboStringSubItem made last, for derived classes to set up further; NULL when it is deleted.
+    CMFCPropertyGridProperty* lastComboProperty;
+
+private:
+    friend class CPropertyGridComboProperty;
+};

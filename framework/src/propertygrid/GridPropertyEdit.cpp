@@ -41,7 +41,7 @@ INT_PTR NextOption(const CStringArray& options, const CString& current, TCHAR le
 
 } // namespace
 
-BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT)
+BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT lptClick)
 {
     if (m_pWndList == NULL || m_pWndInPlace != NULL)
         return FALSE;
@@ -59,6 +59,9 @@ BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT)
     if (m_bHasSpin && IsTypingAllowed())
         m_pWndSpin = CreateSpinControl(rectSpin);
     PlaceEditors();
+    auto* const own = dynamic_cast<PropertyInPlaceEdit*>(m_pWndInPlace);
+    if (own != nullptr && lptClick != NULL)
+        own->OpenedByClick();
     m_pWndInPlace->ShowWindow(SW_SHOW);
     m_pWndInPlace->SetFocus();
     // Focus messages run the host, which may have closed the editor again.

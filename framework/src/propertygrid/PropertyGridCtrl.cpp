@@ -87,6 +87,7 @@ CMFCPropertyGridCtrl::CMFCPropertyGridCtrl()
       m_hFont(NULL),
       m_pWatches(NULL)
 {
+    EnableToolTips();
 }
 
 CMFCPropertyGridCtrl::~CMFCPropertyGridCtrl()

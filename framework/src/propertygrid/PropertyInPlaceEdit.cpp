@@ -5,6 +5,7 @@ BEGIN_MESSAGE_MAP(PropertyInPlaceEdit, CEdit)
     ON_WM_CHAR()
     ON_WM_KEYDOWN()
     ON_WM_KILLFOCUS()
+    ON_WM_LBUTTONDOWN()
     ON_WM_LBUTTONDBLCLK()
     ON_MESSAGE(WM_PASTE, &PropertyInPlaceEdit::OnPaste)
     ON_MESSAGE(WM_CUT, &PropertyInPlaceEdit::OnCut)
@@ -24,6 +25,22 @@ void PropertyInPlaceEdit::OnKillFocus(CWnd* pNewWnd)
     CEdit::OnKillFocus(pNewWnd);
     // Closes the editor, which deletes this object.
     Grid().EditorLostFocus(pNewWnd->GetSafeHwnd());
+}
+
+void PropertyInPlaceEdit::OpenedByClick()
+{
+    m_isAfterClick = true;
+    m_clickTime = ::GetMessageTime();
+}
+
+void PropertyInPlaceEdit::OnLButtonDown(UINT nFlags, CPoint point)
+{
+    const DWORD passed = static_cast<DWORD>(::GetMessageTime()) - static_cast<DWORD>(m_clickTime);
+    const bool isSecond = m_isAfterClick && passed <= ::GetDoubleClickTime();
+    m_isAfterClick = false;
+    CEdit::OnLButtonDown(nFlags, point);
+    if (isSecond)
+        OnLButtonDblClk(nFlags, point);
 }
 
 void PropertyInPlaceEdit::OnLButtonDblClk(UINT nFlags, CPoint point)

@@ -11,11 +11,16 @@ class PropertyInPlaceEdit : public CEdit
 public:
     explicit PropertyInPlaceEdit(const quorfx::EditMask& mask);
 
+    // The current message is the click that opened the editor: a second one soon after makes a double click,
+    // although it goes to another window.
+    void OpenedByClick();
+
 protected:
     DECLARE_MESSAGE_MAP()
     afx_msg void OnChar(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
+    afx_msg void OnLButtonDown(UINT nFlags, CPoint point);
     afx_msg void OnLButtonDblClk(UINT nFlags, CPoint point);
     afx_msg LRESULT OnPaste(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnCut(WPARAM wParam, LPARAM lParam);
@@ -31,4 +36,6 @@ private:
     CString ClipboardText();
 
     quorfx::EditMask m_mask;
+    bool m_isAfterClick = false;
+    LONG m_clickTime = 0;
 };

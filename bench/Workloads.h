@@ -22,5 +22,7 @@ void RunCommands(Report& report);
 void RunMemory(Report& report);
 // Trees of groups and items, compared with the tree view.
 void RunTreeGrid(Report& report);
+// The property grid: filling, look-up by title, paints with few and with many properties.
+void RunPropGrid(Report& report);
 
 } // namespace bench

@@ -23,6 +23,7 @@ constexpr Workload Workloads[] = {
     {"edit", bench::RunEdit},
     {"memory", bench::RunMemory},
     {"populate", bench::RunPopulate},
+    {"propgrid", bench::RunPropGrid},
     {"repaint", bench::RunRepaint},
     {"scroll", bench::RunScroll},
     {"select", bench::RunSelection},

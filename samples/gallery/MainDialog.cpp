@@ -3,6 +3,7 @@
 
 #include "GridPage.h"
 #include "PictureWriter.h"
+#include "PropertiesPage.h"
 #include "TreeGridPage.h"
 #include "TreeRowsPage.h"
 #include "resource.h"
@@ -58,6 +59,7 @@ BOOL MainDialog::OnInitDialog()
     AddPage(std::make_unique<GridPage>(log));
     AddPage(std::make_unique<TreeRowsPage>(log));
     AddPage(std::make_unique<TreeGridPage>(log));
+    AddPage(std::make_unique<PropertiesPage>(log));
     SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
     CenterWindow();
     ShowPage(0);

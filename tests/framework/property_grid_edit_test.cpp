@@ -358,11 +358,13 @@ TEST_F(PropertyGridEdit, TheHostMaySelectAndEditElsewhere)
 {
     host.onChange = [this](Property*) {
         host.onChange = nullptr;
-        grid.SetCurSel(count);
+        grid.EditItem(count);
     };
     EXPECT_TRUE(Enter(title, L"moved"));
     EXPECT_EQ(Selected(), L"Count");
     EXPECT_FALSE(title->IsInPlaceEditing());
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(::GetFocus(), Editor()->m_hWnd);
     EXPECT_TRUE(Enter(count, L"9"));
     EXPECT_EQ(Text(count), L"9");
 }

@@ -222,6 +222,10 @@ private:
     COLORREF LineColor() const;
     COLORREF GroupColor() const;
     void DrawTrackLine(CDC& dc);
+    BOOL IsBand(const CMFCPropertyGridProperty& prop) const;
+    BOOL IsWide(const CMFCPropertyGridProperty& prop) const;
+    void DrawName(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& row) const;
+    void DrawValue(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& row) const;
     void DrawRowBackground(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& rect) const;
 
     DragKind DragAt(CPoint point) const;

@@ -21,6 +21,12 @@ void DestroyAndDelete(CWnd* window)
     delete window;
 }
 
+bool HasFocus(const CWnd* window)
+{
+    const HWND focus = ::GetFocus();
+    return window != NULL && focus != NULL && (focus == window->m_hWnd || ::IsChild(window->m_hWnd, focus));
+}
+
 // The option after the current one, round the end; with a letter the next that begins with it. -1 for none.
 INT_PTR NextOption(const CStringArray& options, const CString& current, TCHAR letter)
 {
@@ -179,7 +185,7 @@ void CMFCPropertyGridProperty::DestroyEditors()
     CWnd* const windows[] = {m_pWndCombo, m_pWndSpin, m_pWndInPlace};
     if (m_pWndInPlace == NULL && m_pWndCombo == NULL)
         return;
-    const bool hadFocus = m_pWndList != NULL && m_pWndList->HasFocusInside(::GetFocus());
+    const bool hadFocus = m_pWndList != NULL && (HasFocus(m_pWndCombo) || HasFocus(m_pWndInPlace));
     m_pWndCombo = NULL;
     m_pWndSpin = NULL;
     m_pWndInPlace = NULL;

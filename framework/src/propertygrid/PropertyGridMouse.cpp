@@ -50,8 +50,8 @@ CMFCPropertyGridCtrl::DragKind CMFCPropertyGridCtrl::DragAt(CPoint point) const
     const bool isOnLine = list.PtInRect(point) && IsNear(point.x, list.left + m_nLeftColumnWidth);
     const CMFCPropertyGridProperty* const prop = HitTest(point, NULL, TRUE);
     // A group has no line of its own where its name goes over both columns.
-    const bool isWide = prop != NULL && !prop->HasValueField() && (m_bGroupNameFullWidth || m_bVSDotNetLook);
-    return isOnLine && !isWide ? DragColumns : DragNone;
+    const bool isHidden = prop != NULL && IsWide(*prop);
+    return isOnLine && !isHidden ? DragColumns : DragNone;
 }
 
 void CMFCPropertyGridCtrl::BeginDrag(DragKind kind, CPoint point)

@@ -86,61 +86,77 @@ void CMFCPropertyGridCtrl::OnDrawList(CDC* pDC)
     pDC->RestoreDC(saved);
 }
 
+// A band runs through both columns, in the colours of groups.
+BOOL CMFCPropertyGridCtrl::IsBand(const CMFCPropertyGridProperty& prop) const
+{
+    return prop.m_bGroup && !prop.m_bIsValueList;
+}
+
+BOOL CMFCPropertyGridCtrl::IsWide(const CMFCPropertyGridProperty& prop) const
+{
+    return IsBand(prop) && (m_bGroupNameFullWidth || m_bVSDotNetLook);
+}
+
 void CMFCPropertyGridCtrl::DrawRowBackground(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& rect) const
 {
-    const bool isBand = prop.IsGroup() && !prop.m_bIsValueList;
-    dc.FillSolidRect(rect, isBand ? GroupColor() : GetBkColor());
+    dc.FillSolidRect(rect, IsBand(prop) ? GroupColor() : GetBkColor());
     if (m_bVSDotNetLook)
         dc.FillSolidRect(rect.left, rect.top, m_nRowHeight, rect.Height(), GroupColor());
     dc.FillSolidRect(rect.left, rect.bottom - 1, rect.Width(), 1, LineColor());
-    if (!isBand || !(m_bGroupNameFullWidth || m_bVSDotNetLook))
+    if (!IsWide(prop))
         dc.FillSolidRect(rect.left + m_nLeftColumnWidth, rect.top, 1, rect.Height(), LineColor());
+}
+
+void CMFCPropertyGridCtrl::DrawName(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& row) const
+{
+    CRect name = quorfx::NameRectangle(row, m_nRowHeight, IndentOf(prop), m_nLeftColumnWidth);
+    if (IsWide(prop))
+        name.right = row.right;
+    const bool isFocused = HasFocusInside(::GetFocus());
+    COLORREF color = IsBand(prop) ? ColorOr(m_clrGroupText, COLOR_BTNTEXT) : GetTextColor();
+    if (prop.m_bEnabled == FALSE || !IsWindowEnabled())
+        color = ::GetSysColor(COLOR_GRAYTEXT);
+    if (&prop == m_pSel)
+    {
+        dc.FillSolidRect(name, ::GetSysColor(isFocused ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
+        if (isFocused)
+            color = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
+    }
+    CFont* const previous = IsBand(prop) ? dc.SelectObject(const_cast<CFont*>(&m_fontBold)) : NULL;
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(color);
+    prop.OnDrawName(&dc, name);
+    if (previous != NULL)
+        dc.SelectObject(previous);
+}
+
+void CMFCPropertyGridCtrl::DrawValue(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& row) const
+{
+    CRect value = quorfx::ValueRectangle(row, m_nLeftColumnWidth);
+    prop.AdjustButtonRect();
+    const bool hasButton = &prop == m_pSel && prop.HasButton();
+    if (hasButton)
+        value.right = prop.m_rectButton.left;
+    const bool isGrey = !prop.IsEditable() || !IsWindowEnabled();
+    dc.SetBkMode(TRANSPARENT);
+    dc.SetTextColor(isGrey ? ::GetSysColor(COLOR_GRAYTEXT) : GetTextColor());
+    prop.OnDrawValue(&dc, value);
+    if (hasButton)
+        prop.OnDrawButton(&dc, prop.m_rectButton);
 }
 
 int CMFCPropertyGridCtrl::OnDrawProperty(CDC* pDC, CMFCPropertyGridProperty* pProp) const
 {
     if (pProp == NULL)
         return FALSE;
-    const int row = RowOf(pProp);
-    const CRect rect = RowRect(row);
-    const bool isBand = pProp->IsGroup() && !pProp->m_bIsValueList;
-    const bool isWide = isBand && (m_bGroupNameFullWidth || m_bVSDotNetLook);
-    const bool isFocused = HasFocusInside(::GetFocus());
-    DrawRowBackground(*pDC, *pProp, rect);
-
-    const int indent = IndentOf(*pProp);
+    const CRect row = RowRect(RowOf(pProp));
+    DrawRowBackground(*pDC, *pProp, row);
     if (!pProp->m_lstSubItems.IsEmpty())
-        pProp->OnDrawExpandBox(pDC, quorfx::FoldBoxRectangle(rect, m_nRowHeight, indent, m_nLeftColumnWidth));
-
-    CRect name = quorfx::NameRectangle(rect, m_nRowHeight, indent, m_nLeftColumnWidth);
-    if (isWide)
-        name.right = rect.right;
-    COLORREF textColor = isBand ? ColorOr(m_clrGroupText, COLOR_BTNTEXT) : GetTextColor();
-    const COLORREF greyColor = ::GetSysColor(COLOR_GRAYTEXT);
-    const bool isOff = !pProp->m_bEnabled || !IsWindowEnabled();
-    if (pProp == m_pSel)
-    {
-        pDC->FillSolidRect(name, ::GetSysColor(isFocused ? COLOR_HIGHLIGHT : COLOR_BTNFACE));
-        textColor = ::GetSysColor(isFocused ? COLOR_HIGHLIGHTTEXT : COLOR_BTNTEXT);
-    }
-    CFont* const previous = isBand ? pDC->SelectObject(const_cast<CFont*>(&m_fontBold)) : NULL;
-    pDC->SetBkMode(TRANSPARENT);
-    pDC->SetTextColor(isOff && !(pProp == m_pSel && isFocused) ? greyColor : textColor);
-    pProp->OnDrawName(pDC, name);
-    if (previous != NULL)
-        pDC->SelectObject(previous);
-    if (!pProp->HasValueField())
-        return TRUE;
-
-    CRect value = quorfx::ValueRectangle(rect, m_nLeftColumnWidth);
-    pProp->AdjustButtonRect();
-    const bool hasButton = pProp == m_pSel && pProp->HasButton();
-    if (hasButton)
-        value.right = pProp->m_rectButton.left;
-    pDC->SetTextColor(isOff || !pProp->IsEditable() ? greyColor : GetTextColor());
-    pProp->OnDrawValue(pDC, value);
-    if (hasButton)
-        pProp->OnDrawButton(pDC, pProp->m_rectButton);
+        pProp->OnDrawExpandBox(
+            pDC, quorfx::FoldBoxRectangle(row, m_nRowHeight, IndentOf(*pProp), m_nLeftColumnWidth));
+    DrawName(*pDC, *pProp, row);
+    if (pProp->HasValueField())
+        DrawValue(*pDC, *pProp, row);
     return TRUE;
 }
 

@@ -39,7 +39,7 @@ void PropertyInPlaceEdit::OnLButtonDown(UINT nFlags, CPoint point)
     const bool isSecond = m_isAfterClick && passed <= ::GetDoubleClickTime();
     m_isAfterClick = false;
     CEdit::OnLButtonDown(nFlags, point);
-    if (isSecond)
+    if (isSecond && (GetStyle() & ES_READONLY) != 0)
         OnLButtonDblClk(nFlags, point);
 }
 

@@ -20,6 +20,8 @@ protected:
     BOOL Enter(Property* property, const wchar_t* text)
     {
         EXPECT_TRUE(grid.EditItem(property));
+        if (Editor() == NULL)
+            return FALSE;
         Editor()->SetWindowText(text);
         return grid.EndEditItem();
     }

@@ -154,7 +154,7 @@ TEST_F(PropertyGridLayout, EnsureVisibleScrollsAndUnfoldsOnDemand)
 
 TEST_F(PropertyGridLayout, ScrollBarMessagesScrollByRowsAndPages)
 {
-    grid.SetWindowPos(NULL, 0, 0, 400, 150, SWP_NOMOVE | SWP_NOZORDER);
+    grid.SetWindowPos(NULL, 0, 0, 400, 100, SWP_NOMOVE | SWP_NOZORDER);
     const CRect list = grid.GetListRect();
     const int rowHeight = grid.GetRowHeight();
     const int page = list.Height() / rowHeight;
@@ -266,9 +266,9 @@ TEST_F(PropertyGridLayout, GroupsSelectionAndLinesAreSeen)
     EXPECT_GT(picture.CountColour(row, RGB(0, 0, 90)), 10) << "the value's text";
     const CRect offRow = off->GetRect();
     EXPECT_EQ(picture.CountColour(offRow, RGB(0, 0, 90)), 0);
-    EXPECT_GT(picture.CountColour(offRow, ::GetSysColor(COLOR_GRAYTEXT)), 10);
+    EXPECT_GT(picture.CountColour(offRow, ::GetSysColor(COLOR_GRAYTEXT)), 3);
     const CRect fixedRow = fixed->GetRect();
-    EXPECT_GT(picture.CountColour(fixedRow, ::GetSysColor(COLOR_GRAYTEXT)), 10)
+    EXPECT_GT(picture.CountColour(fixedRow, ::GetSysColor(COLOR_GRAYTEXT)), 3)
         << "a read-only value is grey";
 }
 

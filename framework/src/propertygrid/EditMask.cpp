@@ -31,7 +31,7 @@ bool IsOfKind(wchar_t kind, wchar_t character)
     case L'a':
         return iswalnum(c) != 0 || c == L' ';
     case L'*':
-        return iswprint(c) != 0;
+        return c >= L' ' && c != 0x7F;
     default:
         return false;
     }

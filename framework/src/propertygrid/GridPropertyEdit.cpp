@@ -232,7 +232,12 @@ void CMFCPropertyGridProperty::FillCombo()
     constexpr int FrameOfField = 6;
     m_pWndCombo->SetItemHeight(-1, static_cast<UINT>(std::max(1, rect.Height() - FrameOfField)));
     const int lines = static_cast<int>(std::clamp<INT_PTR>(options.GetCount(), 1, MostListLines));
-    rect.bottom += m_pWndCombo->GetItemHeight(0) * lines + 2;
+    // The window is as high as its field, which may be higher than the row; the height given is that with the
+    // list.
+    CRect field;
+    m_pWndCombo->GetWindowRect(field);
+    constexpr int FrameOfList = 4;
+    rect.bottom = rect.top + field.Height() + m_pWndCombo->GetItemHeight(0) * lines + FrameOfList;
     m_pWndCombo->MoveWindow(rect);
 }
 

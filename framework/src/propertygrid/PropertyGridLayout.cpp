@@ -106,6 +106,7 @@ CMFCPropertyGridProperty* CMFCPropertyGridCtrl::PropertyOfRow(int row) const
 // The row number that a property keeps is right only if that row is the property's.
 int CMFCPropertyGridCtrl::RowOf(const CMFCPropertyGridProperty* pProp) const
 {
+    PrepareRows();
     return pProp != NULL && PropertyOfRow(pProp->m_nRow) == pProp ? pProp->m_nRow : -1;
 }
 
@@ -253,7 +254,9 @@ int CMFCPropertyGridCtrl::GetLeftColumnWidth() const
 
 CRect CMFCPropertyGridCtrl::RowRect(int row) const
 {
-    return quorfx::RowRectangle(GetListRect(), m_nRowHeight, m_nFirstRow, row);
+    // Asking for the list may move the first row.
+    const CRect list = GetListRect();
+    return quorfx::RowRectangle(list, m_nRowHeight, m_nFirstRow, row);
 }
 
 void CMFCPropertyGridCtrl::RedrawRow(int row)
@@ -344,6 +347,7 @@ int CMFCPropertyGridCtrl::VisibleRows() const
 // Returns whether the grid scrolled; an open editor is closed first and may refuse.
 BOOL CMFCPropertyGridCtrl::ScrollTo(int firstRow)
 {
+    PrepareLayout();
     if (quorfx::ClampFirstRow(firstRow, RowCount(), VisibleRows()) == m_nFirstRow)
         return FALSE;
     PropertyGridWatch self(m_pWatches);
@@ -362,6 +366,7 @@ void CMFCPropertyGridCtrl::EnsureVisible(CMFCPropertyGridProperty* pProp, BOOL b
     for (CMFCPropertyGridProperty* parent = pProp->m_pParent; bExpandParents && parent != NULL;
          parent = parent->m_pParent)
         parent->Expand();
+    PrepareLayout();
     const int row = RowOf(pProp);
     if (row >= 0)
         ScrollTo(quorfx::FirstRowShowing(row, m_nFirstRow, VisibleRows()));
@@ -374,6 +379,7 @@ void CMFCPropertyGridCtrl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrol
         CWnd::OnVScroll(nSBCode, nPos, pScrollBar);
         return;
     }
+    PrepareLayout();
     SCROLLINFO info = {};
     m_wndScroll.GetScrollInfo(&info);
     switch (nSBCode)
@@ -408,6 +414,7 @@ void CMFCPropertyGridCtrl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrol
 BOOL CMFCPropertyGridCtrl::OnMouseWheel(UINT, short zDelta, CPoint)
 {
     constexpr int RowsPerNotch = 3;
+    PrepareLayout();
     m_nWheelRest += zDelta * RowsPerNotch;
     const int rows = m_nWheelRest / WHEEL_DELTA;
     m_nWheelRest -= rows * WHEEL_DELTA;

@@ -5,6 +5,7 @@
 #include "PictureWriter.h"
 #include "PropertiesPage.h"
 #include "TreeGridPage.h"
+#include "TreePage.h"
 #include "TreeRowsPage.h"
 #include "resource.h"
 
@@ -60,6 +61,7 @@ BOOL MainDialog::OnInitDialog()
     AddPage(std::make_unique<TreeRowsPage>(log));
     AddPage(std::make_unique<TreeGridPage>(log));
     AddPage(std::make_unique<PropertiesPage>(log));
+    AddPage(std::make_unique<TreePage>(log));
     SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
     CenterWindow();
     ShowPage(0);

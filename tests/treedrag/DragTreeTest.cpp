@@ -109,6 +109,8 @@ LRESULT DragTree::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         return 0;
     if (message == TVM_INSERTITEM && m_insertionsLeft > 0)
         --m_insertionsLeft;
+    if (message == WM_TIMER)
+        positions.push_back(GetScrollPos(SB_VERT));
     return CTreeCtrlDrag::DefWindowProc(message, wParam, lParam);
 }
 

@@ -50,6 +50,9 @@ public:
     // From now on the insertion after the next `count` ones fails, and those after it.
     void FailInsertionsAfter(int count) { m_insertionsLeft = count; }
 
+    // The vertical scroll position after each message of a timer.
+    std::vector<int> positions;
+
 protected:
     LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 

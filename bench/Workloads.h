@@ -18,6 +18,8 @@ void RunSelection(Report& report);
 void RunEdit(Report& report);
 // Deleting, pasting and moving rows, and repainting the row header.
 void RunCommands(Report& report);
+// Moving a folder of a drag tree, with all its items collapsed and expanded.
+void RunTreeMove(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
 // Trees of groups and items, compared with the tree view.

@@ -28,6 +28,7 @@ constexpr Workload Workloads[] = {
     {"scroll", bench::RunScroll},
     {"select", bench::RunSelection},
     {"treegrid", bench::RunTreeGrid},
+    {"treemove", bench::RunTreeMove},
 };
 
 } // namespace

@@ -3,6 +3,9 @@
 
 #include "treedrag/TreeWatch.h"
 
+#include <cwchar>
+#include <vector>
+
 namespace QuorUiCtr
 {
 
@@ -10,6 +13,9 @@ namespace
 {
 
 constexpr UINT AllStates = 0xFFFF;
+
+// Texts shorter than this are copied without another question.
+constexpr int ShortText = 260;
 
 constexpr const wchar_t* InvalidMoveText =
     L"Invalid move - an item with the same name has been found in the destination location.";
@@ -96,51 +102,57 @@ HTREEITEM CTreeCtrlDrag::InsertPlaceholder(const wchar_t* text, HTREEITEM parent
 }
 
 // Each item is completed after everything below it, because only an item with children can be expanded.
-// Without recursion, because trees may be deep.
+// Without recursion, because trees may be deep, and with as few questions to the tree as can be: each may
+// cost it a search.
 bool CTreeCtrlDrag::CopySubtree(HTREEITEM destination, HTREEITEM source)
 {
-    HTREEITEM from = source;
-    HTREEITEM to = destination;
-    for (;;)
+    struct Step
     {
-        HTREEITEM next = GetChildItem(from);
-        HTREEITEM parent = to;
-        while (next == nullptr)
+        HTREEITEM from;
+        HTREEITEM to;
+    };
+    std::vector<Step> path = {{source, destination}};
+    HTREEITEM from = GetChildItem(source);
+    while (true)
+    {
+        if (from != nullptr)
         {
-            if (from == source)
-                return true;
-            CopyItem(to, from);
-            parent = GetParentItem(to);
-            next = GetNextSiblingItem(from);
-            if (next == nullptr)
-            {
-                from = GetParentItem(from);
-                to = parent;
-            }
+            const HTREEITEM to = InsertPlaceholder(L"dest child", path.back().to, TVI_LAST);
+            if (to == nullptr)
+                return false;
+            path.push_back({from, to});
+            from = GetChildItem(from);
+            continue;
         }
-        from = next;
-        to = InsertPlaceholder(L"dest child", parent, TVI_LAST);
-        if (to == nullptr)
-            return false;
+        const Step done = path.back();
+        path.pop_back();
+        if (path.empty())
+            return true;
+        CopyItem(done.to, done.from);
+        from = GetNextSiblingItem(done.from);
     }
 }
 
 void CTreeCtrlDrag::CopyItem(HTREEITEM destination, HTREEITEM source)
 {
+    wchar_t text[ShortText] = L"";
     TVITEM item = {};
-    item.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_STATE | TVIF_PARAM;
+    item.mask = TVIF_HANDLE | TVIF_IMAGE | TVIF_SELECTEDIMAGE | TVIF_STATE | TVIF_PARAM | TVIF_TEXT;
     item.hItem = source;
-    item.stateMask = AllStates;
+    item.stateMask = AllStates; // with the state image, which is the check mark
+    item.pszText = text;
+    item.cchTextMax = ShortText;
     if (!GetItem(&item))
         return;
+    CString longText;
+    if (std::wcslen(item.pszText) >= ShortText - 1)
+    {
+        longText = GetItemText(source);
+        item.pszText = const_cast<wchar_t*>(longText.GetString());
+    }
     item.hItem = destination;
     item.stateMask = AllStates;
     SetItem(&item);
-    SetItemText(destination, GetItemText(source));
-    // Not when they agree already: in a tree without check boxes it would replace the state image.
-    const BOOL checked = GetCheck(source);
-    if (GetCheck(destination) != checked)
-        SetCheck(destination, checked);
     if ((item.state & TVIS_EXPANDED) != 0)
         Expand(destination, TVE_EXPAND);
 }
@@ -167,9 +179,7 @@ void CTreeCtrlDrag::EndMove()
 void CTreeCtrlDrag::SaveFirstAndLastVisibleItems()
 {
     firstVisibleItem = GetFirstVisibleItem();
-    lastVisibleItem = nullptr;
-    for (HTREEITEM item = firstVisibleItem; item != nullptr; item = GetNextVisibleItem(item))
-        lastVisibleItem = item;
+    lastVisibleItem = GetLastVisibleItem();
 }
 
 void CTreeCtrlDrag::ResetVisibleItems(HTREEITEM newItem, HTREEITEM oldItem, HTREEITEM extra)

@@ -37,7 +37,7 @@ HTREEITEM PlaceIn(LPARAM lParam)
 
 BEGIN_MESSAGE_MAP(TreePage, Page)
     ON_BN_CLICKED(IDC_TREE_NEW_FOLDER, &TreePage::OnNewFolder)
-    ON_BN_CLICKED(IDC_TREE_DELETE, &TreePage::OnDelete)
+    ON_BN_CLICKED(IDC_TREE_DELETE_ITEM, &TreePage::OnDelete)
     ON_BN_CLICKED(IDC_TREE_RENAME, &TreePage::OnRename)
     ON_BN_CLICKED(IDC_TREE_UP, &TreePage::OnUp)
     ON_BN_CLICKED(IDC_TREE_DOWN, &TreePage::OnDown)
@@ -224,7 +224,7 @@ LRESULT TreePage::OnDropQuery(WPARAM wParam, LPARAM lParam)
 LRESULT TreePage::OnUpdateButtons(WPARAM, LPARAM)
 {
     const BOOL hasSelection = tree.GetSelectedItem() != nullptr;
-    GetDlgItem(IDC_TREE_DELETE)->EnableWindow(hasSelection);
+    GetDlgItem(IDC_TREE_DELETE_ITEM)->EnableWindow(hasSelection);
     GetDlgItem(IDC_TREE_RENAME)->EnableWindow(hasSelection);
     GetDlgItem(IDC_TREE_UP)->EnableWindow(tree.ShouldUpBtnBeEnabled());
     GetDlgItem(IDC_TREE_DOWN)->EnableWindow(tree.ShouldDownBtnBeEnabled());

@@ -243,7 +243,7 @@ TEST(ComboSpecificationFuzz, RandomTextsReadLikeTheReference)
     std::uniform_int_distribution<size_t> character(0, std::size(Characters) - 2);
     std::uniform_int_distribution<int> length(0, 24);
     int accepted = 0;
-    for (int i = 0; i < 200000; ++i)
+    for (int i = 0; i < 30000; ++i)
     {
         std::wstring text;
         for (int n = length(random); n > 0; --n)
@@ -261,7 +261,7 @@ TEST(ComboSpecificationFuzz, RandomTextsReadLikeTheReference)
         for (INT_PTR option = 0; option < parts.options.GetCount(); ++option)
             ASSERT_EQ(Wide(parts.options[option]), expected->options[static_cast<size_t>(option)]) << i;
     }
-    EXPECT_GT(accepted, 1000) << "enough of them are good to mean something";
+    EXPECT_GT(accepted, 200) << "enough of them are good to mean something";
 }
 
 } // namespace

@@ -236,7 +236,7 @@ void CMFCPropertyGridProperty::FillCombo()
     // list.
     CRect field;
     m_pWndCombo->GetWindowRect(field);
-    constexpr int FrameOfList = 4;
+    constexpr int FrameOfList = 8;
     rect.bottom = rect.top + field.Height() + m_pWndCombo->GetItemHeight(0) * lines + FrameOfList;
     m_pWndCombo->MoveWindow(rect);
 }

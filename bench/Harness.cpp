@@ -6,6 +6,8 @@
 
 #include <afxwin.h>
 
+#include <psapi.h>
+
 namespace bench
 {
 
@@ -18,7 +20,8 @@ double TimeMs(const std::function<void()>& work)
     QueryPerformanceCounter(&begin);
     work();
     QueryPerformanceCounter(&end);
-    return static_cast<double>(end.QuadPart - begin.QuadPart) * 1000.0 / static_cast<double>(frequency.QuadPart);
+    return static_cast<double>(end.QuadPart - begin.QuadPart) * 1000.0 /
+           static_cast<double>(frequency.QuadPart);
 }
 
 double MedianMs(const std::function<void()>& work, const std::function<void()>& prepare, int runs)
@@ -57,6 +60,14 @@ bool Report::WriteCsv(const std::string& path) const
         std::fprintf(file, "%s,%ld,%.4f,%s,%.4f,%.4f\n", result.workload.c_str(), result.n, result.ours,
                      result.peer.c_str(), result.peerFigure, result.Ratio());
     return std::fclose(file) == 0;
+}
+
+double WorkingSetBytes()
+{
+    PROCESS_MEMORY_COUNTERS counters = {};
+    counters.cb = sizeof(counters);
+    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
+    return static_cast<double>(counters.WorkingSetSize);
 }
 
 void DrainMessages()

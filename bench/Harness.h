@@ -14,8 +14,8 @@ double TimeMs(const std::function<void()>& work);
 // The median of `runs` timings of `work`; `prepare` runs untimed before each (it may be empty).
 double MedianMs(const std::function<void()>& work, const std::function<void()>& prepare = {}, int runs = 5);
 
-// One line of the result table: our figure and a peer's for the same work. Figures are milliseconds unless the
-// workload's name says otherwise.
+// One line of the result table: our figure and a peer's for the same work. Figures are milliseconds unless
+// the workload's name says otherwise.
 struct Result
 {
     std::string workload;
@@ -39,6 +39,9 @@ public:
 private:
     std::vector<Result> results;
 };
+
+// The physical memory that the process occupies.
+double WorkingSetBytes();
 
 // Lets a top-level window process what is pending, so that nothing of it is timed later.
 void DrainMessages();

@@ -2,22 +2,10 @@
 #include "Subjects.h"
 #include "Workloads.h"
 
-#include <memory>
-
-#include <psapi.h>
-
 namespace bench
 {
 namespace
 {
-
-double WorkingSetBytes()
-{
-    PROCESS_MEMORY_COUNTERS counters = {};
-    counters.cb = sizeof(counters);
-    GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof(counters));
-    return static_cast<double>(counters.WorkingSetSize);
-}
 
 // Each subject is kept alive until both are measured, so that neither profits from the other's freed memory.
 template <typename Fill> double BytesPerCell(long rows, Fill fill)

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <numeric>
 #include <random>
+#include <string>
 
 namespace bench
 {
@@ -33,7 +34,8 @@ std::vector<long> Shuffled(long n)
 }
 
 // As one change: selecting a row scrolls it into view, and 1e5 scrolled views are not what is measured here.
-void SelectInOrder(Report& report, Host& host, const char* name, const std::vector<long>& order)
+// Returns the milliseconds that the grid takes.
+double SelectInOrder(Report& report, Host& host, const char* name, const std::vector<long>& order)
 {
     const long n = static_cast<long>(order.size());
     GridSubject grid(&host);
@@ -56,6 +58,53 @@ void SelectInOrder(Report& report, Host& host, const char* name, const std::vect
         },
         [&] { list.List().SetItemState(-1, 0, LVIS_SELECTED); }, 3);
     report.Add({name, n, ours, "list view redraw off", peer});
+    return ours;
+}
+
+// How the cost of one row grows with their number: one grid ten times as large as the other.
+void CompareSizes(Report& report, Host& host, const char* name, std::vector<long> (*makeOrder)(long))
+{
+    constexpr long Small = 10000;
+    constexpr long Large = 100000;
+    const double small = SelectInOrder(report, host, name, makeOrder(Small)) * 1000 / Small;
+    const double large = SelectInOrder(report, host, name, makeOrder(Large)) * 1000 / Large;
+    report.Add({std::string(name) + " (us a row)", Large, large, "10000 rows", small});
+}
+
+// Each row scrolls into view when it is selected; the list view is told to show it.
+void SelectAndShow(Report& report, Host& host, long n)
+{
+    constexpr long Timed = 200;
+    GridSubject grid(&host);
+    grid.AppendRowsAsOne(n);
+    const double ours = MedianMs(
+        [&] {
+            for (long row = 0; row < Timed; ++row)
+            {
+                grid.Grid().SelectRow(row, true);
+                grid.Grid().UpdateWindow();
+            }
+        },
+        [&] {
+            grid.Grid().UnSelect();
+            grid.ScrollToRow(0);
+        });
+    ListViewSubject list(host);
+    list.AppendRowsAsOne(n);
+    const double peer = MedianMs(
+        [&] {
+            for (int row = 0; row < Timed; ++row)
+            {
+                list.List().SetItemState(row, LVIS_SELECTED, LVIS_SELECTED);
+                list.List().EnsureVisible(row, FALSE);
+                list.List().UpdateWindow();
+            }
+        },
+        [&] {
+            list.List().SetItemState(-1, 0, LVIS_SELECTED);
+            list.ScrollToRow(0);
+        });
+    report.Add({"select 200 rows, show and paint each", n, ours, "list view", peer});
 }
 
 void SelectAllAndRepaint(Report& report, Host& host, long n)
@@ -134,12 +183,10 @@ void RepaintSelected(Report& report, Host& host, long n)
 void RunSelection(Report& report)
 {
     Host host;
-    for (long n : {10000L, 100000L})
-    {
-        SelectInOrder(report, host, "select one by one ascending", Ascending(n));
-        SelectInOrder(report, host, "select one by one descending", Descending(n));
-        SelectInOrder(report, host, "select one by one in random order", Shuffled(n));
-    }
+    CompareSizes(report, host, "select one by one ascending", Ascending);
+    CompareSizes(report, host, "select one by one descending", Descending);
+    CompareSizes(report, host, "select one by one in random order", Shuffled);
+    SelectAndShow(report, host, 100000);
     SelectAllAndRepaint(report, host, 100000);
     UnselectAll(report, host, 100000);
     RepaintSelected(report, host, 100000);

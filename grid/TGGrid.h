@@ -534,9 +534,10 @@ private:
     void UnselectCols();
     void UnselectRows();
     bool CanInvertNow() const;
-    template <class Line> void ChangeBand(Line& line, bool select);
+    void ChangeRowBand(long row, bool select);
+    void ChangeColBand(TGGridCol& col, bool select);
     void ShowBand(const CRect& band);
-    void ShowRowBand(const TGGridRow& row);
+    void ShowRowBand(long row);
     void ShowColBand(const TGGridCol& col);
     // Makes a shown row the only one selected.
     void SelectOnly(TGGridRow& row);

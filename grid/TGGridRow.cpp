@@ -13,6 +13,7 @@ namespace QuorUiCtr
 TGGridRow::TGGridRow(TGGrid& owner) : grid(&owner)
 {
     PDList<TGGridCol>& cols = owner.cols;
+    cells.Reserve(cols.GetNum());
     for (cols.MoveToFirst(); !cols.IsOut(); cols.MoveToNext())
         AddCell(cols.Cur());
 }

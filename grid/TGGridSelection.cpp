@@ -26,12 +26,11 @@ void TGGrid::SelectRow(long row, bool select)
             return;
     }
     if (select ? SelectedIndices::Add(rowSel, row) : SelectedIndices::Remove(rowSel, row))
-        if (TGGridRow* changed = RowAt(row))
-        {
-            ChangeBand(*changed, select);
-            if (select)
-                ShowRowBand(*changed);
-        }
+    {
+        ChangeRowBand(row, select);
+        if (select)
+            ShowRowBand(row);
+    }
     OnCurChanged();
 }
 
@@ -49,7 +48,7 @@ void TGGrid::SelectCol(long col, bool select)
     if (select ? SelectedIndices::Add(colSel, col) : SelectedIndices::Remove(colSel, col))
     {
         TGGridCol* changed = ColAtIndex(col);
-        ChangeBand(*changed, select);
+        ChangeColBand(*changed, select);
         if (select)
             ShowColBand(*changed);
     }
@@ -93,7 +92,7 @@ void TGGrid::UnselectCols()
 {
     for (const long i : colSel)
         if (TGGridCol* col = ColAtIndex(i))
-            ChangeBand(*col, false);
+            ChangeColBand(*col, false);
     colSel.Clear();
 }
 
@@ -111,10 +110,19 @@ bool TGGrid::CanInvertNow() const
     return !IsUpdating() && !refreshing;
 }
 
-template <class Line> void TGGrid::ChangeBand(Line& line, bool select)
+// Looks for the row only when it is needed: among many rows that costs more than the rest.
+void TGGrid::ChangeRowBand(long row, bool select)
+{
+    if (!CanInvertNow())
+        Invalidate(0);
+    else if (TGGridRow* changed = GetSafeHwnd() != nullptr ? RowAt(row) : nullptr)
+        changed->Select(select);
+}
+
+void TGGrid::ChangeColBand(TGGridCol& col, bool select)
 {
     if (CanInvertNow())
-        line.Select(select);
+        col.Select(select);
     else
         Invalidate(0);
 }
@@ -130,14 +138,14 @@ void TGGrid::InvertBand(const CRect& band)
 // ---- Scrolling selected bands into view -------------------------------------------------------------------
 
 // The other direction stays where it is: the rectangle has no extent at the centre of the view.
-void TGGrid::ShowRowBand(const TGGridRow& row)
+void TGGrid::ShowRowBand(long row)
 {
     if (GetSafeHwnd() == nullptr)
         return;
     CRect area;
     GetClientRect(&area);
     const long x = ClientToLogical(area.CenterPoint()).x;
-    ShowBand(CRect(x, row.GetTop(), x, row.GetBottom()));
+    ShowBand(CRect(x, row * GetRowHeight(), x, (row + 1) * GetRowHeight()));
 }
 
 void TGGrid::ShowColBand(const TGGridCol& col)

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <new>
+#include <span>
 #include <vector>
 
 namespace QuorUiCtr::Detail
@@ -151,11 +152,19 @@ private:
     // The chunks from `chunk` on begin `step` positions later.
     void ShiftFrom(std::size_t chunk, long step)
     {
-        for (; shiftedFrom < chunk; ++shiftedFrom)
-            starts[shiftedFrom] += shift;
-        while (shiftedFrom > chunk)
-            starts[--shiftedFrom] -= shift;
+        if (shiftedFrom < chunk)
+            AddTo(shiftedFrom, chunk, shift);
+        else
+            AddTo(chunk, shiftedFrom, -shift);
+        shiftedFrom = chunk;
         shift += step;
+    }
+
+    // A plain loop, which compilers turn into one over several numbers at once.
+    void AddTo(std::size_t first, std::size_t end, long step)
+    {
+        for (long& position : std::span(starts).subspan(first, end - first))
+            position += step;
     }
 
     // New chunks before `chunk`, whose places are to be set.

@@ -80,6 +80,8 @@ void TGActiveQuad::OnRButtonUp(UINT flags, CPoint point)
     if (m_hWnd == nullptr)
         return;
     grid->SetFocus();
+    if (m_hWnd == nullptr)
+        return;
     ClientToScreen(&point);
     grid->OnRClickQuad(point);
 }

@@ -22,9 +22,10 @@ public:
     explicit TGColSelector(TGGrid& grid);
     ~TGColSelector() override;
 
-    // Inverts the mark of a running drag on the grid's drawing context; called when the grid has drawn what
-    // the mark stands on.
+    // Inverts the mark of a running drag, or its part in `drawn` (logical coordinates), on the grid's drawing
+    // context; called when the grid has drawn what the mark stands on.
     void InvertMark();
+    void InvertMark(const CRect& drawn);
 
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
@@ -55,6 +56,7 @@ private:
     bool ScrollAtEdge(CPoint point);
     long CutColumnWidth(CPoint point) const;
     void MarkMoveTarget(long col);
+    CRect MarkRect() const;
     void MoveMark(long x);
     void ResizeTo(long x);
     void DropAt(long to);

@@ -59,6 +59,9 @@ BOOL TGColSelector::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message)
 void TGColSelector::OnLButtonDown(UINT flags, CPoint point)
 {
     SetFocus();
+    // The end of an edit runs hooks, which may close the window.
+    if (m_hWnd == nullptr)
+        return;
     SetCapture();
     const long edgeCol = ColWithEdgeAt(LogicalX(point));
     if (edgeCol != -1)
@@ -121,10 +124,10 @@ void TGColSelector::OnLButtonUp(UINT flags, CPoint point)
         ResizeTo(LogicalX(point));
     else if (wasMoving)
         DropAt(PtToCol(point));
-    if (m_hWnd == nullptr)
-        return;
-    grid->SetFocus();
-    CWnd::OnLButtonUp(flags, point);
+    if (m_hWnd != nullptr)
+        grid->SetFocus();
+    if (m_hWnd != nullptr)
+        CWnd::OnLButtonUp(flags, point);
 }
 
 void TGColSelector::OnRButtonUp(UINT flags, CPoint point)
@@ -132,7 +135,7 @@ void TGColSelector::OnRButtonUp(UINT flags, CPoint point)
     CWnd::OnRButtonUp(flags, point);
     grid->SetFocus();
     const long col = PtToCol(point);
-    if (!grid->IsValidCol(col))
+    if (m_hWnd == nullptr || !grid->IsValidCol(col))
         return;
     ClientToScreen(&point);
     if (!grid->IsColSelected(col))
@@ -200,12 +203,24 @@ void TGColSelector::MoveMark(long x)
     InvertMark();
 }
 
-void TGColSelector::InvertMark()
+// Empty when no mark is shown.
+CRect TGColSelector::MarkRect() const
 {
     const long width = moving ? MoveMarkWidth : ResizeMarkWidth;
+    return markX == -1 ? CRect() : CRect(markX, 0, markX + width, FarDown);
+}
+
+void TGColSelector::InvertMark()
+{
+    InvertMark(MarkRect());
+}
+
+void TGColSelector::InvertMark(const CRect& drawn)
+{
+    CRect part;
     CDC* context = grid->GetDC();
-    if (markX != -1 && context != nullptr)
-        context->InvertRect(CRect(markX, 0, markX + width, FarDown));
+    if (part.IntersectRect(MarkRect(), drawn) && context != nullptr)
+        context->InvertRect(part);
 }
 
 // Takes the mark off the screen and leaves the dragging states.

@@ -1,7 +1,6 @@
 // The context menus of the grid and the commands that they stand for.
+#include "grid/RowWatch.h"
 #include "grid/TGGrid.h"
-
-#include <iterator>
 
 namespace QuorUiCtr
 {
@@ -48,8 +47,20 @@ public:
     ContextMenu() { menu.CreatePopupMenu(); }
 
     void Add(const MenuEntry& entry) { menu.AppendMenu(MF_STRING, entry.id, entry.caption); }
-    // Shows the menu at a point in screen coordinates; the choice is posted to `owner` as WM_COMMAND.
-    void Track(CPoint point, CWnd& owner) { menu.TrackPopupMenu(TPM_RIGHTBUTTON, point.x, point.y, &owner); }
+    void AddBufferEntries(bool canPaste)
+    {
+        Add(CopyEntry);
+        Add(CutEntry);
+        if (canPaste)
+            Add(PasteEntry);
+    }
+    // Shows the menu at a point in screen coordinates; the choice is posted to `owner` as WM_COMMAND. Nothing
+    // is shown when a hook has closed the owner's window.
+    void Track(CPoint point, CWnd& owner)
+    {
+        if (owner.GetSafeHwnd() != nullptr)
+            menu.TrackPopupMenu(TPM_RIGHTBUTTON, point.x, point.y, &owner);
+    }
 
 private:
     CMenu menu;
@@ -67,26 +78,21 @@ void TGGrid::OnRClickRow(TGGridRow& row, CPoint point)
         menu.Add(DeleteRowsEntry);
         menu.Add(AppendRowEntry);
         if (!IsNoPaste())
-        {
-            menu.Add(CopyEntry);
-            menu.Add(CutEntry);
-        }
+            menu.AddBufferEntries(false);
     }
     else
     {
-        UnSelect();
-        SelectRow(row.GetIndex(), true);
+        // Selecting runs hooks, which may delete the row.
+        const RowWatch watch(*this, &row);
+        SelectOnly(row);
+        if (!watch.IsAlive())
+            return;
         menu.Add(InsertRowEntry);
         if (!row.IsDelUnable())
             menu.Add(DeleteRowEntry);
         menu.Add(AppendRowEntry);
         if (!IsNoPaste())
-        {
-            menu.Add(CopyEntry);
-            menu.Add(CutEntry);
-            if (GetRowSelNum() == 1 && !rowPaste.IsEmpty())
-                menu.Add(PasteEntry);
-        }
+            menu.AddBufferEntries(GetRowSelNum() == 1 && !rowPaste.IsEmpty());
     }
     menu.Track(point, *this);
 }
@@ -96,12 +102,13 @@ void TGGrid::OnRClickCol(TGGridCol& col, CPoint point)
     if (IsNoDefaultMenu() || IsColFixLength())
         return;
     ContextMenu menu;
-    if (GetColSelNum() > 1 && IsColSelected(col.GetIndex()))
+    const long index = col.GetIndex();
+    if (GetColSelNum() > 1 && IsColSelected(index))
         menu.Add(DeleteColsEntry);
     else
     {
         UnSelect();
-        SelectCol(col.GetIndex(), true);
+        SelectCol(index, true);
         menu.Add(InsertColEntry);
         menu.Add(DeleteColEntry);
     }

@@ -141,6 +141,10 @@ void TGGrid::InvertSelectionIn(const CRect& drawn)
     for (; entry != rowSel.end() && *entry <= drawn.bottom / GetRowHeight(); ++entry)
         if (TGGridRow* row = RowAt(*entry))
             invertPart(*row);
+    if (rowHeader != nullptr)
+        rowHeader->InvertDropMark(drawn);
+    if (colHeader != nullptr)
+        colHeader->InvertMark(drawn);
 }
 
 BOOL TGGrid::OnEraseBkgnd(CDC* context)

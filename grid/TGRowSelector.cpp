@@ -14,16 +14,8 @@ namespace
 {
 
 const UINT controlId = 104;
-const UINT currentRowIcon = 1000;
-const UINT newRowIcon = 1001;
-
-// A shared icon of the library, found through the chain of resource modules; null when it is missing.
-HICON LoadModuleIcon(UINT id, int size)
-{
-    const LPCWSTR name = MAKEINTRESOURCE(id);
-    const HINSTANCE module = AfxFindResourceHandle(name, RT_GROUP_ICON);
-    return static_cast<HICON>(::LoadImage(module, name, IMAGE_ICON, size, size, LR_SHARED));
-}
+const UINT currentRowIconId = 1000;
+const UINT newRowIconId = 1001;
 
 } // namespace
 
@@ -37,7 +29,8 @@ BEGIN_MESSAGE_MAP(TGRowSelector, CWnd)
     ON_WM_CAPTURECHANGED()
 END_MESSAGE_MAP()
 
-TGRowSelector::TGRowSelector(TGGrid& owner) : grid(&owner)
+TGRowSelector::TGRowSelector(TGGrid& owner)
+    : grid(&owner), currentRowIcon(currentRowIconId), newRowIcon(newRowIconId)
 {
     bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
     const long top = owner.IsColSel() ? owner.GetColHeaderHeight() : 0;
@@ -80,30 +73,20 @@ void TGRowSelector::OnPaint()
         DrawNewRow(context);
 }
 
-void TGRowSelector::DrawRow(CDC& context, long row) const
+void TGRowSelector::DrawRow(CDC& context, long row)
 {
     DrawHeaderBox(context, BoxRect(row), grid->IsFlatButton());
     if (row == markedRow)
-        DrawRowIcon(context, row, currentRowIcon);
+        currentRowIcon.Draw(context, BoxRect(row).TopLeft(), grid->GetRowHeight());
 }
 
-void TGRowSelector::DrawNewRow(CDC& context) const
+void TGRowSelector::DrawNewRow(CDC& context)
 {
-    const long row = grid->GetRowNum();
-    const CRect box = BoxRect(row);
+    const CRect box = BoxRect(grid->GetRowNum());
     if (!context.RectVisible(&box))
         return;
     DrawHeaderBox(context, box, grid->IsFlatButton());
-    DrawRowIcon(context, row, newRowIcon);
-}
-
-void TGRowSelector::DrawRowIcon(CDC& context, long row, UINT iconId) const
-{
-    const int size = grid->GetRowHeight();
-    const HICON icon = LoadModuleIcon(iconId, size);
-    const CRect box = BoxRect(row);
-    if (icon != nullptr)
-        ::DrawIconEx(context.GetSafeHdc(), box.left, box.top, icon, size, size, 0, nullptr, DI_NORMAL);
+    newRowIcon.Draw(context, box.TopLeft(), grid->GetRowHeight());
 }
 
 void TGRowSelector::OnCurRowChanged()

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/BrushWindowClass.h"
+#include "grid/HeaderIcon.h"
 
 #include <afxwin.h>
 
@@ -21,9 +22,10 @@ public:
     explicit TGRowSelector(TGGrid& grid);
     ~TGRowSelector() override;
 
-    // Inverts the drop mark of a running drag on the grid's drawing context; called when the grid has drawn
-    // what the mark stands on.
+    // Inverts the drop mark of a running drag, or its part in `drawn` (logical coordinates), on the grid's
+    // drawing context; called when the grid has drawn what the mark stands on.
     void InvertDropMark();
+    void InvertDropMark(const CRect& drawn);
 
     // The grid's current row changed: moves the icon from the marked row to the current one, drawing at once.
     void OnCurRowChanged();
@@ -49,9 +51,8 @@ private:
     void PrepareContext(CDC& context) const;
     // The box of a row in logical coordinates.
     CRect BoxRect(long row) const;
-    void DrawRow(CDC& context, long row) const;
-    void DrawNewRow(CDC& context) const;
-    void DrawRowIcon(CDC& context, long row, UINT iconId) const;
+    void DrawRow(CDC& context, long row);
+    void DrawNewRow(CDC& context);
     // Draws a row's box over what stands there; nothing for an index outside the rows.
     void RedrawRow(CDC& context, long row);
 
@@ -62,6 +63,7 @@ private:
     void BeginDrag(long row);
     bool ScrollAtEdge(CPoint point);
     void DragTo(long row);
+    CRect DropMarkRect() const;
     void MoveDropMark(long y);
     void Drop(long to);
     void CancelDrag();
@@ -73,6 +75,8 @@ private:
     long dragRow = -1;
     long markedRow = -1;
     BrushWindowClass windowClass;
+    HeaderIcon currentRowIcon;
+    HeaderIcon newRowIcon;
 };
 
 } // namespace QuorUiCtr

@@ -30,6 +30,9 @@ void TGRowSelector::OnLButtonDown(UINT flags, CPoint point)
         return;
     }
     SetFocus();
+    // The end of an edit runs hooks, which may close the window.
+    if (m_hWnd == nullptr)
+        return;
     SetCapture();
     if (grid->IsValidRow(row))
         ClickRow(row);
@@ -93,17 +96,17 @@ void TGRowSelector::OnLButtonUp(UINT flags, CPoint point)
         ::ReleaseCapture();
     if (dropped)
         Drop(PtToRow(point));
-    if (m_hWnd == nullptr)
-        return;
-    grid->SetFocus();
-    CWnd::OnLButtonUp(flags, point);
+    if (m_hWnd != nullptr)
+        grid->SetFocus();
+    if (m_hWnd != nullptr)
+        CWnd::OnLButtonUp(flags, point);
 }
 
 void TGRowSelector::OnRButtonUp(UINT, CPoint point)
 {
     grid->SetFocus();
     const long row = PtToRow(point);
-    if (!grid->IsValidRow(row))
+    if (m_hWnd == nullptr || !grid->IsValidRow(row))
         return;
     ClientToScreen(&point);
     if (!grid->IsRowSelected(row))
@@ -181,11 +184,23 @@ void TGRowSelector::MoveDropMark(long y)
     InvertDropMark();
 }
 
+// Empty when no mark is shown.
+CRect TGRowSelector::DropMarkRect() const
+{
+    return dropMarkY == -1 ? CRect() : CRect(0, dropMarkY, FarRight, dropMarkY + DropMarkHeight);
+}
+
 void TGRowSelector::InvertDropMark()
 {
+    InvertDropMark(DropMarkRect());
+}
+
+void TGRowSelector::InvertDropMark(const CRect& drawn)
+{
+    CRect part;
     CDC* context = grid->GetDC();
-    if (dropMarkY != -1 && context != nullptr)
-        context->InvertRect(CRect(0, dropMarkY, FarRight, dropMarkY + DropMarkHeight));
+    if (part.IntersectRect(DropMarkRect(), drawn) && context != nullptr)
+        context->InvertRect(part);
 }
 
 // Takes the mark off the screen and leaves the dragging state.

@@ -3,10 +3,14 @@
 
 #include "grid/TGGrid.h"
 
+#include <span>
+#include <vector>
+
 namespace QuorUiCtr
 {
 
-// Keeps rows, their indices and the selection in step. Runs no hooks and lays out nothing.
+// Keeps rows, their indices and the selection in step. Lays out nothing and, but for AnnounceRemoval, runs no
+// hooks.
 class TGGrid::Structure
 {
 public:
@@ -26,6 +30,13 @@ public:
     void HideTree(TGGridTreeRow& top);
     // Puts the offspring that the unfold flags ask for below a shown row.
     void InsertOffspring(TGGridTreeRow& top);
+    // Takes rows out of the grid and of their parents' children, their shown offspring with them, as one
+    // change. Deletes none; their indices become -1.
+    void TakeOut(std::span<TGGridRow* const> taken);
+    // Runs the hooks of taking the rows at `indices` out one by one: ends an edit and tells `tellings` times
+    // that the selection changed. Returns the rows that still stand where they stood before, in the order of
+    // `indices`.
+    std::vector<TGGridRow*> AnnounceRemoval(std::span<const long> indices, long tellings);
     // Takes a row out of its parent's children and its shown offspring out of the rows.
     void DetachFromTree(TGGridRow& row);
     // Leaves the child rows to their parents: empties their slots.
@@ -37,6 +48,9 @@ public:
     void PlaceMovingCol(long from, long to);
 
 private:
+    void DetachFromParents(std::span<TGGridRow* const> taken);
+    // Takes the slots of hidden rows out of the rows from `first` on and numbers the rows.
+    void CloseGaps(long first);
     void RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden);
     // Moves the columns from `first` to before `last` by `distance` pixels.
     void MoveColEdges(long first, long last, long distance);

@@ -22,10 +22,10 @@ public:
     explicit TGColSelector(TGGrid& grid);
     ~TGColSelector() override;
 
-    // Inverts the mark of a running drag, or its part in `drawn` (logical coordinates), on the grid's drawing
-    // context; called when the grid has drawn what the mark stands on.
-    void InvertMark();
-    void InvertMark(const CRect& drawn);
+    // Shows the mark of a running drag again, on the grid's drawing context, after the grid has drawn its
+    // cells, or what stands in `drawn` (logical coordinates).
+    void RestoreMark();
+    void RestoreMark(const CRect& drawn);
 
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
@@ -57,6 +57,7 @@ private:
     long CutColumnWidth(CPoint point) const;
     void MarkMoveTarget(long col);
     CRect MarkRect() const;
+    void InvertMark();
     void MoveMark(long x);
     void ResizeTo(long x);
     void DropAt(long to);

@@ -212,10 +212,16 @@ CRect TGColSelector::MarkRect() const
 
 void TGColSelector::InvertMark()
 {
-    InvertMark(MarkRect());
+    RestoreMark(MarkRect());
 }
 
-void TGColSelector::InvertMark(const CRect& drawn)
+void TGColSelector::RestoreMark()
+{
+    grid->ClearOutsideCells(MarkRect());
+    InvertMark();
+}
+
+void TGColSelector::RestoreMark(const CRect& drawn)
 {
     CRect part;
     CDC* context = grid->GetDC();

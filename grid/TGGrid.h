@@ -519,6 +519,8 @@ private:
     void DrawRows(long first, long last);
     void InvertSelectedCols();
     void InvertSelectedRows();
+    // Fills the part of `area` that is neither a cell nor a grid line (logical coordinates).
+    void ClearOutsideCells(const CRect& area);
     // Inverts again what has been drawn over the selection outside Refresh().
     void InvertSelectionIn(const CRect& drawn);
 

@@ -71,9 +71,9 @@ void TGGrid::Refresh()
         InvertSelectedRows();
     // The marks of a running drag stand on what was just drawn.
     if (rowHeader != nullptr)
-        rowHeader->InvertDropMark();
+        rowHeader->RestoreDropMark();
     if (colHeader != nullptr)
-        colHeader->InvertMark();
+        colHeader->RestoreMark();
 }
 
 // All rows without a drawing context.
@@ -142,9 +142,20 @@ void TGGrid::InvertSelectionIn(const CRect& drawn)
         if (TGGridRow* row = RowAt(*entry))
             invertPart(*row);
     if (rowHeader != nullptr)
-        rowHeader->InvertDropMark(drawn);
+        rowHeader->RestoreDropMark(drawn);
     if (colHeader != nullptr)
-        colHeader->InvertMark(drawn);
+        colHeader->RestoreMark(drawn);
+}
+
+// Painting without erasing leaves what stood right of the columns and below the rows.
+void TGGrid::ClearOutsideCells(const CRect& area)
+{
+    const long right = GetRight() + 1;
+    const long bottom = GetBottom() + 1;
+    const CRect outside[] = {CRect(right, 0, area.right, area.bottom), CRect(0, bottom, right, area.bottom)};
+    for (const CRect& side : outside)
+        if (CRect part; dc != nullptr && part.IntersectRect(side, area))
+            dc->FillRect(part, &backBrush);
 }
 
 BOOL TGGrid::OnEraseBkgnd(CDC* context)

@@ -1,33 +1,36 @@
 // Copy, cut and paste through the grid's row buffer.
 #include "grid/GridStructure.h"
 #include "grid/RowWatch.h"
-#include "grid/SelectedIndices.h"
-#include "grid/TGGrid.h"
 
 #include <algorithm>
+#include <memory>
 #include <vector>
 
 namespace QuorUiCtr
 {
 
-// The steps of copying, cutting and pasting rows.
+// The steps of copying, cutting and pasting rows. What moves rows runs no hooks: these run before and after.
 class TGGrid::RowBuffer
 {
 public:
     explicit RowBuffer(TGGrid& servedGrid) : grid(servedGrid) {}
 
     TGGridRow* CopyOfRow(TGGridRow& row);
-    void FoldSelectedRows();
-    void ClipRow(long i);
-    void ClipPlainRow(long i);
-    void ClipTreeRow(long i);
-    std::vector<TGGridRow*> TakeAll();
-    void AppendPasted();
-    void InsertPasted(long row);
+    // Folds the selected rows, empties the selection and runs the hooks of the removal, with `moreTellings`
+    // of the changed selection behind them; returns the rows to cut, in grid order.
+    std::vector<TGGridRow*> BeginCut(long moreTellings);
+    // Moves rows of the grid to the empty row buffer, tree rows as copies that take over the host data.
+    void Fill(std::span<TGGridRow* const> cut);
+    // Moves the row buffer in front of `row`, or below `parent` in front of its child at `position`.
+    void PlaceAll(long row);
     void InsertAsChildren(TGGridTreeRow& parent, long position);
     void SelectPasted(long first, long number);
+    std::vector<TGGridRow*> TakeAll();
 
 private:
+    void FoldSelectedRows();
+    std::unique_ptr<TGGridTreeRow> AsTreeRow(TGGridRow* row);
+
     TGGrid& grid;
 };
 
@@ -76,67 +79,49 @@ bool TGGrid::DoClip()
 void TGGrid::ClipSelect()
 {
     rowPaste.Clear();
-    TGGridUpdate update(*this);
-    RowBuffer(*this).FoldSelectedRows();
-    const std::vector<long> cut(rowSel.begin(), rowSel.end());
-    ClearSel();
-    // From the last to the first, each put in front: the buffer ends in the rows' former order.
-    for (auto i = cut.rbegin(); i != cut.rend(); ++i)
-        if (IsValidRow(*i))
-            RowBuffer(*this).ClipRow(*i);
+    const TGGridUpdate update(*this);
+    const std::vector<TGGridRow*> cut = RowBuffer(*this).BeginCut(0);
+    rowPaste.Clear();
+    RowBuffer(*this).Fill(cut);
 }
 
-// Folding takes rows out of the list and entries behind them change, so the rows are remembered first.
+std::vector<TGGridRow*> TGGrid::RowBuffer::BeginCut(long moreTellings)
+{
+    FoldSelectedRows();
+    const std::vector<long> indices(grid.rowSel.begin(), grid.rowSel.end());
+    grid.ClearSel();
+    // A plain row tells twice: when it enters the buffer and when its slot goes.
+    const long tellings = static_cast<long>(indices.size()) * (grid.IsTreeGrid() ? 1 : 2);
+    return Structure(grid).AnnounceRemoval(indices, tellings + moreTellings);
+}
+
+// Folding takes entries behind the folded row out of the selection, so that each entry is looked up anew.
 void TGGrid::RowBuffer::FoldSelectedRows()
 {
-    std::vector<TGGridRow*> selected;
-    for (long i : grid.rowSel)
-        selected.push_back(&grid.GetRow(i));
-    for (TGGridRow* row : selected)
-        if (row->GetIndex() >= 0 && row->IsParentRow())
-            static_cast<TGGridTreeRow*>(row)->Fold();
-}
-
-void TGGrid::RowBuffer::ClipRow(long i)
-{
-    if (grid.GetRow(i).IsTreeRow())
-        ClipTreeRow(i);
-    else
-        ClipPlainRow(i);
-}
-
-// The row itself moves to the buffer; its emptied slot is deleted. Meanwhile it stands in both lists, and the
-// hook may delete it through either.
-void TGGrid::RowBuffer::ClipPlainRow(long i)
-{
-    TGGridRow* row = &grid.GetRow(i);
-    const RowWatch watch(grid, row);
-    grid.rowPaste.Insert(0, row);
-    grid.OnCurChanged();
-    if (watch.IsAlive())
-        i = row->GetIndex();
-    else if (const long dead = grid.rowPaste.Find(row); dead != -1)
-        grid.rowPaste.Detach(dead);
-    if (!grid.rows.MoveTo(i) || grid.rows.Cur() != row)
-        return;
-    grid.rows.SetCur(nullptr);
-    grid.DelRow(i);
-}
-
-// A copy with the offspring moves to the buffer; the row itself is deleted.
-void TGGrid::RowBuffer::ClipTreeRow(long i)
-{
-    TGGridTreeRow& source = grid.GetTreeRow(i);
-    TGGridTreeRow* copy = new TGGridTreeRow(grid);
-    *copy << source;
-    grid.rowPaste.Insert(0, copy);
-    if (source.IsChildRow())
-        source.GetParent().DelChild(source.GetParent().GetChildIndex(&source));
-    else
+    for (long k = 0; k < grid.GetRowSelNum(); ++k)
     {
-        source.Fold();
-        grid.DelRow(i);
+        TGGridRow* row = grid.RowAt(grid.rowSel[k]);
+        if (row != nullptr && row->IsParentRow())
+            static_cast<TGGridTreeRow*>(row)->Fold();
     }
+}
+
+void TGGrid::RowBuffer::Fill(std::span<TGGridRow* const> cut)
+{
+    Structure(grid).TakeOut(cut);
+    for (TGGridRow* row : cut)
+    {
+        TGGridRow* buffered = row;
+        if (row->IsTreeRow())
+        {
+            auto copy = std::make_unique<TGGridTreeRow>(grid);
+            *copy << static_cast<TGGridTreeRow&>(*row);
+            delete row;
+            buffered = copy.release();
+        }
+        grid.rowPaste.Append(buffered);
+    }
+    grid.RecalcLayout(1);
 }
 
 bool TGGrid::DoPaste()
@@ -156,20 +141,16 @@ void TGGrid::Paste(long row)
 {
     UnSelect();
     const long count = rowPaste.GetNum();
-    {
-        const TGGridUpdate update(*this);
-        if (row >= GetRowNum())
-            RowBuffer(*this).AppendPasted();
-        else
-            RowBuffer(*this).InsertPasted(row);
-    }
+    EndEditCell();
+    RowBuffer(*this).PlaceAll(row);
     RowBuffer(*this).SelectPasted(row, count);
 }
 
 // Scrolls to the first row and from there to the last one, as selecting all in turn would.
 void TGGrid::RowBuffer::SelectPasted(long first, long number)
 {
-    grid.SelectRow(first, true);
+    if (number > 0)
+        grid.SelectRow(first, true);
     const TGGridUpdate update(grid);
     for (long i = first + 1; i < first + number; ++i)
         grid.SelectRow(i, true);
@@ -183,40 +164,43 @@ std::vector<TGGridRow*> TGGrid::RowBuffer::TakeAll()
     return taken;
 }
 
-// Last to first, which turns their order around.
-void TGGrid::RowBuffer::AppendPasted()
+// All at once, because each insertion numbers the rows behind it. At the end the rows are appended last to
+// first, which turns their order around.
+void TGGrid::RowBuffer::PlaceAll(long row)
 {
-    const std::vector<TGGridRow*> pasted = TakeAll();
-    for (auto row = pasted.rbegin(); row != pasted.rend(); ++row)
-        grid.AppendRow(*row);
-}
-
-// All at once, because each insertion numbers the rows behind it.
-void TGGrid::RowBuffer::InsertPasted(long row)
-{
-    grid.EndEditCell();
-    if (!grid.IsValidRow(row))
+    TGGridRow* follower = grid.RowAt(row);
+    if (follower != nullptr && follower->IsChildRow())
     {
-        AppendPasted();
-    }
-    else if (grid.GetRow(row).IsChildRow())
-    {
-        TGGridTreeRow& sibling = grid.GetTreeRow(row);
+        TGGridTreeRow& sibling = static_cast<TGGridTreeRow&>(*follower);
         InsertAsChildren(sibling.GetParent(), sibling.GetParent().GetChildIndex(&sibling));
+        return;
     }
-    else
-    {
-        Structure(grid).InsertRows(row, TakeAll());
-        grid.RecalcLayout(1);
-    }
+    std::vector<TGGridRow*> pasted = TakeAll();
+    if (row >= grid.GetRowNum())
+        std::reverse(pasted.begin(), pasted.end());
+    Structure(grid).InsertRows(std::clamp(row, 0L, grid.GetRowNum()), pasted);
+    grid.RecalcLayout(1);
 }
 
 void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
 {
     TGGridTreeRow::OwnedRows pasted;
     for (TGGridRow* row : TakeAll())
-        pasted.emplace_back(static_cast<TGGridTreeRow*>(row));
+        if (row != nullptr)
+            pasted.push_back(AsTreeRow(row));
     parent.InsertChildren(position, pasted);
+}
+
+// Only tree rows can be children: a plain one hands its texts and its host data to one.
+std::unique_ptr<TGGridTreeRow> TGGrid::RowBuffer::AsTreeRow(TGGridRow* row)
+{
+    if (row->IsTreeRow())
+        return std::unique_ptr<TGGridTreeRow>(static_cast<TGGridTreeRow*>(row));
+    const std::unique_ptr<TGGridRow> plain(row);
+    auto treeRow = std::make_unique<TGGridTreeRow>(grid);
+    static_cast<TGGridRow&>(*treeRow) = *plain;
+    treeRow->SetExtendData(plain->ReleaseExtendData());
+    return treeRow;
 }
 
 bool TGGrid::DoPasteChild()
@@ -249,20 +233,21 @@ bool TGGrid::DoPasteChild()
 // The rows travel through the row buffer, whose content is kept aside meanwhile.
 void TGGrid::MoveSelectedRows(long to)
 {
-    const long above = SelectedIndices::LowerBound(rowSel, to);
-    PDList<TGGridRow> kept;
-    const auto moveAll = [](PDList<TGGridRow>& source, PDList<TGGridRow>& target) {
-        while (!source.IsEmpty())
-            target.Append(source.Detach(0));
-    };
-    moveAll(rowPaste, kept);
+    long target = 0;
+    long number = 0;
     {
-        TGGridUpdate update(*this);
-        ClipSelect();
-        Paste(std::clamp(to - above, 0L, GetRowNum()));
+        const TGGridUpdate update(*this);
+        const std::vector<TGGridRow*> cut = RowBuffer(*this).BeginCut(1);
+        const auto isAbove = [to](const TGGridRow* row) { return row->GetIndex() < to; };
+        target = to - static_cast<long>(std::count_if(cut.begin(), cut.end(), isAbove));
+        const std::vector<TGGridRow*> kept = RowBuffer(*this).TakeAll();
+        RowBuffer(*this).Fill(cut);
+        target = std::clamp(target, 0L, GetRowNum());
+        number = rowPaste.GetNum();
+        RowBuffer(*this).PlaceAll(target);
+        rowPaste.SpliceInsert(0, kept);
     }
-    rowPaste.Clear();
-    moveAll(kept, rowPaste);
+    RowBuffer(*this).SelectPasted(target, number);
 }
 
 } // namespace QuorUiCtr

@@ -22,10 +22,10 @@ public:
     explicit TGRowSelector(TGGrid& grid);
     ~TGRowSelector() override;
 
-    // Inverts the drop mark of a running drag, or its part in `drawn` (logical coordinates), on the grid's
-    // drawing context; called when the grid has drawn what the mark stands on.
-    void InvertDropMark();
-    void InvertDropMark(const CRect& drawn);
+    // Shows the drop mark of a running drag again, on the grid's drawing context, after the grid has drawn its
+    // cells, or what stands in `drawn` (logical coordinates).
+    void RestoreDropMark();
+    void RestoreDropMark(const CRect& drawn);
 
     // The grid's current row changed: moves the icon from the marked row to the current one, drawing at once.
     void OnCurRowChanged();
@@ -64,6 +64,7 @@ private:
     bool ScrollAtEdge(CPoint point);
     void DragTo(long row);
     CRect DropMarkRect() const;
+    void InvertDropMark();
     void MoveDropMark(long y);
     void Drop(long to);
     void CancelDrag();

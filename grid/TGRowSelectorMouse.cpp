@@ -192,10 +192,16 @@ CRect TGRowSelector::DropMarkRect() const
 
 void TGRowSelector::InvertDropMark()
 {
-    InvertDropMark(DropMarkRect());
+    RestoreDropMark(DropMarkRect());
 }
 
-void TGRowSelector::InvertDropMark(const CRect& drawn)
+void TGRowSelector::RestoreDropMark()
+{
+    grid->ClearOutsideCells(DropMarkRect());
+    InvertDropMark();
+}
+
+void TGRowSelector::RestoreDropMark(const CRect& drawn)
 {
     CRect part;
     CDC* context = grid->GetDC();

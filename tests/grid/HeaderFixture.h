@@ -30,11 +30,11 @@ protected:
     // The middle of a box, in the header window's client coordinates.
     static CPoint RowBox(CommandGrid& grid, long row)
     {
-        return CPoint(10, row * rowHeight + rowHeight / 2 - grid.VScroll());
+        return CPoint(10, grid.UpCorner().y - rowHeight + row * rowHeight + rowHeight / 2);
     }
     static CPoint ColBox(CommandGrid& grid, long col)
     {
-        return CPoint(col * colWidth + colWidth / 2 - grid.HScroll(), 10);
+        return CPoint(grid.UpCorner().x - rowHeight + col * colWidth + colWidth / 2, 10);
     }
 
     static void Press(CWnd& header, CPoint point) { SendMouse(header, WM_LBUTTONDOWN, point, MK_LBUTTON); }
@@ -64,7 +64,7 @@ protected:
     }
 
     // Whether the picture of the grid is what painting all of it anew would give.
-    static bool ShowsNoTrace(CommandGrid& grid)
+    static testing::AssertionResult ShowsNoTrace(CommandGrid& grid)
     {
         const Snapshot before(grid);
         grid.Invalidate(1);
@@ -72,8 +72,8 @@ protected:
         for (int y = 0; y < before.Height(); ++y)
             for (int x = 0; x < before.Width(); ++x)
                 if (before.At(x, y) != fresh.At(x, y))
-                    return false;
-        return true;
+                    return testing::AssertionFailure() << "trace at " << x << "," << y;
+        return testing::AssertionSuccess();
     }
     // Whether an inverted bar stands at the upper edge of a row: the pixels of its empty cell in the third
     // column are black there and white below.

@@ -1,6 +1,8 @@
 // The key map: each key with an editor open and without, as a table; and what keys pass on the way to it.
 #include "tests/grid/HeaderFixture.h"
 
+#include <ostream>
+
 using namespace QuorUiCtr;
 
 namespace quor::test
@@ -30,6 +32,11 @@ struct KeyCase
     // "hooks / rows / cols / edit" after the key.
     const char* expected;
 };
+
+void PrintTo(const KeyCase& test, std::ostream* out)
+{
+    *out << test.name;
+}
 
 constexpr int FixedRows = 0x0002;
 constexpr int NoSort = 0x0020;
@@ -128,7 +135,7 @@ const KeyCase keyCases[] = {
     {"ControlInsertInATree", VK_INSERT, true, Tree({1}),
      "insert row? 1 | inserted row 1 | changed / a *() b c / A B C / -"},
     {"DeleteRows", VK_DELETE, false, Rows({0, 2}), "delete row? | deleted row | changed / b / A B C / -"},
-    {"DeleteColumns", VK_DELETE, false, Cols({0}), "delete col? | deleted col | changed /    / B C / -"},
+    {"DeleteColumns", VK_DELETE, false, Cols({0}), "delete col? | deleted col | changed /  / B C / -"},
     {"DeleteNothing", VK_DELETE, false, Rows({}), " / a b c / A B C / -"},
     {"SelectAll", 'A', false, Rows({}), " / a* b* c* / A B C / -"},
     {"SelectAllWithSingleSelection", 'A', false, Rows({}, SingleSel), " / a b c / A B C / -"},

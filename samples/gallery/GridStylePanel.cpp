@@ -16,27 +16,43 @@ struct StyleSwitch
 {
     UINT control;
     const wchar_t* name;
-    bool (TGGrid::*isOn)() const;
-    void (TGGrid::*set)(bool);
+    bool (*isOn)(const TGGrid&);
+    void (*set)(TGGrid&, bool);
 };
 
 constexpr StyleSwitch Switches[] = {
-    {IDC_STYLE_READ_ONLY, L"SetReadOnly", &TGGrid::IsReadOnly, &TGGrid::SetReadOnly},
-    {IDC_STYLE_ROW_FIX_LENGTH, L"SetRowFixLength", &TGGrid::IsRowFixLength, &TGGrid::SetRowFixLength},
-    {IDC_STYLE_COL_FIX_LENGTH, L"SetColFixLength", &TGGrid::IsColFixLength, &TGGrid::SetColFixLength},
-    {IDC_STYLE_ROW_POS_FIX, L"SetRowPosFix", &TGGrid::IsRowPosFix, &TGGrid::SetRowPosFix},
-    {IDC_STYLE_COL_POS_FIX, L"SetColPosFix", &TGGrid::IsColPosFix, &TGGrid::SetColPosFix},
-    {IDC_STYLE_COL_FIX_WIDTH, L"SetColFixWidth", &TGGrid::IsColFixWidth, &TGGrid::SetColFixWidth},
-    {IDC_STYLE_SINGLE_ROW, L"SetSingleSelRow", &TGGrid::IsSingleSelRow, &TGGrid::SetSingleSelRow},
-    {IDC_STYLE_NO_APPEND, L"SetNoAppendButton", &TGGrid::IsNoAppendButton, &TGGrid::SetNoAppendButton},
-    {IDC_STYLE_NO_PASTE, L"SetNoPaste", &TGGrid::IsNoPaste, &TGGrid::SetNoPaste},
-    {IDC_STYLE_NO_MENU, L"SetNoDefaultMenu", &TGGrid::IsNoDefaultMenu, &TGGrid::SetNoDefaultMenu},
-    {IDC_STYLE_SORT, L"SetSortEnable", &TGGrid::IsSortEnable, &TGGrid::SetSortEnable},
-    {IDC_STYLE_LABEL_SORT, L"SetLabelSort", &TGGrid::IsLabelSort, &TGGrid::SetLabelSort},
-    {IDC_STYLE_FLAT, L"SetFlatButton", &TGGrid::IsFlatButton, &TGGrid::SetFlatButton},
-    {IDC_STYLE_TREE_LINE, L"SetTreeLine", &TGGrid::IsNeedTreeLine, &TGGrid::SetTreeLine},
-    {IDC_STYLE_ROW_HEADER, L"SetRowSel", &TGGrid::IsRowSel, &TGGrid::SetRowSel},
-    {IDC_STYLE_COL_HEADER, L"SetColSel", &TGGrid::IsColSel, &TGGrid::SetColSel},
+    {IDC_STYLE_READ_ONLY, L"SetReadOnly", [](const TGGrid& grid) { return grid.IsReadOnly(); },
+     [](TGGrid& grid, bool on) { grid.SetReadOnly(on); }},
+    {IDC_STYLE_ROW_FIX_LENGTH, L"SetRowFixLength", [](const TGGrid& grid) { return grid.IsRowFixLength(); },
+     [](TGGrid& grid, bool on) { grid.SetRowFixLength(on); }},
+    {IDC_STYLE_COL_FIX_LENGTH, L"SetColFixLength", [](const TGGrid& grid) { return grid.IsColFixLength(); },
+     [](TGGrid& grid, bool on) { grid.SetColFixLength(on); }},
+    {IDC_STYLE_ROW_POS_FIX, L"SetRowPosFix", [](const TGGrid& grid) { return grid.IsRowPosFix(); },
+     [](TGGrid& grid, bool on) { grid.SetRowPosFix(on); }},
+    {IDC_STYLE_COL_POS_FIX, L"SetColPosFix", [](const TGGrid& grid) { return grid.IsColPosFix(); },
+     [](TGGrid& grid, bool on) { grid.SetColPosFix(on); }},
+    {IDC_STYLE_COL_FIX_WIDTH, L"SetColFixWidth", [](const TGGrid& grid) { return grid.IsColFixWidth(); },
+     [](TGGrid& grid, bool on) { grid.SetColFixWidth(on); }},
+    {IDC_STYLE_SINGLE_ROW, L"SetSingleSelRow", [](const TGGrid& grid) { return grid.IsSingleSelRow(); },
+     [](TGGrid& grid, bool on) { grid.SetSingleSelRow(on); }},
+    {IDC_STYLE_NO_APPEND, L"SetNoAppendButton", [](const TGGrid& grid) { return grid.IsNoAppendButton(); },
+     [](TGGrid& grid, bool on) { grid.SetNoAppendButton(on); }},
+    {IDC_STYLE_NO_PASTE, L"SetNoPaste", [](const TGGrid& grid) { return grid.IsNoPaste(); },
+     [](TGGrid& grid, bool on) { grid.SetNoPaste(on); }},
+    {IDC_STYLE_NO_MENU, L"SetNoDefaultMenu", [](const TGGrid& grid) { return grid.IsNoDefaultMenu(); },
+     [](TGGrid& grid, bool on) { grid.SetNoDefaultMenu(on); }},
+    {IDC_STYLE_SORT, L"SetSortEnable", [](const TGGrid& grid) { return grid.IsSortEnable(); },
+     [](TGGrid& grid, bool on) { grid.SetSortEnable(on); }},
+    {IDC_STYLE_LABEL_SORT, L"SetLabelSort", [](const TGGrid& grid) { return grid.IsLabelSort(); },
+     [](TGGrid& grid, bool on) { grid.SetLabelSort(on); }},
+    {IDC_STYLE_FLAT, L"SetFlatButton", [](const TGGrid& grid) { return grid.IsFlatButton(); },
+     [](TGGrid& grid, bool on) { grid.SetFlatButton(on); }},
+    {IDC_STYLE_TREE_LINE, L"SetTreeLine", [](const TGGrid& grid) { return grid.IsNeedTreeLine(); },
+     [](TGGrid& grid, bool on) { grid.SetTreeLine(on); }},
+    {IDC_STYLE_ROW_HEADER, L"SetRowSel", [](const TGGrid& grid) { return grid.IsRowSel(); },
+     [](TGGrid& grid, bool on) { grid.SetRowSel(on); }},
+    {IDC_STYLE_COL_HEADER, L"SetColSel", [](const TGGrid& grid) { return grid.IsColSel(); },
+     [](TGGrid& grid, bool on) { grid.SetColSel(on); }},
 };
 
 constexpr const wchar_t* Keys = L"方向键 Tab Enter Esc 编辑与移动\n"
@@ -60,7 +76,7 @@ BOOL GridStylePanel::OnInitDialog()
 {
     CDialog::OnInitDialog();
     for (const StyleSwitch& entry : Switches)
-        CheckDlgButton(static_cast<int>(entry.control), (grid.*entry.isOn)() ? BST_CHECKED : BST_UNCHECKED);
+        CheckDlgButton(static_cast<int>(entry.control), entry.isOn(grid) ? BST_CHECKED : BST_UNCHECKED);
     SetDlgItemText(IDC_STYLE_KEYS, Keys);
     return TRUE;
 }
@@ -84,7 +100,7 @@ BOOL GridStylePanel::OnCommand(WPARAM wParam, LPARAM lParam)
     if (HIWORD(wParam) != BN_CLICKED || found == std::end(Switches))
         return CDialog::OnCommand(wParam, lParam);
     const bool on = IsDlgButtonChecked(static_cast<int>(found->control)) != 0;
-    (grid.*found->set)(on);
+    found->set(grid, on);
     grid.RecalcLayout(1);
     CString line;
     line.Format(L"%s(%s)  style 0x%04X", found->name, on ? L"true" : L"false",

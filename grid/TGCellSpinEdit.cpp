@@ -54,8 +54,13 @@ bool TGCellSpinEdit::FollowText(const CString& text)
 void TGCellSpinEdit::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
     TGCellEdit::OnVScroll(code, position, bar);
+    // The position travels in 16 bits, as a signed number only where the range has negative ones.
+    int lower = 0;
+    int upper = 0;
+    spin.GetRange32(lower, upper);
+    const WORD bits = LOWORD(position);
     CString text;
-    text.Format(L"%d", static_cast<int>(position));
+    text.Format(L"%d", lower < 0 ? static_cast<short>(bits) : static_cast<int>(bits));
     SetNewText(text);
     SetModified(true);
     SelectAllText();

@@ -3,6 +3,7 @@
 
 #include "grid/CellEditorLife.h"
 #include "grid/CellWatch.h"
+#include "grid/RowWatch.h"
 #include "grid/TGCellButtonEdit.h"
 #include "grid/TGCellCombo.h"
 #include "grid/TGCellCtrlIds.h"
@@ -168,8 +169,15 @@ void TGGrid::EditSession::AcceptNewRow()
 // rows. Returns null when the hook refuses.
 TGGridRow* TGGrid::EditSession::AppendNewRow()
 {
-    TGGridRow* accepted = grid.newRow;
-    if (!grid.OnBeforeInsertRow(grid.GetRowNum(), accepted) || !accepted)
+    TGGridRow* const pending = grid.newRow;
+    const RowWatch watch(grid, pending);
+    TGGridRow* accepted = pending;
+    if (!grid.OnBeforeInsertRow(grid.GetRowNum(), accepted))
+        return nullptr;
+    // A hook that changes the grid may have had the line made anew.
+    if (accepted == pending && !watch.IsAlive())
+        accepted = grid.newRow;
+    if (!accepted)
         return nullptr;
     if (accepted == grid.newRow)
         grid.newRow = nullptr;

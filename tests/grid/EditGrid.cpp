@@ -2,6 +2,7 @@
 #include "EditGrid.h"
 
 #include "ModelGrid.h"
+#include "grid/TGActiveQuad.h"
 
 namespace quor::test
 {
@@ -27,12 +28,25 @@ void EditGrid::Enter(const wchar_t* text)
     editor->SetModified(true);
 }
 
+bool EditGrid::ShowsFocus()
+{
+    return static_cast<QuorUiCtr::TGActiveQuad*>(GetDlgItem(102))->IsActive();
+}
+
 std::string EditGrid::TakeText()
 {
     std::string joined;
     for (const std::string& line : TakeLog())
         joined += (joined.empty() ? "" : " | ") + line;
     return joined;
+}
+
+std::string EditGrid::TakeEditText()
+{
+    std::erase_if(log, [](const std::string& line) {
+        return line.starts_with("row ") || line.starts_with("cell ") || line.starts_with("colours ");
+    });
+    return TakeText();
 }
 
 bool EditGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
@@ -93,6 +107,17 @@ void EditGrid::OnCmbSelchange(TGGridCell& cell, CComboBox* combo)
     WindowGrid::OnCmbSelchange(cell, combo);
 }
 
+void EditGrid::OnCmbEditchange(TGGridCell& cell, CComboBox* combo)
+{
+    Note("editchange", cell);
+    WindowGrid::OnCmbEditchange(cell, combo);
+}
+
+bool EditGrid::OnCellButtonTip(long row, long col, CString& text) const
+{
+    return buttonTip ? buttonTip(row, col, text) : WindowGrid::OnCellButtonTip(row, col, text);
+}
+
 bool EditGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
 {
     Note("button", cell, text);
@@ -111,6 +136,13 @@ void EditGrid::OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin)
     Note("spin", cell);
     if (spinInit)
         spinInit(cell, spin);
+}
+
+void EditTest::Make(EditGrid& grid, long rows, long cols)
+{
+    Create(grid);
+    Fill(grid, rows, cols);
+    grid.recording = true;
 }
 
 } // namespace quor::test

@@ -10,16 +10,8 @@ namespace quor::test
 namespace
 {
 
-class EditSessionTest : public GridWindowTest
+class EditSessionTest : public EditTest
 {
-protected:
-    void Make(EditGrid& grid, long rows = 3, long cols = 3)
-    {
-        Create(grid);
-        Fill(grid, rows, cols);
-        grid.recording = true;
-    }
-    static CString TextOf(EditGrid& grid, long row, long col) { return grid.GetCell(row, col).GetText(); }
 };
 
 TEST_F(EditSessionTest, BeginEdit_RunsTheHooksInTheirOrder)
@@ -109,8 +101,7 @@ TEST_F(EditSessionTest, OnModified_MayChangeOrRefuseTheText)
 {
     EditGrid grid;
     Make(grid);
-    grid.modifiedText = [](TGGridCell&, CString& text)
-    {
+    grid.modifiedText = [](TGGridCell&, CString& text) {
         text += L"!";
         return true;
     };
@@ -149,7 +140,8 @@ TEST_F(EditSessionTest, TheNewRowLine_BecomesOneRowThatHoldsTheText)
     grid.Enter(L"fresh");
     grid.TakeText();
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeText(), "modified 3,1 fresh | insert? 3 | inserted 3 | cell 3,1 | colours 3,1 | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "modified 3,1 fresh | insert? 3 | inserted 3 | cell 3,1 | colours 3,1 | changed");
     ASSERT_EQ(grid.GetRowNum(), 4);
     EXPECT_EQ(TextOf(grid, 3, 1), L"fresh");
     EXPECT_EQ(grid.GetRow(3).GetIndex(), 3);
@@ -188,8 +180,7 @@ TEST_F(EditSessionTest, TheHookMaySupplyTheNewRow)
 {
     EditGrid grid;
     Make(grid);
-    grid.beforeInsertRow = [&](long, TGGridRow*& row)
-    {
+    grid.beforeInsertRow = [&](long, TGGridRow*& row) {
         row = new TGGridRow(grid);
         (*row)[0].SetText(L"supplied");
         return true;
@@ -206,8 +197,7 @@ TEST_F(EditSessionTest, CommitNewRow_AddsTheNewRowWithoutAnEditor)
 {
     EditGrid grid;
     Make(grid);
-    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow)
-    {
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow) {
         commitNewRow = true;
         return false;
     };
@@ -221,14 +211,157 @@ TEST_F(EditSessionTest, CommitNewRow_OnAnOrdinaryRow_DoesNothing)
 {
     EditGrid grid;
     Make(grid);
-    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow)
-    {
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow) {
         commitNewRow = true;
         return false;
     };
     grid.BeginEditCell(1, 0);
     EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,0");
     EXPECT_EQ(grid.GetRowNum(), 3);
+}
+
+TEST_F(EditSessionTest, CommitNewRow_RefusedByOnBeforeInsertRow_LeavesAFreshLine)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow) {
+        EXPECT_FALSE(commitNewRow);
+        commitNewRow = true;
+        return false;
+    };
+    grid.beforeInsertRow = [](long, TGGridRow*& row) {
+        (*row)[0].SetText(L"dropped");
+        return false;
+    };
+    grid.BeginEditCell(3, 0);
+    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 3,0 | insert? 3");
+    EXPECT_EQ(grid.GetRowNum(), 3);
+    grid.beforeEdit = nullptr;
+    grid.BeginEditCell(3, 0);
+    EXPECT_TRUE(grid.editor->GetCell().GetText().IsEmpty());
+}
+
+TEST_F(EditSessionTest, CommitNewRow_CountsOnlyWhenTheHookRefusesTheEdit)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow) {
+        commitNewRow = true;
+        return true;
+    };
+    grid.BeginEditCell(3, 0);
+    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_EQ(grid.GetRowNum(), 3);
+    grid.EndEditCell();
+    EXPECT_EQ(grid.GetRowNum(), 3);
+}
+
+TEST_F(EditSessionTest, CommitNewRow_SurvivesAHookThatLaysOutAnew)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeEdit = [](TGGridCell&, bool& commitNewRow) {
+        commitNewRow = true;
+        return false;
+    };
+    // The insertion makes the new-row line anew.
+    grid.beforeInsertRow = [&](long, TGGridRow*&) {
+        grid.InsertRow(0, nullptr);
+        return true;
+    };
+    grid.BeginEditCell(3, 0);
+    EXPECT_EQ(grid.GetRowNum(), 5);
+    for (long row = 0; row < 5; ++row)
+        EXPECT_EQ(grid.GetRow(row).GetIndex(), row);
+}
+
+TEST_F(EditSessionTest, OnBeforeEditRefusing_HasClearedTheSelectionAndCommittedThePreviousEdit)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(0, 0);
+    grid.Enter(L"typed");
+    grid.beforeEdit = [](TGGridCell&, bool&) { return false; };
+    grid.TakeText();
+    grid.BeginEditCell(1, 1);
+    EXPECT_EQ(grid.TakeEditText(), "cur 0,0 | modified 0,0 typed | changed | before 1,1");
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(TextOf(grid, 0, 0), L"typed");
+}
+
+TEST_F(EditSessionTest, EditorsOfEveryKind_AreFilledBetweenTheirMakingAndOnCurChanged)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.GetCol(0).SetComboSel(true);
+    grid.GetCol(1).SetRightSpin(true);
+    grid.GetCol(2).SetRightButton(true);
+    grid.BeginEditCell(0, 0);
+    EXPECT_EQ(grid.TakeEditText(), "cur -1,-1 | before 0,0 | editor 0,0 | strings 0,0 | cur 0,0");
+    grid.BeginEditCell(0, 1);
+    EXPECT_EQ(grid.TakeEditText(), "cur 0,0 | before 0,1 | editor 0,1 | spin 0,1 | cur 0,1");
+    grid.BeginEditCell(0, 2);
+    EXPECT_EQ(grid.TakeEditText(), "cur 0,1 | before 0,2 | editor 0,2 | cur 0,2");
+}
+
+TEST_F(EditSessionTest, EndInsideACommit_HasNoEffect)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.modifiedText = [&](TGGridCell&, CString&) {
+        grid.EndEditCell();
+        EXPECT_TRUE(grid.IsEditing());
+        return true;
+    };
+    grid.dataChanged = [&] { grid.EndEditCell(); };
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"once");
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(grid.TakeEditText(), "modified 1,1 once | changed");
+    EXPECT_FALSE(grid.IsEditing());
+    // The guard is lifted again.
+    grid.BeginEditCell(1, 2);
+    grid.Enter(L"again");
+    grid.EndEditCell();
+    EXPECT_EQ(TextOf(grid, 1, 2), L"again");
+}
+
+TEST_F(EditSessionTest, CellsThatAreNotThere_AreNotEdited)
+{
+    EditGrid grid;
+    Make(grid);
+    for (const auto& [row, col] : {std::pair(-1L, 0L), {0L, -1L}, {4L, 0L}, {0L, 3L}, {3L, 3L}})
+    {
+        grid.BeginEditCell(row, col);
+        EXPECT_FALSE(grid.IsEditing()) << row << "," << col;
+    }
+    EXPECT_EQ(grid.TakeEditText().find("before"), std::string::npos);
+}
+
+TEST_F(EditSessionTest, WithoutAWindow_NothingHappens)
+{
+    EditGrid grid;
+    grid.AppendCol(L"", 0);
+    grid.AppendRow(nullptr);
+    grid.recording = true;
+    grid.BeginEditCell(0, 0);
+    grid.EndEditCell();
+    grid.CancelEditCell();
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(grid.TakeText(), "");
+}
+
+TEST_F(EditSessionTest, NewRowLineOfATree_BecomesATreeRow)
+{
+    EditGrid grid(true);
+    Make(grid);
+    grid.BeginEditCell(3, 1);
+    grid.Enter(L"fresh");
+    grid.EndEditCell();
+    ASSERT_EQ(grid.GetRowNum(), 4);
+    EXPECT_TRUE(grid.GetRow(3).IsTreeRow());
+    EXPECT_TRUE(grid.GetTreeRow(3).IsRootRow());
 }
 
 TEST_F(EditSessionTest, WithoutAnEditor_TheGridStaysIdle)
@@ -295,6 +428,28 @@ TEST_F(EditSessionTest, AutoClose_CommitsWhenTheTimerFires)
     grid.AutoCloseCell(10);
     ASSERT_TRUE(PumpUntil([&] { return !grid.IsEditing(); }));
     EXPECT_EQ(TextOf(grid, 1, 1), L"late");
+}
+
+TEST_F(EditSessionTest, AutoClose_WithNoSession_DoesNothing)
+{
+    EditGrid grid;
+    Make(grid);
+    PumpPending();
+    grid.TakeText();
+    grid.AutoCloseCell(1);
+    PumpPending();
+    EXPECT_EQ(grid.TakeEditText(), "");
+}
+
+TEST_F(EditSessionTest, AutoEdit_OfACellThatIsDeletedMeanwhile_OpensNothing)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.AutoEditCell(&grid.GetCell(1, 1));
+    grid.DelRow(1);
+    EXPECT_FALSE(grid.IsCellLocking());
+    PumpPending();
+    EXPECT_FALSE(grid.IsEditing());
 }
 
 TEST_F(EditSessionTest, EditorsOfFinishedSessions_AreDestroyed)

@@ -1,0 +1,273 @@
+// A grid whose hooks do to it what they should rather not.
+#include "HostileGrid.h"
+
+namespace quor::test
+{
+
+using namespace QuorUiCtr;
+
+void HostileGrid::Arm(const std::string& hook, std::function<void()> action)
+{
+    armedHook = hook;
+    armedAction = std::move(action);
+    strikes = 0;
+}
+
+void HostileGrid::Disarm()
+{
+    armedHook.clear();
+    armedAction = nullptr;
+}
+
+void HostileGrid::Strike(const char* hook) const
+{
+    if (striking || armedHook != hook)
+        return;
+    striking = true;
+    ++strikes;
+    armedAction();
+    striking = false;
+}
+
+bool HostileGrid::Tip(const char* hook, CString& text) const
+{
+    Strike(hook);
+    text = L"tip";
+    return true;
+}
+
+// ---- Hooks that observe: the action comes last, after what the default does
+// -------------------------------------
+
+void HostileGrid::OnDblClick(TGGridRow& row)
+{
+    WindowGrid::OnDblClick(row);
+    Strike("OnDblClick");
+}
+
+void HostileGrid::OnRClickCell(TGGridCell& cell, CPoint point)
+{
+    WindowGrid::OnRClickCell(cell, point);
+    Strike("OnRClickCell");
+}
+
+void HostileGrid::OnCellComboString(TGGridCell& cell, CComboBox& combo)
+{
+    WindowGrid::OnCellComboString(cell, combo);
+    Strike("OnCellComboString");
+}
+
+void HostileGrid::OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin)
+{
+    WindowGrid::OnCellSpinInit(cell, spin);
+    Strike("OnCellSpinInit");
+}
+
+void HostileGrid::OnDataChanged()
+{
+    WindowGrid::OnDataChanged();
+    Strike("OnDataChanged");
+}
+
+void HostileGrid::OnCurChanged()
+{
+    WindowGrid::OnCurChanged();
+    Strike("OnCurChanged");
+}
+
+void HostileGrid::OnCmbSelchange(TGGridCell& cell, CComboBox* combo)
+{
+    WindowGrid::OnCmbSelchange(cell, combo);
+    Strike("OnCmbSelchange");
+}
+
+void HostileGrid::OnCmbEditchange(TGGridCell& cell, CComboBox* combo)
+{
+    WindowGrid::OnCmbEditchange(cell, combo);
+    Strike("OnCmbEditchange");
+}
+
+void HostileGrid::OnBeforeRefresh(TGGridCell& cell)
+{
+    WindowGrid::OnBeforeRefresh(cell);
+    Strike("OnBeforeRefresh");
+}
+
+void HostileGrid::OnInsertCol(TGGridCol& col)
+{
+    WindowGrid::OnInsertCol(col);
+    Strike("OnInsertCol");
+}
+
+void HostileGrid::OnEndDeleteCol()
+{
+    WindowGrid::OnEndDeleteCol();
+    Strike("OnEndDeleteCol");
+}
+
+void HostileGrid::OnInsertRow(TGGridRow& row)
+{
+    WindowGrid::OnInsertRow(row);
+    Strike("OnInsertRow");
+}
+
+void HostileGrid::OnEndDeleteRow()
+{
+    WindowGrid::OnEndDeleteRow();
+    Strike("OnEndDeleteRow");
+}
+
+void HostileGrid::OnEndClip()
+{
+    WindowGrid::OnEndClip();
+    Strike("OnEndClip");
+}
+
+void HostileGrid::OnEndCopy()
+{
+    WindowGrid::OnEndCopy();
+    Strike("OnEndCopy");
+}
+
+void HostileGrid::OnEndPaste()
+{
+    WindowGrid::OnEndPaste();
+    Strike("OnEndPaste");
+}
+
+void HostileGrid::OnRClickRow(TGGridRow&, CPoint)
+{
+    Strike("OnRClickRow");
+}
+
+void HostileGrid::OnRClickCol(TGGridCol&, CPoint)
+{
+    Strike("OnRClickCol");
+}
+
+void HostileGrid::OnRClickQuad(CPoint)
+{
+    Strike("OnRClickQuad");
+}
+
+// ---- Hooks that answer: the action comes first, then the answer is to go on
+// -------------------------------------
+
+bool HostileGrid::OnBeforeEdit(TGGridCell&, bool&)
+{
+    Strike("OnBeforeEdit");
+    return true;
+}
+
+bool HostileGrid::OnModified(TGGridCell&, CString&)
+{
+    Strike("OnModified");
+    return true;
+}
+
+bool HostileGrid::OnRefresh(TGGridCell&)
+{
+    Strike("OnRefresh cell");
+    return true;
+}
+
+bool HostileGrid::OnRefresh(TGGridRow&)
+{
+    Strike("OnRefresh row");
+    return true;
+}
+
+bool HostileGrid::OnBeforeInsertCol(long, TGGridCol*&)
+{
+    Strike("OnBeforeInsertCol");
+    return true;
+}
+
+bool HostileGrid::OnBeforeDeleteCol()
+{
+    Strike("OnBeforeDeleteCol");
+    return true;
+}
+
+bool HostileGrid::OnBeforeInsertRow(long, TGGridRow*&)
+{
+    Strike("OnBeforeInsertRow");
+    return true;
+}
+
+bool HostileGrid::OnBeforeInsertChild(TGGridTreeRow&, long, TGGridTreeRow*&)
+{
+    Strike("OnBeforeInsertChild");
+    return true;
+}
+
+bool HostileGrid::OnBeforeDeleteRow()
+{
+    Strike("OnBeforeDeleteRow");
+    return true;
+}
+
+bool HostileGrid::OnBeforeClip()
+{
+    Strike("OnBeforeClip");
+    return true;
+}
+
+bool HostileGrid::OnBeforeCopy()
+{
+    Strike("OnBeforeCopy");
+    return true;
+}
+
+bool HostileGrid::OnBeforePaste(long)
+{
+    Strike("OnBeforePaste");
+    return true;
+}
+
+bool HostileGrid::OnBeforePasteChild(TGGridTreeRow&)
+{
+    Strike("OnBeforePasteChild");
+    return true;
+}
+
+bool HostileGrid::OnCellButtonDown(TGGridCell&, CString& text)
+{
+    Strike("OnCellButtonDown");
+    text = L"from the button";
+    return true;
+}
+
+TGCellCtrl* HostileGrid::OnGetCellEdit(TGGridCell& cell)
+{
+    TGCellCtrl* editor = WindowGrid::OnGetCellEdit(cell);
+    Strike("OnGetCellEdit");
+    return editor;
+}
+
+bool HostileGrid::OnCellTip(long, long, CString& text) const
+{
+    return Tip("OnCellTip", text);
+}
+
+bool HostileGrid::OnRowTip(long, CString& text) const
+{
+    return Tip("OnRowTip", text);
+}
+
+bool HostileGrid::OnColTip(long, CString& text) const
+{
+    return Tip("OnColTip", text);
+}
+
+bool HostileGrid::OnCellButtonTip(long, long, CString& text) const
+{
+    return Tip("OnCellButtonTip", text);
+}
+
+bool HostileGrid::OnActiveQuadTip(CString& text) const
+{
+    return Tip("OnActiveQuadTip", text);
+}
+
+} // namespace quor::test

@@ -4,6 +4,7 @@
 #include "grid/TGCellCtrl.h"
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace QuorUiCtr
@@ -14,6 +15,7 @@ namespace CellEditorLife
 struct Record
 {
     TGCellCtrl* editor;
+    TGCellCtrl** slot;
     HWND window = nullptr;
     int running = 0; // messages of the editor's windows being handled, plus its creation
     bool retired = false;
@@ -42,6 +44,14 @@ void DropRecord(Record* record)
 {
     Records().erase(std::find(Records().begin(), Records().end(), record));
     delete record;
+}
+
+// The window is gone, and the object with it soon: nobody finds the editor in its slot any more.
+void EmptySlot(Record* record)
+{
+    TGCellCtrl** slot = std::exchange(record->slot, nullptr);
+    if (slot && *slot == record->editor)
+        *slot = nullptr;
 }
 
 // Destroys the window of a retired editor, or the object itself when it never got one.
@@ -80,7 +90,11 @@ LRESULT CALLBACK WatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
     if (message == WM_NCDESTROY)
     {
         RemoveWindowSubclass(window, WatchProc, id);
-        record->windowGone = record->windowGone || window == record->window;
+        if (window == record->window)
+        {
+            record->windowGone = true;
+            EmptySlot(record);
+        }
     }
     --record->running;
     Settle(record);
@@ -122,7 +136,7 @@ void WatchWindows(Record* record)
 
 } // namespace
 
-Creation::Creation(TGCellCtrl* newEditor) : record(new Record{newEditor})
+Creation::Creation(TGCellCtrl*& slot) : record(new Record{slot, &slot})
 {
     Records().push_back(record);
     ++record->running;
@@ -132,9 +146,26 @@ Creation::~Creation()
 {
     // An editor that was deleted meanwhile asked for it through Delete.
     if (record->deleteWanted)
+    {
         record->windowGone = true;
+        EmptySlot(record);
+    }
     else
         WatchWindows(record);
+    --record->running;
+    Settle(record);
+}
+
+Use::Use(TGCellCtrl* editor) : record(FindRecord(editor))
+{
+    if (record)
+        ++record->running;
+}
+
+Use::~Use()
+{
+    if (!record)
+        return;
     --record->running;
     Settle(record);
 }
@@ -145,6 +176,7 @@ void Retire(TGCellCtrl* editor)
         return;
     if (Record* record = FindRecord(editor))
     {
+        record->slot = nullptr;
         record->retired = true;
         Settle(record);
     }

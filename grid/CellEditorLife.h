@@ -16,14 +16,29 @@ namespace CellEditorLife
 
 struct Record;
 
-// Covers the making of an editor: keeps it in memory during Create and watches its windows afterwards.
+// Covers the making of an editor: keeps it in memory during Create and watches its windows afterwards. The
+// editor is the one in `slot`, which becomes null when the editor's window is destroyed while it is there;
+// the slot must exist until then.
 class Creation
 {
 public:
-    explicit Creation(TGCellCtrl* newEditor);
+    explicit Creation(TGCellCtrl*& slot);
     ~Creation();
     Creation(const Creation&) = delete;
     Creation& operator=(const Creation&) = delete;
+
+private:
+    Record* record;
+};
+
+// Keeps an editor in memory while a handler of it runs that the message of another window has called.
+class Use
+{
+public:
+    explicit Use(TGCellCtrl* editor);
+    ~Use();
+    Use(const Use&) = delete;
+    Use& operator=(const Use&) = delete;
 
 private:
     Record* record;

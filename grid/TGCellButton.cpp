@@ -28,12 +28,20 @@ bool TGCellButton::Create()
     return true;
 }
 
+TGGrid* TGCellButton::SessionGrid() const
+{
+    TGGrid* grid = DYNAMIC_DOWNCAST(TGGrid, owner->GetWnd()->GetParent());
+    return grid && grid->editCell == &owner->GetCell() ? grid : nullptr;
+}
+
 void TGCellButton::OnBnClicked()
 {
-    TGGridCell& cell = owner->GetCell();
+    TGGrid* grid = SessionGrid();
+    if (!grid)
+        return;
     CString text;
     owner->GetNewText(text);
-    const bool taken = cell.GetGrid().OnCellButtonDown(cell, text);
+    const bool taken = grid->OnCellButtonDown(owner->GetCell(), text);
     // The hook may have destroyed the windows; the objects live on until this message is done.
     if (!m_hWnd)
         return;
@@ -49,11 +57,14 @@ void TGCellButton::OnBnClicked()
 
 INT_PTR TGCellButton::OnToolHitTest(CPoint, TOOLINFO* info) const
 {
-    const TGGridCell& cell = owner->GetCell();
-    CString tip;
-    if (!cell.GetGrid().OnCellButtonTip(cell.GetRowIndex(), cell.GetColIndex(), tip))
+    const TGGrid* grid = SessionGrid();
+    if (!grid)
         return -1;
-    return AnswerTip(*this, tip, cell.GetRowIndex(), TTF_CENTERTIP, info);
+    const long row = owner->GetCell().GetRowIndex();
+    CString tip;
+    if (!grid->OnCellButtonTip(row, owner->GetCell().GetColIndex(), tip))
+        return -1;
+    return AnswerTip(*this, tip, row, TTF_CENTERTIP, info);
 }
 
 } // namespace QuorUiCtr

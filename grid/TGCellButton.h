@@ -7,6 +7,7 @@ namespace QuorUiCtr
 {
 
 class TGCellCtrl;
+class TGGrid;
 
 // A member of the editor that owns it; its window is a child of the editor's.
 class AFX_EXT_CLASS TGCellButton : public CButton
@@ -28,6 +29,9 @@ protected:
     afx_msg void OnBnClicked();
 
 private:
+    // The grid, while it edits the owner's cell: a finished session may have left the cell behind deleted.
+    TGGrid* SessionGrid() const;
+
     TGCellCtrl* owner;
 };
 

@@ -41,12 +41,15 @@ void TGCellCombo::Create(CRect& rect)
     const CString text = edited.GetText();
     modified = false;
     CComboBox::Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kind, ComboWindowRect(rect), &grid, CellEditorId);
-    SetItemHeight(-1, static_cast<UINT>(grid.GetRowHeight() - FieldInset));
+    const UINT fieldHeight = static_cast<UINT>(grid.GetRowHeight() - FieldInset);
+    SetItemHeight(-1, fieldHeight);
     grid.OnCellComboString(edited, *this);
     // The hook may have destroyed the windows; the object lives on until its creation is done.
     if (!m_hWnd)
         return;
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(grid.GetFont()->GetSafeHandle()), TRUE);
+    // A new font makes the field as high as it likes.
+    SetItemHeight(-1, fieldHeight);
     if (!editable)
         SetCurSel(FindString(-1, text));
     SetWindowText(text);
@@ -84,6 +87,7 @@ void TGCellCombo::OnCbnSetfocus()
 
 void TGCellCombo::OnCbnKillfocus()
 {
+    const CellEditorLife::Use use(this);
     TGGrid* grid = GetGrid();
     if (!grid)
         return;
@@ -99,6 +103,8 @@ void TGCellCombo::OnCbnEditchange()
 
 void TGCellCombo::OnCbnSelchange()
 {
+    // The notification is a message of the grid: a hook that opens another cell must not delete this editor.
+    const CellEditorLife::Use use(this);
     modified = true;
     if (TGGrid* grid = GetGrid())
         grid->OnCbnSelchange();

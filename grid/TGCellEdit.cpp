@@ -27,6 +27,9 @@ void TGCellEdit::Create(CRect& rect)
                   CRect(0, 0, 0, 0), &grid, CellEditorId);
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(grid.GetFont()->GetSafeHandle()), TRUE);
 
+    // Edits take margins from their font; the text would begin further right than in the cell.
+    SetMargins(0, 0);
+
     rect.left += TextInset;
     SetWindowPos(&wndTop, rect.left, rect.top, rect.Width(), rect.Height(), SWP_SHOWWINDOW);
     GetClientRect(rect);

@@ -120,14 +120,15 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
             grid.editCell = nullptr;
         return;
     }
-    if (grid.editCell != &cell || !watch.Cell() || !grid.m_hWnd)
+    // The hook may have ended this session, or opened the cell itself.
+    if (grid.editCell != &cell || !watch.Cell() || !grid.m_hWnd || grid.cellCtrl)
     {
         delete editor;
         return;
     }
     grid.cellCtrl = editor;
     {
-        CellEditorLife::Creation creation(editor);
+        CellEditorLife::Creation creation(grid.cellCtrl);
         editor->Create(rect);
     }
     grid.OnCurChanged();
@@ -200,8 +201,8 @@ void TGGrid::EndEditCell()
     TGCellCtrl* editor = cellCtrl;
     if (editor && editor->IsModified())
         EditSession(*this).CommitEdit(*editor);
-    // A hook may have opened the editor of another cell, which stays open then.
-    if (cellCtrl == editor && (editCell == ended || !editCell))
+    // A hook may have opened the editor of another cell, which stays open then, or destroyed the editor.
+    if ((!cellCtrl || cellCtrl == editor) && (editCell == ended || !editCell))
     {
         editCell = nullptr;
         EditSession(*this).HideEditor();
@@ -315,11 +316,13 @@ void TGGrid::OnCbnEditChange()
     if (!editCell || !combo)
         return;
     CellWatch watch(*this, editCell);
+    // The hook may destroy the combo box, and the object with it.
+    const HWND comboWindow = combo->m_hWnd;
     OnCmbEditchange(*editCell, combo);
-    if (watch.Cell() && combo->GetSafeHwnd())
+    if (watch.Cell() && ::IsWindow(comboWindow))
     {
         CString text;
-        combo->GetWindowText(text);
+        CWnd::FromHandle(comboWindow)->GetWindowText(text);
         OnModified(*watch.Cell(), text);
     }
     OnDataChanged();

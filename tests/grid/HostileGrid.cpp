@@ -21,7 +21,7 @@ void HostileGrid::Disarm()
 
 void HostileGrid::Strike(const char* hook) const
 {
-    if (striking || armedHook != hook)
+    if (striking || strikes >= MaxStrikes || armedHook != hook)
         return;
     striking = true;
     ++strikes;
@@ -38,12 +38,6 @@ bool HostileGrid::Tip(const char* hook, CString& text) const
 
 // ---- Hooks that observe: the action comes last, after what the default does
 // -------------------------------------
-
-void HostileGrid::OnDblClick(TGGridRow& row)
-{
-    WindowGrid::OnDblClick(row);
-    Strike("OnDblClick");
-}
 
 void HostileGrid::OnRClickCell(TGGridCell& cell, CPoint point)
 {
@@ -93,61 +87,10 @@ void HostileGrid::OnBeforeRefresh(TGGridCell& cell)
     Strike("OnBeforeRefresh");
 }
 
-void HostileGrid::OnInsertCol(TGGridCol& col)
-{
-    WindowGrid::OnInsertCol(col);
-    Strike("OnInsertCol");
-}
-
-void HostileGrid::OnEndDeleteCol()
-{
-    WindowGrid::OnEndDeleteCol();
-    Strike("OnEndDeleteCol");
-}
-
 void HostileGrid::OnInsertRow(TGGridRow& row)
 {
     WindowGrid::OnInsertRow(row);
     Strike("OnInsertRow");
-}
-
-void HostileGrid::OnEndDeleteRow()
-{
-    WindowGrid::OnEndDeleteRow();
-    Strike("OnEndDeleteRow");
-}
-
-void HostileGrid::OnEndClip()
-{
-    WindowGrid::OnEndClip();
-    Strike("OnEndClip");
-}
-
-void HostileGrid::OnEndCopy()
-{
-    WindowGrid::OnEndCopy();
-    Strike("OnEndCopy");
-}
-
-void HostileGrid::OnEndPaste()
-{
-    WindowGrid::OnEndPaste();
-    Strike("OnEndPaste");
-}
-
-void HostileGrid::OnRClickRow(TGGridRow&, CPoint)
-{
-    Strike("OnRClickRow");
-}
-
-void HostileGrid::OnRClickCol(TGGridCol&, CPoint)
-{
-    Strike("OnRClickCol");
-}
-
-void HostileGrid::OnRClickQuad(CPoint)
-{
-    Strike("OnRClickQuad");
 }
 
 // ---- Hooks that answer: the action comes first, then the answer is to go on
@@ -177,57 +120,9 @@ bool HostileGrid::OnRefresh(TGGridRow&)
     return true;
 }
 
-bool HostileGrid::OnBeforeInsertCol(long, TGGridCol*&)
-{
-    Strike("OnBeforeInsertCol");
-    return true;
-}
-
-bool HostileGrid::OnBeforeDeleteCol()
-{
-    Strike("OnBeforeDeleteCol");
-    return true;
-}
-
 bool HostileGrid::OnBeforeInsertRow(long, TGGridRow*&)
 {
     Strike("OnBeforeInsertRow");
-    return true;
-}
-
-bool HostileGrid::OnBeforeInsertChild(TGGridTreeRow&, long, TGGridTreeRow*&)
-{
-    Strike("OnBeforeInsertChild");
-    return true;
-}
-
-bool HostileGrid::OnBeforeDeleteRow()
-{
-    Strike("OnBeforeDeleteRow");
-    return true;
-}
-
-bool HostileGrid::OnBeforeClip()
-{
-    Strike("OnBeforeClip");
-    return true;
-}
-
-bool HostileGrid::OnBeforeCopy()
-{
-    Strike("OnBeforeCopy");
-    return true;
-}
-
-bool HostileGrid::OnBeforePaste(long)
-{
-    Strike("OnBeforePaste");
-    return true;
-}
-
-bool HostileGrid::OnBeforePasteChild(TGGridTreeRow&)
-{
-    Strike("OnBeforePasteChild");
     return true;
 }
 

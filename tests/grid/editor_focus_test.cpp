@@ -173,9 +173,11 @@ TEST_F(EditorFocus, EditorThatGetsTheFocusBack_TurnsTheCornerOn)
         Open(col);
         grid.ShowActive(false);
         CWnd* editor = grid.EditorWindow();
-        // Focus through a part or the field of the editor, so that the session stays.
-        editor->SendMessage(WM_KILLFOCUS, reinterpret_cast<WPARAM>(editor->m_hWnd));
-        editor->SendMessage(WM_SETFOCUS);
+        if (col < Combo)
+            editor->SendMessage(WM_SETFOCUS);
+        else
+            grid.SendMessage(WM_COMMAND, MAKEWPARAM(101, CBN_SETFOCUS),
+                             reinterpret_cast<LPARAM>(editor->m_hWnd));
         EXPECT_TRUE(grid.ShowsFocus()) << col;
         grid.CancelEditCell();
         grid.SetFocus();
@@ -327,7 +329,7 @@ TEST_F(ButtonTip, IsFormattedAndCutToNineteenCharacters)
     Open(Button);
     EXPECT_EQ(Ask(L"take %d of 100%%"), "1 take 0 of 100%");
     EXPECT_EQ(Ask(L"a tip that is longer than the buffer"), "1 a tip that is longe");
-    EXPECT_EQ(Ask(L"%s"), "1 ");
+    EXPECT_EQ(Ask(L"%s"), "1 (null)");
 }
 
 } // namespace

@@ -58,6 +58,8 @@ TEST_F(EditorPicture, TextDoesNotJump_WhenTheEditorOpens)
             ShowPlain(grid);
             const Snapshot after(grid);
             EXPECT_EQ(Differences(before, after, inside), 0) << CStringA(text) << (centred ? " centred" : "");
+            before.SaveBmp(L"Z:\\tmp\\before.bmp");
+            after.SaveBmp(L"Z:\\tmp\\after.bmp");
         }
 }
 
@@ -106,10 +108,11 @@ TEST_F(EditorPicture, TextInTheTreeColumn_DoesNotJump)
 TEST_F(EditorPicture, EditBasedEditors_LeaveTheLinesOfTheCell)
 {
     EditGrid grid;
-    Make(grid);
-    grid.GetCol(1).SetRightButton(true);
-    grid.GetCol(2).SetRightSpin(true);
-    for (const long col : {0, 1, 2})
+    Create(grid, 500);
+    Fill(grid, 3, 4);
+    grid.GetCol(2).SetRightButton(true);
+    grid.GetCol(3).SetRightSpin(true);
+    for (const long col : {1, 2, 3})
     {
         grid.BeginEditCell(1, col);
         EXPECT_TRUE(HasItsLines(Snapshot(grid), grid.InsideOf(1, col))) << col;

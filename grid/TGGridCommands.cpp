@@ -1,6 +1,6 @@
 // The user's row and column commands: insert, append, delete.
+#include "grid/GridStructure.h"
 #include "grid/RowWatch.h"
-#include "grid/TGGrid.h"
 
 #include <memory>
 #include <vector>
@@ -37,6 +37,7 @@ public:
     bool AskForChild(TGGridTreeRow& parent, long position, bool asTree, TGGridTreeRow*& child);
     bool ReportInsertedRow(long position);
     bool DeleteSelectedRows();
+    void DeleteRows(const std::vector<long>& indices);
     bool DeleteSelectedCols();
 
 private:
@@ -291,17 +292,23 @@ bool TGGrid::Commands::DeleteSelectedRows()
     grid.FilterDelUnable();
     if (!grid.OnBeforeDeleteRow())
         return false;
-    const std::vector<long> doomed(grid.rowSel.begin(), grid.rowSel.end());
-    grid.ClearSel();
-    {
-        TGGridUpdate update(grid);
-        for (auto i = doomed.rbegin(); i != doomed.rend(); ++i)
-            if (grid.IsValidRow(*i))
-                grid.DelRowEx(*i);
-    }
+    DeleteRows(std::vector<long>(grid.rowSel.begin(), grid.rowSel.end()));
     grid.OnEndDeleteRow();
     grid.OnDataChanged();
     return true;
+}
+
+// All rows leave as one change, each parent with its offspring.
+void TGGrid::Commands::DeleteRows(const std::vector<long>& indices)
+{
+    const TGGridUpdate update(grid);
+    grid.ClearSel();
+    const long tellings = static_cast<long>(indices.size());
+    const std::vector<TGGridRow*> doomed = Structure(grid).AnnounceRemoval(indices, tellings);
+    Structure(grid).TakeOut(doomed);
+    for (TGGridRow* row : doomed)
+        delete row;
+    grid.RecalcLayout(1);
 }
 
 bool TGGrid::Commands::DeleteSelectedCols()

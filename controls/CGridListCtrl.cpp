@@ -1,0 +1,219 @@
+// The report list's columns, mouse, keys and requests to edit; painting is in CGridListCtrlPaint.cpp.
+#include "controls/CGridListCtrl.h"
+
+#include "controls/ListGeometry.h"
+#include "controls/WindowLife.h"
+
+using namespace QuorUiCtr;
+
+namespace
+{
+
+constexpr DWORD PreparedExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAGDROP;
+
+// Without a header, as in other views, there are no columns.
+std::vector<int> ReadColumnOrder(const CWnd* header)
+{
+    if (!header)
+        return {};
+    std::vector<int> order(static_cast<size_t>(::SendMessage(header->m_hWnd, HDM_GETITEMCOUNT, 0, 0)));
+    if (!order.empty())
+        ::SendMessage(header->m_hWnd, HDM_GETORDERARRAY, order.size(),
+                      reinterpret_cast<LPARAM>(order.data()));
+    return order;
+}
+
+// Where full rows can be selected, a hit on the blank rest of the cell reports every part of the item.
+bool IsOnlyOnLabel(UINT hitFlags)
+{
+    return (hitFlags & LVHT_ONITEM) == LVHT_ONITEMLABEL;
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(CGridListCtrl, CListCtrl)
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_LBUTTONDOWN()
+END_MESSAGE_MAP()
+
+CGridListCtrl::CGridListCtrl() : curColumn(-1), editFlags(0) {}
+
+CGridListCtrl::~CGridListCtrl() {}
+
+int CGridListCtrl::PrepareControl(WORD flags)
+{
+    editFlags = flags;
+    ModifyStyle(LVS_TYPEMASK | LVS_EDITLABELS, LVS_REPORT);
+    SendMessage(LVM_SETEXTENDEDLISTVIEWSTYLE, PreparedExtendedStyle, PreparedExtendedStyle);
+    return 1;
+}
+
+int CGridListCtrl::PositionControl(CWnd* ctrl, int item, int column)
+{
+    if (!ctrl || !EnsureVisible(item, TRUE))
+        return 0;
+    if (column < 0 || column >= CountColumns() || GetColumnWidth(OrderToIndex(column)) < MinEditableWidth)
+        return 0;
+    const int offset = ColumnOffset(column);
+    const int width = GetColumnWidth(column);
+    CRect row;
+    GetItemRect(item, row, LVIR_BOUNDS);
+    CRect client;
+    GetClientRect(client);
+    int left = row.left + offset;
+    if (!IsColumnInside(left, width, client.right))
+    {
+        Scroll(CSize(left, 0));
+        left = 0;
+    }
+    const HorizontalSpan span = EditorSpan(left, width, client.right);
+    ctrl->MoveWindow(span.left, row.top, span.right - span.left, row.Height(), TRUE);
+    return 1;
+}
+
+void CGridListCtrl::MakeColumnVisible(int column)
+{
+    CRect firstRow;
+    if (column < 0 || !GetItemRect(0, firstRow, LVIR_BOUNDS))
+        return;
+    CRect client;
+    GetClientRect(client);
+    const int left = firstRow.left + ColumnOffset(column);
+    if (!IsColumnInside(left, GetColumnWidth(column), client.right))
+        Scroll(CSize(left, 0));
+}
+
+int CGridListCtrl::IndexToOrder(int index)
+{
+    return PositionInOrder(ReadColumnOrder(GetDlgItem(0)), index);
+}
+
+int CGridListCtrl::OrderToIndex(int order)
+{
+    CWnd* header = GetDlgItem(0);
+    if (!header || order < 0)
+        return -1;
+    return static_cast<int>(header->SendMessage(HDM_ORDERTOINDEX, static_cast<WPARAM>(order)));
+}
+
+int CGridListCtrl::CountColumns()
+{
+    CWnd* header = GetDlgItem(0);
+    return header ? static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT)) : 0;
+}
+
+int CGridListCtrl::ColumnOffset(int column)
+{
+    int offset = 0;
+    for (const int index : ReadColumnOrder(GetDlgItem(0)))
+    {
+        if (index == column)
+            break;
+        offset += GetColumnWidth(index);
+    }
+    return offset;
+}
+
+int CGridListCtrl::FocusedRow()
+{
+    return GetNextItem(-1, LVNI_FOCUSED);
+}
+
+void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
+{
+    const HWND window = m_hWnd;
+    LVHITTESTINFO hit = {};
+    hit.pt = point;
+    SubItemHitTest(&hit);
+    const int oldColumn = curColumn;
+    curColumn = IndexToOrder(hit.iSubItem);
+    MakeColumnVisible(OrderToIndex(curColumn));
+    const bool wasFocused = (GetItemState(hit.iItem, LVIS_FOCUSED) & LVIS_FOCUSED) != 0;
+    CListCtrl::OnLButtonDown(flags, point);
+    if (!IsStillWindow(this, window) || !wasFocused || curColumn == -1 || curColumn != oldColumn)
+        return;
+    if (hit.iSubItem > 0 || IsOnlyOnLabel(hit.flags))
+        RequestEdit(hit.iItem, hit.iSubItem);
+}
+
+BOOL CGridListCtrl::PreTranslateMessage(MSG* message)
+{
+    if (message->message != WM_KEYDOWN || ::GetFocus() != m_hWnd)
+        return CListCtrl::PreTranslateMessage(message);
+    const HWND window = m_hWnd;
+    switch (message->wParam)
+    {
+    case VK_LEFT:
+        MoveCurrentColumn(-1);
+        return TRUE;
+    case VK_RIGHT:
+        MoveCurrentColumn(1);
+        return TRUE;
+    case VK_F2:
+        if (const int row = FocusedRow(); row != -1 && curColumn != -1)
+            RequestEdit(row, OrderToIndex(curColumn));
+        break;
+    default:
+        break;
+    }
+    return IsStillWindow(this, window) ? CListCtrl::PreTranslateMessage(message) : TRUE;
+}
+
+void CGridListCtrl::MoveCurrentColumn(int step)
+{
+    const int lastColumn = CountColumns() - 1;
+    const int wanted = curColumn + step;
+    if (wanted < -1)
+        return;
+    if (step > 0 && wanted > lastColumn)
+    {
+        curColumn = lastColumn;
+        return;
+    }
+    curColumn = wanted;
+    MakeColumnVisible(OrderToIndex(curColumn));
+    CRect bounds;
+    if (const int row = FocusedRow(); row != -1 && GetItemRect(row, bounds, LVIR_BOUNDS))
+        InvalidateRect(bounds, TRUE);
+}
+
+void CGridListCtrl::OnHScroll(UINT code, UINT position, CScrollBar* scrollBar)
+{
+    const HWND window = m_hWnd;
+    TakeFocus();
+    if (IsStillWindow(this, window))
+        CListCtrl::OnHScroll(code, position, scrollBar);
+}
+
+void CGridListCtrl::OnVScroll(UINT code, UINT position, CScrollBar* scrollBar)
+{
+    const HWND window = m_hWnd;
+    TakeFocus();
+    if (IsStillWindow(this, window))
+        CListCtrl::OnVScroll(code, position, scrollBar);
+}
+
+void CGridListCtrl::TakeFocus()
+{
+    if (::GetFocus() != m_hWnd)
+        SetFocus();
+}
+
+void CGridListCtrl::RequestEdit(int row, int column)
+{
+    CWnd* parent = GetParent();
+    if (!parent)
+        return;
+    CString text = GetItemText(row, column);
+    NMLVDISPINFO record = {};
+    record.hdr.hwndFrom = m_hWnd;
+    record.hdr.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());
+    record.hdr.code = LVN_BEGINLABELEDIT;
+    record.item.mask = LVIF_TEXT;
+    record.item.iItem = row;
+    record.item.iSubItem = column;
+    record.item.cchTextMax = text.GetLength();
+    record.item.pszText = text.GetBuffer();
+    parent->SendMessage(WM_NOTIFY, record.hdr.idFrom, reinterpret_cast<LPARAM>(&record));
+}

@@ -1,0 +1,54 @@
+// Where the columns of a report list and the editor of a cell go.
+#include "controls/ListGeometry.h"
+
+#include <algorithm>
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+constexpr int EditorIndent = 4;
+constexpr int EditorShortening = 3;
+constexpr int FreeEdge = 2;
+
+} // namespace
+
+int PositionInOrder(const std::vector<int>& order, int index)
+{
+    const auto found = std::find(order.begin(), order.end(), index);
+    return found == order.end() ? -1 : static_cast<int>(found - order.begin());
+}
+
+bool IsColumnInside(int left, int width, int clientRight)
+{
+    return left >= 0 && left + width <= clientRight;
+}
+
+HorizontalSpan EditorSpan(int left, int width, int clientRight)
+{
+    const int editorLeft = left + EditorIndent;
+    return {editorLeft, std::min(editorLeft + width - EditorShortening, clientRight)};
+}
+
+GrownEditor GrowEditor(const CRect& current, CSize needed, const CRect& list)
+{
+    GrownEditor grown{current, false, false};
+    if (needed.cx > current.Width())
+    {
+        grown.hasGrown = true;
+        grown.rectangle.right = std::min(current.left + needed.cx, list.right - FreeEdge);
+    }
+    if (needed.cy > current.Height())
+    {
+        grown.hasGrown = true;
+        grown.rectangle.bottom = current.top + needed.cy;
+        grown.needsScrollBar = grown.rectangle.bottom >= list.bottom - FreeEdge;
+        if (grown.needsScrollBar)
+            grown.rectangle.bottom = list.bottom - FreeEdge;
+    }
+    return grown;
+}
+
+} // namespace QuorUiCtr

@@ -2,6 +2,7 @@
 #include "MainDialog.h"
 
 #include "GridPage.h"
+#include "ListPage.h"
 #include "PictureWriter.h"
 #include "PropertiesPage.h"
 #include "TreeGridPage.h"
@@ -62,6 +63,7 @@ BOOL MainDialog::OnInitDialog()
     AddPage(std::make_unique<TreeGridPage>(log));
     AddPage(std::make_unique<PropertiesPage>(log));
     AddPage(std::make_unique<TreePage>(log));
+    AddPage(std::make_unique<ListPage>(log));
     SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
     CenterWindow();
     ShowPage(0);

@@ -57,5 +57,7 @@ function(quor_add_test name)
         target_precompile_headers(${name}_test REUSE_FROM QuorTestHeaders)
     endif()
     add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
-    set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT})
+    # A crash that the debugger of Wine reports may end with the exit code 0.
+    set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT}
+        FAIL_REGULAR_EXPRESSION "Unhandled exception|Unhandled page fault")
 endfunction()

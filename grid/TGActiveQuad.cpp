@@ -22,9 +22,12 @@ BEGIN_MESSAGE_MAP(TGActiveQuad, CWnd)
     ON_WM_RBUTTONUP()
 END_MESSAGE_MAP()
 
-TGActiveQuad::TGActiveQuad(TGGrid& owner) : grid(&owner)
+TGActiveQuad::TGActiveQuad(TGGrid& owner) : grid(&owner) {}
+
+void TGActiveQuad::MakeWindow()
 {
-    const CRect place(0, 0, owner.GetRowHeight(), owner.GetColHeaderHeight());
+    active = false;
+    const CRect place(0, 0, grid->GetRowHeight(), grid->GetColHeaderHeight());
     if (Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
         EnableToolTips(TRUE);
 }

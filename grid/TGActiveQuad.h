@@ -17,6 +17,9 @@ public:
     explicit TGActiveQuad(TGGrid& grid);
     ~TGActiveQuad() override;
 
+    // Creates the window as a child of the grid's window, inactive.
+    void MakeWindow();
+
     bool IsActive() const { return active; }
     // Stores the state and repaints the window.
     void ShowActive(bool newActive);

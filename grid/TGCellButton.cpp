@@ -1,6 +1,7 @@
 // The push button of a cell's edit.
 #include "grid/TGCellButton.h"
 
+#include "grid/CellEditorLife.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGCellSpin.h"
@@ -62,7 +63,8 @@ INT_PTR TGCellButton::OnToolHitTest(CPoint, TOOLINFO* info) const
         return -1;
     const long row = owner->GetCell().GetRowIndex();
     CString tip;
-    if (!grid->OnCellButtonTip(row, owner->GetCell().GetColIndex(), tip))
+    const CellEditorLife::Use use(owner);
+    if (!grid->OnCellButtonTip(row, owner->GetCell().GetColIndex(), tip) || !m_hWnd)
         return -1;
     return AnswerTip(*this, tip, row, TTF_CENTERTIP, info);
 }

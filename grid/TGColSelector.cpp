@@ -28,8 +28,16 @@ END_MESSAGE_MAP()
 TGColSelector::TGColSelector(TGGrid& owner) : grid(&owner)
 {
     bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
-    const long left = owner.IsRowSel() ? owner.GetRowHeight() : 0;
-    const CRect place(left, 0, headerExtent, owner.GetColHeaderHeight());
+}
+
+void TGColSelector::MakeWindow()
+{
+    moving = false;
+    resizing = false;
+    resizeCol = -1;
+    markX = -1;
+    const long left = grid->IsRowSel() ? grid->GetRowHeight() : 0;
+    const CRect place(left, 0, headerExtent, grid->GetColHeaderHeight());
     const CString& className = windowClass.Register(bkBrush);
     if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
         EnableToolTips(TRUE);

@@ -18,9 +18,11 @@ class TGGridCol;
 class AFX_EXT_CLASS TGColSelector : public CWnd
 {
 public:
-    // Creates the window as a child of `grid`.
     explicit TGColSelector(TGGrid& grid);
     ~TGColSelector() override;
+
+    // Creates the window as a child of the grid's window; nothing of a drag in an earlier window stays.
+    void MakeWindow();
 
     // Shows the mark of a running drag again, on the grid's drawing context, after the grid has drawn its
     // cells, or what stands in `drawn` (logical coordinates).

@@ -28,6 +28,17 @@ HFONT FontOfParent(const CWnd& window)
     return parent == nullptr ? nullptr : reinterpret_cast<HFONT>(::SendMessage(parent, WM_GETFONT, 0, 0));
 }
 
+// A grid whose window is made a second time has the object already, and code of it may be running: a hook of
+// it can make the grid's window anew.
+template <class Header> void MakeHeader(Header*& header, bool shown, TGGrid& grid)
+{
+    if (!shown)
+        return;
+    if (header == nullptr)
+        header = new Header(grid);
+    header->MakeWindow();
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(TGGrid, CWnd)
@@ -86,13 +97,9 @@ int TGGrid::OnCreate(LPCREATESTRUCT create)
 
 void TGGrid::Layout::CreateHeaders()
 {
-    // A grid whose window is made a second time still holds the objects of the first one.
-    delete grid.colHeader;
-    delete grid.rowHeader;
-    delete grid.quad;
-    grid.colHeader = grid.IsColSel() ? new TGColSelector(grid) : nullptr;
-    grid.rowHeader = grid.IsRowSel() ? new TGRowSelector(grid) : nullptr;
-    grid.quad = grid.IsColSel() && grid.IsRowSel() ? new TGActiveQuad(grid) : nullptr;
+    MakeHeader(grid.colHeader, grid.IsColSel(), grid);
+    MakeHeader(grid.rowHeader, grid.IsRowSel(), grid);
+    MakeHeader(grid.quad, grid.IsColSel() && grid.IsRowSel(), grid);
     grid.headerMeasure = CSize(grid.GetRowHeight(), grid.GetColHeaderHeight());
 }
 

@@ -33,8 +33,16 @@ TGRowSelector::TGRowSelector(TGGrid& owner)
     : grid(&owner), currentRowIcon(currentRowIconId), newRowIcon(newRowIconId)
 {
     bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
-    const long top = owner.IsColSel() ? owner.GetColHeaderHeight() : 0;
-    const CRect place(0, top, owner.GetRowHeight(), headerExtent);
+}
+
+void TGRowSelector::MakeWindow()
+{
+    dragging = false;
+    dropMarkY = -1;
+    dragRow = -1;
+    markedRow = -1;
+    const long top = grid->IsColSel() ? grid->GetColHeaderHeight() : 0;
+    const CRect place(0, top, grid->GetRowHeight(), headerExtent);
     const CString& className = windowClass.Register(bkBrush);
     if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
         EnableToolTips(TRUE);

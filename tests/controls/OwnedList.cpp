@@ -164,6 +164,7 @@ void ListTest::MakeRows(int count)
 {
     const int columns = list.GetHeaderCtrl()->GetItemCount();
     list.SetItemCount(count);
+    list.SetRedraw(FALSE);
     for (int row = 0; row < count; ++row)
         for (int column = 0; column < columns; ++column)
         {
@@ -174,6 +175,8 @@ void ListTest::MakeRows(int count)
             else
                 list.SetItemText(row, column, text);
         }
+    list.SetRedraw(TRUE);
+    list.Invalidate();
     list.UpdateWindow();
     PumpPending();
 }

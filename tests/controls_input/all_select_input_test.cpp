@@ -33,7 +33,9 @@ protected:
     HostWindow host;
     QuorUiCtr::CAllSelectEdit edit;
     CEdit plain;
-    const CPoint front{2, 8};
+    // In front of the text, apart enough that two clicks are no double click.
+    const CPoint front{2, 5};
+    const CPoint frontBelow{2, 14};
 };
 
 TEST_F(AllSelectInput, TypingAfterTheFirstClick_ReplacesTheText)
@@ -46,7 +48,7 @@ TEST_F(AllSelectInput, TypingAfterTheFirstClick_ReplacesTheText)
 TEST_F(AllSelectInput, TypingAfterTheSecondClick_InsertsAtTheClick)
 {
     Click(edit, front);
-    Click(edit, front);
+    Click(edit, frontBelow);
     TypeText(L"new ");
     EXPECT_EQ(Text(edit), L"new value");
 }
@@ -61,7 +63,7 @@ TEST_F(AllSelectInput, PlainEdit_InsertsAtTheFirstClick)
 TEST_F(AllSelectInput, FocusThatLeavesAndReturns_SelectsAllAgain)
 {
     Click(edit, front);
-    Click(edit, front);
+    Click(edit, frontBelow);
     Click(plain, front);
     Click(edit, front);
     TypeText(L"new");

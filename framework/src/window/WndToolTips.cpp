@@ -224,11 +224,14 @@ void FollowMouse(CWnd& window, const MSG& message, CPoint screenPoint)
     TOOLINFO tool = {};
     tool.cbSize = sizeof(tool);
     tool.lpszText = LPSTR_TEXTCALLBACK;
+    const HWND handle = window.m_hWnd;
     const INT_PTR hit = window.OnToolHitTest(clientPoint, &tool);
-    if (ToolTips().window != &window || ToolTips().hit != hit)
+    // Whoever gave the tip may have destroyed the window.
+    const bool exists = CWnd::FromHandlePermanent(handle) == &window;
+    if (exists && (ToolTips().window != &window || ToolTips().hit != hit))
         ChangeHit(window, hit, tool);
     FreeToolText(tool);
-    if (ToolTips().window == &window)
+    if (exists && ToolTips().window == &window)
         RelayToControl(message, screenPoint);
 }
 

@@ -153,6 +153,18 @@ void CInPlaceEdit::CalculateSize()
     const GrownEditor grown = GrowEditor(editor, MeasureText(editor, list), list);
     if (grown.needsScrollBar)
         ShowScrollBar(SB_VERT, TRUE);
-    if (grown.hasGrown)
-        MoveWindow(grown.rectangle, TRUE);
+    if (!grown.hasGrown)
+        return;
+    MoveWindow(grown.rectangle, TRUE);
+    if (!IsMultiLine())
+        ScrollBack();
+}
+
+void CInPlaceEdit::ScrollBack()
+{
+    int first = 0;
+    int last = 0;
+    GetSel(first, last);
+    SetSel(0, 0);
+    SetSel(first, last);
 }

@@ -51,5 +51,8 @@ protected:
 private:
     bool IsMultiLine() const;
     CSize MeasureText(const CRect& editor, const CRect& list);
+    // The character that made the text too long has scrolled it; shows as much of its start as there is room
+    // for beside the caret.
+    void ScrollBack();
     void SendEndOfEdit();
 };

@@ -240,7 +240,8 @@ public:
     // edit first. Refused silently for a read-only cell, by OnBeforeEdit and without a window.
     void BeginEditCell(long row, long col);
     // Commits an open edit and closes its editor: a modified text goes through OnModified, on the new-row
-    // line also through OnBeforeInsertRow, before it is stored.
+    // line also through OnBeforeInsertRow, before it is stored. An editor that one of these hooks opens is
+    // closed, too; a hook that wants another cell edited next calls AutoEditCell.
     void EndEditCell();
     // Closes an open editor and drops its text; calls no hook.
     void CancelEditCell();

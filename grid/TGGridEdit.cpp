@@ -197,16 +197,11 @@ void TGGrid::EndEditCell()
     if (endingEdit || !editCell)
         return;
     EndingEdit guard;
-    const TGGridCell* ended = editCell;
-    TGCellCtrl* editor = cellCtrl;
-    if (editor && editor->IsModified())
-        EditSession(*this).CommitEdit(*editor);
-    // A hook may have opened the editor of another cell, which stays open then, or destroyed the editor.
-    if ((!cellCtrl || cellCtrl == editor) && (editCell == ended || !editCell))
-    {
-        editCell = nullptr;
-        EditSession(*this).HideEditor();
-    }
+    if (cellCtrl && cellCtrl->IsModified())
+        EditSession(*this).CommitEdit(*cellCtrl);
+    // Also what a hook has opened meanwhile.
+    editCell = nullptr;
+    EditSession(*this).HideEditor();
     if (!newRow)
         RecalcLayout(1);
 }

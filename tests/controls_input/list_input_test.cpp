@@ -202,6 +202,16 @@ TEST_F(ListInput, TypingPastTheEdge_GrowsTheEditor)
     EXPECT_EQ(owner.editor->Place().right, client.right - 2);
 }
 
+TEST_F(ListInput, TypingPastTheCell_KeepsTheStartOfTheTextInSight)
+{
+    ClickCell(1, 1);
+    KeyPress(VK_F2);
+    TypeText(L"a text that is longer than its cell");
+    EXPECT_GT(owner.editor->Place().Width(), ColumnWidth);
+    EXPECT_GE(owner.editor->PosFromChar(0).x, 0);
+    EXPECT_EQ(owner.editor->Selection(), "35-35");
+}
+
 TEST_F(ListInput, CopyAndPaste_WorkInTheEditor)
 {
     ClickCell(1, 1);

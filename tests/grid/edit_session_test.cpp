@@ -327,6 +327,42 @@ TEST_F(EditSessionTest, EndInsideACommit_HasNoEffect)
     EXPECT_EQ(TextOf(grid, 1, 2), L"again");
 }
 
+TEST_F(EditSessionTest, EditorOpenedInsideACommit_IsClosedWithIt)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.dataChanged = [&] {
+        grid.BeginEditCell(2, 2);
+        EXPECT_TRUE(grid.IsEditing());
+    };
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"text");
+    grid.TakeText();
+    grid.EndEditCell();
+    EXPECT_EQ(grid.TakeEditText(),
+              "modified 1,1 text | changed | cur 1,1 | before 2,2 | editor 2,2 | cur 2,2");
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_FALSE(grid.EditorWindow()->IsWindowVisible());
+    EXPECT_EQ(TextOf(grid, 1, 1), L"text");
+}
+
+TEST_F(EditSessionTest, AutoEditInsideACommit_OpensTheNextCell)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.dataChanged = [&] { grid.AutoEditCell(&grid.GetCell(2, 2)); };
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"text");
+    grid.EndEditCell();
+    EXPECT_FALSE(grid.IsEditing());
+    ASSERT_TRUE(PumpUntil([&] { return grid.IsEditing(); }));
+    long row = -1;
+    long col = -1;
+    ASSERT_TRUE(grid.GetCurCell(row, col));
+    EXPECT_EQ(row, 2);
+    EXPECT_EQ(col, 2);
+}
+
 TEST_F(EditSessionTest, CellsThatAreNotThere_AreNotEdited)
 {
     EditGrid grid;

@@ -1,6 +1,7 @@
 // The tree grid of countries.
 #include "CountryGrid.h"
 
+#include "GridFill.h"
 #include "LogPane.h"
 
 #include <utility>
@@ -40,6 +41,10 @@ CString NumberText(const std::wstring& text)
 }
 
 } // namespace
+
+BEGIN_MESSAGE_MAP(CountryGrid, QuorUiCtr::TGTreeGrid)
+    ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
 
 CountryGrid::CountryGrid(LogPane& logPane, std::function<void()> whenChanged)
     : TGTreeGrid(true), log(logPane), changed(std::move(whenChanged))
@@ -187,4 +192,10 @@ void CountryGrid::OnEndPaste()
 void CountryGrid::OnEndMoveRow()
 {
     NoteRepairs(L"OnEndMoveRow", [&] { TGTreeGrid::OnEndMoveRow(); });
+}
+
+BOOL CountryGrid::OnMouseWheel(UINT, short delta, CPoint)
+{
+    ScrollByWheel(*this, delta);
+    return TRUE;
 }

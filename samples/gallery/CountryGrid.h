@@ -41,6 +41,9 @@ protected:
     void OnEndPaste() override;
     void OnEndMoveRow() override;
 
+    DECLARE_MESSAGE_MAP()
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+
 private:
     using Numbers = std::map<TGGridRow*, CString>;
 

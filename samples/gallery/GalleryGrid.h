@@ -84,6 +84,7 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnPaint();
+    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
 
 private:
     // How often each drawing hook was called.

@@ -1,10 +1,12 @@
-// The hooks that the gallery's grid only logs, and the log itself.
+// The hooks that the gallery's grid only logs, the log itself, and the wheel.
 #include "GalleryGrid.h"
 
+#include "GridFill.h"
 #include "LogPane.h"
 
 BEGIN_MESSAGE_MAP(GalleryGrid, QuorUiCtr::TGGrid)
     ON_WM_PAINT()
+    ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 GalleryGrid::GalleryGrid(bool tree, LogPane& logPane) : TGGrid(tree), log(logPane) {}
@@ -74,6 +76,12 @@ void GalleryGrid::OnPaint()
 {
     TGGrid::OnPaint();
     NotePainting();
+}
+
+BOOL GalleryGrid::OnMouseWheel(UINT, short delta, CPoint)
+{
+    ScrollByWheel(*this, delta);
+    return TRUE;
 }
 
 void GalleryGrid::NotePainting() const

@@ -29,8 +29,9 @@ int MeasureColumn(CDC& context, const gallery::CsvTable& table, size_t column)
 
 bool HoldsOnlyNumbers(const gallery::CsvTable& table, size_t column)
 {
-    const auto isNumber = [&](const std::vector<std::wstring>& row)
-    { return row[column].find_first_not_of(L"0123456789.,-+[] ") == std::wstring::npos; };
+    const auto isNumber = [&](const std::vector<std::wstring>& row) {
+        return row[column].find_first_not_of(L"0123456789.,-+[] ") == std::wstring::npos;
+    };
     return !table.rows.empty() && std::all_of(table.rows.begin(), table.rows.end(), isNumber);
 }
 
@@ -70,6 +71,12 @@ void SetRoomyFont(QuorUiCtr::TGGrid& grid, CFont& font)
     grid.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), TRUE);
 }
 
+void ScrollByWheel(QuorUiCtr::TGGrid& grid, short delta)
+{
+    constexpr long RowsPerNotch = 3;
+    grid.MoveView(0, static_cast<int>(-delta * RowsPerNotch * grid.GetRowHeight() / WHEEL_DELTA));
+}
+
 void PlaceBelowToolLine(CWnd& page, CWnd& control, CWnd& banner, int width, int height)
 {
     if (!control.GetSafeHwnd())
@@ -80,5 +87,6 @@ void PlaceBelowToolLine(CWnd& page, CWnd& control, CWnd& banner, int width, int 
     control.MoveWindow(0, place.top, width, std::max(0, height - static_cast<int>(place.top)));
     banner.GetWindowRect(place);
     page.ScreenToClient(place);
-    banner.MoveWindow(place.left, place.top, std::max(0, width - static_cast<int>(place.left)), place.Height());
+    banner.MoveWindow(place.left, place.top, std::max(0, width - static_cast<int>(place.left)),
+                      place.Height());
 }

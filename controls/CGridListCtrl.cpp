@@ -23,12 +23,6 @@ std::vector<int> ReadColumnOrder(const CWnd* header)
     return order;
 }
 
-// Where full rows can be selected, a hit on the blank rest of the cell reports every part of the item.
-bool IsOnlyOnLabel(UINT hitFlags)
-{
-    return (hitFlags & LVHT_ONITEM) == LVHT_ONITEMLABEL;
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(CGridListCtrl, CListCtrl)
@@ -51,7 +45,11 @@ int CGridListCtrl::PrepareControl(WORD flags)
 
 int CGridListCtrl::PositionControl(CWnd* ctrl, int item, int column)
 {
-    if (!ctrl || !EnsureVisible(item, TRUE))
+    const HWND window = m_hWnd;
+    const HWND control = ctrl->GetSafeHwnd();
+    // Scrolling tells the owner, who may then destroy both.
+    const auto areThere = [&] { return IsStillWindow(this, window) && ::IsWindow(control); };
+    if (!control || !EnsureVisible(item, TRUE) || !areThere())
         return 0;
     if (column < 0 || column >= CountColumns() || GetColumnWidth(OrderToIndex(column)) < MinEditableWidth)
         return 0;
@@ -66,9 +64,11 @@ int CGridListCtrl::PositionControl(CWnd* ctrl, int item, int column)
     {
         Scroll(CSize(left, 0));
         left = 0;
+        if (!areThere())
+            return 0;
     }
     const HorizontalSpan span = EditorSpan(left, width, client.right);
-    ctrl->MoveWindow(span.left, row.top, span.right - span.left, row.Height(), TRUE);
+    ::MoveWindow(control, span.left, row.top, span.right - span.left, row.Height(), TRUE);
     return 1;
 }
 
@@ -129,12 +129,25 @@ void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
     const int oldColumn = curColumn;
     curColumn = IndexToOrder(hit.iSubItem);
     MakeColumnVisible(OrderToIndex(curColumn));
+    if (!IsStillWindow(this, window))
+        return;
     const bool wasFocused = (GetItemState(hit.iItem, LVIS_FOCUSED) & LVIS_FOCUSED) != 0;
     CListCtrl::OnLButtonDown(flags, point);
     if (!IsStillWindow(this, window) || !wasFocused || curColumn == -1 || curColumn != oldColumn)
         return;
-    if (hit.iSubItem > 0 || IsOnlyOnLabel(hit.flags))
+    if (hit.iSubItem > 0 || IsOnLabel(hit))
         RequestEdit(hit.iItem, hit.iSubItem);
+}
+
+// Where full rows can be selected, platforms differ in what they report of a hit on the blank rest of the
+// cell: every part of the item, or the label.
+bool CGridListCtrl::IsOnLabel(const LVHITTESTINFO& hit)
+{
+    constexpr int LabelPadding = 6;
+    CRect label;
+    if ((hit.flags & LVHT_ONITEM) != LVHT_ONITEMLABEL || !GetItemRect(hit.iItem, label, LVIR_LABEL))
+        return false;
+    return hit.pt.x < label.left + GetStringWidth(GetItemText(hit.iItem, 0)) + LabelPadding;
 }
 
 BOOL CGridListCtrl::PreTranslateMessage(MSG* message)
@@ -162,6 +175,7 @@ BOOL CGridListCtrl::PreTranslateMessage(MSG* message)
 
 void CGridListCtrl::MoveCurrentColumn(int step)
 {
+    const HWND window = m_hWnd;
     const int lastColumn = CountColumns() - 1;
     const int wanted = curColumn + step;
     if (wanted < -1)
@@ -173,6 +187,8 @@ void CGridListCtrl::MoveCurrentColumn(int step)
     }
     curColumn = wanted;
     MakeColumnVisible(OrderToIndex(curColumn));
+    if (!IsStillWindow(this, window))
+        return;
     CRect bounds;
     if (const int row = FocusedRow(); row != -1 && GetItemRect(row, bounds, LVIR_BOUNDS))
         InvalidateRect(bounds, TRUE);
@@ -202,10 +218,11 @@ void CGridListCtrl::TakeFocus()
 
 void CGridListCtrl::RequestEdit(int row, int column)
 {
-    CWnd* parent = GetParent();
+    const HWND window = m_hWnd;
+    CString text = GetItemText(row, column);
+    CWnd* parent = IsStillWindow(this, window) ? GetParent() : nullptr;
     if (!parent)
         return;
-    CString text = GetItemText(row, column);
     NMLVDISPINFO record = {};
     record.hdr.hwndFrom = m_hWnd;
     record.hdr.idFrom = static_cast<UINT_PTR>(GetDlgCtrlID());

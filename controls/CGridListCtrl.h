@@ -11,11 +11,13 @@
 // the list's window and control id, the mask LVIF_TEXT, the row in iItem, the column index in iSubItem, and
 // the cell's text with its length in pszText and cchTextMax; the result is ignored. The parent then
 //   1. creates a CInPlaceEdit as a child of the list, which takes the focus,
-//   2. places it with PositionControl, and destroys it when that returns 0,
+//   2. places it with PositionControl, which gives it the size of the cell, and calls CalculateSize for a
+//   text that is longer; when PositionControl returns 0, it gives the focus back to the list, which ends the
+//   edit,
 //   3. stores the text on LVN_ENDLABELEDIT, which the editor sends when it loses the focus, and
 //   4. destroys the editor after that notification has returned: it is sent from inside a message of the
 //   editor.
-// The parent may destroy the list while it handles LVN_BEGINLABELEDIT.
+// The parent may destroy the list or the editor in any of these notifications.
 //
 // To show the current cell as a sunken button face, a derived class connects OnCustomDraw:
 //   ON_NOTIFY_REFLECT(NM_CUSTOMDRAW, &MyList::OnCustomDraw)
@@ -41,21 +43,22 @@ public:
     int PositionControl(CWnd* ctrl, int item, int column);
 
     // Scrolls a column that is not wholly visible to the left edge of the list. `column` is a column index; a
-    // negative one does nothing, and so does an empty list.
+    // negative one does nothing, one behind the last column scrolls to the end. An empty list does not
+    // scroll.
     void MakeColumnVisible(int column);
 
     // Takes Left, Right and F2 when the list itself has the focus. Left and Right move the current column and
-    // are consumed; one step left of the first column is no current column. F2 sends LVN_BEGINLABELEDIT for
-    // the current cell.
+    // are consumed; one step left of the first column is no current column, and Right stays on the last. F2
+    // sends LVN_BEGINLABELEDIT for the current cell and is passed on.
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
     // Answers NM_CUSTOMDRAW, a NMLVCUSTOMDRAW, so that the current cell of the focused row is drawn as a
-    // sunken button face. Not connected by this class.
+    // sunken button face with the text in the colour of button texts. Not connected by this class.
     afx_msg void OnCustomDraw(NMHDR* header, LRESULT* result);
 
     // Sets the current column; on a second click on the current cell sends LVN_BEGINLABELEDIT. In column 0
-    // that click must be on the label.
+    // that click must be on the text of the label.
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     // Scrolling takes the focus, which ends an open editor.
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* scrollBar);
@@ -77,6 +80,7 @@ private:
     int FocusedRow();
     void MoveCurrentColumn(int step);
     void TakeFocus();
+    bool IsOnLabel(const LVHITTESTINFO& hit);
     void RequestEdit(int row, int column);
     BOOL IsCurrentCell(const NMLVCUSTOMDRAW& draw);
     CRect CellRectangle(const NMLVCUSTOMDRAW& draw);

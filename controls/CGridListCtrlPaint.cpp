@@ -1,6 +1,10 @@
 // How the report list draws its current cell.
 #include "controls/CGridListCtrl.h"
 
+#include "controls/WindowLife.h"
+
+using namespace QuorUiCtr;
+
 void CGridListCtrl::OnCustomDraw(NMHDR* header, LRESULT* result)
 {
     const NMLVCUSTOMDRAW& draw = *reinterpret_cast<const NMLVCUSTOMDRAW*>(header);
@@ -51,7 +55,11 @@ void CGridListCtrl::DrawCurrentCell(const NMLVCUSTOMDRAW& draw)
 {
     constexpr UINT Format = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIPSIS;
     CDC* context = CDC::FromHandle(draw.nmcd.hdc);
+    const HWND window = m_hWnd;
     const CString text = GetItemText(static_cast<int>(draw.nmcd.dwItemSpec), draw.iSubItem);
+    // A list whose texts its owner keeps has asked for this one.
+    if (!IsStillWindow(this, window))
+        return;
     CRect cell = CellRectangle(draw);
     const int saved = context->SaveDC();
     context->FillSolidRect(cell, ::GetSysColor(COLOR_3DFACE));

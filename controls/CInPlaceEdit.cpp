@@ -18,13 +18,13 @@ CSize MeasureLine(CDC& context, const CString& text)
 }
 
 // The text is broken within the editor and within all the room to its right; the lower result counts.
-CSize MeasureLines(CDC& context, const CString& text, const CRect& editor, const CRect& list)
+CSize MeasureLines(CDC& context, const CString& text, const CRect& place, const CRect& listClient)
 {
     constexpr UINT Format = DT_CALCRECT | DT_WORDBREAK | DT_EXPANDTABS | DT_NOPREFIX;
-    CRect narrow(editor);
+    CRect narrow(place);
     context.DrawText(text, narrow, Format);
-    CRect wide(editor);
-    wide.right = list.right;
+    CRect wide(place);
+    wide.right = listClient.right;
     context.DrawText(text, wide, Format);
     const CRect& better = narrow.Height() < wide.Height() ? narrow : wide;
     return CSize(better.Width() + TextMargin, better.Height() + TextMargin);
@@ -52,12 +52,14 @@ int CInPlaceEdit::OnCreate(LPCREATESTRUCT create)
     const HWND window = m_hWnd;
     if (CWnd* list = GetParent())
         SendMessage(WM_SETFONT, static_cast<WPARAM>(list->SendMessage(WM_GETFONT)), TRUE);
+    // The list hears of the text, the owner of another editor of the lost focus; either may close everything.
     SetWindowText(initText);
-    SetFocus();
-    // Another editor lost the focus, and its owner may have closed everything.
+    if (IsStillWindow(this, window))
+        SetFocus();
+    if (IsStillWindow(this, window))
+        CalculateSize();
     if (!IsStillWindow(this, window))
         return -1;
-    CalculateSize();
     SetSel(0, -1);
     return 0;
 }
@@ -128,14 +130,14 @@ bool CInPlaceEdit::IsMultiLine() const
     return (GetStyle() & ES_MULTILINE) != 0;
 }
 
-CSize CInPlaceEdit::MeasureText(const CRect& editor, const CRect& list)
+CSize CInPlaceEdit::MeasureText(const CRect& place, const CRect& listClient)
 {
     CString text;
     GetWindowText(text);
     CWindowDC context(this);
     CFont* previous = context.SelectObject(GetParent()->GetFont());
     const CSize needed =
-        IsMultiLine() ? MeasureLines(context, text, editor, list) : MeasureLine(context, text);
+        IsMultiLine() ? MeasureLines(context, text, place, listClient) : MeasureLine(context, text);
     context.SelectObject(previous);
     return needed;
 }
@@ -145,18 +147,19 @@ void CInPlaceEdit::CalculateSize()
     CWnd* parent = GetParent();
     if (!parent)
         return;
-    CRect editor;
-    GetClientRect(editor);
-    MapWindowPoints(parent, editor);
-    CRect list;
-    parent->GetClientRect(list);
-    const GrownEditor grown = GrowEditor(editor, MeasureText(editor, list), list);
+    const HWND window = m_hWnd;
+    CRect place;
+    GetClientRect(place);
+    MapWindowPoints(parent, place);
+    CRect listClient;
+    parent->GetClientRect(listClient);
+    const GrownEditor grown = GrowEditor(place, MeasureText(place, listClient), listClient);
     if (grown.needsScrollBar)
         ShowScrollBar(SB_VERT, TRUE);
-    if (!grown.hasGrown)
+    if (!grown.needsRoom)
         return;
     MoveWindow(grown.rectangle, TRUE);
-    if (!IsMultiLine())
+    if (grown.rectangle.right > place.right && !IsMultiLine() && IsStillWindow(this, window))
         ScrollBack();
 }
 

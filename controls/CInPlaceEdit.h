@@ -13,8 +13,8 @@
 // ignored.
 //
 // The owner also destroys the editor: after the notification has returned, for it comes from inside a message
-// of the editor. Destroying the window of an editor that still has the focus sends the notification once
-// more.
+// of the editor. DestroyWindow on an editor that has the focus takes it away, so it sends the notification;
+// deleting the object with its window does not.
 class AFX_EXT_CLASS CInPlaceEdit : public CEdit
 {
 public:
@@ -22,9 +22,10 @@ public:
     CInPlaceEdit(int item, int subItem, CString initText);
     ~CInPlaceEdit() override;
 
-    // Makes the window large enough for its text: to the right with a single line, also downwards with
-    // ES_MULTILINE, up to two pixels before the edges of the list's client area. Shows the vertical scroll
-    // bar when the height does not suffice. Never makes room smaller.
+    // Grows to the right and downwards when the text needs more room than there is, up to two pixels before
+    // the edges of the list's client area; an edge that lay beyond is drawn back to there. Lines of an
+    // ES_MULTILINE editor are broken. Shows the vertical scroll bar when the height does not suffice. The
+    // client rectangle becomes the window's rectangle then: a border or a scroll bar costs its width.
     void CalculateSize();
 
     // Lets Enter, Esc and Delete, and every key while Ctrl is held or toggled, reach the editor before a
@@ -32,6 +33,8 @@ public:
     BOOL PreTranslateMessage(MSG* message) override;
 
 protected:
+    // Takes the font, the text and the focus, and selects all. Fails when that made somebody destroy the
+    // window.
     afx_msg int OnCreate(LPCREATESTRUCT create);
     // Esc cancels, Enter finishes; both by giving the focus to the list.
     afx_msg void OnChar(UINT character, UINT repeatCount, UINT flags);
@@ -50,7 +53,7 @@ protected:
 
 private:
     bool IsMultiLine() const;
-    CSize MeasureText(const CRect& editor, const CRect& list);
+    CSize MeasureText(const CRect& place, const CRect& listClient);
     // The character that made the text too long has scrolled it; shows as much of its start as there is room
     // for beside the caret.
     void ScrollBack();

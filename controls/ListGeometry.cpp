@@ -37,12 +37,12 @@ GrownEditor GrowEditor(const CRect& current, CSize needed, const CRect& list)
     GrownEditor grown{current, false, false};
     if (needed.cx > current.Width())
     {
-        grown.hasGrown = true;
+        grown.needsRoom = true;
         grown.rectangle.right = std::min(current.left + needed.cx, list.right - FreeEdge);
     }
     if (needed.cy > current.Height())
     {
-        grown.hasGrown = true;
+        grown.needsRoom = true;
         grown.rectangle.bottom = current.top + needed.cy;
         grown.needsScrollBar = grown.rectangle.bottom >= list.bottom - FreeEdge;
         if (grown.needsScrollBar)

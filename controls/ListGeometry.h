@@ -25,14 +25,15 @@ int PositionInOrder(const std::vector<int>& order, int index);
 // Whether a column from `left` on is wholly inside a client area of that width.
 bool IsColumnInside(int left, int width, int clientRight);
 
-// Where the editor of a cell lies that begins at `left`: inside the cell and inside the client area.
+// Where the editor of a cell lies that begins at `left`: from 4 pixels inside the cell to one pixel behind
+// it, at most to the end of the client area.
 HorizontalSpan EditorSpan(int left, int width, int clientRight);
 
 // What an editor of the client rectangle `current` becomes.
 struct GrownEditor
 {
     CRect rectangle;
-    bool hasGrown;       // whether more room is needed, also when there is none left
+    bool needsRoom;      // whether more room is needed, also when there is none left
     bool needsScrollBar; // the text does not fit between the editor's top and the end of the list
 };
 

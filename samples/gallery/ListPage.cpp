@@ -124,7 +124,11 @@ void ListPage::OnBeginEdit(NMHDR* header, LRESULT* result)
     const DWORD style =
         IsDlgButtonChecked(IDC_LIST_MULTI_LINE) ? ES_MULTILINE | ES_AUTOVSCROLL : ES_AUTOHSCROLL;
     editor = std::make_unique<CInPlaceEdit>(item.iItem, item.iSubItem, item.pszText);
-    editor->Create(WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 0, 0), &list, IDC_LIST_EDITOR);
+    if (!editor->Create(WS_CHILD | WS_VISIBLE | style, CRect(0, 0, 0, 0), &list, IDC_LIST_EDITOR))
+    {
+        editor.reset();
+        return;
+    }
     if (list.PositionControl(editor.get(), item.iItem, item.iSubItem))
     {
         editor->CalculateSize();

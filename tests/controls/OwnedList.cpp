@@ -33,6 +33,16 @@ void TestList::OnDraw(NMHDR* header, LRESULT* result)
     OnCustomDraw(header, result);
 }
 
+LRESULT TestList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    const bool destroysItself =
+        destroysItselfWhenScrolled && (message == LVM_SCROLL || message == LVM_ENSUREVISIBLE);
+    const LRESULT result = CGridListCtrl::WindowProc(message, wParam, lParam);
+    if (destroysItself)
+        DestroyWindow();
+    return result;
+}
+
 CRect TestList::Bounds(int row)
 {
     CRect bounds;
@@ -89,6 +99,7 @@ ListOwner::~ListOwner()
 {
     onBegin = nullptr;
     onEnd = nullptr;
+    onNotification = nullptr;
     DestroyWindow();
 }
 
@@ -96,6 +107,8 @@ LRESULT ListOwner::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     if (message == WM_NOTIFY)
     {
+        if (onNotification)
+            onNotification(*reinterpret_cast<const NMHDR*>(lParam));
         const NMLVDISPINFO& record = *reinterpret_cast<const NMLVDISPINFO*>(lParam);
         if (record.hdr.code == LVN_BEGINLABELEDIT || record.hdr.code == LVN_ENDLABELEDIT)
         {
@@ -123,8 +136,8 @@ void ListOwner::OnBegin(const NMLVDISPINFO& record)
 bool ListOwner::Edit(int row, int column, const CString& text)
 {
     editor = std::make_unique<TestEditor>(row, column, text);
-    editor->Create(WS_CHILD | WS_VISIBLE | editorStyle, CRect(0, 0, 0, 0), list.get(), EditorId);
-    return list->PositionControl(editor.get(), row, column) != 0;
+    return editor->Create(WS_CHILD | WS_VISIBLE | editorStyle, CRect(0, 0, 0, 0), list.get(), EditorId) &&
+           list->PositionControl(editor.get(), row, column) != 0;
 }
 
 void ListOwner::OnEnd(const NMLVDISPINFO& record)

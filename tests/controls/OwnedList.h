@@ -33,7 +33,11 @@ public:
     void Order(std::vector<int> order);
     int FocusedRow() { return GetNextItem(-1, LVNI_FOCUSED); }
 
+    // Stands for an owner that destroys the list when it hears of scrolling.
+    bool destroysItselfWhenScrolled = false;
+
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     DECLARE_MESSAGE_MAP()
     afx_msg void OnDraw(NMHDR* header, LRESULT* result);
 
@@ -72,7 +76,7 @@ public:
     ~ListOwner() override;
 
     std::vector<std::string> TakeEdits() { return std::exchange(edits, {}); }
-    // Creates the editor of a cell and places it.
+    // Creates the editor of a cell and places it; false when either fails.
     bool Edit(int row, int column, const CString& text);
     bool IsEditing() const { return editor && editor->m_hWnd; }
     void CloseEditor();
@@ -86,6 +90,8 @@ public:
     // Called in place of the owner's own work when set.
     std::function<void(const NMLVDISPINFO&)> onBegin;
     std::function<void(const NMLVDISPINFO&)> onEnd;
+    // Called for every notification of the list, before the owner's own work.
+    std::function<void(const NMHDR&)> onNotification;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
@@ -98,7 +104,8 @@ private:
     std::vector<std::string> edits;
 };
 
-// Three columns of 100 pixels, rows "r0c0" ..., in a list of 320 by 200 pixels without a border.
+// A list of 320 by 200 pixels without a border; MakeColumns and MakeRows fill it: columns of 100 pixels,
+// texts "r0c0" ...
 class ListTest : public testing::Test
 {
 protected:

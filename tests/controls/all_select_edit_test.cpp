@@ -6,6 +6,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 
 using namespace quor::test;
@@ -113,30 +114,40 @@ TEST_F(AllSelectEdit, EmptyEdit_TakesClicks)
 }
 
 // Another field loses the focus to the edit, and its owner deletes the edit then.
-class DeletingEdit : public CEdit
+class FocusLosingEdit : public CEdit
 {
 public:
-    explicit DeletingEdit(std::unique_ptr<TestEdit>& edit) : victim(edit) {}
+    explicit FocusLosingEdit(std::function<void()> action) : whenLost(std::move(action)) {}
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
     {
         if (message == WM_KILLFOCUS)
-            victim.reset();
+            whenLost();
         return CEdit::WindowProc(message, wParam, lParam);
     }
 
 private:
-    std::unique_ptr<TestEdit>& victim;
+    std::function<void()> whenLost;
 };
 
 TEST_F(AllSelectEdit, EditDeletedWhileItTakesTheFocus_IsLeftAlone)
 {
-    DeletingEdit other(edit);
+    FocusLosingEdit other([this] { edit.reset(); });
     other.Create(WS_CHILD | WS_VISIBLE, CRect(10, 40, 210, 60), &host, 4);
     other.SetFocus();
     Press(front);
     EXPECT_EQ(edit, nullptr);
+}
+
+TEST_F(AllSelectEdit, WindowDestroyedWhileItTakesTheFocus_HasNotSelected)
+{
+    FocusLosingEdit other([this] { edit->DestroyWindow(); });
+    other.Create(WS_CHILD | WS_VISIBLE, CRect(10, 40, 210, 60), &host, 4);
+    other.SetFocus();
+    Press(front);
+    EXPECT_EQ(edit->m_hWnd, nullptr);
+    EXPECT_FALSE(edit->selectAllDone);
 }
 
 } // namespace

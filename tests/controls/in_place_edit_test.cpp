@@ -2,6 +2,8 @@
 #include "tests/controls/OwnedList.h"
 #include "tests/support/Input.h"
 
+#include <algorithm>
+
 using namespace quor::test;
 
 namespace
@@ -14,6 +16,7 @@ protected:
     {
         MakeColumns(3);
         MakeRows(6);
+        SetControlKey(0);
     }
 
     ~InPlaceEdit() override { SetControlKey(0); }
@@ -45,14 +48,15 @@ protected:
         ::SetKeyboardState(keys);
     }
 
-    int TextWidth(const CString& text)
+    CSize TextSize(const CString& text)
     {
         CClientDC context(&list);
         CFont* previous = context.SelectObject(list.GetFont());
-        const int width = context.GetTextExtent(text).cx;
+        const CSize size = context.GetTextExtent(text);
         context.SelectObject(previous);
-        return width;
+        return size;
     }
+    int TextWidth(const CString& text) { return TextSize(text).cx; }
 };
 
 TEST_F(InPlaceEdit, NewEditor_ShowsTheSelectedTextInTheFontOfTheList)
@@ -78,7 +82,7 @@ TEST_F(InPlaceEdit, NewEditor_IsLargeEnoughForItsText)
     editor.Create(WS_CHILD | WS_VISIBLE, CRect(10, 30, 12, 32), &list, 5);
     EXPECT_EQ(editor.Place().left, 10);
     EXPECT_EQ(editor.Place().Width(), TextWidth(L"a long text") + 5);
-    EXPECT_GT(editor.Place().Height(), 5);
+    EXPECT_EQ(editor.Place().Height(), TextSize(L"a long text").cy);
     owner.createsEditors = false;
     list.SetFocus();
 }
@@ -164,6 +168,32 @@ TEST_F(InPlaceEdit, ShorterText_LeavesTheSize)
     EXPECT_EQ(editor.Place(), grown);
 }
 
+TEST_F(InPlaceEdit, EditorWithAnEdge_TakesItsClientRectangleAsItsPlace)
+{
+    TestEditor& editor = Open(0, 0, L"");
+    editor.ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
+    const CRect before = editor.Place();
+    CRect client;
+    editor.GetClientRect(client);
+    ASSERT_EQ(client.Width(), before.Width() - 4);
+    const CString text(L'w', 15);
+    editor.SetWindowText(text);
+    editor.CalculateSize();
+    const int height = std::max(client.Height(), static_cast<int>(TextSize(text).cy));
+    EXPECT_EQ(editor.Place(), CRect(before.TopLeft() + CPoint(2, 2), CSize(TextWidth(text) + 5, height)));
+}
+
+TEST_F(InPlaceEdit, CharacterInTheMiddleOfALongText_MovesNothingElse)
+{
+    TestEditor& editor = Open(0, 1, L"");
+    Type(std::wstring(90, L'w'));
+    editor.SetSel(60, 60);
+    const int before = editor.PosFromChar(59).x;
+    Type(L"w");
+    EXPECT_EQ(editor.PosFromChar(59).x, before);
+    EXPECT_EQ(editor.Selection(), "61-61");
+}
+
 TEST_F(InPlaceEdit, MultiLineEditor_GrowsDownwards)
 {
     owner.editorStyle = ES_MULTILINE | ES_AUTOVSCROLL;
@@ -189,7 +219,8 @@ TEST_F(InPlaceEdit, MultiLineEditor_WidensWhereThatMakesItLower)
     editor.SetWindowText(L"many short words on one line");
     editor.CalculateSize();
     EXPECT_EQ(editor.Place().Width(), TextWidth(L"many short words on one line") + 5);
-    EXPECT_LT(editor.Place().Height(), 2 * before.Height());
+    EXPECT_EQ(editor.Place().Height(),
+              std::max(before.Height(), static_cast<int>(TextSize(L"many short words").cy) + 5));
 }
 
 TEST_F(InPlaceEdit, MultiLineEditor_ShowsAScrollBarAtTheEndOfTheList)

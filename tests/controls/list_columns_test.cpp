@@ -80,6 +80,29 @@ TEST_F(ListColumns, PositionControl_ScrollsTheColumnToTheLeft)
     EXPECT_EQ(Left(2), 0) << "also back to the left";
 }
 
+TEST_F(ListColumns, PositionControl_WhereScrollingStopsAtTheEnd_StillTakesTheLeftEdge)
+{
+    MakeColumns(9);
+    MakeRows(3);
+    EXPECT_TRUE(owner.Edit(0, 8, L"x"));
+    EXPECT_GT(Left(8), 0);
+    EXPECT_EQ(owner.editor->Place().left, 4);
+    EXPECT_EQ(owner.editor->Place().right, 101);
+}
+
+TEST_F(ListColumns, PositionControl_LeavesAPartlyVisibleRowWhereItIs)
+{
+    MakeColumns(2);
+    MakeRows(100);
+    CRect client;
+    list.GetClientRect(client);
+    const int partlyVisible = list.GetTopIndex() + list.GetCountPerPage();
+    ASSERT_LT(list.Bounds(partlyVisible).top, client.bottom);
+    ASSERT_GT(list.Bounds(partlyVisible).bottom, client.bottom);
+    EXPECT_TRUE(owner.Edit(partlyVisible, 1, L"x"));
+    EXPECT_EQ(list.GetTopIndex(), 0);
+}
+
 TEST_F(ListColumns, PositionControl_ScrollsTheRowIntoView)
 {
     MakeColumns(2);
@@ -172,7 +195,16 @@ TEST_F(ListColumns, MakeColumnVisible_IgnoresWhatIsNotThere)
     MakeRows(2);
     list.MakeColumnVisible(-1);
     EXPECT_EQ(Left(0), 0);
+}
+
+TEST_F(ListColumns, MakeColumnVisible_BehindTheLastColumn_ShowsTheEnd)
+{
+    MakeColumns(9);
+    MakeRows(2);
     list.MakeColumnVisible(1000);
+    CRect client;
+    list.GetClientRect(client);
+    EXPECT_EQ(list.Cell(0, 8).right, client.right);
 }
 
 } // namespace

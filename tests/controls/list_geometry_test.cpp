@@ -36,7 +36,7 @@ struct Growth
 {
     CSize needed;
     CRect expected;
-    bool hasGrown;
+    bool needsRoom;
     bool needsScrollBar;
 };
 
@@ -61,9 +61,16 @@ TEST(ListGeometry, GrowEditor_GrowsOnlyAndStopsTwoPixelsBeforeTheEdges)
         SCOPED_TRACE(testing::Message() << growth.needed.cx << " x " << growth.needed.cy);
         const GrownEditor grown = GrowEditor(editor, growth.needed, list);
         EXPECT_EQ(grown.rectangle, growth.expected);
-        EXPECT_EQ(grown.hasGrown, growth.hasGrown);
+        EXPECT_EQ(grown.needsRoom, growth.needsRoom);
         EXPECT_EQ(grown.needsScrollBar, growth.needsScrollBar);
     }
+}
+
+TEST(ListGeometry, GrowEditor_DrawsAnEdgeBackThatLayBeyond)
+{
+    const CRect list(0, 0, 300, 200);
+    EXPECT_EQ(GrowEditor(CRect(104, 20, 300, 36), CSize(900, 16), list).rectangle, CRect(104, 20, 298, 36));
+    EXPECT_EQ(GrowEditor(CRect(104, 20, 164, 200), CSize(60, 900), list).rectangle, CRect(104, 20, 164, 198));
 }
 
 } // namespace

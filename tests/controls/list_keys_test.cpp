@@ -2,6 +2,8 @@
 #include "tests/controls/OwnedList.h"
 #include "tests/support/Input.h"
 
+#include <tuple>
+
 using namespace quor::test;
 
 namespace
@@ -37,13 +39,44 @@ TEST_F(ListKeys, LeftAndRight_AreConsumed)
     MakeColumns(9);
     MakeRows(2);
     SetCurrent(0, 0);
-    for (const WPARAM key : {WPARAM{VK_LEFT}, WPARAM{VK_LEFT}, WPARAM{VK_RIGHT}})
-    {
+    const auto isConsumed = [this](WPARAM key) {
         MSG message = {list.m_hWnd, WM_KEYDOWN, key, 0, 0, {}};
-        EXPECT_TRUE(list.PreTranslateMessage(&message));
-    }
+        return list.PreTranslateMessage(&message) != FALSE;
+    };
+    EXPECT_TRUE(isConsumed(VK_LEFT));
+    EXPECT_TRUE(isConsumed(VK_LEFT)) << "clamped";
+    EXPECT_TRUE(isConsumed(VK_RIGHT));
+    list.curColumn = 8;
+    EXPECT_TRUE(isConsumed(VK_RIGHT)) << "clamped";
     MSG other = {list.m_hWnd, WM_KEYDOWN, VK_DOWN, 0, 0, {}};
     EXPECT_FALSE(list.PreTranslateMessage(&other));
+}
+
+TEST_F(ListKeys, Right_BeyondTheLastColumn_GoesBackToIt)
+{
+    MakeColumns(3);
+    MakeRows(2);
+    SetCurrent(0, 7);
+    Key(VK_RIGHT);
+    EXPECT_EQ(Current(), "0,2");
+}
+
+TEST_F(ListKeys, ClampedKey_NeitherScrollsNorRepaints)
+{
+    MakeColumns(9);
+    MakeRows(2);
+    for (const auto& [key, column, scrolled] :
+         {std::tuple<WORD, int, int>{VK_RIGHT, 8, 0}, {VK_LEFT, -1, 400}})
+    {
+        SetCurrent(0, column);
+        list.Scroll(CSize(scrolled + list.Cell(0, 0).left, 0));
+        list.UpdateWindow();
+        list.TakePaintedRows();
+        Key(key);
+        list.UpdateWindow();
+        EXPECT_EQ(list.Cell(0, 0).left, -scrolled);
+        EXPECT_EQ(list.TakePaintedRows(), std::vector<int>{});
+    }
 }
 
 TEST_F(ListKeys, Right_ShowsTheColumn)

@@ -63,6 +63,8 @@ TEST_F(ListPaint, EachStage_HasItsAnswer)
     EXPECT_EQ(Answer(AfterSubItem, 0), 0);
     EXPECT_EQ(Answer(AfterSubItem, CDIS_FOCUS, 1, 1), 0) << "another column";
     EXPECT_EQ(Answer(CDDS_POSTPAINT, 0), 0);
+    EXPECT_EQ(Answer(CDDS_POSTPAINT, CDIS_FOCUS), CDRF_NOTIFYSUBITEMDRAW) << "as any other stage";
+    EXPECT_EQ(Answer(CDDS_ITEMPOSTPAINT, CDIS_FOCUS), CDRF_NOTIFYSUBITEMDRAW) << "as any other stage";
 }
 
 TEST_F(ListPaint, NoCurrentColumn_DrawsNothing)
@@ -136,6 +138,17 @@ TEST_F(ListPaint, FocusedRow_ShowsTheCurrentCell)
     const Snapshot picture(list.m_hWnd);
     ExpectSunken(picture, list.Cell(1, 1));
     EXPECT_NE(picture.At(list.Cell(1, 2).left + 3, list.Cell(1, 2).top + 3), ::GetSysColor(COLOR_3DFACE));
+}
+
+TEST_F(ListPaint, FocusedRow_ShowsTheLabelAsTheCurrentCell)
+{
+    SetCurrent(1, 0);
+    list.Invalidate();
+    CRect label;
+    list.GetItemRect(1, label, LVIR_LABEL);
+    const Snapshot picture(list.m_hWnd);
+    EXPECT_EQ(picture.At(label.left + 1, label.top + 1), ::GetSysColor(COLOR_3DDKSHADOW));
+    EXPECT_EQ(picture.At(label.right - 2, label.bottom - 2), ::GetSysColor(COLOR_3DHIGHLIGHT));
 }
 
 } // namespace

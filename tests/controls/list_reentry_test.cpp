@@ -110,6 +110,90 @@ TEST_F(ListReentry, ListDestroyedWhileEditing_EndsTheEdit)
     EXPECT_FALSE(owner.IsEditing());
 }
 
+TEST_F(ListReentry, OwnerDestroyedWhenAskedForAnEdit_TakesTheListAlong)
+{
+    for (const bool byKey : {true, false})
+    {
+        ListOwner other;
+        other.list->InsertColumn(0, L"A", LVCFMT_LEFT, 100);
+        other.list->InsertItem(0, L"text");
+        other.list->SetFocus();
+        other.list->SetItemState(0, LVIS_FOCUSED, LVIS_FOCUSED);
+        other.list->curColumn = 0;
+        other.onBegin = [&](const NMLVDISPINFO&) { other.DestroyWindow(); };
+        const HWND destroyed = *other.list;
+        CRect label;
+        other.list->GetItemRect(0, label, LVIR_LABEL);
+        const CPoint point(label.left + 4, label.CenterPoint().y);
+        ::PostMessage(destroyed, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+        if (byKey)
+            PostKey(destroyed, VK_F2);
+        else
+            SendMouse(destroyed, WM_LBUTTONDOWN, point, MK_LBUTTON);
+        EXPECT_EQ(other.TakeEdits(), Lines{"begin 0,0 [text]"});
+        EXPECT_FALSE(::IsWindow(destroyed));
+    }
+}
+
+TEST_F(ListReentry, OwnerDestroyedInTheReport_TakesEditorAndListAlong)
+{
+    owner.Edit(0, 1, L"x");
+    owner.onEnd = [this](const NMLVDISPINFO&) { owner.DestroyWindow(); };
+    PostCharacter(owner.editor->m_hWnd, L'\r');
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(owner.editor->m_hWnd, nullptr);
+    EXPECT_EQ(owner.TakeEdits().front(), "end 0,1 [x]");
+}
+
+TEST_F(ListReentry, ListDestroyedByTheSelectionOfAClick_IsLeftAlone)
+{
+    SetCurrent(0, 1);
+    owner.onNotification = [this](const NMHDR& header) {
+        if (header.code == LVN_ITEMCHANGED && owner.list)
+            owner.list->DestroyWindow();
+    };
+    const CPoint point = list.Middle(2, 1);
+    ::PostMessage(window, WM_LBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    SendMouse(window, WM_LBUTTONDOWN, point, MK_LBUTTON);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(owner.TakeEdits(), Lines{});
+}
+
+TEST_F(ListReentry, ListDestroyedByItsOwnScrolling_IsLeftAlone)
+{
+    list.SetColumnWidth(1, 400);
+    SetCurrent(0, 1);
+    list.destroysItselfWhenScrolled = true;
+    Key(VK_RIGHT);
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(ListReentry, ListDestroyedByAClickThatScrollsIt_IsLeftAlone)
+{
+    list.SetColumnWidth(1, 400);
+    SetCurrent(0, 0);
+    list.destroysItselfWhenScrolled = true;
+    SendMouse(window, WM_LBUTTONDOWN, CPoint(150, list.Middle(0, 0).y), MK_LBUTTON);
+    EXPECT_FALSE(::IsWindow(window));
+}
+
+TEST_F(ListReentry, ListDestroyedWhileItMakesRoomForAnEditor_RefusesIt)
+{
+    for (const bool sideways : {true, false})
+    {
+        ListOwner other;
+        other.list->InsertColumn(0, L"A", LVCFMT_LEFT, 200);
+        other.list->InsertColumn(1, L"B", LVCFMT_LEFT, 200);
+        for (int row = 0; row < 90; ++row)
+            other.list->InsertItem(row, L"text");
+        CStatic control;
+        control.Create(L"", WS_CHILD, CRect(1, 2, 3, 4), other.list.get(), 77);
+        other.list->destroysItselfWhenScrolled = true;
+        EXPECT_EQ(other.list->PositionControl(&control, sideways ? 0 : 80, sideways ? 1 : 0), 0);
+        EXPECT_EQ(other.list->m_hWnd, nullptr);
+    }
+}
+
 TEST_F(ListReentry, ManyEdits_LeaveNoHandles)
 {
     const auto editOnce = [this](int row) {

@@ -14,10 +14,11 @@ namespace CellEditorLife
 
 struct Record
 {
-    TGCellCtrl* editor;
+    TGCellCtrl* editor; // null when the object is deleted while the record is still in use
     TGCellCtrl** slot;
     HWND window = nullptr;
-    int running = 0; // messages of the editor's windows being handled, plus its creation
+    // Messages of the editor's windows being handled, its creation, its uses and its destruction.
+    int running = 0;
     bool retired = false;
     bool windowGone = false;
     bool deleteWanted = false;
@@ -150,7 +151,7 @@ Creation::~Creation()
         record->windowGone = true;
         EmptySlot(record);
     }
-    else
+    else if (record->editor)
         WatchWindows(record);
     --record->running;
     Settle(record);
@@ -180,6 +181,18 @@ void Retire(TGCellCtrl* editor)
         record->retired = true;
         Settle(record);
     }
+}
+
+void Forget(const TGCellCtrl* editor)
+{
+    Record* record = FindRecord(editor);
+    if (!record)
+        return;
+    EmptySlot(record);
+    record->editor = nullptr;
+    record->deleteWanted = false;
+    record->windowGone = true;
+    Settle(record);
 }
 
 void Delete(TGCellCtrl* editor)

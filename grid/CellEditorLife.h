@@ -47,6 +47,9 @@ private:
 // Destroys the editor of a finished session as soon as none of its code is running; null is ignored.
 void Retire(TGCellCtrl* editor);
 
+// An editor is being deleted, by whomever. For the destructor.
+void Forget(const TGCellCtrl* editor);
+
 // Deletes an editor whose window is gone, at once or as soon as none of its code is running. For
 // PostNcDestroy.
 void Delete(TGCellCtrl* editor);

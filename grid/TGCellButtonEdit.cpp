@@ -13,8 +13,8 @@ TGCellButtonEdit::~TGCellButtonEdit() = default;
 
 void TGCellButtonEdit::Create(CRect& rect)
 {
-    CreateWithRoom(rect);
-    button.Create();
+    if (CreateWithRoom(rect))
+        button.Create();
 }
 
 } // namespace QuorUiCtr

@@ -2,6 +2,7 @@
 #include "grid/TGCellCombo.h"
 
 #include "grid/CellEditorLife.h"
+#include "grid/CellWatch.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 
@@ -38,15 +39,16 @@ void TGCellCombo::Create(CRect& rect)
     const DWORD kind = editable ? CBS_DROPDOWN : CBS_DROPDOWNLIST | CBS_AUTOHSCROLL;
     TGGridCell& edited = GetCell();
     TGGrid& grid = edited.GetGrid();
-    const CString text = edited.GetText();
     modified = false;
     CComboBox::Create(WS_CHILD | WS_VISIBLE | WS_VSCROLL | kind, ComboWindowRect(rect), &grid, CellEditorId);
     const UINT fieldHeight = static_cast<UINT>(grid.GetRowHeight() - FieldInset);
     SetItemHeight(-1, fieldHeight);
+    CellWatch watch(grid, &edited);
     grid.OnCellComboString(edited, *this);
     // The hook may have destroyed the windows; the object lives on until its creation is done.
-    if (!m_hWnd)
+    if (!m_hWnd || !watch.Cell())
         return;
+    const CString text = edited.GetText();
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(grid.GetFont()->GetSafeHandle()), TRUE);
     // A new font makes the field as high as it likes.
     SetItemHeight(-1, fieldHeight);

@@ -1,6 +1,8 @@
 // The parts of the cell editors' interface that do not depend on the kind of editor.
 #include "grid/TGCellCtrl.h"
 
+#include "grid/CellEditorLife.h"
+
 namespace QuorUiCtr
 {
 
@@ -8,7 +10,10 @@ TGCellCtrl::TGCellCtrl(TGGridCell& editedCell) : cell(editedCell) {}
 
 TGCellCtrl::TGCellCtrl(const TGCellCtrl& other) = default;
 
-TGCellCtrl::~TGCellCtrl() = default;
+TGCellCtrl::~TGCellCtrl()
+{
+    CellEditorLife::Forget(this);
+}
 
 void TGCellCtrl::SetModified(bool) {}
 
@@ -28,11 +33,12 @@ void TGCellCtrl::Destroy()
 
 void TGCellCtrl::Hide()
 {
+    // Hiding moves the focus, and whoever hears of that may destroy the window.
+    const CellEditorLife::Use use(this);
     CWnd* wnd = GetWnd();
     if (!wnd->GetSafeHwnd())
         return;
     wnd->ShowWindow(SW_HIDE);
-    // Hiding moves the focus, and what follows from that may have destroyed the window.
     if (wnd->GetSafeHwnd())
         wnd->EnableWindow(FALSE);
 }

@@ -14,6 +14,7 @@ class AFX_EXT_CLASS TGCellCtrl
 {
 public:
     explicit TGCellCtrl(TGGridCell& editedCell);
+    // Another editor of the same cell.
     TGCellCtrl(const TGCellCtrl& other);
     TGCellCtrl& operator=(const TGCellCtrl&) = delete;
 
@@ -36,7 +37,7 @@ public:
     virtual void SetNewText(const wchar_t* text);
 
     TGGridCell& GetCell() { return cell; }
-    // `wnd` is the editor's window or a child of it.
+    // `wnd` is the editor's window or a child of it; null counts as no window.
     bool IsMyFocus(CWnd* wnd);
     // Destroys the editor's window, and with it the object.
     void Destroy();

@@ -2,6 +2,7 @@
 #include "grid/TGCellEdit.h"
 
 #include "grid/CellEditorLife.h"
+#include "grid/CellWatch.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 
@@ -41,14 +42,20 @@ void TGCellEdit::Create(CRect& rect)
     SetFocus();
 }
 
-void TGCellEdit::CreateWithRoom(CRect& rect)
+bool TGCellEdit::CreateWithRoom(CRect& rect)
 {
+    CellWatch watch(GetCell().GetGrid(), &GetCell());
     const int cellHeight = rect.Height();
     TGCellEdit::Create(rect);
-    if (rect.Width() <= cellHeight)
-        return;
-    rect.right -= cellHeight;
-    SetRect(rect);
+    // Taking the focus ends the edit of another grid, whose hooks may do anything to this one.
+    if (!m_hWnd || !watch.Cell())
+        return false;
+    if (rect.Width() > cellHeight)
+    {
+        rect.right -= cellHeight;
+        SetRect(rect);
+    }
+    return true;
 }
 
 void TGCellEdit::SelectAllText()

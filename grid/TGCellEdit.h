@@ -38,7 +38,7 @@ protected:
     TGGrid* GetGrid() const;
     void SelectAllText();
     // TGCellEdit::Create, then the formatting rectangle gives way to a square at the right end.
-    void CreateWithRoom(CRect& rect);
+    bool CreateWithRoom(CRect& rect);
     void PostNcDestroy() override;
 
     DECLARE_MESSAGE_MAP()

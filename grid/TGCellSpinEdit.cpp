@@ -1,6 +1,7 @@
 // A cell's edit with a spin control.
 #include "grid/TGCellSpinEdit.h"
 
+#include "grid/CellWatch.h"
 #include "grid/TGGrid.h"
 
 namespace QuorUiCtr
@@ -20,18 +21,18 @@ TGCellSpinEdit::~TGCellSpinEdit() = default;
 
 void TGCellSpinEdit::Create(CRect& rect)
 {
-    CreateWithRoom(rect);
-    if (spin.Create())
+    if (CreateWithRoom(rect) && spin.Create())
         InitSpin();
 }
 
 void TGCellSpinEdit::InitSpin()
 {
     constexpr int DefaultMaximum = 100000;
-    const CString text = GetCell().GetText();
+    TGGrid& grid = GetCell().GetGrid();
+    CellWatch watch(grid, &GetCell());
     spin.SetRange32(0, DefaultMaximum);
-    GetCell().GetGrid().OnCellSpinInit(GetCell(), spin);
-    if (!spin.m_hWnd || FollowText(text))
+    grid.OnCellSpinInit(GetCell(), spin);
+    if (!spin.m_hWnd || !watch.Cell() || FollowText(GetCell().GetText()))
         return;
     int lower = 0;
     int upper = 0;
@@ -54,10 +55,12 @@ bool TGCellSpinEdit::FollowText(const CString& text)
 void TGCellSpinEdit::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 {
     TGCellEdit::OnVScroll(code, position, bar);
-    // The position travels in 16 bits, as a signed number only where the range has negative ones.
+    // The position travels in 16 bits, which are taken for a signed number only where the range has negative
+    // ones: without that a spin could neither count below zero nor beyond 32767.
     int lower = 0;
     int upper = 0;
-    spin.GetRange32(lower, upper);
+    if (spin.m_hWnd)
+        spin.GetRange32(lower, upper);
     const WORD bits = LOWORD(position);
     CString text;
     text.Format(L"%d", lower < 0 ? static_cast<short>(bits) : static_cast<int>(bits));

@@ -201,9 +201,13 @@ public:
 
     // Adds a row to the selection (scrolling it into view) or takes it out; ends with OnCurChanged(). An
     // index outside the rows is ignored.
+    // Selecting commits an open edit first, unselecting does not.
     void SelectRow(long row, bool select);
+    // The same for columns.
     void SelectCol(long col, bool select);
+    // Selects every row and repaints; commits an open edit first, calls OnCurChanged() before the repaint.
     void SelectAll();
+    // Selects nothing; ends with OnCurChanged().
     void UnSelect();
     bool IsRowSelected() const { return !rowSel.IsEmpty(); }
     bool IsColSelected() const { return !colSel.IsEmpty(); }
@@ -243,12 +247,14 @@ public:
     // line also through OnBeforeInsertRow, before it is stored. An editor that one of these hooks opens is
     // closed, too; a hook that wants another cell edited next calls AutoEditCell.
     void EndEditCell();
-    // Closes an open editor and drops its text; calls no hook.
+    // Closes an open editor and drops its text; calls no hook. An edit that has the focus still sends
+    // EN_KILLFOCUS to the parent when it is hidden.
     void CancelEditCell();
     // Opens an editor on `cell`, or anew on the cell under edit when `cell` is null, as soon as the pending
-    // messages are handled; what is open then is dropped. Ignored while a cell waits already.
+    // messages are handled; what is open then is dropped. Ignored while a cell waits already and without a
+    // window.
     void AutoEditCell(TGGridCell* cell);
-    // Commits and closes after `ms` milliseconds.
+    // Commits and closes after `ms` milliseconds; ignored without a window.
     void AutoCloseCell(int ms);
 
     // ---- Commands ---------------------------------------------------------------------------------------
@@ -310,16 +316,20 @@ protected:
     virtual void OnCellComboString(TGGridCell& cell, CComboBox& combo);
     // The button of an editor was pressed; true takes over `text` as the editor's new text. Default: false.
     virtual bool OnCellButtonDown(TGGridCell& cell, CString& text);
-    // Sets range and step of a spin editor.
+    // Sets range and step of a spin editor, 0 to 100000 before; not called when the cell is too narrow for
+    // the spin.
     virtual void OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin);
-    // A modified text is about to be stored; the hook may change it, false rejects it.
+    // A modified text is about to be stored; the hook may change it, false rejects it. Also called whenever
+    // the text of a combo box of the host's own changes that does not handle its notifications itself; the
+    // answer is not used then.
     virtual bool OnModified(TGGridCell& cell, CString& text);
     // Data or structure was changed through the user interface. Default: sets the modified flag and sends
     // WM_COMMAND with EN_CHANGE to the parent.
     virtual void OnDataChanged();
     // The selection changed or an editor opened. Default: recomputes the current row and column.
     virtual void OnCurChanged();
-    // An item of a combo editor was chosen. Default: stores its text in the cell.
+    // An item of a combo editor was chosen. Default: stores its text in the cell, past OnModified; the end of
+    // the edit commits the text again.
     virtual void OnCmbSelchange(TGGridCell& cell, CComboBox* combo);
     // The text of a combo editor was changed.
     virtual void OnCmbEditchange(TGGridCell& cell, CComboBox* combo);

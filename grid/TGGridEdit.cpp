@@ -10,6 +10,8 @@
 #include "grid/TGCellEdit.h"
 #include "grid/TGCellSpinEdit.h"
 
+#include <new>
+
 namespace QuorUiCtr
 {
 
@@ -59,22 +61,20 @@ TGCellCtrl* TGGrid::OnGetCellEdit(TGGridCell& cell)
 {
     const TGGridCol& col = cell.GetCol();
     if (col.IsComboEdit())
-        return new TGCellCombo(cell, true);
+        return new (std::nothrow) TGCellCombo(cell, true);
     if (col.IsComboSel())
-        return new TGCellCombo(cell, false);
+        return new (std::nothrow) TGCellCombo(cell, false);
     if (col.IsRightButton())
-        return new TGCellButtonEdit(cell);
+        return new (std::nothrow) TGCellButtonEdit(cell);
     if (col.IsRightSpin())
-        return new TGCellSpinEdit(cell);
-    return new TGCellEdit(cell);
+        return new (std::nothrow) TGCellSpinEdit(cell);
+    return new (std::nothrow) TGCellEdit(cell);
 }
 
 TGGridCell* TGGrid::EditSession::FindCell(long row, long col)
 {
-    if (!grid.IsValidCol(col))
-        return nullptr;
     TGGridRow* found = grid.IsNewRow(row) ? grid.newRow : grid.IsValidRow(row) ? grid.rows[row] : nullptr;
-    return found ? &(*found)[col] : nullptr;
+    return found && grid.IsValidCol(col) ? found->FindCell(col) : nullptr;
 }
 
 void TGGrid::BeginEditCell(long row, long col)
@@ -188,6 +188,9 @@ TGGridRow* TGGrid::EditSession::AppendNewRow()
 
 void TGGrid::EditSession::DropNewRow()
 {
+    // A hook may have opened an editor there.
+    if (grid.editCell && &grid.editCell->GetRow() == grid.newRow)
+        grid.CancelEditCell();
     delete grid.newRow;
     grid.newRow = nullptr;
 }
@@ -262,7 +265,7 @@ void TGGrid::EditSession::RetireEditor()
 
 void TGGrid::AutoEditCell(TGGridCell* cell)
 {
-    if (cellLock)
+    if (!m_hWnd || cellLock)
         return;
     cellLock = !cell && editCell ? editCell : cell;
     SetTimer(OpenTimer, 0, nullptr);
@@ -270,7 +273,8 @@ void TGGrid::AutoEditCell(TGGridCell* cell)
 
 void TGGrid::AutoCloseCell(int ms)
 {
-    SetTimer(CloseTimer, static_cast<UINT>(ms), nullptr);
+    if (m_hWnd)
+        SetTimer(CloseTimer, static_cast<UINT>(ms), nullptr);
 }
 
 void TGGrid::OnTimer(UINT_PTR id)

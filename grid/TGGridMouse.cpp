@@ -1,6 +1,7 @@
-// TGGrid's mouse and focus: hit tests, clicks, the focus state in the corner, tool tips, timers.
+// TGGrid's mouse and focus: hit tests, clicks, the focus state in the corner, tool tips.
 #include "grid/TGGrid.h"
 
+#include "grid/RowWatch.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TipAnswer.h"
 
@@ -90,7 +91,10 @@ void TGGrid::PressTreeCell(long row, CPoint point)
         BeginEditCell(row, 0);
         return;
     }
+    const RowWatch watch(*this, &treeRow);
     UnSelect();
+    if (!watch.IsAlive())
+        return;
     if (treeRow.IsFold())
         treeRow.UnFold();
     else

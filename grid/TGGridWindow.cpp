@@ -90,6 +90,8 @@ int TGGrid::OnCreate(LPCREATESTRUCT create)
         return -1;
     Layout(*this).CreateFont();
     RecalcLayout(1);
+    // Inside the layout of another grid the one of this grid has to wait, and hit tests need the context.
+    PrepareDC(nullptr);
     EnableToolTips(TRUE);
     Layout(*this).CreateHeaders();
     return 0;

@@ -24,8 +24,8 @@ public:
     // Creates the window as a child of the grid's window; nothing of a drag in an earlier window stays.
     void MakeWindow();
 
-    // Shows the drop mark of a running drag again, on the grid's drawing context, after the grid has drawn its
-    // cells, or what stands in `drawn` (logical coordinates).
+    // Shows the drop mark of a running drag again, on the grid's drawing context, after the grid has drawn
+    // its cells, or what stands in `drawn` (logical coordinates).
     void RestoreDropMark();
     void RestoreDropMark(const CRect& drawn);
 

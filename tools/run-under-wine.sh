@@ -6,14 +6,26 @@
 # By default each run has a virtual display and a Wine session (prefix and server) for itself, so that programs which
 # need the cursor, the focus or the clipboard may run at the same time. QUOR_USE_DISPLAY=1 runs on the display named by
 # DISPLAY instead. QUOR_WINEDEBUG sets Wine's debug channels (default: all off). QUOR_PROGRAM_CORE and QUOR_DISPLAY_CORE
-# pin the program (with the Wine server) and the X server to one processor core each.
+# pin the program (with the Wine server) and the X server to one processor core each; without them all three of a run
+# with a display of its own share one core.
 set -euo pipefail
 # shellcheck source=lib.sh
 source "$(dirname "$0")/lib.sh"
 
-# Command prefixes; empty unless a core is given.
+# Command prefixes; empty where no core is given.
 on_program_core=(${QUOR_PROGRAM_CORE:+taskset -c "$QUOR_PROGRAM_CORE"})
 on_display_core=(${QUOR_DISPLAY_CORE:+taskset -c "$QUOR_DISPLAY_CORE"})
+
+# Program and servers answer each other at every step: where waking another core takes long, that costs more than
+# they gain from running side by side (the tests of the grid: up to six times as long). Runs at the same time have
+# different sessions, and so different cores.
+share_one_core() {
+    local core=$((${session#slot-} % $(nproc)))
+    if [[ -z ${QUOR_PROGRAM_CORE:-}${QUOR_DISPLAY_CORE:-} ]] && taskset -c "$core" true 2>/dev/null; then
+        on_program_core=(taskset -c "$core")
+        on_display_core=(taskset -c "$core")
+    fi
+}
 
 # Takes the first free session and keeps it locked through descriptor 9, which no child inherits.
 take_session() {
@@ -63,6 +75,7 @@ end_session() {
 
 run_on_own_display() {
     take_session
+    share_one_core
     WINEPREFIX=$("$quor_root/tools/wine-prefix.sh" "$session" 9>&-)
     export WINEPREFIX
     end_stale_display

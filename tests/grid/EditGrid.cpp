@@ -49,6 +49,13 @@ std::string EditGrid::TakeEditText()
     return TakeText();
 }
 
+LRESULT EditGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (message == WM_TIMER)
+        ++timerMessages[wParam];
+    return WindowGrid::WindowProc(message, wParam, lParam);
+}
+
 bool EditGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
 {
     Note("before", cell);

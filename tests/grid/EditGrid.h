@@ -5,6 +5,7 @@
 #include "grid/TGCellCtrl.h"
 
 #include <functional>
+#include <map>
 
 namespace quor::test
 {
@@ -29,6 +30,8 @@ public:
     std::function<bool(long, long, CString&)> buttonTip;
     std::function<QuorUiCtr::TGCellCtrl*(QuorUiCtr::TGGridCell&)> makeEditor;
 
+    // How often the timer of an id has fired.
+    std::map<UINT_PTR, int> timerMessages;
     // The editor that was made last; the test ends its use with the session.
     QuorUiCtr::TGCellCtrl* editor = nullptr;
     CWnd* EditorWindow() { return GetDlgItem(101); }
@@ -44,6 +47,7 @@ public:
     std::string TakeEditText();
 
 protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     bool OnBeforeEdit(QuorUiCtr::TGGridCell& cell, bool& commitNewRow) override;
     QuorUiCtr::TGCellCtrl* OnGetCellEdit(QuorUiCtr::TGGridCell& cell) override;
     bool OnModified(QuorUiCtr::TGGridCell& cell, CString& text) override;

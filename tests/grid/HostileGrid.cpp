@@ -37,7 +37,7 @@ bool HostileGrid::Tip(const char* hook, CString& text) const
 }
 
 // ---- Hooks that observe: the action comes last, after what the default does
-// -------------------------------------
+// --------------------------------
 
 void HostileGrid::OnRClickCell(TGGridCell& cell, CPoint point)
 {
@@ -94,12 +94,13 @@ void HostileGrid::OnInsertRow(TGGridRow& row)
 }
 
 // ---- Hooks that answer: the action comes first, then the answer is to go on
-// -------------------------------------
+// --------------------------------
 
-bool HostileGrid::OnBeforeEdit(TGGridCell&, bool&)
+bool HostileGrid::OnBeforeEdit(TGGridCell&, bool& commitNewRow)
 {
     Strike("OnBeforeEdit");
-    return true;
+    commitNewRow = !letsEdit;
+    return letsEdit || striking;
 }
 
 bool HostileGrid::OnModified(TGGridCell&, CString&)
@@ -123,7 +124,7 @@ bool HostileGrid::OnRefresh(TGGridRow&)
 bool HostileGrid::OnBeforeInsertRow(long, TGGridRow*&)
 {
     Strike("OnBeforeInsertRow");
-    return true;
+    return letsInsert;
 }
 
 bool HostileGrid::OnCellButtonDown(TGGridCell&, CString& text)

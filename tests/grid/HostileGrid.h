@@ -22,6 +22,10 @@ public:
     // How often the hook was called while it was armed.
     int Strikes() const { return strikes; }
 
+    // The answers to OnBeforeEdit, with commitNewRow set when it is refused, and to OnBeforeInsertRow.
+    bool letsEdit = true;
+    bool letsInsert = true;
+
     CWnd* EditorWindow() { return GetDlgItem(101); }
 
 protected:

@@ -14,7 +14,7 @@ namespace
 {
 
 // ---- The grid that is played with
-// -------------------------------------------------------------------------------
+// --------------------------------------------------------------------------
 
 enum Column : long
 {
@@ -48,7 +48,7 @@ void FillHostile(HostileGrid& grid)
 }
 
 // ---- What the user does
-// -----------------------------------------------------------------------------------------
+// ------------------------------------------------------------------------------------
 
 void OpenCell(HostileGrid& grid, long row, long col)
 {
@@ -88,6 +88,22 @@ void EditNewRowLine(HostileGrid& grid)
 {
     OpenCell(grid, grid.GetRowNum(), Plain);
     TypeAndCommit(grid);
+}
+
+// A click on the line makes it a row, or is refused.
+template <bool letsInsert> void CommitNewRowLine(HostileGrid& grid)
+{
+    grid.letsEdit = false;
+    grid.letsInsert = letsInsert;
+    OpenCell(grid, grid.GetRowNum(), Plain);
+    grid.letsEdit = true;
+    grid.letsInsert = true;
+}
+
+// In a grid without a tree just a click on a cell.
+void ClickFoldBox(HostileGrid& grid)
+{
+    SendMouse(grid, WM_LBUTTONDOWN, grid.ToClient(10, 10));
 }
 
 void PressButton(HostileGrid& grid)
@@ -199,7 +215,13 @@ const Scenario Scenarios[] = {
     {"OnDataChanged", EditPlain},
     {"OnDataChanged", ChooseFromList},
     {"OnDataChanged", EditNewRowLine},
+    {"OnBeforeEdit", CommitNewRowLine<true>},
+    {"OnBeforeInsertRow", CommitNewRowLine<true>},
+    {"OnBeforeInsertRow", CommitNewRowLine<false>},
+    {"OnInsertRow", CommitNewRowLine<true>},
+    {"OnDataChanged", CommitNewRowLine<true>},
     {"OnCurChanged", EditPlain},
+    {"OnCurChanged", ClickFoldBox},
     {"OnCurChanged", PressButton},
     {"OnCurChanged", EditNewRowLine},
     {"OnCmbSelchange", ChooseFromList},
@@ -220,7 +242,7 @@ const Scenario Scenarios[] = {
 };
 
 // ---- What the hook does
-// -----------------------------------------------------------------------------------------
+// ------------------------------------------------------------------------------------
 
 struct Action
 {
@@ -324,7 +346,7 @@ const Action Actions[] = {
 };
 
 // ---- The table
-// --------------------------------------------------------------------------------------------------
+// ---------------------------------------------------------------------------------------------
 
 class HostileHook : public testing::TestWithParam<size_t>
 {

@@ -3,6 +3,8 @@
 
 #include "tests/support/GuiHandles.h"
 
+#include <utility>
+
 using namespace QuorUiCtr;
 
 namespace quor::test
@@ -32,8 +34,7 @@ TEST_F(EditReentryTest, OnModified_DeletesTheRowUnderEdit)
 {
     EditGrid grid;
     Make(grid);
-    grid.modifiedText = [&](TGGridCell&, CString&)
-    {
+    grid.modifiedText = [&](TGGridCell&, CString&) {
         grid.DelRow(1);
         return true;
     };
@@ -46,8 +47,7 @@ TEST_F(EditReentryTest, OnModified_DeletesTheColumnUnderEdit)
 {
     EditGrid grid;
     Make(grid);
-    grid.modifiedText = [&](TGGridCell&, CString&)
-    {
+    grid.modifiedText = [&](TGGridCell&, CString&) {
         grid.DelCol(1);
         return true;
     };
@@ -79,8 +79,7 @@ TEST_F(EditReentryTest, OnBeforeEdit_DeletesTheRow)
 {
     EditGrid grid;
     Make(grid);
-    grid.beforeEdit = [&](TGGridCell&, bool&)
-    {
+    grid.beforeEdit = [&](TGGridCell&, bool&) {
         grid.DelRow(1);
         return true;
     };
@@ -94,8 +93,7 @@ TEST_F(EditReentryTest, OnBeforeEdit_EditsAnotherCell)
     EditGrid grid;
     Make(grid);
     bool nested = false;
-    grid.beforeEdit = [&](TGGridCell&, bool&)
-    {
+    grid.beforeEdit = [&](TGGridCell&, bool&) {
         if (!std::exchange(nested, true))
             grid.BeginEditCell(3, 2);
         return true;
@@ -113,8 +111,7 @@ TEST_F(EditReentryTest, OnModified_OpensAnotherCell_WhichIsClosedWithTheCommit)
     EditGrid grid;
     Make(grid);
     bool nested = false;
-    grid.modifiedText = [&](TGGridCell&, CString&)
-    {
+    grid.modifiedText = [&](TGGridCell&, CString&) {
         if (!std::exchange(nested, true))
             grid.BeginEditCell(3, 2);
         return true;
@@ -132,7 +129,12 @@ TEST_F(EditReentryTest, OnCellComboString_OpensAnotherCell)
     grid.GetCol(1).SetComboEdit(true);
     grid.comboStrings = [&](TGGridCell&, CComboBox&) { grid.BeginEditCell(2, 0); };
     grid.BeginEditCell(1, 1);
-    EXPECT_TRUE(grid.IsEditing());
+    long row = -1;
+    long col = -1;
+    ASSERT_TRUE(grid.GetCurCell(row, col));
+    EXPECT_EQ(row, 2);
+    EXPECT_EQ(col, 0);
+    EXPECT_TRUE(grid.EditorWindow()->IsWindowVisible());
     grid.EndEditCell();
 }
 
@@ -161,8 +163,7 @@ TEST_F(EditReentryTest, OnCellButtonDown_DestroysTheWindow)
     EditGrid grid;
     Make(grid);
     grid.GetCol(1).SetRightButton(true);
-    grid.buttonDown = [&](TGGridCell&, CString&)
-    {
+    grid.buttonDown = [&](TGGridCell&, CString&) {
         grid.DestroyWindow();
         return true;
     };
@@ -178,8 +179,7 @@ TEST_F(EditReentryTest, OnCellButtonDown_EndsTheEditAndDeletesTheRow)
     EditGrid grid;
     Make(grid);
     grid.GetCol(1).SetRightButton(true);
-    grid.buttonDown = [&](TGGridCell&, CString& text)
-    {
+    grid.buttonDown = [&](TGGridCell&, CString& text) {
         grid.DelRow(1);
         text = L"late";
         return true;
@@ -197,8 +197,7 @@ TEST_F(EditReentryTest, OnBeforeInsertRow_InsertsRowsOfItsOwn)
     EditGrid grid;
     Make(grid);
     bool nested = false;
-    grid.beforeInsertRow = [&](long, TGGridRow*&)
-    {
+    grid.beforeInsertRow = [&](long, TGGridRow*&) {
         if (!std::exchange(nested, true))
             grid.InsertRow(0, nullptr);
         return true;
@@ -218,12 +217,136 @@ TEST_F(EditReentryTest, OnInsertRow_DeletesTheInsertedRow)
     EXPECT_FALSE(grid.IsEditing());
 }
 
+// Does something when an editor of a grid in it has lost the focus.
+class KillFocusHost : public HostWindow
+{
+public:
+    std::function<void()> lostFocus;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        if (HIWORD(wParam) == EN_KILLFOCUS && lostFocus)
+            std::exchange(lostFocus, nullptr)();
+        return HostWindow::OnCommand(wParam, lParam);
+    }
+};
+
+// Hiding the editor moves the focus, and the parent hears of that while the editor is being hidden.
+TEST_F(EditReentryTest, TheParentDestroysTheGridOrEditsAnotherCell_WhenTheHiddenEditorLosesTheFocus)
+{
+    for (const bool commits : {true, false})
+        for (const bool destroys : {true, false})
+        {
+            KillFocusHost parent;
+            EditGrid grid;
+            ASSERT_TRUE(grid.Create(CRect(0, 0, 300, 200), WS_CHILD | WS_VISIBLE, &parent));
+            Fill(grid, 4, 3);
+            grid.BeginEditCell(1, 1);
+            parent.lostFocus = [&] {
+                if (destroys)
+                    grid.DestroyWindow();
+                else
+                    grid.BeginEditCell(2, 2);
+            };
+            if (commits)
+                grid.EndEditCell();
+            else
+                grid.CancelEditCell();
+            EXPECT_FALSE(parent.lostFocus);
+            EXPECT_EQ(grid.GetSafeHwnd() == nullptr, destroys);
+        }
+}
+
+// The focus that an editor takes ends the edit of another grid.
+TEST_F(EditReentryTest, TheHookOfAnotherGrid_DeletesTheRowOrTheGridThatIsToBeEdited)
+{
+    for (const long col : {0, 1, 2})
+        for (const bool destroys : {true, false})
+        {
+            EditGrid first;
+            Make(first);
+            EditGrid second;
+            ASSERT_TRUE(second.Create(CRect(0, 310, 300, 500), WS_CHILD | WS_VISIBLE, &host));
+            Fill(second, 4, 3);
+            second.GetCol(1).SetRightButton(true);
+            second.GetCol(2).SetRightSpin(true);
+            first.BeginEditCell(0, 0);
+            first.Enter(L"typed");
+            first.dataChanged = [&] {
+                if (destroys)
+                    second.DestroyWindow();
+                else
+                    second.DelRow(1);
+            };
+            second.BeginEditCell(1, col);
+            EXPECT_EQ(first.GetCell(0, 0).GetText(), L"typed");
+            EXPECT_FALSE(second.IsEditing());
+            if (destroys)
+                continue;
+            second.BeginEditCell(1, col);
+            EXPECT_TRUE(second.IsEditing());
+        }
+}
+
+TEST_F(EditReentryTest, OnModified_DuringALayout_EditsInANewGrid)
+{
+    EditGrid grid;
+    Make(grid);
+    EditGrid inner;
+    grid.modifiedText = [&](TGGridCell&, CString&) {
+        EXPECT_TRUE(inner.Create(CRect(0, 310, 300, 500), WS_CHILD | WS_VISIBLE, &host));
+        Fill(inner, 2, 2);
+        inner.BeginEditCell(0, 0);
+        return true;
+    };
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"typed");
+    grid.RecalcLayout(1);
+    EXPECT_NE(inner.GetSafeHwnd(), nullptr);
+    EXPECT_EQ(grid.GetCell(1, 1).GetText(), L"typed");
+}
+
+TEST_F(EditReentryTest, EditorOfTheHost_DestroysTheGridWhileItIsCreated)
+{
+    class HostEditor : public CEdit, public TGCellCtrl
+    {
+    public:
+        using TGCellCtrl::TGCellCtrl;
+        CWnd* GetWnd() override { return this; }
+        void Create(CRect& rect) override
+        {
+            CWnd& grid = GetCell().GetGrid();
+            CEdit::Create(WS_CHILD | WS_VISIBLE, rect, &grid, 101);
+            grid.DestroyWindow();
+        }
+        bool IsModified() override { return false; }
+        void GetNewText(CString&) override {}
+        bool IsLeftEnd() override { return true; }
+        bool IsRightEnd() override { return true; }
+        bool IsUpEnd() override { return true; }
+        bool IsDownEnd() override { return true; }
+
+    protected:
+        void PostNcDestroy() override { delete this; }
+    };
+    EditGrid grid;
+    Make(grid);
+    grid.makeEditor = [](TGGridCell& cell) -> TGCellCtrl* { return new HostEditor(cell); };
+    grid.BeginEditCell(1, 1);
+    EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
+    EXPECT_FALSE(grid.IsEditing());
+    Create(grid);
+    grid.makeEditor = nullptr;
+    EditOnce(grid, 1, 1);
+    EXPECT_EQ(grid.GetCell(1, 1).GetText(), L"typed");
+}
+
 TEST_F(EditReentryTest, TheParentDestroysTheGrid_WhenTheEditorLosesTheFocus)
 {
     EditGrid grid;
     Make(grid);
-    grid.modifiedText = [&](TGGridCell&, CString&)
-    {
+    grid.modifiedText = [&](TGGridCell&, CString&) {
         grid.DestroyWindow();
         return true;
     };

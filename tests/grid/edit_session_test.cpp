@@ -1,4 +1,4 @@
-// The edit session: opening, committing, dropping, the new-row line, the timers.
+// The edit session: opening, committing, dropping, the new-row line.
 #include "EditGrid.h"
 
 #include "grid/TGCellEdit.h"
@@ -43,6 +43,9 @@ TEST_F(EditSessionTest, BeginEdit_OnAReadOnlyColumn_HasClearedTheSelectionAndCom
     EXPECT_FALSE(grid.IsRowSelected());
     EXPECT_EQ(TextOf(grid, 0, 0), L"typed");
     EXPECT_EQ(TextOf(grid, 0, 1), L"more");
+    grid.SelectRow(1, true);
+    grid.BeginEditCell(1, 2);
+    EXPECT_FALSE(grid.IsRowSelected());
 }
 
 TEST_F(EditSessionTest, ReadOnlyInAnyWay_RefusesTheEdit)
@@ -346,23 +349,6 @@ TEST_F(EditSessionTest, EditorOpenedInsideACommit_IsClosedWithIt)
     EXPECT_EQ(TextOf(grid, 1, 1), L"text");
 }
 
-TEST_F(EditSessionTest, AutoEditInsideACommit_OpensTheNextCell)
-{
-    EditGrid grid;
-    Make(grid);
-    grid.dataChanged = [&] { grid.AutoEditCell(&grid.GetCell(2, 2)); };
-    grid.BeginEditCell(1, 1);
-    grid.Enter(L"text");
-    grid.EndEditCell();
-    EXPECT_FALSE(grid.IsEditing());
-    ASSERT_TRUE(PumpUntil([&] { return grid.IsEditing(); }));
-    long row = -1;
-    long col = -1;
-    ASSERT_TRUE(grid.GetCurCell(row, col));
-    EXPECT_EQ(row, 2);
-    EXPECT_EQ(col, 2);
-}
-
 TEST_F(EditSessionTest, CellsThatAreNotThere_AreNotEdited)
 {
     EditGrid grid;
@@ -408,84 +394,6 @@ TEST_F(EditSessionTest, WithoutAnEditor_TheGridStaysIdle)
     grid.BeginEditCell(1, 1);
     EXPECT_FALSE(grid.IsEditing());
     EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,1 | editor 1,1");
-}
-
-TEST_F(EditSessionTest, AutoEdit_OpensTheCellByTimerAndDropsWhatIsOpen)
-{
-    EditGrid grid;
-    Make(grid);
-    grid.BeginEditCell(0, 0);
-    grid.Enter(L"dropped");
-    grid.AutoEditCell(&grid.GetCell(2, 1));
-    EXPECT_TRUE(grid.IsCellLocking());
-    grid.AutoEditCell(&grid.GetCell(1, 1));
-    ASSERT_TRUE(PumpUntil([&] { return !grid.IsCellLocking(); }));
-    long row = -1;
-    long col = -1;
-    ASSERT_TRUE(grid.GetCurCell(row, col));
-    EXPECT_EQ(row, 2);
-    EXPECT_EQ(col, 1);
-    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
-}
-
-TEST_F(EditSessionTest, AutoEditOfNothing_WithNoSession_DoesNothing)
-{
-    EditGrid grid;
-    Make(grid);
-    PumpPending();
-    grid.TakeText();
-    grid.AutoEditCell(nullptr);
-    EXPECT_FALSE(grid.IsCellLocking());
-    PumpPending();
-    EXPECT_FALSE(grid.IsEditing());
-    EXPECT_EQ(grid.TakeText(), "");
-}
-
-TEST_F(EditSessionTest, AutoEditOfNothing_ReopensTheCellUnderEdit)
-{
-    EditGrid grid;
-    Make(grid);
-    grid.BeginEditCell(1, 1);
-    PumpPending();
-    grid.TakeText();
-    grid.AutoEditCell(nullptr);
-    EXPECT_TRUE(grid.IsCellLocking());
-    ASSERT_TRUE(PumpUntil([&] { return !grid.IsCellLocking(); }));
-    EXPECT_NE(grid.TakeText().find("before 1,1 | editor 1,1 | cur 1,1"), std::string::npos);
-    EXPECT_TRUE(grid.IsEditing());
-}
-
-TEST_F(EditSessionTest, AutoClose_CommitsWhenTheTimerFires)
-{
-    EditGrid grid;
-    Make(grid);
-    grid.BeginEditCell(1, 1);
-    grid.Enter(L"late");
-    grid.AutoCloseCell(10);
-    ASSERT_TRUE(PumpUntil([&] { return !grid.IsEditing(); }));
-    EXPECT_EQ(TextOf(grid, 1, 1), L"late");
-}
-
-TEST_F(EditSessionTest, AutoClose_WithNoSession_DoesNothing)
-{
-    EditGrid grid;
-    Make(grid);
-    PumpPending();
-    grid.TakeText();
-    grid.AutoCloseCell(1);
-    PumpPending();
-    EXPECT_EQ(grid.TakeEditText(), "");
-}
-
-TEST_F(EditSessionTest, AutoEdit_OfACellThatIsDeletedMeanwhile_OpensNothing)
-{
-    EditGrid grid;
-    Make(grid);
-    grid.AutoEditCell(&grid.GetCell(1, 1));
-    grid.DelRow(1);
-    EXPECT_FALSE(grid.IsCellLocking());
-    PumpPending();
-    EXPECT_FALSE(grid.IsEditing());
 }
 
 TEST_F(EditSessionTest, EditorsOfFinishedSessions_AreDestroyed)

@@ -88,13 +88,16 @@ TEST_F(EditorFocus, EditThatLosesTheFocus_TellsTheParentOfTheGridAfterTheCommit)
     {
         Open(col);
         grid.Enter(L"typed");
-        std::string gridLog = "none";
-        grid.dataChanged = [&] { gridLog = host.TakeLog().empty() ? "first" : "late"; };
+        Lines toldBefore = {"none"};
+        grid.modifiedText = [&](TGGridCell&, CString&) {
+            toldBefore = KillFocusLines();
+            return true;
+        };
         outside.SetFocus();
-        // Before the commit the host got nothing; the commit sends EN_CHANGE, the lost focus EN_KILLFOCUS.
+        EXPECT_EQ(toldBefore, Lines()) << col;
         EXPECT_EQ(TextOf(grid, 1, col), L"typed");
         EXPECT_EQ(KillFocusLines(), Lines({"command 77 code 512"})) << col;
-        grid.dataChanged = nullptr;
+        grid.modifiedText = nullptr;
         grid.SetFocus();
     }
 }
@@ -225,7 +228,7 @@ TEST_F(EditorFocus, CommitOfOneGrid_LeavesTheSessionOfAnotherOpen)
 }
 
 // ---- Button
-// -----------------------------------------------------------------------------------------------------
+// ------------------------------------------------------------------------------------------------
 
 TEST_F(EditorFocus, PressedButton_HandsTheEditorsTextToTheHookAndGivesTheFocusBack)
 {
@@ -282,7 +285,7 @@ TEST_F(EditorFocus, DialogOfTheButtonHook_LeavesTheSessionOpen)
 }
 
 // ---- Tip of the button
-// ------------------------------------------------------------------------------------------
+// -------------------------------------------------------------------------------------
 
 class ButtonTip : public EditorFocus
 {

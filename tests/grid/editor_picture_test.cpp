@@ -58,8 +58,6 @@ TEST_F(EditorPicture, TextDoesNotJump_WhenTheEditorOpens)
             ShowPlain(grid);
             const Snapshot after(grid);
             EXPECT_EQ(Differences(before, after, inside), 0) << CStringA(text) << (centred ? " centred" : "");
-            before.SaveBmp(L"Z:\\tmp\\before.bmp");
-            after.SaveBmp(L"Z:\\tmp\\after.bmp");
         }
 }
 

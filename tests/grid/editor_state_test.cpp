@@ -28,7 +28,10 @@ protected:
         grid.EditorWindow()->SendMessage(EM_SETSEL, first, last);
     }
     static CSpinButtonCtrl& Spin(EditGrid& grid) { return *static_cast<CSpinButtonCtrl*>(grid.EditorPart()); }
-    static int SpinPosition(EditGrid& grid) { return LOWORD(grid.EditorPart()->SendMessage(UDM_GETPOS)); }
+    static int SpinPosition(EditGrid& grid)
+    {
+        return static_cast<int>(grid.EditorPart()->SendMessage(UDM_GETPOS32));
+    }
     static CComboBox& Combo(EditGrid& grid) { return *static_cast<CComboBox*>(grid.EditorWindow()); }
     static CString EditorText(EditGrid& grid)
     {
@@ -111,7 +114,7 @@ TEST_F(EditorState, ModifyMark_IsTheEditsOwn)
 }
 
 // ---- Spin
-// -------------------------------------------------------------------------------------------------------
+// --------------------------------------------------------------------------------------------------
 
 TEST_F(EditorState, Spin_CountsFromZeroToOneHundredThousandByDefault)
 {
@@ -141,6 +144,36 @@ TEST_F(EditorState, TextThatIsNoNumber_GivesZeroOrTheLowerBound)
     EXPECT_FALSE(grid.editor->IsModified());
 }
 
+TEST_F(EditorState, TextThatTheHookSets_IsWhatSpinAndComboShow)
+{
+    EditGrid grid;
+    grid.spinInit = [](TGGridCell& cell, CSpinButtonCtrl&) { cell.SetText(L"17"); };
+    OpenSpin(grid, L"42");
+    EXPECT_EQ(SpinPosition(grid), 17);
+    grid.EndEditCell();
+    grid.GetCol(1).SetRightSpin(false);
+    grid.GetCol(1).SetComboSel(true);
+    grid.comboStrings = [](TGGridCell& cell, CComboBox& combo) {
+        combo.AddString(L"one");
+        combo.AddString(L"two");
+        cell.SetText(L"two");
+    };
+    grid.BeginEditCell(1, 1);
+    EXPECT_EQ(Combo(grid).GetCurSel(), 1);
+}
+
+TEST_F(EditorState, ScrollOfASpinThatDidNotFit_WritesThePosition)
+{
+    EditGrid grid;
+    Create(grid);
+    Fill(grid, 2, 2, 18);
+    grid.GetCol(1).SetRightSpin(true);
+    grid.BeginEditCell(1, 1);
+    ASSERT_EQ(grid.EditorPart(), nullptr);
+    grid.EditorWindow()->SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, 17));
+    EXPECT_EQ(EditorText(grid), L"17");
+}
+
 TEST_F(EditorState, NumberOutsideTheRange_GivesTheLowerBound)
 {
     EditGrid grid;
@@ -155,6 +188,11 @@ TEST_F(EditorState, ValueAbove65535_IsKeptInTheTextWhileTheSpinHoldsTheRemainder
     OpenSpin(grid, L"70000");
     EXPECT_EQ(SpinPosition(grid), 70000 % 65536);
     EXPECT_EQ(EditorText(grid), L"70000");
+    grid.EditorWindow()->SendMessage(EM_SETSEL, 4, 5);
+    grid.EditorWindow()->SendMessage(WM_CHAR, L'1', 1);
+    EXPECT_EQ(SpinPosition(grid), 70001 % 65536);
+    grid.EditorWindow()->SendMessage(EM_SETSEL, 4, 5);
+    grid.EditorWindow()->SendMessage(WM_CHAR, L'0', 1);
     grid.EndEditCell();
     EXPECT_EQ(TextOf(grid, 1, 1), L"70000");
 }
@@ -185,7 +223,7 @@ TEST_F(EditorState, ScrollBelowZero_WritesANegativeNumber)
     EditGrid grid;
     grid.spinInit = [](TGGridCell&, CSpinButtonCtrl& spin) { spin.SetRange32(-10, 10); };
     OpenSpin(grid, L"-3");
-    EXPECT_EQ(static_cast<short>(SpinPosition(grid)), -3);
+    EXPECT_EQ(SpinPosition(grid), -3);
     grid.EditorWindow()->SendMessage(WM_VSCROLL, MAKEWPARAM(SB_THUMBPOSITION, static_cast<WORD>(-4)),
                                      reinterpret_cast<LPARAM>(grid.EditorPart()->m_hWnd));
     EXPECT_EQ(EditorText(grid), L"-4");
@@ -206,7 +244,7 @@ TEST_F(EditorState, TypedNumber_MovesTheSpinWhileItIsInTheRange)
 }
 
 // ---- Combo boxes
-// ------------------------------------------------------------------------------------------------
+// -------------------------------------------------------------------------------------------
 
 TEST_F(EditorState, ListCombo_SelectsTheFirstItemThatBeginsWithTheTextIgnoringCase)
 {

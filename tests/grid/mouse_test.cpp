@@ -351,6 +351,20 @@ TEST_F(GridMouse, FrameworkTips_FollowTheMouse)
     EXPECT_EQ(L"tip 3,1", move(150, 90));
 }
 
+TEST_F(GridMouse, TipsOfCellsTenColumnsApartInNeighbouringRows_ShareAnId)
+{
+    for (int col = 0; col < 9; ++col)
+        grid.AppendCol(L"", 10);
+    grid.tip = L"tip";
+    for (const CPoint cell : {CPoint(285, 10), CPoint(50, 30)})
+    {
+        TOOLINFO info = {};
+        info.cbSize = sizeof info;
+        EXPECT_EQ(10, grid.OnToolHitTest(grid.ToClient(cell.x, cell.y), &info));
+        std::free(info.lpszText);
+    }
+}
+
 // Such texts once were a format that read whatever lay on the stack, into a buffer of twenty characters.
 TEST_F(GridMouse, TipsWithPercentSigns_ReadAndWriteNoForeignMemory)
 {

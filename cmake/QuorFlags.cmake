@@ -31,7 +31,8 @@ target_compile_options(QuorWarnings INTERFACE
 if(QUOR_CHECKED)
     target_compile_definitions(QuorFlags INTERFACE _DEBUG _GLIBCXX_DEBUG)
     target_compile_options(QuorFlags INTERFACE
-        -O1 -g -fno-omit-frame-pointer
+        # Line tables are all that the reports of the guard allocator need.
+        -O1 -g1 -fno-omit-frame-pointer
         -fsanitize=undefined -fno-sanitize=null -fsanitize-undefined-trap-on-error
         -fstack-protector-strong)
     target_link_options(QuorFlags INTERFACE -fstack-protector-strong)

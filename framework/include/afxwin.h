@@ -1,6 +1,8 @@
 // Windows, drawing, menus, threads, dialogs, frames and the standard controls.
 #pragma once
 
+#define __AFXWIN_H__
+
 #include "afx.h"
 #include "atltypes.h"
 #include "fx/gdi.h"

@@ -1,4 +1,4 @@
-// The base of the framework: root object and run-time classes, strings, exceptions, diagnostics.
+// The base of the framework: root object and run-time classes, strings, exceptions, diagnostics, files.
 #pragma once
 
 #include "fx/config.h"
@@ -6,3 +6,7 @@
 #include "fx/diagnostics.h"
 #include "fx/exception.h"
 #include "fx/string.h"
+#include "fx/fileexception.h"
+#include "fx/file.h"
+#include "fx/stdiofile.h"
+#include "fx/memfile.h"

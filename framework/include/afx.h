@@ -1,4 +1,4 @@
-// The base of the framework: root object and run-time classes, strings, exceptions, diagnostics, files.
+// The base of the framework: root object and run-time classes, strings, exceptions, diagnostics, files, archives.
 #pragma once
 
 #include "fx/config.h"
@@ -10,3 +10,4 @@
 #include "fx/file.h"
 #include "fx/stdiofile.h"
 #include "fx/memfile.h"
+#include "fx/archive.h"

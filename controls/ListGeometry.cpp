@@ -29,7 +29,7 @@ bool IsColumnInside(int left, int width, int clientRight)
 HorizontalSpan EditorSpan(int left, int width, int clientRight)
 {
     const int editorLeft = left + EditorIndent;
-    return {editorLeft, std::min(editorLeft + width - EditorShortening, clientRight)};
+    return {editorLeft, (std::min)(editorLeft + width - EditorShortening, clientRight)};
 }
 
 GrownEditor GrowEditor(const CRect& current, CSize needed, const CRect& list)
@@ -38,7 +38,7 @@ GrownEditor GrowEditor(const CRect& current, CSize needed, const CRect& list)
     if (needed.cx > current.Width())
     {
         grown.needsRoom = true;
-        grown.rectangle.right = std::min(current.left + needed.cx, list.right - FreeEdge);
+        grown.rectangle.right = (std::min)(current.left + needed.cx, list.right - FreeEdge);
     }
     if (needed.cy > current.Height())
     {

@@ -104,7 +104,7 @@ long VerticalScrollTarget(UINT code, const ScrollRequest& request)
 long HorizontalScrollTarget(UINT code, const ScrollRequest& request)
 {
     if (code == SB_TOP)
-        return std::min(request.minimum, request.maximum);
+        return (std::min)(request.minimum, request.maximum);
     return Clamp(PlainScrollTarget(code, request), request.minimum, request.maximum);
 }
 

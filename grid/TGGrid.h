@@ -10,8 +10,8 @@
 #include "grid/collections/List.h"
 #include "grid/collections/PDList.h"
 
-#include <afxcmn.h>
 #include <afxwin.h>
+#include <afxcmn.h>
 
 namespace QuorUiCtr
 {

@@ -89,7 +89,7 @@ TGGrid::RowRange TGGrid::VisibleRows()
 void TGGrid::DrawRows(long first, long last)
 {
     const CursorGuard<TGGridRow*> cursor(rows);
-    for (long i = std::max(first, 0L); i <= last && rows.MoveTo(i); ++i)
+    for (long i = (std::max)(first, 0L); i <= last && rows.MoveTo(i); ++i)
     {
         TGGridRow* row = rows.Cur();
         if (row != nullptr)

@@ -47,7 +47,7 @@ void TGGrid::Structure::TakeOut(std::span<TGGridRow* const> taken)
         return;
     long lowest = grid.GetRowNum();
     for (const TGGridRow* row : taken)
-        lowest = std::min(lowest, row->GetIndex());
+        lowest = (std::min)(lowest, row->GetIndex());
     DetachFromParents(taken);
     TGGridTreeRow::IndexRange hidden;
     for (TGGridRow* row : taken)

@@ -99,7 +99,7 @@ void TGGrid::MoveRow(long from, long to)
 void TGGrid::SetRowNum(long n)
 {
     const TGGridUpdate update(*this);
-    while (GetRowNum() > std::max(n, 0L))
+    while (GetRowNum() > (std::max)(n, 0L))
         DelRow(GetRowNum() - 1);
     while (GetRowNum() < n)
         AppendRow(nullptr);
@@ -378,7 +378,7 @@ void TGGrid::Structure::MoveColEdges(long first, long last, long distance)
 void TGGrid::SetColNum(long n)
 {
     const TGGridUpdate update(*this);
-    while (GetColNum() > std::max(n, 0L))
+    while (GetColNum() > (std::max)(n, 0L))
         DelCol(GetColNum() - 1);
     while (GetColNum() < n)
         AppendCol(static_cast<TGGridCol*>(nullptr), 0);

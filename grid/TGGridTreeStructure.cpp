@@ -274,8 +274,8 @@ long TGGridTreeRow::CountShownOffspring() const
 
 void TGGridTreeRow::IndexRange::Add(long index)
 {
-    first = number == 0 ? index : std::min(first, index);
-    last = std::max(last, index);
+    first = number == 0 ? index : (std::min)(first, index);
+    last = (std::max)(last, index);
     ++number;
 }
 

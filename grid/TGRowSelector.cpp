@@ -73,8 +73,8 @@ void TGRowSelector::OnPaint()
     CRect clip;
     context.GetClipBox(&clip);
     const long height = grid->GetRowHeight();
-    const long first = std::max(0L, clip.top / height);
-    const long last = std::min(grid->GetRowNum() - 1, clip.bottom / height);
+    const long first = (std::max)(0L, clip.top / height);
+    const long last = (std::min)(grid->GetRowNum() - 1, clip.bottom / height);
     for (long row = first; row <= last; ++row)
         DrawRow(context, row);
     if (grid->IsAppendRowShown())

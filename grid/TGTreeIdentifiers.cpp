@@ -88,7 +88,7 @@ int TGTreeGrid::GetAutoId(int id)
     while (TGGridRow* leaf = leaves.Next())
     {
         const int present = Leaves::IdentifierOf(Leaves::IdentifierCell(*leaf));
-        maximum = std::max(maximum, present);
+        maximum = (std::max)(maximum, present);
         holders += present == id ? 1 : 0;
     }
     if (id != 0 && holders < 2)

@@ -1,8 +1,8 @@
 // The answer of the grid's windows to a tool-tip hit test.
 #pragma once
 
-#include <afxcmn.h>
 #include <afxwin.h>
+#include <afxcmn.h>
 
 namespace QuorUiCtr
 {

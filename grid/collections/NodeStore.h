@@ -61,7 +61,7 @@ public:
     {
         const std::size_t present = newest == nullptr ? 0 : newest->total;
         if (usesBlocks && slots > present)
-            AddBlock(present == 0 ? slots : std::max(slots - present, NextCapacity()), slotSize);
+            AddBlock(present == 0 ? slots : (std::max)(slots - present, NextCapacity()), slotSize);
     }
 
     // Frees every block. Every node must have been destroyed, or need no destruction.

@@ -171,7 +171,7 @@ private:
     bool MakeRoom(std::size_t chunk, std::size_t number) noexcept
     {
         const std::size_t needed = starts.size() + number;
-        if (needed > starts.capacity() && !Reserve(std::max(needed, 2 * starts.size())))
+        if (needed > starts.capacity() && !Reserve((std::max)(needed, 2 * starts.size())))
             return false;
         ShiftFrom(chunk, 0);
         starts.insert(starts.begin() + static_cast<std::ptrdiff_t>(chunk), number, 0);

@@ -22,7 +22,7 @@ CString OnOneLine(const std::wstring& text)
 int MeasureColumn(CDC& context, const gallery::CsvTable& table, size_t column)
 {
     long width = context.GetTextExtent(CString(table.header[column].c_str())).cx;
-    for (size_t row = 0; row < std::min(table.rows.size(), MeasuredRows); ++row)
+    for (size_t row = 0; row < (std::min)(table.rows.size(), MeasuredRows); ++row)
         width = std::max<long>(width, context.GetTextExtent(OnOneLine(table.rows[row][column])).cx);
     return std::clamp(static_cast<int>(width) + 12, MinColumnWidth, MaxColumnWidth);
 }
@@ -84,9 +84,9 @@ void PlaceBelowToolLine(CWnd& page, CWnd& control, CWnd& banner, int width, int 
     CRect place;
     control.GetWindowRect(place);
     page.ScreenToClient(place);
-    control.MoveWindow(0, place.top, width, std::max(0, height - static_cast<int>(place.top)));
+    control.MoveWindow(0, place.top, width, (std::max)(0, height - static_cast<int>(place.top)));
     banner.GetWindowRect(place);
     page.ScreenToClient(place);
-    banner.MoveWindow(place.left, place.top, std::max(0, width - static_cast<int>(place.left)),
+    banner.MoveWindow(place.left, place.top, (std::max)(0, width - static_cast<int>(place.left)),
                       place.Height());
 }

@@ -87,7 +87,7 @@ int GridStylePanel::PlaceAtRight(int width, int height)
         return width;
     CRect place;
     GetWindowRect(place);
-    const int left = std::max(0, width - place.Width());
+    const int left = (std::max)(0, width - place.Width());
     MoveWindow(left, 0, place.Width(), height);
     return left;
 }

@@ -97,10 +97,10 @@ void MainDialog::LayOut(int width, int height)
         return;
     const int logTop = height - LogHeight;
     const int captionHeight = 16;
-    const int pageHeight = std::max(0, logTop - captionHeight - 2 * Margin);
+    const int pageHeight = (std::max)(0, logTop - captionHeight - 2 * Margin);
     const int pageLeft = PageListWidth + 2 * Margin;
     pageList.MoveWindow(Margin, Margin, PageListWidth, pageHeight);
-    pages[shownPage]->MoveWindow(pageLeft, Margin, std::max(0, width - pageLeft - Margin), pageHeight);
+    pages[shownPage]->MoveWindow(pageLeft, Margin, (std::max)(0, width - pageLeft - Margin), pageHeight);
     GetDlgItem(IDC_LOG_CAPTION)
         ->MoveWindow(Margin, logTop - captionHeight, width - 2 * Margin, captionHeight);
     log.MoveWindow(Margin, logTop, width - 2 * Margin, LogHeight - Margin);

@@ -43,7 +43,8 @@ BEGIN_MESSAGE_MAP(TreeRowsPage, Page)
     ON_BN_CLICKED(IDC_UNFOLD_ALL, &TreeRowsPage::OnUnfoldAll)
 END_MESSAGE_MAP()
 
-TreeRowsPage::TreeRowsPage(LogPane& logPane) : Page(IDD_TREE_ROWS_PAGE, logPane), grid(true, logPane), styles(grid, logPane)
+TreeRowsPage::TreeRowsPage(LogPane& logPane)
+    : Page(IDD_TREE_ROWS_PAGE, logPane), grid(true, logPane), styles(grid, logPane)
 {
     grid.SetFlatButton(true);
 }
@@ -76,7 +77,7 @@ BOOL TreeRowsPage::OnInitDialog()
 void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
 {
     gallery::CsvTable table = source;
-    MoveToFront(table, std::max(0L, ColumnNamed(table, LabelColumn)));
+    MoveToFront(table, (std::max)(0L, ColumnNamed(table, LabelColumn)));
     const long outer = ColumnNamed(table, OuterGroupColumn);
     const long inner = ColumnNamed(table, InnerGroupColumn);
     if (outer < 0 || inner < 0)

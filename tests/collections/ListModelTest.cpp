@@ -39,7 +39,7 @@ struct Model
     }
     void Insert(long element) { InsertAt(cursor < 0 ? GetNum() : cursor, element); }
     void InsertAfter(long element) { InsertAt(cursor + 1, element); }
-    void Grow(long n) { elements.resize(static_cast<std::size_t>(std::max(n, GetNum()))); }
+    void Grow(long n) { elements.resize(static_cast<std::size_t>((std::max)(n, GetNum()))); }
     void Del()
     {
         if (cursor >= 0)
@@ -87,7 +87,8 @@ public:
 
     void Step()
     {
-        switch (random() % 16) {
+        switch (random() % 16)
+        {
         case 0:
         case 1:
             return Read();
@@ -132,9 +133,11 @@ public:
     bool AgreesThroughout()
     {
         bool agrees = std::equal(list.begin(), list.end(), model.elements.begin(), model.elements.end());
-        if constexpr (std::is_base_of_v<DualList<long>, AnyList>) {
+        if constexpr (std::is_base_of_v<DualList<long>, AnyList>)
+        {
             list.MoveToLast();
-            for (auto element = model.elements.rbegin(); element != model.elements.rend(); ++element) {
+            for (auto element = model.elements.rbegin(); element != model.elements.rend(); ++element)
+            {
                 agrees = agrees && list.Cur() == *element;
                 list.MoveToPre();
             }
@@ -153,7 +156,7 @@ private:
 
     void Read()
     {
-        const long i = std::max(SomeIndex(), 0L);
+        const long i = (std::max)(SomeIndex(), 0L);
         model.Grow(i + 1);
         model.MoveTo(i);
         list[i] += 1;
@@ -173,11 +176,14 @@ private:
     void Insert()
     {
         const long element = NewElement();
-        if (random() % 2) {
+        if (random() % 2)
+        {
             const long i = SomeIndex();
             model.MoveTo(i);
             list.Insert(i, element);
-        } else {
+        }
+        else
+        {
             list.Insert(element);
         }
         model.Insert(element);
@@ -185,11 +191,14 @@ private:
     void InsertAfter()
     {
         const long element = NewElement();
-        if (random() % 2) {
+        if (random() % 2)
+        {
             const long i = SomeIndex();
             model.MoveTo(i);
             list.InsertAfter(i, element);
-        } else {
+        }
+        else
+        {
             list.InsertAfter(element);
         }
         model.InsertAfter(element);
@@ -215,7 +224,8 @@ private:
 
     void Rare()
     {
-        switch (random() % 64) {
+        switch (random() % 64)
+        {
         case 0:
             EXPECT_TRUE(AgreesThroughout());
             return;
@@ -264,13 +274,16 @@ private:
     }
     void Bulk()
     {
-        if (list.GetNum() < usualNum) {
+        if (list.GetNum() < usualNum)
+        {
             std::vector<long> added(random() % 40);
             std::generate(added.begin(), added.end(), [this] { return NewElement(); });
             const long at = SomeIndex();
             list.SpliceInsert(at, added);
             model.Splice(at, added);
-        } else {
+        }
+        else
+        {
             const long first = SomeIndex();
             const long number = static_cast<long>(random() % 40);
             EXPECT_EQ(list.RemoveRange(first, number), model.RemoveRange(first, number));
@@ -288,7 +301,8 @@ template <class AnyList> void RunAgainstModel(long number, int steps)
     const unsigned seed = 20 + static_cast<unsigned>(number);
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     ModelRun<AnyList> run(seed, number);
-    for (int step = 0; step < steps; ++step) {
+    for (int step = 0; step < steps; ++step)
+    {
         run.Step();
         ASSERT_TRUE(run.Agrees()) << "step " << step;
     }

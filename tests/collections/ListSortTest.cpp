@@ -69,7 +69,7 @@ template <class Elements> std::vector<long> NumbersOf(const Elements& elements)
 double MostComparisons(std::size_t number)
 {
     const auto n = static_cast<double>(number);
-    return n + n * std::ceil(std::log2(std::max(n / 2, 1.0)));
+    return n + n * std::ceil(std::log2((std::max)(n / 2, 1.0)));
 }
 
 template <class AnyList> class ListSort : public testing::Test
@@ -83,8 +83,10 @@ TYPED_TEST(ListSort, RandomElements_EndInTheOrderOfAStableInsertionSort)
     const unsigned seed = 83;
     SCOPED_TRACE(testing::Message() << "seed " << seed);
     std::mt19937 random(seed);
-    for (std::size_t number : {0u, 1u, 2u, 3u, 5u, 16u, 33u, 100u, 257u, 1000u}) {
-        for (long keys : {1L, 2L, 7L, 1000L}) {
+    for (std::size_t number : {0u, 1u, 2u, 3u, 5u, 16u, 33u, 100u, 257u, 1000u})
+    {
+        for (long keys : {1L, 2L, 7L, 1000L})
+        {
             std::vector<Keyed> expected = RandomElements(random, number, keys);
             TypeParam list;
             for (const Keyed& element : expected)
@@ -118,12 +120,14 @@ TYPED_TEST(ListSort, SortedList_BackwardLinksAndEndsAreRight)
 TEST(ListSortCost, ElementsInOrderOrInOppositeOrder_TakeOneComparisonEach)
 {
     List<long> ascending, descending, equal;
-    for (long i = 0; i < 1000; ++i) {
+    for (long i = 0; i < 1000; ++i)
+    {
         ascending.Append(i);
         descending.Append(-i);
         equal.Append(3);
     }
-    for (List<long>* list : {&ascending, &descending, &equal}) {
+    for (List<long>* list : {&ascending, &descending, &equal})
+    {
         comparisons = 0;
         list->Sort(CompareLongs);
         EXPECT_EQ(comparisons, 999);
@@ -274,7 +278,8 @@ TEST(PDListSort, RandomRows_EndInTheOrderOfAStableInsertionSortThatSkipsNulls)
     std::mt19937 random(seed);
     std::vector<Keyed> elements = RandomElements(random, 700, 40);
     PDList<Row> list;
-    for (const Keyed& element : elements) {
+    for (const Keyed& element : elements)
+    {
         list.Append(new Row{element.key, element.number});
         if (random() % 5 == 0)
             list.Append(nullptr);

@@ -179,7 +179,7 @@ TEST_F(InPlaceEdit, EditorWithAnEdge_TakesItsClientRectangleAsItsPlace)
     const CString text(L'w', 15);
     editor.SetWindowText(text);
     editor.CalculateSize();
-    const int height = std::max(client.Height(), static_cast<int>(TextSize(text).cy));
+    const int height = (std::max)(client.Height(), static_cast<int>(TextSize(text).cy));
     EXPECT_EQ(editor.Place(), CRect(before.TopLeft() + CPoint(2, 2), CSize(TextWidth(text) + 5, height)));
 }
 
@@ -220,7 +220,7 @@ TEST_F(InPlaceEdit, MultiLineEditor_WidensWhereThatMakesItLower)
     editor.CalculateSize();
     EXPECT_EQ(editor.Place().Width(), TextWidth(L"many short words on one line") + 5);
     EXPECT_EQ(editor.Place().Height(),
-              std::max(before.Height(), static_cast<int>(TextSize(L"many short words").cy) + 5));
+              (std::max)(before.Height(), static_cast<int>(TextSize(L"many short words").cy) + 5));
 }
 
 TEST_F(InPlaceEdit, MultiLineEditor_ShowsAScrollBarAtTheEndOfTheList)

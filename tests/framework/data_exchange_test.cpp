@@ -135,7 +135,7 @@ TEST_F(DataExchange, Text_SavesValues)
     EXPECT_EQ(natural, 4294967295u);
     LONGLONG large = 0;
     EXPECT_TRUE(Save(L"-9223372036854775808", large));
-    EXPECT_EQ(large, std::numeric_limits<LONGLONG>::min());
+    EXPECT_EQ(large, (std::numeric_limits<LONGLONG>::min)());
     double real = 0;
     EXPECT_TRUE(Save(L"1.5e3", real));
     EXPECT_EQ(real, 1500.0);

@@ -180,7 +180,7 @@ long ReferenceTree::AutoId(long id) const
     long holders = 0;
     for (const Node* leaf : Leaves(true))
     {
-        maximum = std::max(maximum, leaf->id);
+        maximum = (std::max)(maximum, leaf->id);
         holders += leaf->id == id ? 1 : 0;
     }
     return holders >= 2 || id == 0 ? maximum + 1 : id;
@@ -381,7 +381,7 @@ void ReferenceTree::Move(long to)
     Nodes aside = std::move(buffer);
     buffer.clear();
     CutSelected();
-    PlaceBuffer(std::min(to - static_cast<long>(above), static_cast<long>(Shown().size())));
+    PlaceBuffer((std::min)(to - static_cast<long>(above), static_cast<long>(Shown().size())));
     buffer = std::move(aside);
     Repair(touched);
 }

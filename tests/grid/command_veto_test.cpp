@@ -154,7 +154,7 @@ std::vector<std::string> NamesIn(const std::string& log)
     std::vector<std::string> names;
     for (std::size_t at = 0; at <= log.size();)
     {
-        const std::size_t end = std::min(log.find(" | ", at), log.size());
+        const std::size_t end = (std::min)(log.find(" | ", at), log.size());
         const std::string line = log.substr(at, end - at);
         names.push_back(line.find('?') == std::string::npos ? line : line.substr(0, line.find('?') + 1));
         at = end + 3;

@@ -83,7 +83,7 @@ protected:
     static int NumberOfEdits()
     {
         const char* asked = std::getenv("QUOR_SOAK_EDITS");
-        return asked ? std::max(1, std::atoi(asked)) : 1'000;
+        return asked ? (std::max)(1, std::atoi(asked)) : 1'000;
     }
     static Residue Measure(EditGrid& grid)
     {

@@ -194,8 +194,8 @@ std::string Fuzzer::RowStep()
         grid.Clear();
         return "Clear";
     }
-    const long number = tree ? std::max(RowNum(), Below(20)) : Below(20);
-    const long kept = std::min(number, RowNum());
+    const long number = tree ? (std::max)(RowNum(), Below(20)) : Below(20);
+    const long kept = (std::min)(number, RowNum());
     const int firstId = nextId;
     reference.SetRowNum(number, nextId);
     grid.SetRowNum(number);

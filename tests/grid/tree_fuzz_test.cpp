@@ -54,7 +54,7 @@ public:
         while (!GetRowPaste().IsEmpty())
             aside.push_back(GetRowPaste().Detach(0));
         ClipSelect();
-        TGGrid::Paste(std::min(to - above, GetRowNum()));
+        TGGrid::Paste((std::min)(to - above, GetRowNum()));
         for (TGGridRow* row : aside)
             GetRowPaste().Append(row);
         OnEndMoveRow();

@@ -160,7 +160,7 @@ int ValidIdStepByStep(const std::vector<TGGridRow*>& leaves, int id)
     for (TGGridRow* leaf : leaves)
     {
         const int value = _wtoi((*leaf)[1].GetText());
-        maximum = std::max(maximum, value);
+        maximum = (std::max)(maximum, value);
         holders += value == id;
     }
     return holders >= 2 || id == 0 ? maximum + 1 : id;

@@ -73,7 +73,7 @@ std::size_t EffectiveAlignment(std::size_t size, std::size_t wanted)
 {
     const std::size_t lowestBit = size != 0 ? size & (~size + 1) : 1;
     const std::size_t natural = std::min<std::size_t>(lowestBit, __STDCPP_DEFAULT_NEW_ALIGNMENT__);
-    return std::max({wanted, natural, options.minimumAlignment});
+    return (std::max)({wanted, natural, options.minimumAlignment});
 }
 
 bool PlaceInChunk(Block& block, std::size_t size)
@@ -98,7 +98,7 @@ bool PlaceInChunk(Block& block, std::size_t size)
 bool PlaceOnPages(Block& block, std::size_t size, std::size_t alignment)
 {
     const std::size_t slack = alignment > Page ? alignment : 0;
-    const std::size_t span = std::max(RoundUp(size + slack, Page), Page);
+    const std::size_t span = (std::max)(RoundUp(size + slack, Page), Page);
     if (size >= ArenaSize / 2 || !ArenaHas(span) || !Commit(arenaNext, span))
         return false;
     block.base = arenaNext;
@@ -177,7 +177,7 @@ bool Block::IntactAfter() const
 void StartHeap(const HeapOptions& chosen)
 {
     options = chosen;
-    options.frames = std::min(options.frames, MaxFrames);
+    options.frames = (std::min)(options.frames, MaxFrames);
     arena = static_cast<char*>(VirtualAlloc(nullptr, ArenaSize, MEM_RESERVE, PAGE_NOACCESS));
     blocks =
         static_cast<Block*>(VirtualAlloc(nullptr, MaxBlocks * sizeof(Block), MEM_RESERVE, PAGE_NOACCESS));

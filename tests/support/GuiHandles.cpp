@@ -73,7 +73,7 @@ void CountGdi(GuiHandles& count)
     const auto* table = *reinterpret_cast<GdiEntry* const*>(ProcessEnvironmentBlock() + OffsetOfTableInPeb);
     MEMORY_BASIC_INFORMATION memory{};
     VirtualQuery(table, &memory, sizeof memory);
-    const std::size_t size = std::min(memory.RegionSize / sizeof(GdiEntry), MaxGdiHandles);
+    const std::size_t size = (std::min)(memory.RegionSize / sizeof(GdiEntry), MaxGdiHandles);
     for (std::size_t i = 0; i < size; ++i)
         if (table[i].type != 0)
             ++CountOfType(count, table[i].unique & 0x7fu);

@@ -45,7 +45,7 @@ public:
 private:
     void ReadItem(HTREEITEM parent)
     {
-        const size_t end = std::min(m_rest.find_first_of(" +[]", m_at), m_rest.size());
+        const size_t end = (std::min)(m_rest.find_first_of(" +[]", m_at), m_rest.size());
         const CString name(m_rest.substr(m_at, end - m_at).c_str());
         m_at = end;
         const bool isExpanded = Skip('+');

@@ -53,8 +53,8 @@ UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const
 int CListBox::SelItemRange(BOOL bSelect, int nFirstItem, int nLastItem)
 {
     // LB_SELITEMRANGEEX says by the order of its ends whether to select.
-    const int lower = std::min(nFirstItem, nLastItem);
-    const int upper = std::max(nFirstItem, nLastItem);
+    const int lower = (std::min)(nFirstItem, nLastItem);
+    const int upper = (std::max)(nFirstItem, nLastItem);
     if (lower == upper)
         return SetSel(lower, bSelect);
     return bSelect ? quorfx::Send<int>(m_hWnd, LB_SELITEMRANGEEX, lower, upper)

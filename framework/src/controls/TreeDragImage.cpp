@@ -36,7 +36,7 @@ HIMAGELIST DrawItemImage(CTreeCtrl& tree, HTREEITEM item, HIMAGELIST images)
     CFont* const previousFont = memory.SelectObject(tree.GetFont());
     const CSize icon = IconSize(images);
     const CSize textSize = MeasureText(memory, text);
-    const CSize size(icon.cx + textSize.cx, std::max(icon.cy, textSize.cy));
+    const CSize size(icon.cx + textSize.cx, (std::max)(icon.cy, textSize.cy));
     CBitmap bitmap;
     bitmap.CreateCompatibleBitmap(&screen, size.cx, size.cy);
     CBitmap* const previousBitmap = memory.SelectObject(&bitmap);

@@ -67,7 +67,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
         // A handler may have inserted or removed items: go on behind the item that was updated.
         const UINT count = static_cast<UINT>(pMenu->GetMenuItemCount());
         if (count < state.m_nIndexMax)
-            state.m_nIndex -= std::min(state.m_nIndex, state.m_nIndexMax - count);
+            state.m_nIndex -= (std::min)(state.m_nIndex, state.m_nIndexMax - count);
         else
             state.m_nIndex += count - state.m_nIndexMax;
         state.m_nIndexMax = count;

@@ -177,8 +177,8 @@ void CScrollView::ScrollToPosition(POINT pt)
 BOOL CScrollView::ScrollToDevicePosition(CPoint devicePoint)
 {
     const CPoint before = GetDeviceScrollPosition();
-    const CPoint after(std::max(0L, std::min<LONG>(devicePoint.x, GetScrollLimit(SB_HORZ))),
-                       std::max(0L, std::min<LONG>(devicePoint.y, GetScrollLimit(SB_VERT))));
+    const CPoint after((std::max)(0L, std::min<LONG>(devicePoint.x, GetScrollLimit(SB_HORZ))),
+                       (std::max)(0L, std::min<LONG>(devicePoint.y, GetScrollLimit(SB_VERT))));
     if (after == before)
         return FALSE;
     if (after.x != before.x)
@@ -208,7 +208,7 @@ void CScrollView::FillOutsideRect(CDC* pDC, CBrush* pBrush)
     CRect right(m_totalDev.cx, 0, client.right, client.bottom);
     if (right.left < right.right)
         pDC->FillRect(&right, pBrush);
-    CRect bottom(0, m_totalDev.cy, std::min(client.right, m_totalDev.cx), client.bottom);
+    CRect bottom(0, m_totalDev.cy, (std::min)(client.right, m_totalDev.cx), client.bottom);
     if (bottom.top < bottom.bottom)
         pDC->FillRect(&bottom, pBrush);
     pDC->RestoreDC(state);
@@ -230,8 +230,8 @@ void CScrollView::ResizeParentToFit(BOOL bShrinkOnly)
     CSize growth = m_totalDev - room;
     if (bShrinkOnly)
     {
-        growth.cx = std::min(0L, growth.cx);
-        growth.cy = std::min(0L, growth.cy);
+        growth.cx = (std::min)(0L, growth.cx);
+        growth.cy = (std::min)(0L, growth.cy);
     }
     frame->SetWindowPos(NULL, 0, 0, window.Width() + growth.cx, window.Height() + growth.cy,
                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);

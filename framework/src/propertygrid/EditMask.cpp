@@ -61,7 +61,7 @@ bool EditMask::Fits(int position, wchar_t character) const
 CString EditMask::Complete(const CString& text) const
 {
     CString complete = m_template;
-    const int count = std::min(text.GetLength(), complete.GetLength());
+    const int count = (std::min)(text.GetLength(), complete.GetLength());
     for (int i = 0; i < count; ++i)
         if (Fits(i, text[i]))
             complete.SetAt(i, text[i]);
@@ -80,13 +80,13 @@ bool EditMask::Type(CString& text, int& caret, wchar_t character) const
 
 void EditMask::Erase(CString& text, int first, int last) const
 {
-    for (int i = std::max(first, 0); i < std::min(last, m_mask.GetLength()); ++i)
+    for (int i = (std::max)(first, 0); i < (std::min)(last, m_mask.GetLength()); ++i)
         text.SetAt(i, m_template[i]);
 }
 
 int EditMask::FreeBefore(int caret) const
 {
-    int position = std::min(caret, m_mask.GetLength()) - 1;
+    int position = (std::min)(caret, m_mask.GetLength()) - 1;
     while (position >= 0 && m_mask[position] == FixedPosition)
         --position;
     return position;
@@ -94,10 +94,10 @@ int EditMask::FreeBefore(int caret) const
 
 int EditMask::FreeFrom(int caret) const
 {
-    int position = std::max(caret, 0);
+    int position = (std::max)(caret, 0);
     while (position < m_mask.GetLength() && m_mask[position] == FixedPosition)
         ++position;
-    return std::min(position, m_mask.GetLength());
+    return (std::min)(position, m_mask.GetLength());
 }
 
 } // namespace quorfx

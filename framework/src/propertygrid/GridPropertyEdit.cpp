@@ -230,7 +230,7 @@ void CMFCPropertyGridProperty::FillCombo()
 
     CRect rect = ValueRect();
     constexpr int FrameOfField = 6;
-    m_pWndCombo->SetItemHeight(-1, static_cast<UINT>(std::max(1, rect.Height() - FrameOfField)));
+    m_pWndCombo->SetItemHeight(-1, static_cast<UINT>((std::max)(1, rect.Height() - FrameOfField)));
     const int lines = static_cast<int>(std::clamp<INT_PTR>(options.GetCount(), 1, MostListLines));
     // The window is as high as its field, which may be higher than the row; the height given is that with the
     // list.

@@ -15,7 +15,7 @@ BOOL DrawCellText(CDC& dc, const CString& text, const CRect& cell)
         return !text.IsEmpty();
     // A text that needs more than the cell has is measured only as far as it is drawn.
     constexpr int MostDrawn = 4096;
-    const int count = std::min(text.GetLength(), MostDrawn);
+    const int count = (std::min)(text.GetLength(), MostDrawn);
     dc.DrawText(text.GetString(), count, &rect, OneLine);
     return dc.GetTextExtent(text.GetString(), count).cx > rect.Width();
 }

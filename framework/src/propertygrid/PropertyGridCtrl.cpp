@@ -265,7 +265,7 @@ void CMFCPropertyGridCtrl::EnableDescriptionArea(BOOL bEnable)
 
 void CMFCPropertyGridCtrl::SetDescriptionRows(int nDescRows)
 {
-    m_nDescrRows = std::max(1, nDescRows);
+    m_nDescrRows = (std::max)(1, nDescRows);
     AdjustLayout();
 }
 

@@ -48,12 +48,12 @@ int DescriptionRowsAt(int y, int clientHeight, const PropertyGridMetrics& metric
     const int most =
         (clientHeight - metrics.headerHeight - metrics.rowHeight - FrameOfDescription()) / metrics.rowHeight;
     const int wanted = (clientHeight - y - FrameOfDescription() + metrics.rowHeight / 2) / metrics.rowHeight;
-    return std::clamp(wanted, 1, std::max(1, most));
+    return std::clamp(wanted, 1, (std::max)(1, most));
 }
 
 int FullRows(const CRect& list, int rowHeight)
 {
-    return rowHeight <= 0 ? 1 : std::max(1, list.Height() / rowHeight);
+    return rowHeight <= 0 ? 1 : (std::max)(1, list.Height() / rowHeight);
 }
 
 CRect RowRectangle(const CRect& list, int rowHeight, int firstRow, int row)
@@ -72,14 +72,14 @@ int RowAt(const CRect& list, int rowHeight, int firstRow, int rowCount, int y)
 
 int ClampFirstRow(int firstRow, int rowCount, int fullRows)
 {
-    return std::clamp(firstRow, 0, std::max(0, rowCount - fullRows));
+    return std::clamp(firstRow, 0, (std::max)(0, rowCount - fullRows));
 }
 
 int FirstRowShowing(int row, int firstRow, int fullRows)
 {
     if (row < firstRow)
         return row;
-    return std::max(firstRow, row - fullRows + 1);
+    return (std::max)(firstRow, row - fullRows + 1);
 }
 
 int RowAfterKey(UINT key, int row, int rowCount, int fullRows)
@@ -112,8 +112,8 @@ int RowAfterKey(UINT key, int row, int rowCount, int fullRows)
 
 int ClampColumn(int width, int listWidth, int gutter)
 {
-    const int least = std::min(2 * gutter, listWidth / 2);
-    return std::clamp(width, least, std::max(least, listWidth - 2 * gutter));
+    const int least = (std::min)(2 * gutter, listWidth / 2);
+    return std::clamp(width, least, (std::max)(least, listWidth - 2 * gutter));
 }
 
 int ScaleColumn(int width, int oldListWidth, int newListWidth)
@@ -124,7 +124,7 @@ int ScaleColumn(int width, int oldListWidth, int newListWidth)
 CRect NameRectangle(const CRect& row, int gutter, int indent, int column)
 {
     const int right = row.left + column;
-    const int left = std::min(static_cast<int>(row.left) + gutter * (indent + 1), right);
+    const int left = (std::min)(static_cast<int>(row.left) + gutter * (indent + 1), right);
     return CRect(left, row.top, right, row.bottom - 1);
 }
 
@@ -138,7 +138,7 @@ CRect FoldBoxRectangle(const CRect& row, int gutter, int indent, int column)
 {
     const CRect name = NameRectangle(row, gutter, indent, column);
     // Odd, so that the plus sign has a middle.
-    const int side = std::max(SmallestBox, gutter / 2) | 1;
+    const int side = (std::max)(SmallestBox, gutter / 2) | 1;
     const int left = name.left - gutter + (gutter - side) / 2;
     const int top = row.top + (row.Height() - 1 - side) / 2;
     return CRect(left, top, left + side, top + side);
@@ -161,7 +161,7 @@ CRect TextRectangle(const CRect& cell)
 CRect EditorRectangle(const CRect& value, int textHeight)
 {
     CRect editor = TextRectangle(value);
-    editor.top += std::max(0, (value.Height() - textHeight) / 2);
+    editor.top += (std::max)(0, (value.Height() - textHeight) / 2);
     return editor;
 }
 

@@ -116,7 +116,7 @@ int CMFCPropertyGridCtrl::IndentOf(const CMFCPropertyGridProperty& prop) const
     for (const CMFCPropertyGridProperty* parent = prop.m_pParent; parent != NULL; parent = parent->m_pParent)
         if (!m_bAlphabeticMode || !parent->m_bGroup || parent->m_bIsValueList)
             ++level;
-    return m_bAlphabeticMode ? level : std::max(0, level - 1);
+    return m_bAlphabeticMode ? level : (std::max)(0, level - 1);
 }
 
 // ---- Areas.
@@ -205,7 +205,7 @@ void CMFCPropertyGridCtrl::PlaceHeader(const CRect& rect)
     const UINT show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
     m_wndHeader.SetWindowPos(NULL, rect.left, rect.top, rect.Width(), rect.Height(),
                              SWP_NOZORDER | SWP_NOACTIVATE | show);
-    const int widths[] = {m_nLeftColumnWidth, std::max(0, rect.Width() - m_nLeftColumnWidth)};
+    const int widths[] = {m_nLeftColumnWidth, (std::max)(0, rect.Width() - m_nLeftColumnWidth)};
     for (int i = 0; i < 2; ++i)
     {
         HDITEM item = {};
@@ -225,7 +225,7 @@ void CMFCPropertyGridCtrl::PlaceScrollBar(const CRect& rect)
     m_wndScroll.GetScrollInfo(&old);
     SCROLLINFO info = {};
     info.fMask = SIF_ALL;
-    info.nMax = std::max(0, RowCount() - 1);
+    info.nMax = (std::max)(0, RowCount() - 1);
     info.nPage = static_cast<UINT>(quorfx::FullRows(rect, m_nRowHeight));
     info.nPos = m_nFirstRow;
     if (old.nMax != info.nMax || old.nPage != info.nPage || old.nPos != info.nPos)
@@ -249,7 +249,7 @@ int CMFCPropertyGridCtrl::GetDescriptionHeight() const
 int CMFCPropertyGridCtrl::GetLeftColumnWidth() const
 {
     PrepareLayout();
-    return std::max(0, m_nLeftColumnWidth);
+    return (std::max)(0, m_nLeftColumnWidth);
 }
 
 CRect CMFCPropertyGridCtrl::RowRect(int row) const

@@ -14,7 +14,7 @@ public:
     PaintBuffer(CDC& window, const CRect& rect) : m_window(window), m_rect(rect)
     {
         m_dc.CreateCompatibleDC(&window);
-        m_bitmap.CreateCompatibleBitmap(&window, std::max(1, rect.Width()), std::max(1, rect.Height()));
+        m_bitmap.CreateCompatibleBitmap(&window, (std::max)(1, rect.Width()), (std::max)(1, rect.Height()));
         m_previous = m_dc.SelectObject(&m_bitmap);
         m_dc.SetViewportOrg(-rect.left, -rect.top);
         m_dc.IntersectClipRect(rect);

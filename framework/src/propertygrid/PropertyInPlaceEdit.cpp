@@ -86,7 +86,7 @@ void PropertyInPlaceEdit::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
     int first = 0;
     int last = 0;
     GetSel(first, last);
-    EraseMasked(first, std::max(last, first + 1));
+    EraseMasked(first, (std::max)(last, first + 1));
 }
 
 void PropertyInPlaceEdit::TypeMasked(wchar_t character)

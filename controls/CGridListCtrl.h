@@ -1,6 +1,7 @@
 // CGridListCtrl: a report list with a current column, whose cells its owner lets the user edit in place.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 // A list in report view that keeps a current column beside the focused row; both together are the current

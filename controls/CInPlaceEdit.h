@@ -1,6 +1,7 @@
 // CInPlaceEdit: the editor of one cell of a CGridListCtrl.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 // An edit that the owner of a list creates as a child of the list, over the cell to be edited. It takes the

@@ -1,6 +1,7 @@
 // TGCellSpin: the spin control at the right end of a cell's edit.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 namespace QuorUiCtr

@@ -3,6 +3,8 @@
 
 #include <afxwin.h>
 
+#include <cstdlib>
+
 namespace QuorUiCtr
 {
 

@@ -4,6 +4,8 @@
 #include "propgrid/ComboProperty.h"
 #include "propgrid/ComboSpecification.h"
 
+#include <cstdlib>
+
 IMPLEMENT_DYNAMIC(CMFCPropertyGridCtrlEx, CMFCPropertyGridCtrl)
 
 namespace

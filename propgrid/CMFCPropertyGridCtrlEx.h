@@ -1,6 +1,7 @@
 // CMFCPropertyGridCtrlEx: a property grid whose properties are reached by their titles.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcontrolbars.h>
 #include <afxtempl.h>
 

@@ -1,6 +1,7 @@
 // The compact text of a combo property: "value,<option,option,...>[description]".
 #pragma once
 
+#include <afxwin.h>
 #include <afxtempl.h>
 
 // The parts of the text.

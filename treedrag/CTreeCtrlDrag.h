@@ -1,6 +1,7 @@
 // CTreeCtrlDrag: a tree control whose items the user rearranges by dragging, with folders.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 namespace QuorUiCtr

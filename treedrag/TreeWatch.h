@@ -1,6 +1,7 @@
 // TreeWatch: notes what becomes of a tree while code of its owner runs.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 #include <unordered_set>

@@ -5,6 +5,8 @@
 #include "CellTextDialog.h"
 #include "ColumnEditors.h"
 
+#include <cwchar>
+
 namespace
 {
 

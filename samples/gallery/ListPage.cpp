@@ -6,7 +6,9 @@
 #include "resource.h"
 
 #include <algorithm>
+#include <iterator>
 #include <numeric>
+#include <utility>
 
 namespace
 {
@@ -164,9 +166,9 @@ void ListPage::LayOut(int width, int height)
         return;
     constexpr int Gap = 6;
     const int editHeight = PlaceOf(plainEdit, *this).Height();
-    const int editTop = std::max(0, height - editHeight);
+    const int editTop = (std::max)(0, height - editHeight);
     const CRect listPlace = PlaceOf(list, *this);
-    list.MoveWindow(0, listPlace.top, width, std::max(0, editTop - Gap - static_cast<int>(listPlace.top)));
+    list.MoveWindow(0, listPlace.top, width, (std::max)(0, editTop - Gap - static_cast<int>(listPlace.top)));
     for (const UINT id : BottomControls)
     {
         CWnd& control = *GetDlgItem(static_cast<int>(id));
@@ -176,7 +178,7 @@ void ListPage::LayOut(int width, int height)
     }
     const CRect bannerPlace = PlaceOf(banner, *this);
     banner.MoveWindow(bannerPlace.left, bannerPlace.top,
-                      std::max(0, width - static_cast<int>(bannerPlace.left)), bannerPlace.Height());
+                      (std::max)(0, width - static_cast<int>(bannerPlace.left)), bannerPlace.Height());
 }
 
 void ListPage::PressKey(UINT key)

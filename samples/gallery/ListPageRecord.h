@@ -1,6 +1,7 @@
 // The list's notifications of editing as lines for the log.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 // One line for LVN_BEGINLABELEDIT or LVN_ENDLABELEDIT of `list`: the cell by row and column name, and the

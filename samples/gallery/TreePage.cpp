@@ -6,6 +6,7 @@
 #include "resource.h"
 
 #include <algorithm>
+#include <iterator>
 
 using namespace QuorUiCtr;
 
@@ -130,7 +131,7 @@ void TreePage::LayOut(int width, int height)
     GetDlgItem(IDC_TREE_NEW_FOLDER)->GetWindowRect(tool);
     ScreenToClient(tool);
     const int top = tool.bottom + 6;
-    tree.MoveWindow(0, top, width, std::max(0, height - top));
+    tree.MoveWindow(0, top, width, (std::max)(0, height - top));
 }
 
 void TreePage::OnNewFolder()

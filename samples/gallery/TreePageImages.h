@@ -1,6 +1,7 @@
 // The images of the tree page.
 #pragma once
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 // The place of an image in the list; a drag tree takes image 0 for a folder.

@@ -2,6 +2,8 @@
 #include "dispatch/MessageMap.h"
 #include "thread/ThreadState.h"
 
+#include <iterator>
+
 namespace
 {
 

@@ -2,6 +2,8 @@
 #include "afxwin.h"
 #include "thread/ThreadState.h"
 
+#include <iterator>
+
 namespace
 {
 

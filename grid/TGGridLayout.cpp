@@ -59,7 +59,7 @@ long TGGrid::GetColHeaderHeight()
 {
     long lines = 1;
     for (const TGGridCol* col : cols)
-        lines = std::max(lines, CaptionLineCount(col->GetName()));
+        lines = (std::max)(lines, CaptionLineCount(col->GetName()));
     return GetRowHeight() * lines;
 }
 
@@ -170,7 +170,7 @@ void TGGrid::Layout::LayOutBar(int bar, bool needed, int position, int maximum)
         grid.SetScrollRange(bar, 0, maximum, FALSE);
         RepaintBar(bar);
     }
-    grid.SetBarPosition(bar, std::min(position, maximum));
+    grid.SetBarPosition(bar, (std::min)(position, maximum));
 }
 
 bool TGGrid::Layout::IsBarShown(int bar) const
@@ -207,7 +207,8 @@ void TGGrid::Layout::RepaintBar(int bar)
 void TGGrid::Layout::PlaceHeaders()
 {
     const CSize measure(grid.GetRowHeight(), grid.GetColHeaderHeight());
-    if (measure == grid.headerMeasure)
+    // Not operator==, which is ambiguous between two CSize with some compilers.
+    if (measure.cx == grid.headerMeasure.cx && measure.cy == grid.headerMeasure.cy)
         return;
     grid.headerMeasure = measure;
     const long left = grid.IsRowSel() ? measure.cx : 0;

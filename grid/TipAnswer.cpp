@@ -21,6 +21,13 @@ const int formatterLimit = 1025;
 const int pieceLimit = 64;
 const int widthLimit = 64;
 
+// Shows the tip in inactive windows too, where the framework knows the flag.
+#ifdef TTF_ALWAYSTIP
+const UINT alwaysTip = static_cast<UINT>(TTF_ALWAYSTIP);
+#else
+const UINT alwaysTip = 0;
+#endif
+
 // What the formatter reads as arguments. No piece can ask for more.
 const std::uint64_t zeroArguments[pieceLimit] = {};
 
@@ -40,7 +47,7 @@ std::wstring LimitedNumber(const wchar_t*& unit)
     std::wstring number(*unit == L'0' ? L"0" : L"");
     int value = 0;
     for (; IsDigit(*unit); ++unit)
-        value = std::min(value * 10 + (*unit - L'0'), widthLimit);
+        value = (std::min)(value * 10 + (*unit - L'0'), widthLimit);
     return value == 0 ? number : number + std::to_wstring(value);
 }
 
@@ -121,7 +128,7 @@ INT_PTR AnswerTip(const CWnd& window, const CString& tip, INT_PTR id, UINT extra
         return -1;
     info->hwnd = window.GetSafeHwnd();
     info->uId = reinterpret_cast<UINT_PTR>(window.GetSafeHwnd());
-    info->uFlags |= TTF_IDISHWND | TTF_NOTBUTTON | TTF_ALWAYSTIP | extraFlags;
+    info->uFlags |= TTF_IDISHWND | TTF_NOTBUTTON | alwaysTip | extraFlags;
     info->lpszText = text;
     return id;
 }

@@ -6,6 +6,8 @@
 #include "resource.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <iterator>
 
 BEGIN_MESSAGE_MAP(PropertiesPage, Page)
     ON_REGISTERED_MESSAGE(AFX_WM_PROPERTY_CHANGED, &PropertiesPage::OnPropertyChanged)
@@ -61,7 +63,7 @@ void PropertiesPage::LayOut(int width, int height)
     CRect place;
     grid.GetWindowRect(place);
     ScreenToClient(place);
-    grid.MoveWindow(place.left, 0, std::max(0, width - static_cast<int>(place.left)), height);
+    grid.MoveWindow(place.left, 0, (std::max)(0, width - static_cast<int>(place.left)), height);
 }
 
 LRESULT PropertiesPage::OnPropertyChanged(WPARAM id, LPARAM property)

@@ -5,6 +5,13 @@
 
 #include "propgrid/CMFCPropertyGridCtrlEx.h"
 
+// The grid of the page, whose open editor the page may close.
+class PropertiesPageGrid : public CMFCPropertyGridCtrlEx
+{
+public:
+    using CMFCPropertyGridCtrlEx::EndEditItem;
+};
+
 class PropertiesPage : public Page
 {
 public:
@@ -39,5 +46,5 @@ private:
     void ShowResult(const CString& call, int result);
 
     CFont font;
-    CMFCPropertyGridCtrlEx grid;
+    PropertiesPageGrid grid;
 };

@@ -20,7 +20,8 @@ struct GridCommand
     bool (TGGrid::*run)();
 };
 
-constexpr GridCommand GridCommands[] = {
+// Addresses of imported functions are not constant expressions.
+const GridCommand GridCommands[] = {
     {IDC_TREE_INSERT, L"DoInsertRow", &TGGrid::DoInsertRow},
     {IDC_TREE_INSERT_TREE, L"DoInsertTree", &TGGrid::DoInsertTree},
     {IDC_TREE_APPEND_CHILD, L"DoAppendChild", &TGGrid::DoAppendChild},

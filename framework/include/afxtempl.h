@@ -5,3 +5,4 @@
 #include "fx/array.h"
 #include "fx/list.h"
 #include "fx/map.h"
+#include "fx/typedptr.h"

@@ -1,12 +1,13 @@
 // CArray: a growing array of values.
 #pragma once
 
-#include "afx.h"
+#include "fx/elements.h"
 
 // An array with zero-based indices. A new slot is default-constructed and a removed one destroyed; growing,
 // inserting and removing move the elements bytewise, without constructors or destructors, so an element must
-// not point into itself. ARG_TYPE is how elements are passed. A negative index or size throws
-// CInvalidArgException, as does an index at or above the size where it is not documented to grow the array.
+// not point into itself; Copy, Append and the insertion of an array use CopyElements. ARG_TYPE is how
+// elements are passed. A negative index or size throws CInvalidArgException, as does an index at or above the
+// size where it is not documented to grow the array.
 template <class TYPE, class ARG_TYPE = const TYPE&> class CArray : public CObject
 {
 public:
@@ -150,10 +151,11 @@ private:
             std::memmove(static_cast<void*>(pTo), static_cast<const void*>(pFrom), ByteCount(nCount));
     }
 
-    static void CopyElements(TYPE* pTo, const TYPE* pFrom, INT_PTR nCount)
+    // Moves the elements to a larger block. A program may specialise it for elements that point into
+    // themselves.
+    void RelocateElements(TYPE* pNewData, const TYPE* pData, INT_PTR nCount)
     {
-        for (INT_PTR i = 0; i < nCount; ++i)
-            pTo[i] = pFrom[i];
+        MoveBytes(pNewData, pData, nCount);
     }
 
     void Construct(INT_PTR nFirst, INT_PTR nLast)
@@ -179,7 +181,7 @@ private:
         if (static_cast<size_t>(nMaxSize) > static_cast<size_t>(PTRDIFF_MAX) / sizeof(TYPE))
             AfxThrowMemoryException();
         TYPE* pNew = static_cast<TYPE*>(::operator new(ByteCount(nMaxSize)));
-        MoveBytes(pNew, m_pData, m_nSize);
+        RelocateElements(pNew, m_pData, m_nSize);
         ::operator delete(static_cast<void*>(m_pData));
         m_pData = pNew;
         m_nMaxSize = nMaxSize;

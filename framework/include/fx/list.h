@@ -1,10 +1,12 @@
 // CList: a doubly linked list of values.
 #pragma once
 
+#include "fx/elements.h"
 #include "fx/position.h"
 
 // A list whose elements are reached by POSITION, which stays valid until its element is removed. Functions
 // that need an element throw CInvalidArgException when there is none. ARG_TYPE is how elements are passed.
+// Elements are compared with CompareElements.
 template <class TYPE, class ARG_TYPE = const TYPE&> class CList : public CObject
 {
     struct CNode : public __POSITION
@@ -16,7 +18,7 @@ template <class TYPE, class ARG_TYPE = const TYPE&> class CList : public CObject
     };
 
 public:
-    explicit CList(INT_PTR = 10) : m_pHead(NULL), m_pTail(NULL), m_nCount(0) {}
+    CList(INT_PTR = 10) : m_pHead(NULL), m_pTail(NULL), m_nCount(0) {}
     virtual ~CList() { RemoveAll(); }
 
     INT_PTR GetCount() const { return m_nCount; }
@@ -33,8 +35,16 @@ public:
     POSITION AddTail(ARG_TYPE newElement) { return Link(m_pTail, newElement, NULL); }
     TYPE RemoveHead() { return Take(m_pHead); }
     TYPE RemoveTail() { return Take(m_pTail); }
+    // Add copies of all elements of another list, which keep their order.
+    void AddHead(CList* pNewList)
+    {
+        ENSURE_ARG(pNewList != NULL && pNewList != this);
+        for (POSITION pos = pNewList->GetTailPosition(); pos != NULL;)
+            AddHead(pNewList->GetPrev(pos));
+    }
     void AddTail(CList* pNewList)
     {
+        ENSURE_ARG(pNewList != NULL && pNewList != this);
         for (POSITION pos = pNewList->GetHeadPosition(); pos != NULL;)
             AddTail(pNewList->GetNext(pos));
     }
@@ -88,7 +98,7 @@ public:
     POSITION Find(ARG_TYPE searchValue, POSITION startAfter = NULL) const
     {
         CNode* pNode = startAfter == NULL ? m_pHead : Node(startAfter)->pNext;
-        while (pNode != NULL && !(pNode->data == searchValue))
+        while (pNode != NULL && !CompareElements(&pNode->data, &searchValue))
             pNode = pNode->pNext;
         return pNode;
     }

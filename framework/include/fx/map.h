@@ -1,29 +1,30 @@
 // CMap: values found by key.
 #pragma once
 
+#include "fx/elements.h"
 #include "fx/position.h"
 
 #include <cstddef>
 
 // The hash of a key; specialise it for own key types.
-template <class ARG_KEY> inline UINT HashKey(ARG_KEY key)
+template <class ARG_KEY> inline UINT AFXAPI HashKey(ARG_KEY key)
 {
     return static_cast<UINT>(static_cast<ULONGLONG>((DWORD_PTR)key) >> 4);
 }
-template <> inline UINT HashKey<LPCWSTR>(LPCWSTR key)
+template <> inline UINT AFXAPI HashKey<LPCWSTR>(LPCWSTR key)
 {
     UINT nHash = 5381;
     while (*key != 0)
         nHash = nHash * 33 + *key++;
     return nHash;
 }
-template <> inline UINT HashKey<const CString&>(const CString& key)
+template <> inline UINT AFXAPI HashKey<const CString&>(const CString& key)
 {
     return HashKey<LPCWSTR>(key);
 }
 
-// A map. Keys are compared with == and hashed with HashKey. The order of the elements is not defined. ARG_KEY
-// and ARG_VALUE are how keys and values are passed.
+// A map. Keys are compared with CompareElements and hashed with HashKey. The order of the elements is not
+// defined. ARG_KEY and ARG_VALUE are how keys and values are passed.
 template <class KEY, class ARG_KEY, class VALUE, class ARG_VALUE> class CMap : public CObject
 {
 public:
@@ -36,7 +37,7 @@ public:
         explicit CPair(ARG_KEY keyval) : key(keyval), value() {}
     };
 
-    explicit CMap(INT_PTR = 10) : m_pTable(NULL), m_nTableSize(17), m_nCount(0) {}
+    CMap(INT_PTR = 10) : m_pTable(NULL), m_nTableSize(17), m_nCount(0) {}
     virtual ~CMap() { RemoveAll(); }
 
     INT_PTR GetCount() const { return m_nCount; }
@@ -69,7 +70,7 @@ public:
             return FALSE;
         for (CNode** ppLink = &m_pTable[Bucket(key)]; *ppLink != NULL; ppLink = &(*ppLink)->pNext)
         {
-            if ((*ppLink)->key == key)
+            if (CompareElements(&(*ppLink)->key, &key))
             {
                 CNode* pNode = *ppLink;
                 *ppLink = pNode->pNext;
@@ -101,9 +102,22 @@ public:
     {
         ENSURE_ARG(rNextPosition != NULL);
         const CNode* pNode = static_cast<CNode*>(rNextPosition);
-        rNextPosition = pNode->pNext != NULL ? pNode->pNext : FirstFrom(Bucket(pNode->key) + 1);
+        rNextPosition = After(pNode);
         rKey = pNode->key;
         rValue = pNode->value;
+    }
+
+    // The same walk by pairs; NULL at the end.
+    CPair* PGetFirstAssoc() { return FirstFrom(0); }
+    const CPair* PGetFirstAssoc() const { return FirstFrom(0); }
+    CPair* PGetNextAssoc(const CPair* pAssocRet)
+    {
+        ENSURE_ARG(pAssocRet != NULL);
+        return After(static_cast<const CNode*>(pAssocRet));
+    }
+    const CPair* PGetNextAssoc(const CPair* pAssocRet) const
+    {
+        return const_cast<CMap*>(this)->PGetNextAssoc(pAssocRet);
     }
 
     UINT GetHashTableSize() const { return m_nTableSize; }
@@ -127,7 +141,7 @@ private:
     CNode* Find(ARG_KEY key) const
     {
         CNode* pNode = m_pTable == NULL ? NULL : m_pTable[Bucket(key)];
-        while (pNode != NULL && !(pNode->key == key))
+        while (pNode != NULL && !CompareElements(&pNode->key, &key))
             pNode = pNode->pNext;
         return pNode;
     }
@@ -148,6 +162,11 @@ private:
             if (m_pTable[nBucket] != NULL)
                 return m_pTable[nBucket];
         return NULL;
+    }
+
+    CNode* After(const CNode* pNode) const
+    {
+        return pNode->pNext != NULL ? pNode->pNext : FirstFrom(Bucket(pNode->key) + 1);
     }
 
     CNode** m_pTable;

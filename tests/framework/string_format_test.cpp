@@ -121,3 +121,52 @@ TEST(NarrowString, BasicOperations)
     EXPECT_EQ(0, text.CompareNoCase("WIDE-TAIL"));
     EXPECT_STREQ("xx", CStringA('x', 2));
 }
+
+TEST(StringFormat, Messages_NameTheirArguments)
+{
+    CString text;
+    text.FormatMessage(L"%2 has %1!d! items, %3!05x!", 3, CString(L"list"), 255);
+    EXPECT_STREQ(L"list has 3 items, 000ff", text);
+    text.FormatMessage(L"");
+    EXPECT_TRUE(text.IsEmpty());
+    text = L"<%1>";
+    text.FormatMessage(text, L"own text");
+    EXPECT_STREQ(L"<own text>", text);
+}
+
+TEST(StringFormat, EnvironmentVariable_BecomesTheText)
+{
+    const CString value(L'v', 300);
+    ASSERT_TRUE(::SetEnvironmentVariable(L"QUOR_STRING_TEST", value));
+    CString text(L"before");
+    EXPECT_TRUE(text.GetEnvironmentVariable(L"QUOR_STRING_TEST"));
+    EXPECT_STREQ(value, text);
+    ::SetEnvironmentVariable(L"QUOR_STRING_TEST", nullptr);
+    EXPECT_FALSE(text.GetEnvironmentVariable(L"QUOR_STRING_TEST"));
+    EXPECT_TRUE(text.IsEmpty());
+}
+
+TEST(NarrowString, OemAndAnsi_ConvertBothWays)
+{
+    // Two code pages that have the letter at different places.
+    const wchar_t letter[] = L"\u00e4";
+    char ansi[4] = {}, oem[4] = {};
+    WideCharToMultiByte(CP_ACP, 0, letter, 1, ansi, 3, nullptr, nullptr);
+    WideCharToMultiByte(CP_OEMCP, 0, letter, 1, oem, 3, nullptr, nullptr);
+    CStringA text(ansi);
+    const CStringA before(text);
+    text.AnsiToOem();
+    EXPECT_STREQ(oem, text);
+    EXPECT_STREQ(ansi, before);
+    text.OemToAnsi();
+    EXPECT_STREQ(ansi, text);
+}
+
+TEST(String, AtlNames_AreTheSameTypes)
+{
+    const CAtlString wide(L"w");
+    const CAtlStringA narrow("n");
+    CString text(wide);
+    text += CString(narrow);
+    EXPECT_STREQ(L"wn", text);
+}

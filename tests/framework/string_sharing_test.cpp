@@ -140,3 +140,52 @@ TEST(StringSharing, Threads_CanCopyAndDropTheSameText)
     CString last(text);
     EXPECT_TRUE(Share(last, text));
 }
+
+TEST(StringSharing, LockedText_IsSharedWithNoOther)
+{
+    CString before(L"locked");
+    CString text(before);
+    wchar_t* const characters = text.LockBuffer();
+    EXPECT_FALSE(Share(before, text));
+    const CString copy(text);
+    EXPECT_FALSE(Share(copy, text));
+    EXPECT_STREQ(L"locked", copy);
+    const CString other(L"other");
+    text = other;
+    EXPECT_EQ(characters, text.GetString());
+    EXPECT_STREQ(L"other", text);
+    text.UnlockBuffer();
+    const CString shared(text);
+    EXPECT_TRUE(Share(shared, text));
+}
+
+TEST(StringSharing, LockedText_StaysLockedWhileItChanges)
+{
+    CString text(L"abc");
+    text.LockBuffer();
+    text.LockBuffer();
+    text += text + CString(L'x', 200);
+    text.Append(text, 3);
+    EXPECT_STREQ(L"abcabc" + CString(L'x', 200) + L"abc", text);
+    EXPECT_FALSE(Share(CString(text), text));
+    text.UnlockBuffer();
+    EXPECT_FALSE(Share(CString(text), text));
+    CString moved(std::move(text));
+    EXPECT_FALSE(Share(moved, text));
+    text.Empty();
+    EXPECT_FALSE(Share(CString(), text));
+    text = L"again";
+    text.UnlockBuffer();
+    EXPECT_TRUE(Share(CString(text), text));
+    EXPECT_STREQ(L"again", text);
+}
+
+TEST(StringSharing, EmptyText_CanBeLocked)
+{
+    CString text;
+    text.LockBuffer();
+    text = L"filled";
+    text.UnlockBuffer();
+    EXPECT_STREQ(L"filled", text);
+    EXPECT_TRUE(CString().IsEmpty());
+}

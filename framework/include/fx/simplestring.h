@@ -15,20 +15,33 @@ struct QFX_API CStringData
     int nDataLength;
     // Characters that fit, without the terminator.
     int nAllocLength;
-    // How many strings share the block; negative for the one block of all empty strings, which is never
-    // freed.
+    // How many strings share the block; negative while it is locked, by the number of locks. The one block
+    // of all empty strings, which is never freed, has a count that does not change.
     volatile LONG nRefs;
 
-    void* data() { return this + 1; }
-    bool IsShared() const { return nRefs != 1; }
-    void AddRef()
+    void* data() throw() { return this + 1; }
+    bool IsShared() const throw() { return nRefs > 1; }
+    // A locked block belongs to one string.
+    bool IsLocked() const throw() { return nRefs < 0; }
+    void Lock() throw()
     {
-        if (nRefs >= 0)
+        ASSERT(nRefs <= 1);
+        nRefs = nRefs < 0 ? nRefs - 1 : -1;
+    }
+    void Unlock() throw()
+    {
+        ASSERT(IsLocked());
+        if (IsLocked())
+            nRefs = nRefs == -1 ? 1 : nRefs + 1;
+    }
+    void AddRef() throw()
+    {
+        if (nRefs != NilRefs)
             InterlockedIncrement(&nRefs);
     }
-    void Release()
+    void Release() throw()
     {
-        if (nRefs >= 0 && (nRefs == 1 || InterlockedDecrement(&nRefs) == 0))
+        if (nRefs != NilRefs && (nRefs <= 1 || InterlockedDecrement(&nRefs) == 0))
             Free(this);
     }
 
@@ -39,6 +52,12 @@ struct QFX_API CStringData
     static CStringData* Nil();
 
 private:
+    friend struct CNilStringData;
+
+    enum : LONG
+    {
+        NilRefs = LONG_MAX
+    };
     static CNilStringData s_nil;
 };
 
@@ -58,22 +77,57 @@ public:
     typedef const BaseType* PCXSTR;
 
     CSimpleStringT() : m_pszData(NilText()) {}
-    CSimpleStringT(const CSimpleStringT& strSrc) : m_pszData(strSrc.m_pszData) { GetData()->AddRef(); }
-    CSimpleStringT(CSimpleStringT&& strSrc) noexcept : m_pszData(strSrc.m_pszData)
-    {
-        strSrc.m_pszData = NilText();
-    }
+    CSimpleStringT(const CSimpleStringT& strSrc) : m_pszData(strSrc.Share()) {}
+    CSimpleStringT(CSimpleStringT&& strSrc) noexcept : m_pszData(NilText()) { *this = std::move(strSrc); }
     ~CSimpleStringT() { GetData()->Release(); }
 
     CSimpleStringT& operator=(const CSimpleStringT& strSrc)
     {
-        strSrc.GetData()->AddRef();
-        Adopt(strSrc.m_pszData);
+        if (this == &strSrc)
+            return *this;
+        if (GetData()->IsLocked())
+            SetString(strSrc.m_pszData, strSrc.GetLength());
+        else
+            Adopt(strSrc.Share());
         return *this;
     }
     CSimpleStringT& operator=(CSimpleStringT&& strSrc) noexcept
     {
+        if (GetData()->IsLocked() || strSrc.GetData()->IsLocked())
+            return *this = static_cast<const CSimpleStringT&>(strSrc);
         std::swap(m_pszData, strSrc.m_pszData);
+        return *this;
+    }
+    CSimpleStringT& operator=(PCXSTR pszSrc)
+    {
+        SetString(pszSrc);
+        return *this;
+    }
+
+    CSimpleStringT& operator+=(const CSimpleStringT& strSrc)
+    {
+        Append(strSrc);
+        return *this;
+    }
+    CSimpleStringT& operator+=(PCXSTR pszSrc)
+    {
+        Append(pszSrc);
+        return *this;
+    }
+    // A character of another type is taken by its code.
+    CSimpleStringT& operator+=(char ch)
+    {
+        AppendChar(static_cast<XCHAR>(ch));
+        return *this;
+    }
+    CSimpleStringT& operator+=(unsigned char ch)
+    {
+        AppendChar(static_cast<XCHAR>(ch));
+        return *this;
+    }
+    CSimpleStringT& operator+=(wchar_t ch)
+    {
+        AppendChar(static_cast<XCHAR>(ch));
         return *this;
     }
 
@@ -99,12 +153,18 @@ public:
         GetBuffer()[iChar] = ch;
     }
 
-    // Makes the string empty and frees its characters.
-    void Empty() throw() { Adopt(NilText()); }
+    // Makes the string empty and, unless they are locked, frees its characters.
+    void Empty() throw()
+    {
+        if (GetData()->IsLocked())
+            SetLength(0);
+        else
+            Adopt(NilText());
+    }
     // Gives unused room back.
     void FreeExtra()
     {
-        if (GetLength() < GetAllocLength())
+        if (GetLength() < GetAllocLength() && !GetData()->IsLocked())
             Reallocate(GetLength(), GetLength());
     }
     // Makes room for nLength characters.
@@ -127,6 +187,16 @@ public:
         SetLength(nNewLength == -1 ? TerminatedLength(m_pszData, GetAllocLength()) : nNewLength);
     }
     void ReleaseBufferSetLength(int nNewLength) { SetLength(nNewLength); }
+    // The characters, which until UnlockBuffer are shared with no other string: assigning to or from this
+    // one copies them. Locks are counted. Changes of the text may still move it.
+    PXSTR LockBuffer()
+    {
+        if (GetData()->IsShared())
+            Reallocate(GetLength(), GetLength());
+        GetData()->Lock();
+        return m_pszData;
+    }
+    void UnlockBuffer() throw() { GetData()->Unlock(); }
     // Cuts the string to nNewLength characters.
     void Truncate(int nNewLength)
     {
@@ -169,8 +239,14 @@ public:
         ENSURE_ARG(pszSrc != NULL && nLength > 0);
         const int nOldLength = GetLength();
         ENSURE_ARG(nLength <= INT_MAX - 1 - nOldLength);
-        // Holds the old block: the text may be in it.
-        const CSimpleStringT strOld(Overlaps(pszSrc) ? *this : CSimpleStringT());
+        CSimpleStringT strOld;
+        if (Overlaps(pszSrc))
+        {
+            // Keeps the text alive while the block is replaced.
+            const ptrdiff_t nOffset = pszSrc - m_pszData;
+            strOld = *this;
+            pszSrc = strOld.m_pszData + nOffset;
+        }
         std::memcpy(PrepareWrite(nOldLength + nLength) + nOldLength, pszSrc, ByteCount(nLength));
         SetLength(nOldLength + nLength);
     }
@@ -185,6 +261,12 @@ public:
     static void CopyChars(PXSTR pchDest, PCXSTR pchSrc, int nChars) throw()
     {
         std::memcpy(pchDest, pchSrc, ByteCount(nChars));
+    }
+    // Copies at most as many characters as nDestLen, the room, allows; throws CInvalidArgException for more.
+    static void CopyChars(PXSTR pchDest, size_t nDestLen, PCXSTR pchSrc, int nChars)
+    {
+        ENSURE_ARG(nChars >= 0 && static_cast<size_t>(nChars) <= nDestLen);
+        CopyChars(pchDest, pchSrc, nChars);
     }
     static void CopyCharsOverlapped(PXSTR pchDest, PCXSTR pchSrc, int nChars) throw()
     {
@@ -217,11 +299,34 @@ private:
         m_pszData[nLength] = 0;
     }
 
-    // Takes over one use of the block of `pszText` in place of the present one.
+    // One more use of the characters, or a copy of locked ones.
+    PXSTR Share() const
+    {
+        CStringData* pData = GetData();
+        if (pData->IsLocked())
+            return Duplicate(GetLength(), GetLength());
+        pData->AddRef();
+        return m_pszData;
+    }
+
+    // A block of its own for nAllocLength characters, with the first nKeepLength of this string.
+    PXSTR Duplicate(int nAllocLength, int nKeepLength) const
+    {
+        CStringData* pData = CStringData::Allocate(nAllocLength, sizeof(XCHAR));
+        PXSTR pszText = static_cast<PXSTR>(pData->data());
+        std::memcpy(pszText, m_pszData, ByteCount(nKeepLength));
+        pszText[nKeepLength] = 0;
+        pData->nDataLength = nKeepLength;
+        return pszText;
+    }
+
+    // Takes over one use of the block of `pszText` in place of the present one. The locks stay.
     void Adopt(PXSTR pszText)
     {
         CStringData* pOld = GetData();
         m_pszData = pszText;
+        if (pOld->IsLocked())
+            GetData()->nRefs = pOld->nRefs;
         pOld->Release();
     }
 
@@ -243,15 +348,7 @@ private:
         return nGrown > nNewLength ? nGrown : nNewLength;
     }
 
-    void Reallocate(int nAllocLength, int nKeepLength)
-    {
-        CStringData* pData = CStringData::Allocate(nAllocLength, sizeof(XCHAR));
-        PXSTR pszText = static_cast<PXSTR>(pData->data());
-        std::memcpy(pszText, m_pszData, ByteCount(nKeepLength));
-        pszText[nKeepLength] = 0;
-        pData->nDataLength = nKeepLength;
-        Adopt(pszText);
-    }
+    void Reallocate(int nAllocLength, int nKeepLength) { Adopt(Duplicate(nAllocLength, nKeepLength)); }
 
     PXSTR m_pszData;
 };

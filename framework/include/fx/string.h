@@ -143,10 +143,27 @@ public:
     void FormatV(PCXSTR pszFormat, va_list args);
     void AppendFormatV(PCXSTR pszFormat, va_list args);
 
-    // Loads a string resource, from the first module of the resource chain that has it or from hInstance.
-    // FALSE leaves the text as it was.
+    // Replace the text by a message in the format of the system's function: %1 is the first argument as a
+    // wide text, %1!d! as printf's %d. CString arguments pass as their text. The format may be a string
+    // resource.
+    template <typename... TArgs> void AFX_CDECL FormatMessage(PCXSTR pszFormat, TArgs... args)
+    {
+        FormatMessageWorker(pszFormat, AfxFormatArgument(args)...);
+    }
+    template <typename... TArgs> void AFX_CDECL FormatMessage(UINT nFormatID, TArgs... args)
+    {
+        FormatMessageWorker(FormatResource(nFormatID), AfxFormatArgument(args)...);
+    }
+    void FormatMessageV(PCXSTR pszFormat, va_list* pArgList);
+
+    // Becomes the value of an environment variable; FALSE, and empty, when there is none.
+    BOOL GetEnvironmentVariable(PCXSTR pszVar);
+
+    // Loads a string resource, from the first module of the resource chain that has it or from hInstance,
+    // there also in a given language. FALSE leaves the text as it was.
     BOOL LoadString(UINT nID);
     BOOL LoadString(HINSTANCE hInstance, UINT nID);
+    BOOL LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID);
 
     // A copy as BSTR, which the caller frees. SetSysString puts it in place of the one at pbstr.
     BSTR AllocSysString() const;
@@ -161,6 +178,7 @@ private:
     static CStringW FormatResource(UINT nFormatID);
     void AFX_CDECL FormatWorker(PCXSTR pszFormat, ...);
     void AFX_CDECL AppendFormatWorker(PCXSTR pszFormat, ...);
+    void AFX_CDECL FormatMessageWorker(PCXSTR pszFormat, ...);
     void SetNarrow(PCYSTR pch, int nLength);
     int InsertText(int iIndex, PCXSTR pch, int nLength);
     void RemoveFirst(int nCount);
@@ -168,6 +186,9 @@ private:
 };
 
 typedef CStringW CString;
+typedef CStringW CAtlStringW;
+typedef CStringA CAtlStringA;
+typedef CAtlStringW CAtlString;
 
 QFX_API CStringW AFXAPI operator+(const CStringW& str1, const CStringW& str2);
 QFX_API CStringW AFXAPI operator+(const CStringW& str1, LPCWSTR psz2);

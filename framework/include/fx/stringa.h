@@ -70,6 +70,10 @@ public:
     }
     void FormatV(LPCSTR pszFormat, va_list args);
 
+    // Convert the text between the ANSI and the OEM code page.
+    void AnsiToOem();
+    void OemToAnsi();
+
 private:
     void AFX_CDECL FormatWorker(LPCSTR pszFormat, ...);
     void SetWide(LPCWSTR pch, int nLength);

@@ -63,3 +63,15 @@ void AFX_CDECL CStringA::FormatWorker(LPCSTR pszFormat, ...)
     FormatV(pszFormat, args);
     va_end(args);
 }
+
+void CStringA::AnsiToOem()
+{
+    const PXSTR text = GetBuffer();
+    CharToOemBuffA(text, text, static_cast<DWORD>(GetLength()));
+}
+
+void CStringA::OemToAnsi()
+{
+    const PXSTR text = GetBuffer();
+    OemToCharBuffA(text, text, static_cast<DWORD>(GetLength()));
+}

@@ -5,10 +5,11 @@
 // Unknown to the header, so that compilers do not mistake it for what every string's text points to.
 struct CNilStringData : public CStringData
 {
+    static constexpr LONG Refs = NilRefs;
     wchar_t terminator[2];
 };
 
-CNilStringData CStringData::s_nil = {{0, 0, -1}, {0, 0}};
+CNilStringData CStringData::s_nil = {{0, 0, CNilStringData::Refs}, {0, 0}};
 
 CStringData* CStringData::Allocate(int nChars, int nCharSize)
 {

@@ -17,9 +17,8 @@ LPCTSTR BlockName(UINT id)
     return MAKEINTRESOURCE((id >> 4) + 1);
 }
 
-ResourceString FindString(HINSTANCE module, UINT id)
+ResourceString StringIn(HINSTANCE module, HRSRC resource, UINT id)
 {
-    const HRSRC resource = FindResource(module, BlockName(id), RT_STRING);
     if (resource == nullptr)
         return {};
     const HGLOBAL loaded = LoadResource(module, resource);
@@ -34,6 +33,14 @@ ResourceString FindString(HINSTANCE module, UINT id)
     return {reinterpret_cast<const wchar_t*>(position + 1), *position};
 }
 
+BOOL Take(CStringW& text, const ResourceString& found)
+{
+    if (found.text == nullptr)
+        return FALSE;
+    text.SetString(found.text, found.length);
+    return TRUE;
+}
+
 } // namespace
 
 BOOL CStringW::LoadString(UINT nID)
@@ -43,11 +50,13 @@ BOOL CStringW::LoadString(UINT nID)
 
 BOOL CStringW::LoadString(HINSTANCE hInstance, UINT nID)
 {
-    const ResourceString found = FindString(hInstance, nID);
-    if (found.text == nullptr)
-        return FALSE;
-    SetString(found.text, found.length);
-    return TRUE;
+    return Take(*this, StringIn(hInstance, FindResource(hInstance, BlockName(nID), RT_STRING), nID));
+}
+
+BOOL CStringW::LoadString(HINSTANCE hInstance, UINT nID, WORD wLanguageID)
+{
+    const HRSRC resource = FindResourceEx(hInstance, RT_STRING, BlockName(nID), wLanguageID);
+    return Take(*this, StringIn(hInstance, resource, nID));
 }
 
 CStringW CStringW::FormatResource(UINT nFormatID)
@@ -95,4 +104,40 @@ void AFX_CDECL CStringW::AppendFormatWorker(PCXSTR pszFormat, ...)
     va_start(args, pszFormat);
     AppendFormatV(pszFormat, args);
     va_end(args);
+}
+
+void CStringW::FormatMessageV(PCXSTR pszFormat, va_list* pArgList)
+{
+    ENSURE_ARG(pszFormat != nullptr);
+    PXSTR text = nullptr;
+    const DWORD length = ::FormatMessage(FORMAT_MESSAGE_FROM_STRING | FORMAT_MESSAGE_ALLOCATE_BUFFER,
+                                         pszFormat, 0, 0, reinterpret_cast<LPTSTR>(&text), 0, pArgList);
+    if (text == nullptr && *pszFormat != 0)
+        AfxThrowMemoryException();
+    SetString(text, static_cast<int>(length));
+    ::LocalFree(text);
+}
+
+void AFX_CDECL CStringW::FormatMessageWorker(PCXSTR pszFormat, ...)
+{
+    va_list args;
+    va_start(args, pszFormat);
+    FormatMessageV(pszFormat, &args);
+    va_end(args);
+}
+
+BOOL CStringW::GetEnvironmentVariable(PCXSTR pszVar)
+{
+    // The variable may change between the calls, so that the room is too small after all.
+    CStringW value;
+    DWORD room = 0;
+    DWORD length = ::GetEnvironmentVariable(pszVar, nullptr, 0);
+    while (length > room)
+    {
+        room = length;
+        length = ::GetEnvironmentVariable(pszVar, value.GetBuffer(static_cast<int>(room)), room);
+    }
+    value.ReleaseBufferSetLength(static_cast<int>(length));
+    *this = std::move(value);
+    return room != 0;
 }

@@ -9,3 +9,5 @@
 #include "fx/spinbuttonctrl.h"
 #include "fx/tooltipctrl.h"
 #include "fx/tabctrl.h"
+#include "fx/toolbarctrl.h"
+#include "fx/statusbarctrl.h"

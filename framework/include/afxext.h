@@ -1,7 +1,10 @@
-// Form views and creation contexts.
+// Form views, creation contexts and the bars of frames.
 #pragma once
 
 #define __AFXEXT_H__
 
 #include "afxwin.h"
 #include "fx/formview.h"
+#include "fx/controlbar.h"
+#include "fx/toolbar.h"
+#include "fx/statusbar.h"

@@ -6,9 +6,17 @@
 #include "afxres.h"
 #include "atltypes.h"
 
+class CCmdUI;
+class CControlBar;
 class CDocument;
 class CView;
 struct CCreateContext;
+
+namespace quorfx
+{
+class FrameBars;
+struct BarAccess;
+} // namespace quorfx
 
 // Styles of frames: build the title from document and program, the document first.
 #define FWS_ADDTOTITLE 0x00008000L
@@ -60,8 +68,33 @@ public:
     void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
     // Shows the frame with a SW_ code (-1: as it is) and brings it to the top.
     virtual void ActivateFrame(int nCmdShow = -1);
-    // Gives AFX_IDW_PANE_FIRST the client area that bars leave over.
+    // Gives the bars their places and AFX_IDW_PANE_FIRST the client area that they leave over.
     virtual void RecalcLayout(BOOL bNotify = TRUE);
+    enum BorderCmd
+    {
+        borderGet = 1,
+        borderRequest = 2,
+        borderSet = 3
+    };
+    // Keeps a border free around the pane. borderGet: the rectangle that is left beside the bars;
+    // borderRequest: whether lpRectBorder can be had; borderSet: sets it, TRUE if it changed anything.
+    virtual BOOL NegotiateBorderSpace(UINT nBorderCmd, LPRECT lpRectBorder);
+
+    // The bar with that id that belongs to this frame, docked or floating; NULL for none.
+    CControlBar* GetControlBar(UINT nID);
+    // Shows or hides a bar; with bDelay at the next idle time.
+    void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    // The command that shows or hides the bar whose id it has, and the check mark of its menu item.
+    afx_msg BOOL OnBarCheck(UINT nID);
+    afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);
+
+    // The window whose text is the message line: the status bar, NULL without one.
+    virtual CWnd* GetMessageBar();
+    // The text of a command for the message line. The base takes the string resource of that id, up to the
+    // line break.
+    virtual void GetMessageString(UINT nID, CString& rMessage) const;
+    void SetMessageText(LPCTSTR lpszText);
+    void SetMessageText(UINT nID);
     virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
 
     virtual BOOL IsFrameWnd() const;
@@ -88,10 +121,24 @@ protected:
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
     afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
+    afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
+    afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
 private:
     // What LoadAccelTable loaded, to be given back with the frame.
     HACCEL m_hLoadedAccelTable;
+    // Lays out at the next idle time.
+    void DelayLayout();
+    BOOL m_bLayoutIsDue;
+    // What NegotiateBorderSpace keeps free, as widths.
+    CRect m_rectBorder;
+    // NULL until the frame gets a bar.
+    quorfx::FrameBars* m_pBars;
+
+    friend struct quorfx::BarAccess;
 };

@@ -1,4 +1,5 @@
 // CFrameWnd: creation, layout and activation.
+#include "bars/FrameBars.h"
 #include "frame/FrameMessages.h"
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
@@ -11,7 +12,21 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_ACTIVATE()
     ON_WM_INITMENUPOPUP()
+    ON_WM_MENUSELECT()
     ON_NOTIFY_EX_RANGE(TTN_NEEDTEXT, 0, 0xffff, &CFrameWnd::OnToolTipText)
+    ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
+    ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
+    ON_MESSAGE(WM_IDLEUPDATECMDUI, &CFrameWnd::OnIdleUpdateCmdUI)
+    ON_COMMAND_EX(ID_VIEW_TOOLBAR, &CFrameWnd::OnBarCheck)
+    ON_COMMAND_EX(ID_VIEW_STATUS_BAR, &CFrameWnd::OnBarCheck)
+    ON_COMMAND_EX(ID_VIEW_REBAR, &CFrameWnd::OnBarCheck)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_TOOLBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_STATUS_BAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_VIEW_REBAR, &CFrameWnd::OnUpdateControlBarMenu)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_CAPS, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_NUM, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_SCRL, &CFrameWnd::OnUpdateKeyIndicator)
+    ON_UPDATE_COMMAND_UI(ID_INDICATOR_KANA, &CFrameWnd::OnUpdateKeyIndicator)
 END_MESSAGE_MAP()
 
 const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
@@ -28,8 +43,14 @@ LPCTSTR RegisterFrameClass(HICON icon)
 } // namespace quorfx
 
 CFrameWnd::CFrameWnd()
-    : m_bAutoMenuEnable(TRUE), m_hAccelTable(NULL), m_pViewActive(NULL), m_bInRecalcLayout(FALSE),
-      m_hLoadedAccelTable(NULL)
+    : m_bAutoMenuEnable(TRUE),
+      m_hAccelTable(NULL),
+      m_pViewActive(NULL),
+      m_bInRecalcLayout(FALSE),
+      m_hLoadedAccelTable(NULL),
+      m_bLayoutIsDue(FALSE),
+      m_rectBorder(0, 0, 0, 0),
+      m_pBars(NULL)
 {
 }
 
@@ -39,6 +60,7 @@ CFrameWnd::~CFrameWnd()
     DestroyWindow();
     if (m_hLoadedAccelTable != NULL)
         ::DestroyAcceleratorTable(m_hLoadedAccelTable);
+    delete m_pBars;
 }
 
 BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
@@ -163,7 +185,9 @@ void CFrameWnd::RecalcLayout(BOOL)
     if (m_bInRecalcLayout)
         return;
     m_bInRecalcLayout = TRUE;
-    RepositionBars(0, 0xffff, AFX_IDW_PANE_FIRST);
+    m_bLayoutIsDue = FALSE;
+    CRect border(m_rectBorder);
+    RepositionBars(0, 0xffff, AFX_IDW_PANE_FIRST, reposExtra, &border);
     m_bInRecalcLayout = FALSE;
 }
 

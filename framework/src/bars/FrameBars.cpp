@@ -1,0 +1,128 @@
+// The register of the bars of a frame, and the members of CFrameWnd that show and hide them.
+#include "bars/FrameBars.h"
+
+namespace quorfx
+{
+
+FrameBars& BarAccess::Bars(CFrameWnd& frame)
+{
+    if (frame.m_pBars == NULL)
+        frame.m_pBars = new FrameBars(frame);
+    return *frame.m_pBars;
+}
+
+FrameBars::~FrameBars()
+{
+    // Bars may outlive the frame's object, but not as its bars.
+    for (CControlBar* bar : m_bars)
+        BarAccess::DockSite(*bar) = NULL;
+}
+
+void FrameBars::Add(CControlBar* bar)
+{
+    if (std::find(m_bars.begin(), m_bars.end(), bar) == m_bars.end())
+        m_bars.push_back(bar);
+}
+
+void FrameBars::Remove(CControlBar* bar)
+{
+    m_bars.erase(std::remove(m_bars.begin(), m_bars.end(), bar), m_bars.end());
+}
+
+CControlBar* FrameBars::Find(UINT id) const
+{
+    for (CControlBar* bar : m_bars)
+        if (LOWORD(bar->GetDlgCtrlID()) == id)
+            return bar;
+    return NULL;
+}
+
+} // namespace quorfx
+
+using quorfx::BarAccess;
+using quorfx::FrameBars;
+
+CControlBar* CFrameWnd::GetControlBar(UINT nID)
+{
+    if (nID == 0)
+        return NULL;
+    const FrameBars* const bars = BarAccess::BarsIfAny(*this);
+    CControlBar* const bar = bars != NULL ? bars->Find(nID) : NULL;
+    if (bar != NULL || !(GetStyle() & WS_CHILD))
+        return bar;
+    // The bars of a frame inside another one are usually the outer frame's.
+    CFrameWnd* const outer = GetParentFrame();
+    return outer != NULL ? outer->GetControlBar(nID) : NULL;
+}
+
+void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay)
+{
+    CFrameWnd* const frame = pBar->GetDockingFrame();
+    if (bDelay)
+    {
+        BarAccess::Delayed(*pBar) = bShow ? quorfx::delayShow : quorfx::delayHide;
+        if (frame != NULL)
+            frame->DelayLayout();
+        return;
+    }
+    BarAccess::Delayed(*pBar) = quorfx::delayNothing;
+    pBar->ShowWindow(bShow ? SW_SHOWNA : SW_HIDE);
+    if (frame != NULL)
+        frame->RecalcLayout();
+}
+
+BOOL CFrameWnd::OnBarCheck(UINT nID)
+{
+    CControlBar* const bar = GetControlBar(nID);
+    if (bar == NULL)
+        return FALSE;
+    ShowControlBar(bar, !bar->IsVisible(), FALSE);
+    return TRUE;
+}
+
+void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* pCmdUI)
+{
+    CControlBar* const bar = GetControlBar(pCmdUI->m_nID);
+    if (bar != NULL)
+        pCmdUI->SetCheck(bar->IsVisible());
+    else
+        pCmdUI->ContinueRouting();
+}
+
+void CFrameWnd::DelayLayout()
+{
+    m_bLayoutIsDue = TRUE;
+}
+
+LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM)
+{
+    if (!m_bLayoutIsDue)
+        return 0;
+    m_bLayoutIsDue = FALSE;
+    RecalcLayout();
+    UpdateWindow();
+    return 0;
+}
+
+BOOL CFrameWnd::NegotiateBorderSpace(UINT nBorderCmd, LPRECT lpRectBorder)
+{
+    CRect border(0, 0, 0, 0);
+    switch (nBorderCmd)
+    {
+    case borderGet:
+        RepositionBars(0, 0xffff, AFX_IDW_PANE_FIRST, reposQuery, lpRectBorder);
+        return TRUE;
+    case borderRequest:
+        return TRUE;
+    case borderSet:
+        if (lpRectBorder != NULL)
+            border = *lpRectBorder;
+        if (border == m_rectBorder)
+            return FALSE;
+        m_rectBorder = border;
+        return TRUE;
+    default:
+        ASSERT(FALSE);
+        return FALSE;
+    }
+}

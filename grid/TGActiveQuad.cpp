@@ -8,13 +8,6 @@
 namespace QuorUiCtr
 {
 
-namespace
-{
-
-const UINT controlId = 102;
-
-} // namespace
-
 BEGIN_MESSAGE_MAP(TGActiveQuad, CWnd)
     ON_WM_PAINT()
     ON_WM_LBUTTONDOWN()
@@ -28,7 +21,7 @@ void TGActiveQuad::MakeWindow()
 {
     active = false;
     const CRect place(0, 0, grid->GetRowHeight(), grid->GetColHeaderHeight());
-    if (Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
+    if (Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, grid, QuadId))
         EnableToolTips(TRUE);
 }
 

@@ -8,13 +8,6 @@
 namespace QuorUiCtr
 {
 
-namespace
-{
-
-const UINT controlId = 103;
-
-} // namespace
-
 BEGIN_MESSAGE_MAP(TGColSelector, CWnd)
     ON_WM_PAINT()
     ON_WM_LBUTTONDOWN()
@@ -39,7 +32,7 @@ void TGColSelector::MakeWindow()
     const long left = grid->IsRowSel() ? grid->GetRowHeight() : 0;
     const CRect place(left, 0, headerExtent, grid->GetColHeaderHeight());
     const CString& className = windowClass.Register(bkBrush);
-    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
+    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, ColHeaderId))
         EnableToolTips(TRUE);
 }
 

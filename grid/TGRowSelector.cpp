@@ -13,7 +13,6 @@ namespace QuorUiCtr
 namespace
 {
 
-const UINT controlId = 104;
 const UINT currentRowIconId = 1000;
 const UINT newRowIconId = 1001;
 
@@ -44,7 +43,7 @@ void TGRowSelector::MakeWindow()
     const long top = grid->IsColSel() ? grid->GetColHeaderHeight() : 0;
     const CRect place(0, top, grid->GetRowHeight(), headerExtent);
     const CString& className = windowClass.Register(bkBrush);
-    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, controlId))
+    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, RowHeaderId))
         EnableToolTips(TRUE);
 }
 

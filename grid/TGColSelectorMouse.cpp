@@ -1,6 +1,7 @@
 // The column header's mouse work: selecting, resizing and moving columns.
 #include "grid/TGColSelector.h"
 
+#include "grid/HeaderDrag.h"
 #include "grid/TGGrid.h"
 
 namespace QuorUiCtr
@@ -8,15 +9,9 @@ namespace QuorUiCtr
 namespace
 {
 
-constexpr int AutoScrollStep = 5;
 constexpr long MoveMarkWidth = 3;
 constexpr long ResizeMarkWidth = 1;
 constexpr long FarDown = 10000;
-
-bool IsKeyHeld(int key)
-{
-    return (::GetKeyState(key) & 0x8000) != 0;
-}
 
 } // namespace
 

@@ -1,6 +1,7 @@
 // The row header's mouse work: selecting rows, the new-row box, moving rows by dragging.
 #include "grid/TGRowSelector.h"
 
+#include "grid/HeaderDrag.h"
 #include "grid/TGGrid.h"
 
 namespace QuorUiCtr
@@ -8,14 +9,8 @@ namespace QuorUiCtr
 namespace
 {
 
-constexpr int AutoScrollStep = 5;
 constexpr long DropMarkHeight = 3;
 constexpr long FarRight = 10000;
-
-bool IsKeyHeld(int key)
-{
-    return (::GetKeyState(key) & 0x8000) != 0;
-}
 
 } // namespace
 

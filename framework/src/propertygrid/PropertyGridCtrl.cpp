@@ -1,5 +1,6 @@
 // CMFCPropertyGridCtrl: its life, its properties and its settings.
 #include "afxpropertygridctrl.h"
+#include "propertygrid/CustomColor.h"
 #include "propertygrid/PropertyGridMessages.h"
 #include "propertygrid/PropertyGridWatch.h"
 
@@ -43,7 +44,6 @@ namespace
 {
 
 constexpr int FirstDescriptionRows = 3;
-constexpr COLORREF SystemColor = static_cast<COLORREF>(-1);
 
 } // namespace
 

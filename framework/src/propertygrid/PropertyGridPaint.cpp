@@ -1,11 +1,10 @@
 // CMFCPropertyGridCtrl: painting. Only the rows in the clip box are looked at.
 #include "afxpropertygridctrl.h"
+#include "propertygrid/CustomColor.h"
 #include "propertygrid/PropertyGridGeometry.h"
 
 namespace
 {
-
-constexpr COLORREF SystemColor = static_cast<COLORREF>(-1);
 
 // A bitmap to paint on, which the destructor copies to the window in one go.
 class PaintBuffer

@@ -23,6 +23,8 @@ target_compile_options(QuorWarnings INTERFACE
     -Wno-cast-function-type
     # GetSafeHwnd and its siblings are documented to work on a null this.
     -fno-delete-null-pointer-checks -Wno-nonnull-compare -Wno-nonnull
+    # Watches stand on the stack, enter themselves into a list of what they watch, and leave it in their destructors.
+    -Wno-dangling-pointer
     # NtCurrentTeb reads at address 0 of the thread's segment, which the compiler takes for a null pointer.
     --param=min-pagesize=0
     # Paths of the build machine stay out of the binaries.

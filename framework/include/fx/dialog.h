@@ -81,6 +81,8 @@ private:
     BOOL CreateFrom(LPCDLGTEMPLATE lpTemplate, CWnd* pParentWnd);
     void RunDialog(LPCDLGTEMPLATE lpTemplate);
     INT_PTR InitDialog();
+    friend class CCommonDialog;
+    friend class CPropertyPage;
     static INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 };
 

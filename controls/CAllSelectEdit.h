@@ -1,6 +1,8 @@
 // CAllSelectEdit: an edit whose text is selected by the first click into it.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -11,7 +13,7 @@ namespace QuorUiCtr
 // clicks work as in any edit. When the focus leaves, the next click selects all again.
 //
 // Has run-time class information, but cannot be created from it.
-class AFX_EXT_CLASS CAllSelectEdit : public CEdit
+class QUOR_EXT_CLASS CAllSelectEdit : public CEdit
 {
     DECLARE_DYNAMIC(CAllSelectEdit)
 

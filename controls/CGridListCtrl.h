@@ -1,6 +1,8 @@
 // CGridListCtrl: a report list with a current column, whose cells its owner lets the user edit in place.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 #include <afxcmn.h>
 
@@ -25,7 +27,7 @@
 //
 // A column index names a column as it was inserted; a display position counts the columns from the left as
 // the user has arranged them. Both are zero-based, and -1 means none.
-class AFX_EXT_CLASS CGridListCtrl : public CListCtrl
+class QUOR_EXT_CLASS CGridListCtrl : public CListCtrl
 {
 public:
     // No current column yet.

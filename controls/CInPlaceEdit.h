@@ -1,6 +1,8 @@
 // CInPlaceEdit: the editor of one cell of a CGridListCtrl.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 #include <afxcmn.h>
 
@@ -16,7 +18,7 @@
 // The owner also destroys the editor: after the notification has returned, for it comes from inside a message
 // of the editor. DestroyWindow on an editor that has the focus takes it away, so it sends the notification;
 // deleting the object with its window does not.
-class AFX_EXT_CLASS CInPlaceEdit : public CEdit
+class QUOR_EXT_CLASS CInPlaceEdit : public CEdit
 {
 public:
     // Edits the cell of row `item` and column index `subItem`; `initText` becomes the text of the window.

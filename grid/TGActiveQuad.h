@@ -1,6 +1,8 @@
 // TGActiveQuad: the corner window where the grid's two headers meet.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -10,7 +12,7 @@ class TGGrid;
 
 // Shows whether the grid has the keyboard focus; a double click selects all rows. The grid makes one (control
 // id 102) when both headers are enabled and owns it.
-class AFX_EXT_CLASS TGActiveQuad : public CWnd
+class QUOR_EXT_CLASS TGActiveQuad : public CWnd
 {
 public:
     // Creates the window as a child of `grid`.

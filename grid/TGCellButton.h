@@ -1,6 +1,8 @@
 // TGCellButton: the push button at the right end of a cell's edit.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -10,7 +12,7 @@ class TGCellCtrl;
 class TGGrid;
 
 // A member of the editor that owns it; its window is a child of the editor's.
-class AFX_EXT_CLASS TGCellButton : public CButton
+class QUOR_EXT_CLASS TGCellButton : public CButton
 {
 public:
     explicit TGCellButton(TGCellCtrl* owningEditor);

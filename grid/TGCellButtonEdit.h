@@ -3,12 +3,13 @@
 
 #include "grid/TGCellButton.h"
 #include "grid/TGCellEdit.h"
+#include "module/QuorExport.h"
 
 namespace QuorUiCtr
 {
 
 // The button calls the grid's OnCellButtonDown, which may supply a new text.
-class AFX_EXT_CLASS TGCellButtonEdit : public TGCellEdit
+class QUOR_EXT_CLASS TGCellButtonEdit : public TGCellEdit
 {
 public:
     explicit TGCellButtonEdit(TGGridCell& editedCell);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/TGCellCtrl.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 
@@ -12,7 +13,7 @@ class TGGrid;
 
 // A combo box over the cell, either with a text field that can be typed into or for choosing only. The grid's
 // OnCellComboString fills its list. It ends the edit session when it loses the focus.
-class AFX_EXT_CLASS TGCellCombo : public CComboBox, public TGCellCtrl
+class QUOR_EXT_CLASS TGCellCombo : public CComboBox, public TGCellCtrl
 {
 public:
     TGCellCombo(TGGridCell& editedCell, bool editableText);

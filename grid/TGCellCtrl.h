@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/TGGridCell.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 
@@ -10,7 +11,7 @@ namespace QuorUiCtr
 
 // An in-place editor over one cell. The object is made on the heap with new, lives until its window is
 // destroyed and then deletes itself; it refers to the cell and never owns it.
-class AFX_EXT_CLASS TGCellCtrl
+class QUOR_EXT_CLASS TGCellCtrl
 {
 public:
     explicit TGCellCtrl(TGGridCell& editedCell);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/TGCellCtrl.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 
@@ -12,7 +13,7 @@ class TGGrid;
 
 // A borderless edit over the cell's text. It ends the edit session when it loses the focus, then sends the
 // grid's parent WM_COMMAND with the grid's control id, EN_KILLFOCUS and the edit's window handle.
-class AFX_EXT_CLASS TGCellEdit : public CEdit, public TGCellCtrl
+class QUOR_EXT_CLASS TGCellEdit : public CEdit, public TGCellCtrl
 {
 public:
     explicit TGCellEdit(TGGridCell& editedCell);

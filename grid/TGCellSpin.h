@@ -1,6 +1,8 @@
 // TGCellSpin: the spin control at the right end of a cell's edit.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 #include <afxcmn.h>
 
@@ -10,7 +12,7 @@ namespace QuorUiCtr
 class TGCellCtrl;
 
 // A member of the editor that owns it; its window is a child of the editor's.
-class AFX_EXT_CLASS TGCellSpin : public CSpinButtonCtrl
+class QUOR_EXT_CLASS TGCellSpin : public CSpinButtonCtrl
 {
 public:
     explicit TGCellSpin(TGCellCtrl* owningEditor);

@@ -3,13 +3,14 @@
 
 #include "grid/TGCellEdit.h"
 #include "grid/TGCellSpin.h"
+#include "module/QuorExport.h"
 
 namespace QuorUiCtr
 {
 
 // The spin counts from 0 to 100000 unless the grid's OnCellSpinInit sets another range. Its position is set
 // by its low 16 bits only, so larger values stay right in the text while the spin goes on from the remainder.
-class AFX_EXT_CLASS TGCellSpinEdit : public TGCellEdit
+class QUOR_EXT_CLASS TGCellSpinEdit : public TGCellEdit
 {
 public:
     explicit TGCellSpinEdit(TGGridCell& editedCell);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/BrushWindowClass.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 
@@ -15,7 +16,7 @@ class TGGridCol;
 // owns it. It scrolls horizontally with the grid. Clicks select columns, with Ctrl and Shift several;
 // dragging a right edge resizes a column, dragging a selected column moves the selection; a drag ends without
 // effect when the mouse capture is lost.
-class AFX_EXT_CLASS TGColSelector : public CWnd
+class QUOR_EXT_CLASS TGColSelector : public CWnd
 {
 public:
     explicit TGColSelector(TGGrid& grid);

@@ -9,6 +9,7 @@
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"
 #include "grid/collections/PDList.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 #include <afxcmn.h>
@@ -37,7 +38,7 @@ class RowWatch;
 //
 // The grid owns its columns, rows, tree rows, paste buffer, header windows, font and editors. All calls
 // belong to the thread that created the window.
-class AFX_EXT_CLASS TGGrid : public CWnd, public TGGridStyle
+class QUOR_EXT_CLASS TGGrid : public CWnd, public TGGridStyle
 {
     DECLARE_DYNCREATE(TGGrid)
 

@@ -1,6 +1,8 @@
 // TGGridCell: one cell of the grid: its text, its read-only rule, its rectangles and its drawing.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 
 #include <cstdlib>
@@ -14,7 +16,7 @@ class TGGridRow;
 
 // A cell holds a text and refers to the grid, the row and the column it stands in; the row owns it.
 // All cell data is text; numbers are read from it on demand.
-class AFX_EXT_CLASS TGGridCell
+class QUOR_EXT_CLASS TGGridCell
 {
 public:
     // Makes an empty cell of `row` in `col`.

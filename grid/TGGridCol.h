@@ -1,6 +1,8 @@
 // TGGridCol: one column of the grid: its caption, edges, colours and the rules for its cells.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -10,7 +12,7 @@ class TGGrid;
 
 // A column. The grid owns its columns and keeps their index and edges; a host makes a column only to hand it
 // to TGGrid::InsertCol or AppendCol. Edges are logical x coordinates in pixels; colours are COLORREF values.
-class AFX_EXT_CLASS TGGridCol
+class QUOR_EXT_CLASS TGGridCol
 {
 public:
     // Makes a column for `grid` with the caption `name` (null counts as empty), white cells and black text.

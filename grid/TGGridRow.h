@@ -4,6 +4,7 @@
 #include "grid/TGGridCell.h"
 #include "grid/TGRowData.h"
 #include "grid/collections/PDList.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 
@@ -15,7 +16,7 @@ class TGGridCol;
 
 // A row owns one cell per column of its grid, in column order, and at most one object of host data. The grid
 // owns its rows; a host makes a row only to hand it to an inserting operation or out of an inserting hook.
-class AFX_EXT_CLASS TGGridRow
+class QUOR_EXT_CLASS TGGridRow
 {
 public:
     // Makes a row with one empty cell per column of `grid`; it is not entered into the grid.

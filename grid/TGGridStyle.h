@@ -1,6 +1,8 @@
 // TGGridStyle: the style word of a grid.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 
 namespace QuorUiCtr
@@ -9,7 +11,7 @@ namespace QuorUiCtr
 // What the user may do in a grid and what it shows. Readers follow what a flag implies: a read-only grid has
 // fixed lengths and positions, too. Every writer changes its own flag only; TGGrid has the writers that have
 // an effect besides.
-class AFX_EXT_CLASS TGGridStyle
+class QUOR_EXT_CLASS TGGridStyle
 {
 public:
     int GetStyle() const { return style; }

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/TGGridRow.h"
+#include "module/QuorExport.h"
 
 #include <memory>
 #include <vector>
@@ -14,7 +15,7 @@ namespace QuorUiCtr
 // descendants. Folded descendants live only in their parent's child list and have the index -1. A row owns
 // its children; the grid's row list refers to the shown ones. The unfold flag is remembered while a row is
 // hidden.
-class AFX_EXT_CLASS TGGridTreeRow : public TGGridRow
+class QUOR_EXT_CLASS TGGridTreeRow : public TGGridRow
 {
 public:
     // A root row of `grid`, not entered into it.

@@ -3,6 +3,7 @@
 
 #include "grid/BrushWindowClass.h"
 #include "grid/HeaderIcon.h"
+#include "module/QuorExport.h"
 
 #include <afxwin.h>
 
@@ -15,7 +16,7 @@ class TGGrid;
 // The grid makes one (control id 104) when the row header is enabled and owns it. It scrolls vertically with
 // the grid. Clicks select rows, with Ctrl and Shift several; dragging moves the selected rows; a drag ends
 // without effect when the mouse capture is lost.
-class AFX_EXT_CLASS TGRowSelector : public CWnd
+class QUOR_EXT_CLASS TGRowSelector : public CWnd
 {
 public:
     explicit TGRowSelector(TGGrid& grid);

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/TGGrid.h"
+#include "module/QuorExport.h"
 
 #include <memory>
 #include <vector>
@@ -18,7 +19,7 @@ class RowWatch;
 // identifier is in use get new ones.
 //
 // Changes set a flag of the tree grid's own and send the parent window nothing.
-class AFX_EXT_CLASS TGTreeGrid : public TGGrid
+class QUOR_EXT_CLASS TGTreeGrid : public TGGrid
 {
     DECLARE_DYNAMIC(TGTreeGrid)
 

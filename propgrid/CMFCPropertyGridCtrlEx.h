@@ -1,6 +1,8 @@
 // CMFCPropertyGridCtrlEx: a property grid whose properties are reached by their titles.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 #include <afxcontrolbars.h>
 #include <afxtempl.h>
@@ -16,7 +18,7 @@ class CPropertyGridComboProperty;
 // found and 0 otherwise; nothing is reported to a user. Writing does not convert: a value whose type is not
 // that of the property changes nothing, although the property counts as found. Writing does not notify the
 // owner.
-class AFX_EXT_CLASS CMFCPropertyGridCtrlEx : public CMFCPropertyGridCtrl
+class QUOR_EXT_CLASS CMFCPropertyGridCtrlEx : public CMFCPropertyGridCtrl
 {
     DECLARE_DYNAMIC(CMFCPropertyGridCtrlEx)
 

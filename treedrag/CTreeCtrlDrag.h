@@ -1,6 +1,8 @@
 // CTreeCtrlDrag: a tree control whose items the user rearranges by dragging, with folders.
 #pragma once
 
+#include "module/QuorExport.h"
+
 #include <afxwin.h>
 #include <afxcmn.h>
 
@@ -45,7 +47,7 @@ constexpr UINT TDM_DROP_QUERY = WM_USER + 10;
 //
 // Item handles are given and returned as they are: null means none. Points and rectangles are client pixels.
 // Commands need the window; with an empty tree they do nothing but CreateNewFolder.
-class AFX_EXT_CLASS CTreeCtrlDrag : public CTreeCtrl
+class QUOR_EXT_CLASS CTreeCtrlDrag : public CTreeCtrl
 {
 public:
     CTreeCtrlDrag();

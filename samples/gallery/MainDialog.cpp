@@ -5,6 +5,7 @@
 #include "ListPage.h"
 #include "PictureWriter.h"
 #include "PropertiesPage.h"
+#include "QuorVersion.h"
 #include "TreeGridPage.h"
 #include "TreePage.h"
 #include "TreeRowsPage.h"
@@ -167,7 +168,7 @@ void MainDialog::OnClearLog()
 
 void MainDialog::OnAbout()
 {
-    AfxMessageBox(L"QuorUiCtrl 1.0.0 控件展示", MB_OK | MB_ICONINFORMATION);
+    AfxMessageBox(L"QuorUiCtrl " QUOR_VERSION L" 控件展示", MB_OK | MB_ICONINFORMATION);
 }
 
 bool MainDialog::WritePictures(const CString& folder)

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "QuorVersion.h"
 #include "module/resource.h"
 
 namespace
@@ -338,8 +339,8 @@ TEST(ModuleVersion, Strings_NameTheProduct)
     EXPECT_EQ(version.String(L"ProductName"), L"QuorUiCtrl");
     EXPECT_EQ(version.String(L"InternalName"), L"QuorUiCtrl");
     EXPECT_EQ(version.String(L"OriginalFilename"), moduleName);
-    EXPECT_EQ(version.String(L"ProductVersion"), L"1.0.0");
-    EXPECT_EQ(version.String(L"FileVersion"), L"1.0.0");
+    EXPECT_EQ(version.String(L"ProductVersion"), L"" QUOR_VERSION);
+    EXPECT_EQ(version.String(L"FileVersion"), L"" QUOR_VERSION);
 }
 
 TEST(ModuleVersion, Numbers_AgreeWithTheStrings)
@@ -348,8 +349,11 @@ TEST(ModuleVersion, Numbers_AgreeWithTheStrings)
     const VersionRecord version(module.handle);
     const VS_FIXEDFILEINFO* fixed = version.Fixed();
     ASSERT_NE(fixed, nullptr);
-    EXPECT_EQ(fixed->dwFileVersionMS, MAKELONG(0, 1));
-    EXPECT_EQ(fixed->dwFileVersionLS, 0u);
+    CString numbers;
+    numbers.Format(L"%d.%d.%d", HIWORD(fixed->dwFileVersionMS), LOWORD(fixed->dwFileVersionMS),
+                   HIWORD(fixed->dwFileVersionLS));
+    EXPECT_EQ(version.String(L"FileVersion"), numbers.GetString());
+    EXPECT_EQ(LOWORD(fixed->dwFileVersionLS), 0);
     EXPECT_EQ(fixed->dwProductVersionMS, fixed->dwFileVersionMS);
     EXPECT_EQ(fixed->dwProductVersionLS, fixed->dwFileVersionLS);
     EXPECT_EQ(fixed->dwFileType, static_cast<DWORD>(VFT_DLL));

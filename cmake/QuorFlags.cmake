@@ -1,5 +1,5 @@
-# The compile flags that every target of the project shares, as the interface target QuorFlags. QuorWarnings is the part
-# that the guard allocator itself can use.
+# The compile flags that every target of the project shares, as the interface target QuorFlags, which includes those of
+# QuorUsage. QuorWarnings is the part that the guard allocator itself can use.
 #
 # QUOR_CHECKED builds the checked variant: assertions, bounds-checked containers, undefined-behaviour traps, stack
 # protection, and the guard allocator (see tests/guard) in every program.
@@ -7,13 +7,14 @@ option(QUOR_CHECKED "Build with run-time checks" OFF)
 
 add_library(QuorWarnings INTERFACE)
 add_library(QuorFlags INTERFACE)
-target_link_libraries(QuorFlags INTERFACE QuorWarnings)
+target_link_libraries(QuorFlags INTERFACE QuorWarnings QuorUsage)
 target_compile_features(QuorWarnings INTERFACE cxx_std_20)
 target_compile_definitions(QuorWarnings INTERFACE
-    UNICODE _UNICODE _AFXDLL WIN32 _WINDOWS _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0600)
+    WIN32 _WINDOWS _WIN32_WINNT=0x0601 WINVER=0x0601 _WIN32_IE=0x0600)
 
 if(MSVC)
-    target_compile_options(QuorWarnings INTERFACE /W4 /WX /utf-8 /permissive-)
+    # Not for the resource compiler, which takes other options.
+    target_compile_options(QuorWarnings INTERFACE "$<$<COMPILE_LANGUAGE:C,CXX>:/W4;/WX;/utf-8;/permissive->")
     return()
 endif()
 
@@ -21,8 +22,8 @@ target_compile_options(QuorWarnings INTERFACE
     -Wall -Wextra -Wpedantic -Wshadow -Wconversion -Werror
     # Message maps cast member functions to one common type, as the macros are documented to do.
     -Wno-cast-function-type
-    # GetSafeHwnd and its siblings are documented to work on a null this.
-    -fno-delete-null-pointer-checks -Wno-nonnull-compare -Wno-nonnull
+    # Nor warn about the null this that the usage flags allow.
+    -Wno-nonnull-compare -Wno-nonnull
     # Watches stand on the stack, enter themselves into a list of what they watch, and leave it in their destructors.
     -Wno-dangling-pointer
     # NtCurrentTeb reads at address 0 of the thread's segment, which the compiler takes for a null pointer.
@@ -31,7 +32,6 @@ target_compile_options(QuorWarnings INTERFACE
     "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
 
 if(QUOR_CHECKED)
-    target_compile_definitions(QuorFlags INTERFACE _DEBUG _GLIBCXX_DEBUG)
     target_compile_options(QuorFlags INTERFACE
         # Line tables are all that the reports of the guard allocator need.
         -O1 -g1 -fno-omit-frame-pointer

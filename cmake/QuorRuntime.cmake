@@ -1,6 +1,6 @@
-# The DLLs of the mingw-w64 run time that our binaries load, copied beside the programs.
+# The DLLs of the mingw-w64 run time that our binaries load, copied beside our programs.
 #
-# QUOR_RUNTIME_DLLS lists their paths, for whoever packages programs.
+# QUOR_RUNTIME_DLLS lists their paths, for whoever copies or packages programs.
 set(_quor_runtime_names libstdc++-6.dll libgcc_s_seh-1.dll libwinpthread-1.dll)
 if(QUOR_CHECKED)
     list(APPEND _quor_runtime_names libssp-0.dll)
@@ -15,5 +15,8 @@ foreach(_name IN LISTS _quor_runtime_names)
         message(FATAL_ERROR "The compiler does not know where ${_name} is")
     endif()
     list(APPEND QUOR_RUNTIME_DLLS ${_path})
-    configure_file(${_path} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${_name} COPYONLY)
+    # In a host quor_copy_runtime does it.
+    if(PROJECT_IS_TOP_LEVEL)
+        configure_file(${_path} ${CMAKE_RUNTIME_OUTPUT_DIRECTORY}/${_name} COPYONLY)
+    endif()
 endforeach()

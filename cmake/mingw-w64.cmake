@@ -12,5 +12,11 @@ set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
 set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 
-# Test programs run through this wrapper: it gives the build tree its own Wine prefix and a display.
-set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tools/run-under-wine.sh")
+if(EXISTS ${CMAKE_CURRENT_LIST_DIR}/../tools/run-under-wine.sh)
+    # Test programs run through this wrapper: it gives the build tree its own Wine prefix and a display.
+    set(CMAKE_CROSSCOMPILING_EMULATOR "${CMAKE_CURRENT_LIST_DIR}/../tools/run-under-wine.sh")
+else()
+    # Installed: find_package finds the package that this file belongs to.
+    get_filename_component(_quor_prefix "${CMAKE_CURRENT_LIST_DIR}/../../.." ABSOLUTE)
+    list(APPEND CMAKE_PREFIX_PATH "${_quor_prefix}")
+endif()

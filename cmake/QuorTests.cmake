@@ -7,8 +7,8 @@ else()
     set(QUOR_TEST_VARIANT plain)
 endif()
 
-# Compiling the tests takes longer than running them: what they test is fully optimised, they are less so.
-set(QUOR_TEST_OPTIMISATION -O1)
+# Compiling the tests takes longer than running them: what they test is optimised, they are not.
+set(QUOR_TEST_OPTIMISATION -O0)
 
 # GoogleTest comes as sources with the system and is built like the project, because the checked variant changes the
 # layout of the standard containers. Its own warnings are not ours to fix.
@@ -41,7 +41,7 @@ function(quor_add_test name)
         return()
     endif()
     if(NOT arg_TIMEOUT)
-        set(arg_TIMEOUT 300)
+        set(arg_TIMEOUT 900)
     endif()
     if(arg_CONSOLE)
         set(main QuorTestConsoleMain)
@@ -53,9 +53,7 @@ function(quor_add_test name)
     target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR})
     target_link_libraries(${name}_test PRIVATE QuorFlags ${main} ${arg_LIBRARIES})
     target_compile_options(${name}_test PRIVATE ${QUOR_TEST_OPTIMISATION})
-    if(TARGET QuorTestHeaders AND NOT arg_CONSOLE)
-        target_precompile_headers(${name}_test REUSE_FROM QuorTestHeaders)
-    endif()
+    target_precompile_headers(${name}_test REUSE_FROM QuorTestHeaders)
     add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
     # A crash that the debugger of Wine reports may end with the exit code 0.
     set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT}

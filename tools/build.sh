@@ -2,35 +2,60 @@
 # Builds one variant with Ninja, configuring it when it is new.
 #
 #   tools/build.sh PRESET [TARGETS...]      for example: tools/build.sh mingw-release gallery
+#
+# QUOR_WERROR=1 makes warnings errors. A compiler cache (ccache) is used where there is one, unless CCACHE_DISABLE is set;
+# what is compiled is the same with it and without.
 set -euo pipefail
 # shellcheck source=lib.sh
 source "$(dirname "$0")/lib.sh"
 
-preset=${1:?which preset? mingw-release or mingw-checked}
-shift
-cd "$quor_root"
-
 # A compiler cache saves rebuilding what another checkout has built, but is never required.
-if [[ -z ${CMAKE_CXX_COMPILER_LAUNCHER:-} ]] && command -v ccache >/dev/null; then
-    export CMAKE_CXX_COMPILER_LAUNCHER=ccache
-fi
+choose_compiler_cache() {
+    if [[ -n ${CCACHE_DISABLE:-} ]]; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=
+    elif [[ -z ${CMAKE_CXX_COMPILER_LAUNCHER:-} ]] && command -v ccache >/dev/null; then
+        export CMAKE_CXX_COMPILER_LAUNCHER=ccache
+    fi
+    # It does not keep what uses precompiled headers unless told that these may be trusted.
+    export CCACHE_SLOPPINESS=${CCACHE_SLOPPINESS:-pch_defines,time_macros}
+}
 
-if [[ ! -f build/$preset/build.ninja ]]; then
-    mkdir -p "build/$preset"
+configure() {
+    [[ ! -f $tree/build.ninja ]] || return 0
+    mkdir -p "$tree" || die "cannot write to $tree"
     say "configuring $preset"
-    cmake --preset "$preset" >"build/$preset/configure.log" 2>&1 || {
-        cat "build/$preset/configure.log" >&2
+    # What a failed attempt has found, or not found, does not count.
+    rm -f "$tree/CMakeCache.txt"
+    cmake --preset "$preset" -B "$tree" ${QUOR_WERROR:+-D "QUOR_WERROR=$QUOR_WERROR"} >"$tree/configure.log" 2>&1 || {
+        cat "$tree/configure.log" >&2
         die "configuring $preset failed"
     }
-fi
+}
 
-say "building $preset"
-if [[ -t 1 ]]; then
-    ninja -C "build/$preset" "$@"
-else
-    # Hundreds of progress lines help nobody who reads a log; what failed does.
-    ninja -C "build/$preset" "$@" >"build/$preset/build.log" 2>&1 || {
-        grep -v '^\[[0-9]*/[0-9]*\] ' "build/$preset/build.log" >&2
+build() {
+    say "building $preset"
+    if [[ -t 1 ]]; then
+        ninja -C "$tree" "$@" || die "building $preset failed"
+        return
+    fi
+    # Hundreds of progress lines help nobody who reads a log; what failed does, and what the compiler warns of.
+    ninja -C "$tree" "$@" >"$tree/build.log" 2>&1 || {
+        grep -v '^\[[0-9]*/[0-9]*\] ' "$tree/build.log" >&2
         die "building $preset failed"
     }
-fi
+    grep 'warning:' "$tree/build.log" >&2 || true
+}
+
+main() {
+    refuse_options "$@"
+    local preset=${1:-} tree
+    [[ $preset == mingw-release || $preset == mingw-checked ]] || die "which preset? mingw-release or mingw-checked"
+    shift
+    tree=$quor_build/$preset
+    cd "$quor_root"
+    choose_compiler_cache
+    configure
+    build "$@"
+}
+
+main "$@"

@@ -1,24 +1,34 @@
 #!/usr/bin/env bash
-# Builds both variants (plain and checked) and runs every test in both; ends with the summary of the test runner.
+# Builds the tests and runs them; ends with the summary of the test runner.
 #
-#   ./test.sh          all tests
-#   ./test.sh NAME     those whose name matches the regular expression NAME, for example grid or checked.framework
+#   ./test.sh            all tests of the plain variant
+#   ./test.sh --all      all tests, in the checked variant too: assertions, checked containers, traps, guarded memory
+#   ./test.sh NAME       those whose name matches the regular expression NAME, for example grid
+#   ./test.sh --all NAME likewise in both variants, for example checked.framework
 set -euo pipefail
 export quor_name=test
 # shellcheck source=tools/lib.sh
 source "$(dirname "$0")/tools/lib.sh"
 
-# One list over the tests of both build trees, so that there is one run and one summary.
+# One list over the tests of all build trees, so that there is one run and one summary.
 write_test_list() {
     mkdir -p "$quor_build/tests"
-    printf 'subdirs("%s" "%s")\n' "$quor_build/mingw-release" "$quor_build/mingw-checked" \
-        >"$quor_build/tests/CTestTestfile.cmake"
+    printf 'subdirs("%s")\n' "${presets[@]/#/"$quor_build"/}" >"$quor_build/tests/CTestTestfile.cmake"
 }
 
 main() {
+    local preset presets=(mingw-release)
+    if [[ ${1:-} == --all ]]; then
+        presets+=(mingw-checked)
+        shift
+    fi
+    refuse_options "$@"
+    [[ $# -le 1 ]] || die "one NAME only (--help tells more)"
+
     "$quor_root/tools/setup.sh"
-    "$quor_root/tools/build.sh" mingw-release
-    "$quor_root/tools/build.sh" mingw-checked
+    for preset in "${presets[@]}"; do
+        "$quor_root/tools/build.sh" "$preset"
+    done
     "$quor_root/tools/wine-prefix.sh" desktop >/dev/null
     write_test_list
     say "running the tests"

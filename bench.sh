@@ -9,6 +9,7 @@ export quor_name=bench
 source "$(dirname "$0")/tools/lib.sh"
 
 main() {
+    [[ ${1:-} != -h && ${1:-} != --help ]] || refuse_options "$1"
     "$quor_root/tools/setup.sh"
     "$quor_root/tools/build.sh" mingw-release bench
     "$quor_root/tools/wine-prefix.sh" desktop >/dev/null

@@ -45,8 +45,11 @@ take_pictures() {
 
 main() {
     local arguments=()
-    if [[ $# -gt 0 ]]; then
-        [[ -r $1 ]] || die "cannot read $1"
+    refuse_options "$@"
+    [[ $# -le 1 ]] || die "one FILE.csv only (--help tells more)"
+    if [[ $# == 1 ]]; then
+        [[ -e $1 ]] || die "there is no file $1"
+        [[ -f $1 && -r $1 ]] || die "cannot read $1"
         arguments=("$(windows_path "$1")")
     fi
     "$quor_root/tools/setup.sh"

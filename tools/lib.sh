@@ -2,7 +2,8 @@
 # shellcheck shell=bash
 
 quor_root=$(cd "$(dirname "${BASH_SOURCE[0]}")/.." && pwd)
-quor_build=$quor_root/build
+# QUOR_BUILD names another folder for everything that is built, Wine's settings included.
+quor_build=${QUOR_BUILD:-$quor_root/build}
 quor_wine_home=$quor_build/wine
 quor_screen=1280x900x24
 
@@ -16,7 +17,20 @@ die() {
     exit 1
 }
 
-# The Wine loader itself: the wine command is a script that may print hints about missing 32-bit support.
+# The comment at the top of a script is its manual.
+print_manual() {
+    sed -n '2,/^[^#]/{s/^# \{0,1\}//p}' "$0"
+}
+
+# Answers --help; refuses what the script does not know. For scripts whose own options have been taken away.
+refuse_options() {
+    case ${1:-} in
+        -h | --help) print_manual && exit 0 ;;
+        -*) die "unknown option $1 (--help lists what there is)" ;;
+    esac
+}
+
+# The Wine loader itself: the wine command of Debian is a script that may print hints about missing 32-bit support.
 wine_loader() {
     local candidate
     for candidate in /usr/lib/wine/wine64 /usr/lib/x86_64-linux-gnu/wine/wine64; do

@@ -104,7 +104,10 @@ run_program() {
 
 main() {
     set_wine_environment
-    [[ -f ${1:-} ]] || die "no such program: ${1:-}"
+    refuse_options "$@"
+    [[ $# -gt 0 ]] || die "which program? (--help tells more)"
+    [[ -f $1 ]] || die "no such program: $1"
+    wine_loader >/dev/null || die "Wine is missing; tools/setup.sh installs it"
     # Wine looks for a relative path in its own folders first.
     set -- "$(realpath -- "$1")" "${@:2}"
     if [[ ${QUOR_USE_DISPLAY:-0} == 1 ]]; then

@@ -41,6 +41,20 @@ import_settings() {
     wine_quietly "$1" regedit /S "$(windows_path "$quor_root/tools/$2")" || fail "Wine does not take the settings of $2"
 }
 
+# Title bars and scroll bars draw their symbols with Marlett. The Wine of Debian 12 does not look where Debian keeps its
+# fonts, so it shows the letters 0, 1 and r instead, unless the font is in the prefix itself. The other fonts stay where
+# they are: texts are as wide on a machine that has them as on one that has not.
+add_symbol_font() {
+    local folder=$1/drive_c/windows/Fonts font
+    for font in /usr/share/wine/fonts/marlett.ttf /opt/wine-*/share/wine/fonts/marlett.ttf; do
+        if [[ -f $font ]]; then
+            mkdir -p "$folder"
+            cp "$font" "$folder/"
+            return
+        fi
+    done
+}
+
 # Puts a finished prefix into its place.
 publish() {
     local name=$1
@@ -59,6 +73,7 @@ create_desktop_prefix() {
     rm -rf "$fresh"
     wine_quietly "$fresh" wineboot -i || fail "Wine's own set-up failed"
     import_settings "$fresh" wine-settings.reg
+    add_symbol_font "$fresh"
     stop_server "$fresh"
     # Wine reports success when it could not write all of its files, too.
     [[ -s $fresh/system.reg && -s $fresh/drive_c/windows/system32/kernel32.dll ]] || fail "Wine's own set-up is incomplete"

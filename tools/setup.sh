@@ -83,9 +83,9 @@ install_packages() {
         { apt update && apt install -y --no-install-recommends "${packages[@]}"; }
 }
 
-# The last complaint of apt, which names the cause.
+# The complaint of apt that names the cause: what it could not fetch, or else its last one.
 cause() {
-    grep -E '^(E|Err|dpkg):?' "$log" | tail -n 1
+    grep -m 1 '^E: Failed to fetch' "$log" || grep -E '^(E|dpkg):' "$log" | tail -n 1
 }
 
 main() {

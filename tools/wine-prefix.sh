@@ -21,7 +21,7 @@ is_current() {
 }
 
 fail() {
-    die "$1; remove ${quor_wine_home#"$quor_root"/} and try again (details: ${quor_wine_home#"$quor_root"/}/setup.log)"
+    die "$1; is the disk full? Nothing of it is kept for the next try (details: ${quor_wine_home#"$quor_root"/}/setup.log)"
 }
 
 # Runs a Wine program in a prefix, without display and apart from the caller's streams.

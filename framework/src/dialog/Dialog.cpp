@@ -1,5 +1,7 @@
 // CDialog: templates, the modal loop, and what the dialog procedure answers.
+#include "dialog/CommandRoute.h"
 #include "dialog/DialogTemplate.h"
+#include "dialog/DisabledWindows.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
 IMPLEMENT_DYNAMIC(CDialogEx, CDialog)
@@ -80,44 +82,6 @@ BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
     return TRUE;
 }
 
-namespace
-{
-
-// Keeps the windows that a modal dialog blocks disabled until the end of the scope. Windows that are disabled
-// already belong to an outer dialog and are left alone.
-class DisabledWindows
-{
-public:
-    DisabledWindows(HWND owner, HWND topLevel) : m_owner(Disable(owner)), m_topLevel(Disable(topLevel)) {}
-    ~DisabledWindows() { Enable(); }
-    DisabledWindows(const DisabledWindows&) = delete;
-    DisabledWindows& operator=(const DisabledWindows&) = delete;
-
-    void Enable()
-    {
-        for (HWND* window : {&m_owner, &m_topLevel})
-        {
-            if (*window != NULL)
-                ::EnableWindow(*window, TRUE);
-            *window = NULL;
-        }
-    }
-
-private:
-    static HWND Disable(HWND window)
-    {
-        if (window == NULL || window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
-            return NULL;
-        ::EnableWindow(window, FALSE);
-        return window;
-    }
-
-    HWND m_owner;
-    HWND m_topLevel;
-};
-
-} // namespace
-
 INT_PTR CDialog::DoModal()
 {
     ASSERT(m_hWnd == NULL);
@@ -140,7 +104,7 @@ void CDialog::RunDialog(LPCDLGTEMPLATE lpTemplate)
     CWnd* owner = CWnd::GetSafeOwner(m_pParentWnd, &topLevel);
     const HWND ownerHandle = owner->GetSafeHwnd();
     ::ReleaseCapture();
-    DisabledWindows blocked(ownerHandle, topLevel);
+    quorfx::DisabledWindows blocked(ownerHandle, topLevel);
     // EndDialog may be called while the dialog is still being created.
     m_nFlags |= WF_CONTINUEMODAL;
     const BOOL created = quorfx::CreateFromTemplate(this, lpTemplate, owner, &CDialog::DialogProc);
@@ -233,15 +197,7 @@ BOOL CDialog::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pH
 {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
-    // Identifiers of controls mean something in their own dialog only.
-    const bool isCommand = nCode == CN_COMMAND || nCode == static_cast<int>(CN_UPDATE_COMMAND_UI);
-    if (!isCommand || nID < 0x8000 || nID >= 0xf000)
-        return FALSE;
-    CWnd* owner = GetParent();
-    if (owner != NULL && owner->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
-        return TRUE;
-    CWinApp* application = AfxGetApp();
-    return application != NULL && application->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return quorfx::RouteCommandOut(*this, nID, nCode, pExtra, pHandlerInfo);
 }
 
 void CDialog::MapDialogRect(LPRECT lpRect) const

@@ -1,4 +1,4 @@
-// The common dialogs of the system.
+// The common dialogs of the system, and property sheets.
 #pragma once
 
 #include "afxwin.h"
@@ -6,3 +6,4 @@
 #include "fx/colordialog.h"
 #include "fx/fontdialog.h"
 #include "fx/findreplacedialog.h"
+#include "fx/propertysheet.h"

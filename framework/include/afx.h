@@ -1,4 +1,5 @@
-// The base of the framework: root object and run-time classes, strings, exceptions, diagnostics, files, archives.
+// The base of the framework: root object and run-time classes, strings, exceptions, diagnostics, files,
+// archives.
 #pragma once
 
 #include "fx/config.h"
@@ -6,6 +7,7 @@
 #include "fx/diagnostics.h"
 #include "fx/exception.h"
 #include "fx/string.h"
+#include "atltime.h"
 #include "fx/fileexception.h"
 #include "fx/file.h"
 #include "fx/stdiofile.h"

@@ -1,5 +1,6 @@
-// Variants.
+// Variants and dates.
 #pragma once
 
 #include "afxwin.h"
 #include "fx/variant.h"
+#include "ATLComTime.h"

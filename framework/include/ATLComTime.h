@@ -1,0 +1,4 @@
+// Dates of automation.
+#pragma once
+
+#include "fx/oledatetime.h"

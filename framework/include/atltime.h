@@ -1,0 +1,4 @@
+// Times.
+#pragma once
+
+#include "fx/time.h"

@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <thread>
+#include <vector>
 
 namespace
 {
@@ -177,4 +178,53 @@ TEST(Region, Combinations)
     result.OffsetRgn(CPoint(1, 1));
     EXPECT_FALSE(result.PtInRegion(5, 0));
     EXPECT_TRUE(result.PtInRegion(CPoint(6, 1)));
+}
+
+TEST(Region, FromPathsPolygonsAndData)
+{
+    CClientDC screen(NULL);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    ::BeginPath(dc);
+    dc.Rectangle(0, 0, 11, 21);
+    ::EndPath(dc);
+    CRgn fromPath;
+    ASSERT_TRUE(fromPath.CreateFromPath(&dc));
+    EXPECT_TRUE(fromPath.PtInRegion(5, 15));
+    EXPECT_FALSE(fromPath.PtInRegion(15, 5));
+
+    POINT corners[] = {{0, 0}, {10, 0}, {10, 10}, {0, 10}, {20, 0}, {30, 0}, {30, 10}, {20, 10}};
+    int counts[] = {4, 4};
+    CRgn twoSquares;
+    ASSERT_TRUE(twoSquares.CreatePolyPolygonRgn(corners, counts, 2, ALTERNATE));
+    EXPECT_TRUE(twoSquares.PtInRegion(25, 5));
+    EXPECT_FALSE(twoSquares.PtInRegion(15, 5));
+
+    std::vector<char> data(static_cast<size_t>(twoSquares.GetRegionData(NULL, 0)));
+    ASSERT_FALSE(data.empty());
+    auto* const header = reinterpret_cast<RGNDATA*>(data.data());
+    ASSERT_NE(0, twoSquares.GetRegionData(header, static_cast<int>(data.size())));
+    CRgn again;
+    ASSERT_TRUE(again.CreateFromData(NULL, static_cast<int>(data.size()), header));
+    EXPECT_TRUE(again.EqualRgn(&twoSquares));
+}
+
+TEST(Palette, EntriesChange)
+{
+    struct
+    {
+        WORD version = 0x300;
+        WORD count = 2;
+        PALETTEENTRY entries[2] = {{255, 0, 0, 0}, {0, 0, 255, 0}};
+    } description;
+    CPalette palette;
+    ASSERT_TRUE(palette.CreatePalette(reinterpret_cast<LPLOGPALETTE>(&description)));
+    EXPECT_EQ(1u, palette.GetNearestPaletteIndex(RGB(10, 10, 200)));
+    PALETTEENTRY green = {0, 255, 0, 0};
+    EXPECT_EQ(1u, palette.SetPaletteEntries(1, 1, &green));
+    PALETTEENTRY read = {};
+    palette.GetPaletteEntries(1, 1, &read);
+    EXPECT_EQ(255, read.peGreen);
+    EXPECT_TRUE(palette.ResizePalette(5));
+    EXPECT_EQ(5, palette.GetEntryCount());
 }

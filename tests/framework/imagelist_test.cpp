@@ -114,3 +114,70 @@ TEST(ImageList, Drag_HasOneImageAtATime)
     CImageList::EndDrag();
     EXPECT_EQ(nullptr, CImageList::GetDragImage(nullptr, nullptr));
 }
+
+namespace
+{
+
+COLORREF CentreOf(CImageList& images, int image)
+{
+    CDC dc;
+    dc.CreateCompatibleDC(NULL);
+    CClientDC screen(NULL);
+    CBitmap surface;
+    surface.CreateCompatibleBitmap(&screen, 16, 16);
+    CBitmap* const before = dc.SelectObject(&surface);
+    images.Draw(&dc, image, CPoint(0, 0), ILD_NORMAL);
+    const COLORREF color = dc.GetPixel(8, 8);
+    dc.SelectObject(before);
+    return color;
+}
+
+void AddFilled(CImageList& images, COLORREF color)
+{
+    CClientDC screen(NULL);
+    CDC dc;
+    dc.CreateCompatibleDC(&screen);
+    CBitmap bitmap;
+    bitmap.CreateCompatibleBitmap(&screen, 16, 16);
+    CBitmap* const before = dc.SelectObject(&bitmap);
+    dc.FillSolidRect(0, 0, 16, 16, color);
+    dc.SelectObject(before);
+    images.Add(&bitmap, static_cast<CBitmap*>(nullptr));
+}
+
+} // namespace
+
+TEST(ImageList, Pictures_ComeBackFromAnArchive)
+{
+    CImageList images;
+    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR24, 0, 4));
+    AddFilled(images, RGB(255, 0, 0));
+    AddFilled(images, RGB(0, 0, 255));
+    CMemFile file;
+    {
+        CArchive archive(&file, CArchive::store);
+        ASSERT_TRUE(images.Write(&archive));
+        archive << 4711;
+    }
+    file.SeekToBegin();
+    CArchive archive(&file, CArchive::load);
+    CImageList read;
+    ASSERT_TRUE(read.Read(&archive));
+    ASSERT_EQ(2, read.GetImageCount());
+    EXPECT_EQ(RGB(255, 0, 0), CentreOf(read, 0));
+    EXPECT_EQ(RGB(0, 0, 255), CentreOf(read, 1));
+    int after = 0;
+    archive >> after;
+    EXPECT_EQ(4711, after) << "nothing more was read";
+}
+
+TEST(ImageList, Copy_BetweenPlacesOfAList)
+{
+    CImageList images;
+    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR24, 0, 4));
+    AddFilled(images, RGB(255, 0, 0));
+    AddFilled(images, RGB(0, 0, 255));
+    EXPECT_TRUE(images.Copy(0, &images, 1));
+    EXPECT_EQ(RGB(0, 0, 255), CentreOf(images, 0));
+    EXPECT_EQ(RGB(0, 0, 255), CentreOf(images, 1));
+}

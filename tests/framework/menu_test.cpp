@@ -89,3 +89,11 @@ TEST(Menu, MissingResource_LeavesTheWrapperEmpty)
     EXPECT_FALSE(menu.LoadMenu(L"NoSuchMenu"));
     EXPECT_EQ(nullptr, menu.GetSafeHmenu());
 }
+
+TEST(Menu, HelpContext_IsKept)
+{
+    CMenu menu;
+    ASSERT_TRUE(menu.CreatePopupMenu());
+    EXPECT_TRUE(menu.SetMenuContextHelpId(4711));
+    EXPECT_EQ(4711u, menu.GetMenuContextHelpId());
+}

@@ -175,6 +175,16 @@ public:
     BOOL CreateHalftonePalette(CDC* pDC);
     int GetEntryCount();
     UINT GetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors) const;
+    UINT SetPaletteEntries(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors)
+    {
+        return ::SetPaletteEntries(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    void AnimatePalette(UINT nStartIndex, UINT nNumEntries, LPPALETTEENTRY lpPaletteColors)
+    {
+        ::AnimatePalette(*this, nStartIndex, nNumEntries, lpPaletteColors);
+    }
+    UINT GetNearestPaletteIndex(COLORREF crColor) const { return ::GetNearestPaletteIndex(*this, crColor); }
+    BOOL ResizePalette(UINT nNumEntries) { return ::ResizePalette(*this, nNumEntries); }
 };
 
 // A region, in device or logical units as the using function says.
@@ -197,6 +207,22 @@ public:
     BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode)
     {
         return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
+    }
+    BOOL CreatePolyPolygonRgn(LPPOINT lpPoints, LPINT lpPolyCounts, int nCount, int nPolyFillMode)
+    {
+        return Attach(::CreatePolyPolygonRgn(lpPoints, lpPolyCounts, nCount, nPolyFillMode));
+    }
+    // From the closed path of the context.
+    BOOL CreateFromPath(CDC* pDC);
+    // From what GetRegionData stored, transformed when lpXForm is given.
+    BOOL CreateFromData(const XFORM* lpXForm, int nCount, const RGNDATA* pRgnData)
+    {
+        return Attach(::ExtCreateRegion(lpXForm, static_cast<DWORD>(nCount), pRgnData));
+    }
+    // The size needed when lpRgnData is NULL.
+    int GetRegionData(LPRGNDATA lpRgnData, int nCount) const
+    {
+        return static_cast<int>(::GetRegionData(*this, static_cast<DWORD>(nCount), lpRgnData));
     }
     BOOL CreateRoundRectRgn(int x1, int y1, int x2, int y2, int x3, int y3)
     {

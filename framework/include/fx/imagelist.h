@@ -55,6 +55,13 @@ public:
     {
         return ::ImageList_Copy(m_hImageList, iDst, m_hImageList, iSrc, uFlags);
     }
+    BOOL Copy(int iDst, CImageList* pSrc, int iSrc, UINT uFlags = ILCF_MOVE)
+    {
+        return ::ImageList_Copy(m_hImageList, iDst, pSrc->GetSafeHandle(), iSrc, uFlags);
+    }
+    // Writes or reads the pictures; FALSE on failure.
+    BOOL Read(CArchive* pArchive);
+    BOOL Write(CArchive* pArchive);
     // The caller destroys the icon.
     HICON ExtractIcon(int nImage) { return ::ImageList_GetIcon(m_hImageList, nImage, ILD_NORMAL); }
     BOOL GetImageInfo(int nImage, IMAGEINFO* pImageInfo) const

@@ -107,6 +107,10 @@ public:
     CMenu* GetSubMenu(int nPos) const { return FromHandle(::GetSubMenu(m_hMenu, nPos)); }
     BOOL GetMenuInfo(LPMENUINFO lpcmi) const { return ::GetMenuInfo(m_hMenu, lpcmi); }
     BOOL SetMenuInfo(LPCMENUINFO lpcmi) { return ::SetMenuInfo(m_hMenu, lpcmi); }
+    BOOL SetMenuContextHelpId(DWORD dwContextHelpId)
+    {
+        return ::SetMenuContextHelpId(m_hMenu, dwContextHelpId);
+    }
     DWORD GetMenuContextHelpId() const { return ::GetMenuContextHelpId(m_hMenu); }
 
     // Shows the menu at a screen position; commands go to pWnd. With TPM_RETURNCMD the result is the chosen

@@ -202,3 +202,8 @@ int CRgn::CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode)
     return ::CombineRgn(*this, static_cast<HRGN>(pRgn1->GetSafeHandle()),
                         static_cast<HRGN>(pRgn2->GetSafeHandle()), nCombineMode);
 }
+
+BOOL CRgn::CreateFromPath(CDC* pDC)
+{
+    return Attach(::PathToRegion(pDC->m_hDC));
+}

@@ -123,3 +123,44 @@ CImageList* PASCAL CImageList::GetDragImage(LPPOINT lpPoint, LPPOINT lpPointHotS
 {
     return FromHandle(::ImageList_GetDragImage(lpPoint, lpPointHotSpot));
 }
+
+// The platform writes image lists to streams: the archive holds the size of what it wrote, then the bytes.
+BOOL CImageList::Write(CArchive* pArchive)
+{
+    IStream* stream = nullptr;
+    if (FAILED(::CreateStreamOnHGlobal(nullptr, TRUE, &stream)))
+        return FALSE;
+    STATSTG status = {};
+    HGLOBAL memory = nullptr;
+    const BOOL written = ::ImageList_Write(m_hImageList, stream) &&
+                         SUCCEEDED(stream->Stat(&status, STATFLAG_NONAME)) &&
+                         SUCCEEDED(::GetHGlobalFromStream(stream, &memory));
+    if (written)
+    {
+        *pArchive << status.cbSize.LowPart;
+        pArchive->Write(::GlobalLock(memory), status.cbSize.LowPart);
+        ::GlobalUnlock(memory);
+    }
+    stream->Release();
+    return written;
+}
+
+BOOL CImageList::Read(CArchive* pArchive)
+{
+    DWORD size = 0;
+    *pArchive >> size;
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, size);
+    if (memory == nullptr)
+        return FALSE;
+    const UINT read = pArchive->Read(::GlobalLock(memory), size);
+    ::GlobalUnlock(memory);
+    IStream* stream = nullptr;
+    if (FAILED(::CreateStreamOnHGlobal(memory, TRUE, &stream)))
+    {
+        ::GlobalFree(memory);
+        return FALSE;
+    }
+    const BOOL made = read == size && Attach(::ImageList_Read(stream));
+    stream->Release();
+    return made;
+}

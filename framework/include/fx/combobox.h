@@ -42,6 +42,12 @@ public:
     }
     int GetMinVisible() const { return quorfx::Send<int>(m_hWnd, CB_GETMINVISIBLE); }
     BOOL GetComboBoxInfo(PCOMBOBOXINFO pcbi) const { return ::GetComboBoxInfo(m_hWnd, pcbi); }
+    // The grey text of an empty field.
+    CString GetCueBanner() const;
+    BOOL GetCueBanner(LPTSTR lpszText, int cchText) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, CB_GETCUEBANNER, lpszText, cchText);
+    }
     BOOL SetCueBanner(LPCTSTR lpszText) { return quorfx::Send<BOOL>(m_hWnd, CB_SETCUEBANNER, 0, lpszText); }
 
     // The edit part.

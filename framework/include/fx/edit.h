@@ -85,6 +85,10 @@ public:
     void LineScroll(int nLines, int nChars = 0) { quorfx::Send(m_hWnd, EM_LINESCROLL, nChars, nLines); }
     int GetFirstVisibleLine() const { return quorfx::Send<int>(m_hWnd, EM_GETFIRSTVISIBLELINE); }
 
+    // The characters that are highlighted without being selected.
+    BOOL GetHighlight(int* pichStart, int* pichEnd) const;
+    void SetHighlight(int ichStart, int ichEnd) { quorfx::Send(m_hWnd, EM_SETHILITE, ichStart, ichEnd); }
+
     // The grey text of an empty field, and the balloon beside it.
     BOOL SetCueBanner(LPCWSTR lpszText, BOOL fDrawIfFocused = FALSE)
     {

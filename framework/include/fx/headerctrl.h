@@ -48,6 +48,20 @@ public:
     }
     int OrderToIndex(int nOrder) const { return quorfx::Send<int>(m_hWnd, HDM_ORDERTOINDEX, nOrder); }
 
+    // The item with the keyboard focus.
+    int GetFocusedItem() const { return quorfx::Send<int>(m_hWnd, HDM_GETFOCUSEDITEM); }
+    BOOL SetFocusedItem(int iItem) { return quorfx::Send<BOOL>(m_hWnd, HDM_SETFOCUSEDITEM, 0, iItem); }
+    // The rectangles of an HDF_SPLITBUTTON item's button and, with HDS_OVERFLOW, of the button for the items
+    // that do not fit: the one in client, the other in screen pixels.
+    BOOL GetItemDropDownRect(int iItem, LPRECT lpRect) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, HDM_GETITEMDROPDOWNRECT, iItem, lpRect);
+    }
+    BOOL GetOverflowRect(LPRECT lpRect) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, HDM_GETOVERFLOWRECT, 0, lpRect);
+    }
+
     // Computes the header's place inside a rectangle of the parent.
     BOOL Layout(HDLAYOUT* pHeaderLayout) { return quorfx::Send<BOOL>(m_hWnd, HDM_LAYOUT, 0, pHeaderLayout); }
     // The item at phdhti->pt, -1 for none; fills flags and iItem.

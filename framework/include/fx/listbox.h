@@ -34,6 +34,9 @@ public:
     // The item nearest to the client point; bOutside tells that the point lies outside the client area.
     UINT ItemFromPoint(CPoint pt, BOOL& bOutside) const;
 
+    // Items per column.
+    DWORD GetListBoxInfo() const { return quorfx::Send<DWORD>(m_hWnd, LB_GETLISTBOXINFO); }
+
     // Single selection; GetCurSel is LB_ERR without one, SetCurSel(-1) removes it. No notification.
     int GetCurSel() const { return quorfx::Send<int>(m_hWnd, LB_GETCURSEL); }
     int SetCurSel(int nSelect) { return quorfx::Send<int>(m_hWnd, LB_SETCURSEL, nSelect); }

@@ -44,6 +44,13 @@ public:
         return quorfx::Send<BOOL>(m_hWnd, LVM_SETBKIMAGE, 0, plvbkImage);
     }
 
+    // The border of selected items, with LVS_EX_BORDERSELECT.
+    COLORREF GetOutlineColor() const { return quorfx::Send<COLORREF>(m_hWnd, LVM_GETOUTLINECOLOR); }
+    COLORREF SetOutlineColor(COLORREF color)
+    {
+        return quorfx::Send<COLORREF>(m_hWnd, LVM_SETOUTLINECOLOR, 0, color);
+    }
+
     // Styles of the control: LVS_EX_ bits. SetExtendedStyle replaces them all and returns those before.
     DWORD GetExtendedStyle() { return quorfx::Send<DWORD>(m_hWnd, LVM_GETEXTENDEDLISTVIEWSTYLE); }
     DWORD SetExtendedStyle(DWORD dwNewStyle)
@@ -91,6 +98,14 @@ public:
     }
     // An item of -1 stands for all items.
     BOOL SetItemState(int nItem, UINT nState, UINT nMask);
+    // The state bits that the parent keeps in place of the control.
+    UINT GetCallbackMask() const { return quorfx::Send<UINT>(m_hWnd, LVM_GETCALLBACKMASK); }
+    BOOL SetCallbackMask(UINT nMask) { return quorfx::Send<BOOL>(m_hWnd, LVM_SETCALLBACKMASK, nMask); }
+    // The state of an item named by item and group.
+    BOOL SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD dwMask) const;
+    // Identifiers that stay with an item when others come and go.
+    UINT MapIndexToID(UINT index) const { return quorfx::Send<UINT>(m_hWnd, LVM_MAPINDEXTOID, index); }
+    UINT MapIDToIndex(UINT id) const { return quorfx::Send<UINT>(m_hWnd, LVM_MAPIDTOINDEX, id); }
     DWORD_PTR GetItemData(int nItem) const;
     BOOL SetItemData(int nItem, DWORD_PTR dwData);
     BOOL GetCheck(int nItem) const;
@@ -101,10 +116,17 @@ public:
     int GetItemText(int nItem, int nSubItem, LPTSTR lpszText, int nLen) const;
     BOOL SetItemText(int nItem, int nSubItem, LPCTSTR lpszText);
 
+    // The text shown in place of items when there are none.
+    CString GetEmptyText() const;
+
     // Searching and walking. GetNextItem takes LVNI_ flags and -1 to begin; FindItem searches after nStart.
     int GetNextItem(int nItem, int nFlags) const
     {
         return quorfx::Send<int>(m_hWnd, LVM_GETNEXTITEM, nItem, MAKELPARAM(nFlags, 0));
+    }
+    BOOL GetNextItemIndex(PLVITEMINDEX pItemIndex, int nFlags) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETNEXTITEMINDEX, pItemIndex, MAKELPARAM(nFlags, 0));
     }
     int FindItem(LVFINDINFO* pFindInfo, int nStart = -1) const
     {
@@ -143,6 +165,8 @@ public:
     // area.
     BOOL GetItemRect(int nItem, LPRECT lpRect, UINT nCode) const;
     BOOL GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref);
+    // The part rectType (LVIR_) of column iColumn of an item named by item and group.
+    BOOL GetItemIndexRect(PLVITEMINDEX pItemIndex, int iColumn, int rectType, LPRECT pRect) const;
     BOOL GetItemPosition(int nItem, LPPOINT lpPoint) const
     {
         return quorfx::Send<BOOL>(m_hWnd, LVM_GETITEMPOSITION, nItem, lpPoint);
@@ -155,6 +179,8 @@ public:
     BOOL GetViewRect(LPRECT lpRect) const { return quorfx::Send<BOOL>(m_hWnd, LVM_GETVIEWRECT, 0, lpRect); }
     // The width in pixels of a string in the list's font.
     int GetStringWidth(LPCTSTR lpsz) const { return quorfx::Send<int>(m_hWnd, LVM_GETSTRINGWIDTH, 0, lpsz); }
+    // The distance between items in the small or the normal icon view.
+    BOOL GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const;
     CSize SetIconSpacing(int cx, int cy);
     CSize SetIconSpacing(CSize size);
     // The size that would show nCount items without scrolling.
@@ -218,6 +244,107 @@ public:
     // The header of the report view, NULL in other views.
     CHeaderCtrl* GetHeaderCtrl() const;
 
+    // Groups of items, with EnableGroupView. The structures have cbSize set by the caller; groups are named
+    // by the identifiers that the program gave them. InsertGroup and MoveGroup take zero-based places and
+    // return -1 on failure, as does GetGroupInfo.
+    LRESULT EnableGroupView(BOOL fEnable)
+    {
+        return quorfx::Send<LRESULT>(m_hWnd, LVM_ENABLEGROUPVIEW, fEnable);
+    }
+    BOOL IsGroupViewEnabled() const { return quorfx::Send<BOOL>(m_hWnd, LVM_ISGROUPVIEWENABLED); }
+    LRESULT InsertGroup(int index, PLVGROUP pgrp)
+    {
+        return quorfx::Send<LRESULT>(m_hWnd, LVM_INSERTGROUP, index, pgrp);
+    }
+    LRESULT InsertGroupSorted(PLVINSERTGROUPSORTED pStructInsert)
+    {
+        return quorfx::Send<LRESULT>(m_hWnd, LVM_INSERTGROUPSORTED, pStructInsert);
+    }
+    LRESULT MoveGroup(int iGroupId, int toIndex)
+    {
+        return quorfx::Send<LRESULT>(m_hWnd, LVM_MOVEGROUP, iGroupId, toIndex);
+    }
+    void MoveItemToGroup(int idItemFrom, int idGroupTo)
+    {
+        quorfx::Send(m_hWnd, LVM_MOVEITEMTOGROUP, idItemFrom, idGroupTo);
+    }
+    LRESULT RemoveGroup(int iGroupId) { return quorfx::Send<LRESULT>(m_hWnd, LVM_REMOVEGROUP, iGroupId); }
+    void RemoveAllGroups() { quorfx::Send(m_hWnd, LVM_REMOVEALLGROUPS); }
+    BOOL HasGroup(int iGroupId) const { return quorfx::Send<BOOL>(m_hWnd, LVM_HASGROUP, iGroupId); }
+    int GetGroupCount() const { return quorfx::Send<int>(m_hWnd, LVM_GETGROUPCOUNT); }
+    int GetFocusedGroup() const { return quorfx::Send<int>(m_hWnd, LVM_GETFOCUSEDGROUP); }
+    int GetGroupInfo(int iGroupId, PLVGROUP pgrp) const
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_GETGROUPINFO, iGroupId, pgrp);
+    }
+    int SetGroupInfo(int iGroupId, PLVGROUP pgrp)
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_SETGROUPINFO, iGroupId, pgrp);
+    }
+    BOOL GetGroupInfoByIndex(int iIndex, PLVGROUP pGroup) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETGROUPINFOBYINDEX, iIndex, pGroup);
+    }
+    void GetGroupMetrics(PLVGROUPMETRICS pGroupMetrics) const
+    {
+        quorfx::Send(m_hWnd, LVM_GETGROUPMETRICS, 0, pGroupMetrics);
+    }
+    void SetGroupMetrics(PLVGROUPMETRICS pGroupMetrics)
+    {
+        quorfx::Send(m_hWnd, LVM_SETGROUPMETRICS, 0, pGroupMetrics);
+    }
+    // iCoords is an LVGGR_ value.
+    BOOL GetGroupRect(int iGroupId, LPRECT lpRect, int iCoords = LVGGR_GROUP) const;
+    UINT GetGroupState(int iGroupId, DWORD dwMask) const
+    {
+        return quorfx::Send<UINT>(m_hWnd, LVM_GETGROUPSTATE, iGroupId, dwMask);
+    }
+    BOOL SortGroups(PFNLVGROUPCOMPARE _pfnGroupCompare, LPVOID _plv)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SORTGROUPS, _pfnGroupCompare, _plv);
+    }
+
+    // The tile view. The structures have cbSize set by the caller.
+    BOOL GetTileInfo(PLVTILEINFO plvti) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETTILEINFO, 0, plvti);
+    }
+    BOOL SetTileInfo(PLVTILEINFO pTileInfo)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETTILEINFO, 0, pTileInfo);
+    }
+    BOOL GetTileViewInfo(PLVTILEVIEWINFO ptvi) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETTILEVIEWINFO, 0, ptvi);
+    }
+    BOOL SetTileViewInfo(PLVTILEVIEWINFO ptvi)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETTILEVIEWINFO, 0, ptvi);
+    }
+
+    // The insertion mark. The structures have cbSize set by the caller.
+    BOOL GetInsertMark(LPLVINSERTMARK plvim) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETINSERTMARK, 0, plvim);
+    }
+    BOOL SetInsertMark(LPLVINSERTMARK plvim)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETINSERTMARK, 0, plvim);
+    }
+    int GetInsertMarkRect(LPRECT pRect) const
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_GETINSERTMARKRECT, 0, pRect);
+    }
+    int InsertMarkHitTest(LPPOINT pPoint, LPLVINSERTMARK plvim) const
+    {
+        return quorfx::Send<int>(m_hWnd, LVM_INSERTMARKHITTEST, pPoint, plvim);
+    }
+    COLORREF GetInsertMarkColor() const { return quorfx::Send<COLORREF>(m_hWnd, LVM_GETINSERTMARKCOLOR); }
+    COLORREF SetInsertMarkColor(COLORREF color)
+    {
+        return quorfx::Send<COLORREF>(m_hWnd, LVM_SETINSERTMARKCOLOR, 0, color);
+    }
+
     // Sorting by a callback: it gets the data of both items, or their indices in SortItemsEx, and dwData.
     BOOL SortItems(PFNLVCOMPARE pfnCompare, DWORD_PTR dwData)
     {
@@ -238,6 +365,10 @@ public:
     CImageList* CreateDragImage(int nItem, LPPOINT lpPoint);
     CToolTipCtrl* GetToolTips() const;
     CToolTipCtrl* SetToolTips(CToolTipCtrl* pWndTip);
+    BOOL SetInfoTip(PLVSETINFOTIP plvInfoTip)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_SETINFOTIP, 0, plvInfoTip);
+    }
 
     // Called to draw an item with LVS_OWNERDRAWFIXED. The base draws nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -36,6 +36,8 @@ public:
     // Both fill in cbSize; GetScrollInfo also the mask.
     BOOL SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw = TRUE);
     BOOL GetScrollInfo(LPSCROLLINFO lpScrollInfo, UINT nMask = SIF_ALL);
+    // Where the parts of the bar are, on the screen. Fills in cbSize.
+    BOOL GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const;
     // The highest position the bar can reach: the end of the range less what the page covers.
     int GetScrollLimit();
 };

@@ -39,6 +39,8 @@ public:
     LONG InsertItem(int nItem, LPCTSTR lpszItem);
     LONG InsertItem(int nItem, LPCTSTR lpszItem, int nImage);
     LONG InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, int nImage, LPARAM lParam);
+    LONG InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, int nImage, LPARAM lParam, DWORD dwState,
+                    DWORD dwStateMask);
     BOOL DeleteItem(int nItem) { return quorfx::Send<BOOL>(m_hWnd, TCM_DELETEITEM, nItem); }
     BOOL DeleteAllItems() { return quorfx::Send<BOOL>(m_hWnd, TCM_DELETEALLITEMS); }
     BOOL SetItemExtra(int nBytes) { return quorfx::Send<BOOL>(m_hWnd, TCM_SETITEMEXTRA, nBytes); }

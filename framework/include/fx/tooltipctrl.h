@@ -6,6 +6,13 @@
 #include "fx/wnd.h"
 #include "atltypes.h"
 
+// What GetToolInfo finds: a tool with room for its text.
+class CToolInfo : public TOOLINFO
+{
+public:
+    TCHAR szText[256];
+};
+
 // Wraps a tool-tip window. The object has no state of its own. A tool is a window (tool id 0) or a rectangle
 // in client pixels of a window (tool id other than 0).
 class QFX_API CToolTipCtrl : public CWnd
@@ -29,6 +36,12 @@ public:
     int GetToolCount() const { return quorfx::Send<int>(m_hWnd, TTM_GETTOOLCOUNT); }
     // Fills *lpToolInfo for the tool at the client point; FALSE if there is none.
     BOOL HitTest(CWnd* pWnd, CPoint pt, LPTOOLINFO lpToolInfo) const;
+    // FALSE for an unknown tool. GetCurrentTool's structure has cbSize set by the caller.
+    BOOL GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool = 0) const;
+    BOOL GetCurrentTool(LPTOOLINFO lpToolInfo) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, TTM_GETCURRENTTOOL, 0, lpToolInfo);
+    }
     void SetToolInfo(LPTOOLINFO lpToolInfo) { quorfx::Send(m_hWnd, TTM_SETTOOLINFO, 0, lpToolInfo); }
     void SetToolRect(CWnd* pWnd, UINT_PTR nIDTool, LPCRECT lpRect);
 
@@ -60,6 +73,12 @@ public:
     BOOL SetTitle(UINT uIcon, LPCTSTR lpstrTitle)
     {
         return quorfx::Send<BOOL>(m_hWnd, TTM_SETTITLE, uIcon, lpstrTitle);
+    }
+    // The buffer of the structure is the caller's.
+    void GetTitle(PTTGETTITLE pttgt) const { quorfx::Send(m_hWnd, TTM_GETTITLE, 0, pttgt); }
+    HRESULT SetWindowTheme(LPCWSTR pszSubAppName)
+    {
+        return quorfx::Send<HRESULT>(m_hWnd, TTM_SETWINDOWTHEME, 0, pszSubAppName);
     }
     BOOL AdjustRect(LPRECT lprc, BOOL bLarger = TRUE)
     {

@@ -134,6 +134,7 @@ public:
     {
         return quorfx::Send<BOOL>(m_hWnd, TVM_SELECTITEM, nCode, hItem);
     }
+    UINT GetSelectedCount() { return quorfx::Send<UINT>(m_hWnd, TVM_GETSELECTEDCOUNT); }
     BOOL SelectItem(HTREEITEM hItem) { return Select(hItem, TVGN_CARET); }
     BOOL SelectDropTarget(HTREEITEM hItem) { return Select(hItem, TVGN_DROPHILITE); }
     BOOL SelectSetFirstVisible(HTREEITEM hItem) { return Select(hItem, TVGN_FIRSTVISIBLE); }
@@ -155,6 +156,22 @@ public:
     {
         return quorfx::Send<HTREEITEM>(m_hWnd, TVM_HITTEST, 0, pHitTestInfo);
     }
+    // The rectangle of a part (TVGIPR_BUTTON) of the item.
+    BOOL GetItemPartRect(HTREEITEM hItem, int nPart, LPRECT lpRect) const;
+    // Shows the item's tip.
+    void ShowInfoTip(HTREEITEM hItem) { quorfx::Send(m_hWnd, TVM_SHOWINFOTIP, 0, hItem); }
+    // Scrolling while the mouse drags: pixels per second, and milliseconds between two steps.
+    BOOL SetAutoscrollInfo(UINT uPixelsPerSec, UINT uUpdateTime)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, TVM_SETAUTOSCROLLINFO, uPixelsPerSec, uUpdateTime);
+    }
+
+    // The extended state (TVIS_EX_ bits) of the item, and its picture while it is open.
+    UINT GetItemStateEx(HTREEITEM hItem) const;
+    BOOL SetItemStateEx(HTREEITEM hItem, UINT uStateEx);
+    int GetItemExpandedImageIndex(HTREEITEM hItem) const;
+    BOOL SetItemExpandedImageIndex(HTREEITEM hItem, int iExpandedImage);
+
     // Makes a picture of the item for dragging. The caller deletes the list. NULL without an image list.
     CImageList* CreateDragImage(HTREEITEM hItem);
 

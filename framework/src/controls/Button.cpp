@@ -73,3 +73,9 @@ int CScrollBar::GetScrollLimit()
     const int coveredByPage = info.nPage > 0 ? static_cast<int>(info.nPage) - 1 : 0;
     return info.nMax - coveredByPage;
 }
+
+BOOL CScrollBar::GetScrollBarInfo(PSCROLLBARINFO pScrollInfo) const
+{
+    pScrollInfo->cbSize = sizeof(SCROLLBARINFO);
+    return ::GetScrollBarInfo(m_hWnd, OBJID_CLIENT, pScrollInfo);
+}

@@ -58,3 +58,11 @@ BOOL CEdit::ShowBalloonTip(LPCWSTR lpszTitle, LPCWSTR lpszText, INT ttiIcon)
     EDITBALLOONTIP tip = {sizeof tip, lpszTitle, lpszText, ttiIcon};
     return ShowBalloonTip(&tip);
 }
+
+BOOL CEdit::GetHighlight(int* pichStart, int* pichEnd) const
+{
+    const DWORD answer = quorfx::Send<DWORD>(m_hWnd, EM_GETHILITE);
+    *pichStart = LOWORD(answer);
+    *pichEnd = HIWORD(answer);
+    return answer != static_cast<DWORD>(-1);
+}

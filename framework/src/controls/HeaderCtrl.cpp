@@ -120,11 +120,19 @@ LONG CTabCtrl::InsertItem(int nItem, LPCTSTR lpszItem, int nImage)
 
 LONG CTabCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, int nImage, LPARAM lParam)
 {
+    return InsertItem(nMask, nItem, lpszItem, nImage, lParam, 0, 0);
+}
+
+LONG CTabCtrl::InsertItem(UINT nMask, int nItem, LPCTSTR lpszItem, int nImage, LPARAM lParam, DWORD dwState,
+                          DWORD dwStateMask)
+{
     TCITEM item = {};
     item.mask = nMask;
     item.pszText = const_cast<LPTSTR>(lpszItem);
     item.iImage = nImage;
     item.lParam = lParam;
+    item.dwState = dwState;
+    item.dwStateMask = dwStateMask;
     return InsertItem(nItem, &item);
 }
 

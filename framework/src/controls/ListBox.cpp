@@ -142,3 +142,9 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     return CWnd::OnChildNotify(message, wParam, lParam, pResult) ||
            AnswerOwnerDraw(this, message, lParam, pResult);
 }
+
+CString CComboBox::GetCueBanner() const
+{
+    return quorfx::ReadText(
+        [this](LPTSTR buffer, int size) -> LPCTSTR { return GetCueBanner(buffer, size) ? buffer : NULL; });
+}

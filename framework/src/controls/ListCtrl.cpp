@@ -85,6 +85,15 @@ BOOL CListCtrl::SetItemState(int nItem, UINT nState, UINT nMask)
     return SetItemState(nItem, &item);
 }
 
+BOOL CListCtrl::SetItemIndexState(PLVITEMINDEX pItemIndex, DWORD dwState, DWORD dwMask) const
+{
+    LVITEM item = {};
+    item.state = dwState;
+    item.stateMask = dwMask;
+    // The answer is that of a COM function.
+    return SUCCEEDED(quorfx::Send<HRESULT>(m_hWnd, LVM_SETITEMINDEXSTATE, pItemIndex, &item));
+}
+
 DWORD_PTR CListCtrl::GetItemData(int nItem) const
 {
     LVITEM item = {};
@@ -113,6 +122,13 @@ CString CListCtrl::GetItemText(int nItem, int nSubItem) const
     return quorfx::ReadText([this, nItem, nSubItem](LPTSTR buffer, int size) -> LPCTSTR {
         GetItemText(nItem, nSubItem, buffer, size);
         return buffer;
+    });
+}
+
+CString CListCtrl::GetEmptyText() const
+{
+    return quorfx::ReadText([this](LPTSTR buffer, int size) -> LPCTSTR {
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETEMPTYTEXT, size, buffer) ? buffer : NULL;
     });
 }
 
@@ -172,6 +188,27 @@ BOOL CListCtrl::GetSubItemRect(int iItem, int iSubItem, int nArea, CRect& ref)
     if (found)
         ref = rect;
     return found;
+}
+
+BOOL CListCtrl::GetItemIndexRect(PLVITEMINDEX pItemIndex, int iColumn, int rectType, LPRECT pRect) const
+{
+    pRect->top = iColumn;
+    pRect->left = rectType;
+    return quorfx::Send<BOOL>(m_hWnd, LVM_GETITEMINDEXRECT, pItemIndex, pRect);
+}
+
+BOOL CListCtrl::GetGroupRect(int iGroupId, LPRECT lpRect, int iCoords) const
+{
+    lpRect->top = iCoords;
+    return quorfx::Send<BOOL>(m_hWnd, LVM_GETGROUPRECT, iGroupId, lpRect);
+}
+
+BOOL CListCtrl::GetItemSpacing(BOOL fSmall, int* pnHorzSpacing, int* pnVertSpacing) const
+{
+    const DWORD spacing = quorfx::Send<DWORD>(m_hWnd, LVM_GETITEMSPACING, fSmall);
+    *pnHorzSpacing = LOWORD(spacing);
+    *pnVertSpacing = HIWORD(spacing);
+    return TRUE;
 }
 
 CSize CListCtrl::SetIconSpacing(int cx, int cy)

@@ -123,3 +123,11 @@ CSize CToolTipCtrl::GetBubbleSize(LPTOOLINFO lpToolInfo) const
 {
     return CSize(quorfx::Send<DWORD>(m_hWnd, TTM_GETBUBBLESIZE, 0, lpToolInfo));
 }
+
+BOOL CToolTipCtrl::GetToolInfo(CToolInfo& ToolInfo, CWnd* pWnd, UINT_PTR nIDTool) const
+{
+    static_cast<TOOLINFO&>(ToolInfo) = ToolFor(pWnd, nIDTool);
+    ToolInfo.szText[0] = 0;
+    ToolInfo.lpszText = ToolInfo.szText;
+    return quorfx::Send<BOOL>(m_hWnd, TTM_GETTOOLINFO, 0, static_cast<TOOLINFO*>(&ToolInfo));
+}

@@ -191,3 +191,46 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
         *pFlags = info.flags;
     return item;
 }
+
+BOOL CTreeCtrl::GetItemPartRect(HTREEITEM hItem, int nPart, LPRECT lpRect) const
+{
+    TVGETITEMPARTRECTINFO info = {};
+    info.hti = hItem;
+    info.prc = lpRect;
+    info.partID = static_cast<TVITEMPART>(nPart);
+    return quorfx::Send<BOOL>(m_hWnd, TVM_GETITEMPARTRECT, 0, &info);
+}
+
+UINT CTreeCtrl::GetItemStateEx(HTREEITEM hItem) const
+{
+    TVITEMEX item = {};
+    item.mask = TVIF_HANDLE | TVIF_STATEEX;
+    item.hItem = hItem;
+    return quorfx::Send<BOOL>(m_hWnd, TVM_GETITEM, 0, &item) ? item.uStateEx : 0;
+}
+
+BOOL CTreeCtrl::SetItemStateEx(HTREEITEM hItem, UINT uStateEx)
+{
+    TVITEMEX item = {};
+    item.mask = TVIF_HANDLE | TVIF_STATEEX;
+    item.hItem = hItem;
+    item.uStateEx = uStateEx;
+    return quorfx::Send<BOOL>(m_hWnd, TVM_SETITEM, 0, &item);
+}
+
+int CTreeCtrl::GetItemExpandedImageIndex(HTREEITEM hItem) const
+{
+    TVITEMEX item = {};
+    item.mask = TVIF_HANDLE | TVIF_EXPANDEDIMAGE;
+    item.hItem = hItem;
+    return quorfx::Send<BOOL>(m_hWnd, TVM_GETITEM, 0, &item) ? item.iExpandedImage : -1;
+}
+
+BOOL CTreeCtrl::SetItemExpandedImageIndex(HTREEITEM hItem, int iExpandedImage)
+{
+    TVITEMEX item = {};
+    item.mask = TVIF_HANDLE | TVIF_EXPANDEDIMAGE;
+    item.hItem = hItem;
+    item.iExpandedImage = iExpandedImage;
+    return quorfx::Send<BOOL>(m_hWnd, TVM_SETITEM, 0, &item);
+}

@@ -261,6 +261,100 @@ TEST_F(PropertyGridEdit, AnEditorOfTheProgramsOwnTakesPartInTheFocus)
     EXPECT_EQ(host.TakeChanges(), Changes{L"7 Plain=secret"});
 }
 
+// Keeps its editor open while the focus is elsewhere, tells of changes that it makes itself, and decides what
+// a change is.
+class OwnWillProperty : public CMFCPropertyGridProperty
+{
+public:
+    OwnWillProperty() : CMFCPropertyGridProperty(L"Own", _variant_t(L"start")) {}
+
+    bool stays = true;
+    bool changed = false;
+    HWND newFocus = NULL;
+
+    void ChangeTo(LPCTSTR text)
+    {
+        m_varValue = text;
+        m_pWndList->OnPropertyChanged(this);
+    }
+    using CMFCPropertyGridProperty::IsSubItem;
+
+protected:
+    BOOL OnKillFocus(CWnd* pNewWnd) override
+    {
+        newFocus = pNewWnd->GetSafeHwnd();
+        return !stays;
+    }
+    BOOL IsValueChanged() const override { return changed; }
+};
+
+TEST_F(PropertyGridEdit, APropertyMayKeepItsEditorWithoutTheFocus)
+{
+    auto* const own = new OwnWillProperty;
+    texts->AddSubItem(own);
+    ASSERT_TRUE(grid.EditItem(own));
+    host.SetFocus();
+    EXPECT_TRUE(own->IsInPlaceEditing());
+    EXPECT_EQ(own->newFocus, host.m_hWnd);
+    Editor()->SetFocus();
+    own->stays = false;
+    host.SetFocus();
+    EXPECT_FALSE(own->IsInPlaceEditing());
+}
+
+TEST_F(PropertyGridEdit, APropertyMayTellOfItsOwnChangesAndDecideWhatIsOne)
+{
+    auto* const own = new OwnWillProperty;
+    texts->AddSubItem(own);
+    own->ChangeTo(L"by itself");
+    EXPECT_EQ(host.TakeChanges(), Changes{L"7 Own=by itself"});
+    EXPECT_FALSE(own->IsModified());
+    own->changed = true;
+    EXPECT_TRUE(own->IsModified());
+}
+
+TEST_F(PropertyGridEdit, SubItemsAreFoundAtAnyDepth)
+{
+    auto* const own = new OwnWillProperty;
+    auto* const child = new CMFCPropertyGridProperty(L"Child", _variant_t(1L));
+    auto* const grandChild = new CMFCPropertyGridProperty(L"Grandchild", _variant_t(1L));
+    texts->AddSubItem(own);
+    own->AddSubItem(child);
+    child->AddSubItem(grandChild);
+    EXPECT_TRUE(own->IsSubItem(child));
+    EXPECT_TRUE(own->IsSubItem(grandChild));
+    EXPECT_FALSE(own->IsSubItem(own));
+    EXPECT_FALSE(own->IsSubItem(title));
+    EXPECT_FALSE(own->IsSubItem(NULL));
+}
+
+TEST(PropertyGridDerived, InitRunsWhenTheWindowComes)
+{
+    class CountingGrid : public CMFCPropertyGridCtrl
+    {
+    public:
+        int inits = 0;
+
+    protected:
+        void Init() override
+        {
+            EXPECT_NE(m_hWnd, nullptr);
+            ++inits;
+            CMFCPropertyGridCtrl::Init();
+        }
+    };
+    PropertyHost host;
+    CountingGrid created;
+    ASSERT_TRUE(created.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host, 7));
+    EXPECT_EQ(created.inits, 1);
+    CStatic place;
+    ASSERT_TRUE(place.Create(L"", WS_CHILD, CRect(0, 0, 300, 200), &host, 8));
+    const HWND window = place.Detach();
+    CountingGrid subclassed;
+    ASSERT_TRUE(subclassed.SubclassWindow(window));
+    EXPECT_EQ(subclassed.inits, 1);
+}
+
 // ---- Hosts that interfere while they are told of a change.
 
 TEST_F(PropertyGridEdit, TheHostMayDeleteTheProperty)

@@ -191,6 +191,7 @@ TEST_F(PropertyGridLayout, TheColumnsKeepTheirShareWhenTheWidthChanges)
     EXPECT_EQ(grid.GetLeftColumnWidth(), 200);
     grid.SetWindowPos(NULL, 0, 0, 300, 300, SWP_NOMOVE | SWP_NOZORDER);
     EXPECT_EQ(grid.GetLeftColumnWidth(), 150);
+    EXPECT_EQ(grid.GetPropertyColumnWidth(), grid.GetListRect().Width() - 150);
     HDITEM item = {};
     item.mask = HDI_WIDTH;
     grid.GetHeaderCtrl().GetItem(0, &item);
@@ -268,8 +269,7 @@ TEST_F(PropertyGridLayout, GroupsSelectionAndLinesAreSeen)
     EXPECT_EQ(picture.CountColour(offRow, RGB(0, 0, 90)), 0);
     EXPECT_GT(picture.CountColour(offRow, ::GetSysColor(COLOR_GRAYTEXT)), 3);
     const CRect fixedRow = fixed->GetRect();
-    EXPECT_GT(picture.CountColour(fixedRow, ::GetSysColor(COLOR_GRAYTEXT)), 3)
-        << "a read-only value is grey";
+    EXPECT_GT(picture.CountColour(fixedRow, ::GetSysColor(COLOR_GRAYTEXT)), 3) << "a read-only value is grey";
 }
 
 TEST_F(PropertyGridLayout, AModifiedValueIsBoldWhenMarked)
@@ -281,7 +281,9 @@ TEST_F(PropertyGridLayout, AModifiedValueIsBoldWhenMarked)
         return value.Width() * value.Height() - picture.CountColour(value, grid.GetBkColor());
     };
     const int plain = ink();
+    EXPECT_FALSE(grid.IsMarkModifiedProperties());
     grid.MarkModifiedProperties();
+    EXPECT_TRUE(grid.IsMarkModifiedProperties());
     EXPECT_EQ(ink(), plain);
     title->SetOriginalValue(COleVariant(L"other"));
     EXPECT_GT(ink(), plain);

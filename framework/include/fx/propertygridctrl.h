@@ -88,7 +88,7 @@ public:
     BOOL IsGroupNameFullWidth() const { return m_bGroupNameFullWidth; }
     // Draws values that differ from their originals in bold.
     void MarkModifiedProperties(BOOL bMark = TRUE, BOOL bRedraw = TRUE);
-    BOOL IsMarkModified() const { return m_bMarkModified; }
+    BOOL IsMarkModifiedProperties() const { return m_bMarkModified; }
     // Resizes the columns while their line is dragged, not only when it is released.
     void SetShowDragContext(BOOL bShow = TRUE) { m_bShowDragContext = bShow; }
     BOOL IsShowDragContext() const { return m_bShowDragContext; }
@@ -115,6 +115,8 @@ public:
     int GetHeaderHeight() const;
     // The width of the names, the column of fold boxes included.
     int GetLeftColumnWidth() const;
+    // The width of the values.
+    int GetPropertyColumnWidth() const;
     // The rows' part of the client area, without header, scroll bar and description.
     CRect GetListRect() const;
     CMFCHeaderCtrl& GetHeaderCtrl() { return m_wndHeader; }
@@ -131,9 +133,13 @@ public:
     BOOL PreTranslateMessage(MSG* pMsg) override;
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
 
-protected:
-    // Sends AFX_WM_PROPERTY_CHANGED to the owner.
+    // Sends AFX_WM_PROPERTY_CHANGED to the owner. Properties that change their value themselves call it.
     virtual void OnPropertyChanged(CMFCPropertyGridProperty* pProp) const;
+
+protected:
+    // Prepares the control when it gets its window.
+    virtual void Init();
+    void PreSubclassWindow() override;
     // FALSE keeps the editor open.
     virtual BOOL ValidateItemData(CMFCPropertyGridProperty*) { return TRUE; }
     virtual void OnChangeSelection(CMFCPropertyGridProperty*, CMFCPropertyGridProperty*) {}

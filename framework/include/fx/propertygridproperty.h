@@ -188,6 +188,15 @@ protected:
     // Reads a text into the value, keeping its type. FALSE when the text is no such value.
     virtual BOOL TextToVar(const CString& strText);
 
+    // Sets all members to their first values.
+    void Init();
+    // Whether pProp is among the sub-items, at any depth.
+    BOOL IsSubItem(CMFCPropertyGridProperty* pProp) const;
+    // Whether the property's own value differs from the original one.
+    virtual BOOL IsValueChanged() const;
+    // The focus left the editor for a window outside the grid: TRUE ends the editing.
+    virtual BOOL OnKillFocus(CWnd*) { return TRUE; }
+
     CMFCPropertyGridCtrl* m_pWndList; // NULL while in no grid
     CMFCPropertyGridProperty* m_pParent;
     CArray<CMFCPropertyGridProperty*, CMFCPropertyGridProperty*> m_lstSubItems;
@@ -223,7 +232,6 @@ private:
     CMFCPropertyGridProperty(const CMFCPropertyGridProperty&) = delete;
     CMFCPropertyGridProperty& operator=(const CMFCPropertyGridProperty&) = delete;
 
-    void Init();
     void SetOwnerList(CMFCPropertyGridCtrl* pWndList);
     BOOL Contains(const CMFCPropertyGridProperty* pProp) const;
     void LeaveOwner();

@@ -105,6 +105,11 @@ BOOL CMFCPropertyGridProperty::Contains(const CMFCPropertyGridProperty* pProp) c
     return pProp != NULL;
 }
 
+BOOL CMFCPropertyGridProperty::IsSubItem(CMFCPropertyGridProperty* pProp) const
+{
+    return pProp != this && Contains(pProp);
+}
+
 BOOL CMFCPropertyGridProperty::AddSubItem(CMFCPropertyGridProperty* pProp)
 {
     if (pProp == NULL || pProp->m_pParent != NULL || pProp->m_pWndList != NULL || pProp->Contains(this))

@@ -56,7 +56,7 @@ void CMFCPropertyGridProperty::OnDrawValue(CDC* pDC, CRect rect)
     if (m_pWndList == NULL)
         return;
     CFont* previous = NULL;
-    if (m_pWndList->IsMarkModified() && IsModified())
+    if (m_pWndList->IsMarkModifiedProperties() && IsModified())
         previous = pDC->SelectObject(&m_pWndList->GetBoldFont());
     m_bValueIsTruncated = DrawCellText(*pDC, FormatProperty(), rect);
     if (previous != NULL)

@@ -49,10 +49,15 @@ void CMFCPropertyGridProperty::ResetOriginalValue()
     RedrawWithParents();
 }
 
+BOOL CMFCPropertyGridProperty::IsValueChanged() const
+{
+    return !(m_varValueOrig == static_cast<const VARIANT&>(m_varValue));
+}
+
 BOOL CMFCPropertyGridProperty::IsModified() const
 {
     if (!m_bIsValueList)
-        return !(m_varValueOrig == static_cast<const VARIANT&>(m_varValue));
+        return IsValueChanged();
     for (INT_PTR i = 0; i < m_lstSubItems.GetCount(); ++i)
         if (m_lstSubItems[i]->IsModified())
             return TRUE;

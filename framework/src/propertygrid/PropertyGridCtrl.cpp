@@ -103,6 +103,17 @@ BOOL CMFCPropertyGridCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParent
     return CWnd::Create(windowClass, NULL, dwStyle | WS_CHILD | WS_CLIPCHILDREN, rect, pParentWnd, nID);
 }
 
+void CMFCPropertyGridCtrl::PreSubclassWindow()
+{
+    Init();
+    CWnd::PreSubclassWindow();
+}
+
+void CMFCPropertyGridCtrl::Init()
+{
+    UpdateFonts();
+}
+
 void CMFCPropertyGridCtrl::OnDestroy()
 {
     PropertyGridWatch::TellAll(m_pWatches);

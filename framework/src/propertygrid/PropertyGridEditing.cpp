@@ -92,7 +92,12 @@ BOOL CMFCPropertyGridCtrl::HasFocusInside(HWND hWndFocus) const
 
 void CMFCPropertyGridCtrl::EditorLostFocus(HWND hWndNewFocus)
 {
-    if (!HasFocusInside(hWndNewFocus))
+    if (HasFocusInside(hWndNewFocus))
+        return;
+    PropertyGridWatch self(m_pWatches);
+    CMFCPropertyGridProperty* const edited = m_pSel;
+    const BOOL isEditing = edited != NULL && edited->IsInPlaceEditing();
+    if (!isEditing || (edited->OnKillFocus(CWnd::FromHandle(hWndNewFocus)) && !self.IsGone()))
         EndEditItem(TRUE);
 }
 

@@ -246,6 +246,11 @@ int CMFCPropertyGridCtrl::GetDescriptionHeight() const
     return AreasOf(*this, RowCount(), m_nDescrRows).description.Height();
 }
 
+int CMFCPropertyGridCtrl::GetPropertyColumnWidth() const
+{
+    return (std::max)(0, GetListRect().Width() - GetLeftColumnWidth());
+}
+
 int CMFCPropertyGridCtrl::GetLeftColumnWidth() const
 {
     PrepareLayout();

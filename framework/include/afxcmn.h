@@ -11,3 +11,5 @@
 #include "fx/tabctrl.h"
 #include "fx/toolbarctrl.h"
 #include "fx/statusbarctrl.h"
+#include "fx/progressctrl.h"
+#include "fx/sliderctrl.h"

@@ -3,9 +3,11 @@
 #pragma once
 
 #include "fx/string.h"
+#include "fx/time.h"
 #include "fx/wnd.h"
 
 class CListBox;
+class COleDateTime;
 class CComboBox;
 
 // The direction and the state of one exchange; CWnd::UpdateData makes it and passes it to DoDataExchange.
@@ -68,6 +70,16 @@ QFX_API void AFXAPI DDX_LBStringExact(CDataExchange* pDX, int nIDC, CString& val
 QFX_API void AFXAPI DDX_CBStringExact(CDataExchange* pDX, int nIDC, CString& value);
 // The position of a scroll bar control.
 QFX_API void AFXAPI DDX_Scroll(CDataExchange* pDX, int nIDC, int& value);
+// The position of a slider.
+QFX_API void AFXAPI DDX_Slider(CDataExchange* pDX, int nIDC, int& value);
+// The time of a date-time picker. An unset picker leaves a CTime alone and makes a COleDateTime null.
+QFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+QFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value);
+// Its text.
+QFX_API void AFXAPI DDX_DateTimeCtrl(CDataExchange* pDX, int nIDC, CString& value);
+// The selected day of a calendar.
+QFX_API void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, CTime& value);
+QFX_API void AFXAPI DDX_MonthCalCtrl(CDataExchange* pDX, int nIDC, COleDateTime& value);
 
 // Checks, each written right after the exchange of its value. When values are saved and one lies outside the
 // range (ends included), the user is told and the exchange fails.

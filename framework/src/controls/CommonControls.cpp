@@ -7,7 +7,8 @@ namespace quorfx
 void EnsureCommonControls()
 {
     static const BOOL registered = [] {
-        INITCOMMONCONTROLSEX classes = {sizeof classes, ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES};
+        INITCOMMONCONTROLSEX classes = {sizeof classes,
+                                        ICC_WIN95_CLASSES | ICC_STANDARD_CLASSES | ICC_DATE_CLASSES};
         return ::InitCommonControlsEx(&classes);
     }();
     UNUSED_ALWAYS(registered);

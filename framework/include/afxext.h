@@ -8,3 +8,4 @@
 #include "fx/controlbar.h"
 #include "fx/toolbar.h"
 #include "fx/statusbar.h"
+#include "fx/dialogbar.h"

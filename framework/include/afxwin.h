@@ -15,6 +15,7 @@
 #include "fx/resourcetext.h"
 #include "fx/dialog.h"
 #include "fx/frame.h"
+#include "fx/miniframe.h"
 #include "fx/view.h"
 #include "fx/stdcontrols.h"
 #include "fx/dataexchange.h"

@@ -1,6 +1,7 @@
 // CFrameWnd: a main window with a title, a menu, accelerators and a view.
 #pragma once
 
+#include "fx/barstyles.h"
 #include "fx/string.h"
 #include "fx/wnd.h"
 #include "afxres.h"
@@ -8,6 +9,7 @@
 
 class CCmdUI;
 class CControlBar;
+class CDockState;
 class CDocument;
 class CView;
 struct CCreateContext;
@@ -84,6 +86,22 @@ public:
     CControlBar* GetControlBar(UINT nID);
     // Shows or hides a bar; with bDelay at the next idle time.
     void ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay);
+    // Lets bars dock at the edges that the CBRS_ALIGN_ bits name.
+    void EnableDocking(DWORD dwDockStyle);
+    // Docks a bar of this frame: at the dock bar AFX_IDW_DOCKBAR_TOP ..., 0 for the edge of its style, and
+    // there at a rectangle in screen coordinates, NULL for a row of its own. CControlBar::EnableDocking comes
+    // first.
+    void DockControlBar(CControlBar* pBar, UINT nDockBarID = 0, LPCRECT lpRect = NULL);
+    // Takes a bar out into a window of its own with its corner at a screen point, lying or, with
+    // CBRS_ALIGN_LEFT or _RIGHT, standing.
+    void FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle = CBRS_ALIGN_TOP);
+    // Where the bars are, for this run and, in the settings under a name, for the next one.
+    void GetDockState(CDockState& state) const;
+    void SetDockState(const CDockState& state);
+    void SaveBarState(LPCTSTR lpszProfileName) const;
+    void LoadBarState(LPCTSTR lpszProfileName);
+    // Shows or hides the windows that the frame owns.
+    void ShowOwnedWindows(BOOL bShow);
     // The command that shows or hides the bar whose id it has, and the check mark of its menu item.
     afx_msg BOOL OnBarCheck(UINT nID);
     afx_msg void OnUpdateControlBarMenu(CCmdUI* pCmdUI);

@@ -1,5 +1,5 @@
 // CControlBar: life, place along an edge, messages for the owner and idle updates.
-#include "bars/BarAccess.h"
+#include "bars/BarDrag.h"
 #include "bars/FrameBars.h"
 
 using quorfx::BarAccess;
@@ -10,6 +10,8 @@ BEGIN_MESSAGE_MAP(CControlBar, CWnd)
     ON_WM_CREATE()
     ON_WM_DESTROY()
     ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_LBUTTONDBLCLK()
     ON_WM_MOUSEACTIVATE()
     ON_MESSAGE(WM_SIZEPARENT, &CControlBar::OnSizeParent)
     ON_MESSAGE(WM_IDLEUPDATECMDUI, &CControlBar::OnIdleUpdateCmdUI)
@@ -254,6 +256,11 @@ LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
             return owner->SendMessage(message, wParam, lParam);
         return DefWindowProc(message, wParam, lParam);
     }
+    if (quorfx::BarDrag* const drag = quorfx::BarDrag::Of(*this))
+    {
+        if (drag->HandleMessage(message))
+            return 0;
+    }
     return CWnd::WindowProc(message, wParam, lParam);
 }
 
@@ -301,6 +308,20 @@ void CControlBar::ShowToolText(const MSG& message)
     frame->SendMessage(WM_SETMESSAGESTRING, static_cast<WPARAM>(tool));
     TRACKMOUSEEVENT track = {sizeof(track), TME_LEAVE, message.hwnd, 0};
     ::TrackMouseEvent(&track);
+}
+
+void CControlBar::OnLButtonDown(UINT, CPoint point)
+{
+    if (OnToolHitTest(point, NULL) == -1 && quorfx::BarDrag::Begin(*this, point))
+        return;
+    Default();
+}
+
+void CControlBar::OnLButtonDblClk(UINT, CPoint point)
+{
+    if (OnToolHitTest(point, NULL) == -1 && quorfx::BarDrag::Toggle(*this))
+        return;
+    Default();
 }
 
 // A click on a floating bar leaves the frame active.

@@ -1,4 +1,6 @@
 // The register of the bars of a frame, and the members of CFrameWnd that show and hide them.
+#include "bars/BarDrag.h"
+#include "bars/FloatFrame.h"
 #include "bars/FrameBars.h"
 
 namespace quorfx
@@ -10,6 +12,8 @@ FrameBars& BarAccess::Bars(CFrameWnd& frame)
         frame.m_pBars = new FrameBars(frame);
     return *frame.m_pBars;
 }
+
+FrameBars::FrameBars(CFrameWnd& frame) : m_frame(frame) {}
 
 FrameBars::~FrameBars()
 {
@@ -26,6 +30,11 @@ void FrameBars::Add(CControlBar* bar)
 
 void FrameBars::Remove(CControlBar* bar)
 {
+    if (BarDrag::Of(*bar) != NULL)
+        BarDrag::Cancel(m_frame);
+    // A floating frame that is empty now closes at the next layout: it may be the one that is going.
+    TakeOut(bar);
+    m_memory.erase(bar);
     m_bars.erase(std::remove(m_bars.begin(), m_bars.end(), bar), m_bars.end());
 }
 
@@ -94,13 +103,16 @@ void CFrameWnd::DelayLayout()
     m_bLayoutIsDue = TRUE;
 }
 
-LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM, LPARAM)
+LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
 {
-    if (!m_bLayoutIsDue)
-        return 0;
-    m_bLayoutIsDue = FALSE;
-    RecalcLayout();
-    UpdateWindow();
+    if (m_bLayoutIsDue)
+    {
+        RecalcLayout();
+        UpdateWindow();
+    }
+    // Floating bars are no descendants of the frame.
+    if (FrameBars* const bars = BarAccess::BarsIfAny(*this))
+        bars->UpdateFloats(wParam);
     return 0;
 }
 

@@ -1,4 +1,5 @@
 // CFrameWnd: commands, menus, accelerators, title and tool tips.
+#include "bars/BarDrag.h"
 #include "frame/FrameMessages.h"
 
 namespace
@@ -30,6 +31,9 @@ BOOL CFrameWnd::IsFrameWnd() const
 BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg)
 {
     if (CWnd::PreTranslateMessage(pMsg))
+        return TRUE;
+    const bool isEscape = pMsg->message == WM_KEYDOWN && pMsg->wParam == VK_ESCAPE;
+    if (isEscape && quorfx::BarDrag::Cancel(*this))
         return TRUE;
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST)
         return FALSE;

@@ -1,4 +1,5 @@
 // CFrameWnd: creation, layout and activation.
+#include "bars/BarDrag.h"
 #include "bars/FrameBars.h"
 #include "frame/FrameMessages.h"
 
@@ -188,6 +189,8 @@ void CFrameWnd::RecalcLayout(BOOL)
     m_bLayoutIsDue = FALSE;
     CRect border(m_rectBorder);
     RepositionBars(0, 0xffff, AFX_IDW_PANE_FIRST, reposExtra, &border);
+    if (m_pBars != NULL)
+        m_pBars->LayOutFloats();
     m_bInRecalcLayout = FALSE;
 }
 
@@ -202,6 +205,8 @@ void CFrameWnd::OnSetFocus(CWnd* pOldWnd)
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
 {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
+    if (m_pBars != NULL)
+        m_pBars->ShowFloatsActive(nState != WA_INACTIVE);
     CView* view = m_pViewActive;
     if (view == NULL)
         return;

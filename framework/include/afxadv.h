@@ -1,0 +1,5 @@
+// The positions of bars.
+#pragma once
+
+#include "afxwin.h"
+#include "fx/dockstate.h"

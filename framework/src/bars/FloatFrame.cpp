@@ -1,0 +1,79 @@
+// FloatFrame: size, closing, and life with its bar.
+#include "bars/FloatFrame.h"
+#include "bars/FrameBars.h"
+
+namespace quorfx
+{
+
+BEGIN_MESSAGE_MAP(FloatFrame, CMiniFrameWnd)
+    ON_WM_CLOSE()
+END_MESSAGE_MAP()
+
+BOOL FloatFrame::Create(CPoint screenPoint, DWORD align)
+{
+    const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | MFS_SYNCACTIVE;
+    if (!CMiniFrameWnd::Create(NULL, _T(""), style, CRect(screenPoint, CSize(10, 10)), &m_site))
+        return FALSE;
+    return m_dock.Create(*this, AFX_IDW_DOCKBAR_FLOAT, (align & CBRS_ALIGN_ANY) | CBRS_FLOATING);
+}
+
+CControlBar* FloatFrame::Bar() const
+{
+    const auto& rows = m_dock.Rows();
+    return rows.empty() ? NULL : rows.front().slots.front().bar;
+}
+
+CPoint FloatFrame::Place() const
+{
+    CPoint corner(0, 0);
+    ClientToScreen(&corner);
+    return corner;
+}
+
+void FloatFrame::MoveTo(CPoint screenPoint)
+{
+    CRect window;
+    GetWindowRect(&window);
+    const CPoint moved = window.TopLeft() + (screenPoint - Place());
+    SetWindowPos(NULL, moved.x, moved.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+}
+
+// The window fits its bar, not the other way round.
+void FloatFrame::RecalcLayout(BOOL)
+{
+    CControlBar* const bar = Bar();
+    if (m_bInRecalcLayout || bar == NULL)
+        return;
+    m_bInRecalcLayout = TRUE;
+    const bool shows = bar->IsVisible() != FALSE;
+    if (shows)
+    {
+        const CSize size = m_dock.CalcFixedLayout(FALSE, BarAccess::IsHorizontal(m_dock));
+        CRect window(CPoint(0, 0), size);
+        ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
+        SetWindowPos(NULL, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        m_dock.SetWindowPos(NULL, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+        m_dock.PlaceBars(INT_MAX / 2);
+        CString title;
+        bar->GetWindowText(title);
+        SetWindowText(title);
+    }
+    ShowWindow(shows ? SW_SHOWNA : SW_HIDE);
+    m_bInRecalcLayout = FALSE;
+}
+
+// Closing hides the bar; the command that shows it brings it back.
+void FloatFrame::OnClose()
+{
+    if (CControlBar* const bar = Bar())
+        m_site.ShowControlBar(bar, FALSE, FALSE);
+}
+
+void FloatFrame::PostNcDestroy()
+{
+    if (FrameBars* const bars = BarAccess::BarsIfAny(m_site))
+        bars->ForgetFloat(this);
+    CMiniFrameWnd::PostNcDestroy();
+}
+
+} // namespace quorfx

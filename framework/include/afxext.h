@@ -9,3 +9,4 @@
 #include "fx/toolbar.h"
 #include "fx/statusbar.h"
 #include "fx/dialogbar.h"
+#include "fx/splitterwnd.h"

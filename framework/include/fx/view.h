@@ -89,6 +89,8 @@ public:
     virtual void OnInitialUpdate();
     // Routes commands: the view, then its document.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
+    // The scroll bar that the panes of a splitter share.
+    virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
 
 protected:
     // Called when the document changed. The base repaints everything.
@@ -110,6 +112,10 @@ protected:
     afx_msg void OnPaint();
     afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
     afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnNextPaneCmd(UINT nID);
+    afx_msg void OnUpdateNextPaneMenu(CCmdUI* pCmdUI);
+    afx_msg BOOL OnSplitCmd(UINT nID);
+    afx_msg void OnUpdateSplitCmd(CCmdUI* pCmdUI);
 
     DECLARE_MESSAGE_MAP()
 

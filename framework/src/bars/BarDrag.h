@@ -39,8 +39,8 @@ private:
     CControlBar& m_bar;
     FrameBars& m_bars;
     CPoint m_begin;
-    CSize m_grip;       // from the corner of the bar to the place it is held at
-    CSize m_size;       // of the bar at the beginning
+    CSize m_grip; // from the corner of the bar to the place it is held at
+    CSize m_size; // of the bar at the beginning
     bool m_moves = false;
     DockBar* m_dock = NULL; // where it would go; NULL: it would float
     DWORD m_align = CBRS_ALIGN_TOP;

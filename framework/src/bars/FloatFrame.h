@@ -12,8 +12,8 @@ class FloatFrame : public CMiniFrameWnd
 public:
     explicit FloatFrame(CFrameWnd& site) : m_site(site), m_dock(site) {}
 
-    // screenPoint: the top left corner of the bar. align: CBRS_ALIGN_TOP for a lying bar, CBRS_ALIGN_LEFT for a
-    // standing one.
+    // screenPoint: the top left corner of the bar. align: CBRS_ALIGN_TOP for a lying bar, CBRS_ALIGN_LEFT for
+    // a standing one.
     BOOL Create(CPoint screenPoint, DWORD align);
     DockBar& Dock() { return m_dock; }
     CControlBar* Bar() const;

@@ -1,4 +1,5 @@
 // CScrollView: bars, positions and scrolling.
+#include "afxext.h"
 #include "frame/FrameMessages.h"
 
 IMPLEMENT_DYNAMIC(CScrollView, CView)
@@ -123,7 +124,11 @@ void CScrollView::UpdateBars()
     if (m_bInsideUpdate)
         return;
     m_bInsideUpdate = TRUE;
-    const CSize barSize(::GetSystemMetrics(SM_CXVSCROLL), ::GetSystemMetrics(SM_CYHSCROLL));
+    // Scroll bars that are windows of their own take no room of the view's.
+    const bool sharesHorizontal = GetScrollBarCtrl(SB_HORZ) != NULL;
+    const bool sharesVertical = GetScrollBarCtrl(SB_VERT) != NULL;
+    const CSize barSize(sharesVertical ? 0 : ::GetSystemMetrics(SM_CXVSCROLL),
+                        sharesHorizontal ? 0 : ::GetSystemMetrics(SM_CYHSCROLL));
     BOOL hasHorizontal, hasVertical;
     CheckScrollBars(hasHorizontal, hasVertical);
     CRect client;
@@ -138,10 +143,11 @@ void CScrollView::UpdateBars()
 
     CPoint position = GetDeviceScrollPosition();
     SCROLLINFO info = {};
-    info.fMask = SIF_RANGE | SIF_PAGE;
+    info.fMask = SIF_RANGE | SIF_PAGE | (sharesHorizontal ? SIF_DISABLENOSCROLL : 0);
     info.nMax = horizontal ? m_totalDev.cx - 1 : 0;
     info.nPage = horizontal ? static_cast<UINT>(room.cx) : 0;
     SetScrollInfo(SB_HORZ, &info);
+    info.fMask = SIF_RANGE | SIF_PAGE | (sharesVertical ? SIF_DISABLENOSCROLL : 0);
     info.nMax = vertical ? m_totalDev.cy - 1 : 0;
     info.nPage = vertical ? static_cast<UINT>(room.cy) : 0;
     SetScrollInfo(SB_VERT, &info);
@@ -273,7 +279,8 @@ void CScrollView::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
     if (pScrollBar != NULL && pScrollBar->SendChildNotifyLastMsg())
         return;
-    if (pScrollBar == NULL)
+    // Controls inside the view may have scroll bars, too.
+    if (pScrollBar == GetScrollBarCtrl(SB_HORZ))
         OnScroll(MAKEWORD(nSBCode, noScroll), nPos);
 }
 
@@ -281,7 +288,7 @@ void CScrollView::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
     if (pScrollBar != NULL && pScrollBar->SendChildNotifyLastMsg())
         return;
-    if (pScrollBar == NULL)
+    if (pScrollBar == GetScrollBarCtrl(SB_VERT))
         OnScroll(MAKEWORD(noScroll, nSBCode), nPos);
 }
 
@@ -292,5 +299,7 @@ BOOL CScrollView::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
     UINT lines = 3;
     ::SystemParametersInfo(SPI_GETWHEELSCROLLLINES, 0, &lines, 0);
     const int step = lines == WHEEL_PAGESCROLL ? m_pageDev.cy : static_cast<int>(lines) * m_lineDev.cy;
-    return OnScrollBy(CSize(0, -zDelta * step / WHEEL_DELTA));
+    const CSize distance(0, -zDelta * step / WHEEL_DELTA);
+    CSplitterWnd* const splitter = DYNAMIC_DOWNCAST(CSplitterWnd, GetParent());
+    return splitter != NULL ? splitter->DoScrollBy(this, distance) : OnScrollBy(distance);
 }

@@ -9,6 +9,12 @@ BEGIN_MESSAGE_MAP(CView, CWnd)
     ON_WM_PAINT()
     ON_WM_MOUSEACTIVATE()
     ON_MESSAGE(quorfx::initialUpdateMessage, &CView::HandleInitialUpdate)
+    ON_COMMAND_EX(ID_NEXT_PANE, &CView::OnNextPaneCmd)
+    ON_COMMAND_EX(ID_PREV_PANE, &CView::OnNextPaneCmd)
+    ON_UPDATE_COMMAND_UI(ID_NEXT_PANE, &CView::OnUpdateNextPaneMenu)
+    ON_UPDATE_COMMAND_UI(ID_PREV_PANE, &CView::OnUpdateNextPaneMenu)
+    ON_COMMAND_EX(ID_WINDOW_SPLIT, &CView::OnSplitCmd)
+    ON_UPDATE_COMMAND_UI(ID_WINDOW_SPLIT, &CView::OnUpdateSplitCmd)
 END_MESSAGE_MAP()
 
 CView::CView() : m_pDocument(NULL) {}

@@ -219,10 +219,11 @@ QFX_API DWORD_PTR ReadElementCount(CArchive& ar);
 
 } // namespace quorfx
 
-// In the class: as DECLARE_DYNCREATE, and objects can be stored in archives and loaded from them.
+// In the class: as DECLARE_DYNCREATE, and objects can be stored in archives and loaded from them. A module
+// that exports the class defines AFX_API as its export macro.
 #define DECLARE_SERIAL(class_name)                                                                           \
     DECLARE_DYNCREATE(class_name)                                                                            \
-    friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
+    AFX_API friend CArchive& AFXAPI operator>>(CArchive& ar, class_name*& pOb);
 
 // In one source file. wSchema is the version of what the class stores: when it differs from the one in an
 // archive, loading fails, unless it is combined with VERSIONABLE_SCHEMA.

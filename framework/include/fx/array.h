@@ -130,6 +130,17 @@ public:
         m_nSize -= nCount;
     }
 
+    // Stores the elements, or replaces them by those loaded.
+    virtual void Serialize(CArchive& ar)
+    {
+        CObject::Serialize(ar);
+        if (ar.IsStoring())
+            quorfx::WriteElementCount(ar, static_cast<DWORD_PTR>(m_nSize));
+        else
+            SetSize(static_cast<INT_PTR>(quorfx::ReadElementCount(ar)));
+        SerializeElements<TYPE>(ar, m_pData, m_nSize);
+    }
+
 protected:
     TYPE* m_pData;
     INT_PTR m_nSize;

@@ -3,11 +3,16 @@
 
 #include "fx/fixedarray.h"
 
+// The operators of serialisable classes are exported with them.
+#undef AFX_API
+#define AFX_API QFX_API
+
 class QFX_API CByteArray : public quorfx::FixedArray<CByteArray, BYTE, BYTE, BYTE, BYTE>
 {
-    DECLARE_DYNCREATE(CByteArray)
+    DECLARE_SERIAL(CByteArray)
 public:
     CByteArray() {}
+    virtual void Serialize(CArchive& ar);
 
     // The elements in a row, NULL when there are none; valid until the array changes its size.
     const BYTE* GetData() const { return Data(); }
@@ -16,9 +21,10 @@ public:
 
 class QFX_API CWordArray : public quorfx::FixedArray<CWordArray, WORD, WORD, WORD, WORD>
 {
-    DECLARE_DYNCREATE(CWordArray)
+    DECLARE_SERIAL(CWordArray)
 public:
     CWordArray() {}
+    virtual void Serialize(CArchive& ar);
 
     // The elements in a row, NULL when there are none; valid until the array changes its size.
     const WORD* GetData() const { return Data(); }
@@ -27,9 +33,10 @@ public:
 
 class QFX_API CDWordArray : public quorfx::FixedArray<CDWordArray, DWORD, DWORD, DWORD, DWORD>
 {
-    DECLARE_DYNCREATE(CDWordArray)
+    DECLARE_SERIAL(CDWordArray)
 public:
     CDWordArray() {}
+    virtual void Serialize(CArchive& ar);
 
     // The elements in a row, NULL when there are none; valid until the array changes its size.
     const DWORD* GetData() const { return Data(); }
@@ -61,9 +68,10 @@ public:
 // Holds pointers without owning the objects.
 class QFX_API CObArray : public quorfx::FixedArray<CObArray, CObject*, CObject*, CObject*, void*>
 {
-    DECLARE_DYNCREATE(CObArray)
+    DECLARE_SERIAL(CObArray)
 public:
     CObArray() {}
+    virtual void Serialize(CArchive& ar);
 
     const CObject** GetData() const
     {
@@ -75,9 +83,10 @@ public:
 class QFX_API CStringArray
     : public quorfx::FixedArray<CStringArray, CString, const CString&, const CString&, CString>
 {
-    DECLARE_DYNCREATE(CStringArray)
+    DECLARE_SERIAL(CStringArray)
 public:
     CStringArray() {}
+    virtual void Serialize(CArchive& ar);
 
     const CString* GetData() const { return Data(); }
     CString* GetData() { return Data(); }
@@ -94,3 +103,6 @@ public:
         InsertAt(nIndex, CString(newElement), nCount);
     }
 };
+
+#undef AFX_API
+#define AFX_API

@@ -49,6 +49,15 @@ public:
 
 protected:
     FixedArray() {}
+    // Stores the elements, or replaces them by those loaded.
+    void SerializeAll(CArchive& ar)
+    {
+        if (ar.IsStoring())
+            WriteElementCount(ar, static_cast<DWORD_PTR>(GetSize()));
+        else
+            SetSize(static_cast<INT_PTR>(ReadElementCount(ar)));
+        SerializeStored(ar, Data(), GetSize());
+    }
     // The elements in a row, NULL when there are none; valid until the array changes its size.
     STORED* Data() { return m_array.GetData(); }
     const STORED* Data() const { return m_array.GetData(); }

@@ -70,6 +70,23 @@ public:
 
 protected:
     FixedList() {}
+    // Stores the elements, or adds those loaded at the tail.
+    void SerializeAll(CArchive& ar)
+    {
+        if (ar.IsStoring())
+        {
+            WriteElementCount(ar, static_cast<DWORD_PTR>(GetCount()));
+            for (POSITION pos = GetHeadPosition(); pos != NULL;)
+                SerializeStored(ar, &m_list.GetNext(pos), 1);
+            return;
+        }
+        for (DWORD_PTR nLeft = ReadElementCount(ar); nLeft != 0; --nLeft)
+        {
+            STORED element = STORED();
+            SerializeStored(ar, &element, 1);
+            m_list.AddTail(element);
+        }
+    }
 
 private:
     static TYPE& Element(STORED& stored) { return reinterpret_cast<TYPE&>(stored); }

@@ -55,6 +55,29 @@ protected:
     typedef CMap<KEY, ARG_KEY, STORED, ARG_VALUE> Map;
 
     FixedMap() {}
+    // Stores keys and values, or adds those loaded.
+    void SerializeAll(CArchive& ar)
+    {
+        if (ar.IsStoring())
+        {
+            WriteElementCount(ar, static_cast<DWORD_PTR>(GetCount()));
+            for (typename Map::CPair* pPair = m_map.PGetFirstAssoc(); pPair != NULL;
+                 pPair = m_map.PGetNextAssoc(pPair))
+            {
+                SerializeStored(ar, const_cast<KEY*>(&pPair->key), 1);
+                SerializeStored(ar, &pPair->value, 1);
+            }
+            return;
+        }
+        for (DWORD_PTR nLeft = ReadElementCount(ar); nLeft != 0; --nLeft)
+        {
+            KEY key = KEY();
+            STORED value = STORED();
+            SerializeStored(ar, &key, 1);
+            SerializeStored(ar, &value, 1);
+            m_map[key] = value;
+        }
+    }
     Map& Pairs() { return m_map; }
     const Map& Pairs() const { return m_map; }
     // The map's own copy of a key, NULL when there is none.

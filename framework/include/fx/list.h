@@ -113,6 +113,25 @@ public:
         return pNode;
     }
 
+    // Stores the elements, or adds those loaded at the tail.
+    virtual void Serialize(CArchive& ar)
+    {
+        CObject::Serialize(ar);
+        if (ar.IsStoring())
+        {
+            quorfx::WriteElementCount(ar, static_cast<DWORD_PTR>(m_nCount));
+            for (CNode* pNode = m_pHead; pNode != NULL; pNode = pNode->pNext)
+                SerializeElements<TYPE>(ar, &pNode->data, 1);
+            return;
+        }
+        for (DWORD_PTR nLeft = quorfx::ReadElementCount(ar); nLeft != 0; --nLeft)
+        {
+            TYPE element = TYPE();
+            SerializeElements<TYPE>(ar, &element, 1);
+            AddTail(element);
+        }
+    }
+
 private:
     static CNode* Node(POSITION position)
     {

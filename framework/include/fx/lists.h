@@ -3,6 +3,10 @@
 
 #include "fx/fixedlist.h"
 
+// The operators of serialisable classes are exported with them.
+#undef AFX_API
+#define AFX_API QFX_API
+
 // Holds pointers without owning what they point to.
 class QFX_API CPtrList : public quorfx::FixedList<CPtrList, void*, void*, const void*, const void*, void*>
 {
@@ -15,17 +19,19 @@ public:
 class QFX_API CObList
     : public quorfx::FixedList<CObList, CObject*, CObject*, const CObject*, const CObject*, void*>
 {
-    DECLARE_DYNCREATE(CObList)
+    DECLARE_SERIAL(CObList)
 public:
     CObList(INT_PTR = 10) {}
+    virtual void Serialize(CArchive& ar);
 };
 
 class QFX_API CStringList
     : public quorfx::FixedList<CStringList, CString, const CString&, const CString, const CString&, CString>
 {
-    DECLARE_DYNCREATE(CStringList)
+    DECLARE_SERIAL(CStringList)
 public:
     CStringList(INT_PTR = 10) {}
+    virtual void Serialize(CArchive& ar);
 
     using FixedList::AddHead;
     using FixedList::AddTail;
@@ -48,3 +54,6 @@ public:
         return FixedList::Find(CString(searchValue), startAfter);
     }
 };
+
+#undef AFX_API
+#define AFX_API

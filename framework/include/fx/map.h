@@ -129,6 +129,30 @@ public:
         m_nTableSize = hashSize;
     }
 
+    // Stores keys and values, or adds those loaded.
+    virtual void Serialize(CArchive& ar)
+    {
+        CObject::Serialize(ar);
+        if (ar.IsStoring())
+        {
+            quorfx::WriteElementCount(ar, static_cast<DWORD_PTR>(m_nCount));
+            for (CPair* pPair = PGetFirstAssoc(); pPair != NULL; pPair = PGetNextAssoc(pPair))
+            {
+                SerializeElements<KEY>(ar, const_cast<KEY*>(&pPair->key), 1);
+                SerializeElements<VALUE>(ar, &pPair->value, 1);
+            }
+            return;
+        }
+        for (DWORD_PTR nLeft = quorfx::ReadElementCount(ar); nLeft != 0; --nLeft)
+        {
+            KEY key = KEY();
+            VALUE value = VALUE();
+            SerializeElements<KEY>(ar, &key, 1);
+            SerializeElements<VALUE>(ar, &value, 1);
+            (*this)[key] = value;
+        }
+    }
+
 private:
     struct CNode : public CPair, public __POSITION
     {

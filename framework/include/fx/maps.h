@@ -3,6 +3,10 @@
 
 #include "fx/fixedmap.h"
 
+// The operators of serialisable classes are exported with them.
+#undef AFX_API
+#define AFX_API QFX_API
+
 class QFX_API CMapWordToPtr : public quorfx::FixedMap<WORD, WORD, void*, void*, void*>
 {
     DECLARE_DYNAMIC(CMapWordToPtr)
@@ -26,9 +30,10 @@ public:
 
 class QFX_API CMapWordToOb : public quorfx::FixedMap<WORD, WORD, CObject*, CObject*, void*>
 {
-    DECLARE_DYNCREATE(CMapWordToOb)
+    DECLARE_SERIAL(CMapWordToOb)
 public:
     CMapWordToOb(INT_PTR = 10) {}
+    virtual void Serialize(CArchive& ar);
 };
 
 class QFX_API CMapStringToPtr : public quorfx::FixedMap<CString, LPCTSTR, void*, void*, void*>
@@ -43,9 +48,10 @@ public:
 
 class QFX_API CMapStringToOb : public quorfx::FixedMap<CString, LPCTSTR, CObject*, CObject*, void*>
 {
-    DECLARE_DYNCREATE(CMapStringToOb)
+    DECLARE_SERIAL(CMapStringToOb)
 public:
     CMapStringToOb(INT_PTR = 10) {}
+    virtual void Serialize(CArchive& ar);
 
     // Stores the map's own text of the key, which lives as long as the key; FALSE when there is none.
     BOOL LookupKey(LPCTSTR key, LPCTSTR& rKey) const;
@@ -53,12 +59,13 @@ public:
 
 class QFX_API CMapStringToString : public quorfx::FixedMap<CString, LPCTSTR, CString, LPCTSTR, CString>
 {
-    DECLARE_DYNCREATE(CMapStringToString)
+    DECLARE_SERIAL(CMapStringToString)
 public:
     // A key with its value.
     typedef Map::CPair CPair;
 
     CMapStringToString(INT_PTR = 10) {}
+    virtual void Serialize(CArchive& ar);
 
     // Stores the map's own text of the key, which lives as long as the key; FALSE when there is none.
     BOOL LookupKey(LPCTSTR key, LPCTSTR& rKey) const;
@@ -71,3 +78,6 @@ public:
     CPair* PGetNextAssoc(const CPair* pAssoc) { return Pairs().PGetNextAssoc(pAssoc); }
     const CPair* PGetNextAssoc(const CPair* pAssoc) const { return Pairs().PGetNextAssoc(pAssoc); }
 };
+
+#undef AFX_API
+#define AFX_API

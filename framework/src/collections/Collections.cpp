@@ -1,25 +1,34 @@
 // The ready-made collections: run-time classes, and the keys of maps from texts.
 #include "afxcoll.h"
 
-IMPLEMENT_DYNCREATE(CByteArray, CObject)
-IMPLEMENT_DYNCREATE(CWordArray, CObject)
-IMPLEMENT_DYNCREATE(CDWordArray, CObject)
+// Stores and loads a collection with its run-time class's version 0.
+#define SERIALISE_COLLECTION(class_name)                                                                     \
+    IMPLEMENT_SERIAL(class_name, CObject, 0)                                                                 \
+    void class_name::Serialize(CArchive& ar)                                                                 \
+    {                                                                                                        \
+        CObject::Serialize(ar);                                                                              \
+        SerializeAll(ar);                                                                                    \
+    }
+
+SERIALISE_COLLECTION(CByteArray)
+SERIALISE_COLLECTION(CWordArray)
+SERIALISE_COLLECTION(CDWordArray)
 IMPLEMENT_DYNAMIC(CUIntArray, CObject)
 IMPLEMENT_DYNAMIC(CPtrArray, CObject)
-IMPLEMENT_DYNCREATE(CObArray, CObject)
-IMPLEMENT_DYNCREATE(CStringArray, CObject)
+SERIALISE_COLLECTION(CObArray)
+SERIALISE_COLLECTION(CStringArray)
 
 IMPLEMENT_DYNAMIC(CPtrList, CObject)
-IMPLEMENT_DYNCREATE(CObList, CObject)
-IMPLEMENT_DYNCREATE(CStringList, CObject)
+SERIALISE_COLLECTION(CObList)
+SERIALISE_COLLECTION(CStringList)
 
 IMPLEMENT_DYNAMIC(CMapWordToPtr, CObject)
 IMPLEMENT_DYNAMIC(CMapPtrToWord, CObject)
 IMPLEMENT_DYNAMIC(CMapPtrToPtr, CObject)
-IMPLEMENT_DYNCREATE(CMapWordToOb, CObject)
+SERIALISE_COLLECTION(CMapWordToOb)
 IMPLEMENT_DYNAMIC(CMapStringToPtr, CObject)
-IMPLEMENT_DYNCREATE(CMapStringToOb, CObject)
-IMPLEMENT_DYNCREATE(CMapStringToString, CObject)
+SERIALISE_COLLECTION(CMapStringToOb)
+SERIALISE_COLLECTION(CMapStringToString)
 
 namespace
 {

@@ -129,7 +129,7 @@ end_session() {
 }
 
 # What only a painted grid has: three row lines of one colour at one distance (two planets and the new row), and the blue
-# mark of the new row, an icon out of the DLL. Prints them when they are there.
+# mark of the new row, an icon out of the DLL (darker than the blue of themed buttons). Prints them when they are there.
 painted_grid() {
     convert "$1" -depth 8 txt:- | awk '
         {
@@ -138,7 +138,7 @@ painted_grid() {
             colour = $3
             if (!((place[2], colour) in width)) rows[colour] = rows[colour] " " place[2]
             width[place[2], colour]++
-            if (light[4] > light[2] + 40) blue++
+            if (light[4] > light[2] + 40 && light[4] < 200) blue++
         }
         END {
             for (colour in rows) {
@@ -202,7 +202,7 @@ FILE
 check_subproject() {
     local targets command
     mkdir "$work/subproject"
-    cp "$quor_root"/samples/minimal/{Minimal.cpp,Minimal.rc,resource.h} "$work/subproject"
+    cp "$quor_root"/samples/minimal/{Minimal.cpp,Minimal.rc,Minimal.manifest,resource.h} "$work/subproject"
     cat >"$work/subproject/CMakeLists.txt" <<FILE
 cmake_minimum_required(VERSION 3.25)
 project(subproject LANGUAGES CXX RC)

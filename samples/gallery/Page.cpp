@@ -71,10 +71,14 @@ BOOL Page::OnCommand(WPARAM wParam, LPARAM lParam)
 BOOL Page::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     const NMHDR* header = reinterpret_cast<const NMHDR*>(lParam);
-    CString line;
-    line.Format(L"WM_NOTIFY  code %d  id %u", static_cast<int>(header->code),
-                static_cast<UINT>(header->idFrom));
-    log.Add(line);
+    // Themed buttons ask before each painting.
+    if (header->code != NM_CUSTOMDRAW)
+    {
+        CString line;
+        line.Format(L"WM_NOTIFY  code %d  id %u", static_cast<int>(header->code),
+                    static_cast<UINT>(header->idFrom));
+        log.Add(line);
+    }
     return CDialog::OnNotify(wParam, lParam, result);
 }
 

@@ -3,7 +3,7 @@
 # against both, looks at the running program, and makes sure that hosts get what they need, nothing else, and a clear
 # refusal where they cannot link.
 #
-#   tools/check-package.sh       works in build/package; needs no test program, only the library and the gallery
+#   tools/check-package.sh       works in build/package; builds no test program, only the library and the gallery
 set -euo pipefail
 # shellcheck source=lib.sh
 source "$(dirname "$0")/lib.sh"
@@ -261,6 +261,9 @@ check_refusals() {
 }
 
 main() {
+    refuse_options "$@"
+    [[ $# == 0 ]] || die "takes no arguments"
+    "$quor_root/tools/setup.sh"
     check_readme
     install_package
     check_content
@@ -272,4 +275,4 @@ main() {
     say "the package is good"
 }
 
-main
+main "$@"

@@ -10,6 +10,7 @@
 #include <afxpriv.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 #include <string>
 #include <vector>
@@ -39,6 +40,7 @@ public:
     CToolBar toolBar;
     CStatusBar statusBar;
     std::vector<UINT> commands;
+    std::vector<std::string> messages; // what the message line showed
     bool enablesGreen = true;
     int checksBlue = 0;
     CString place = L"Ln 1, Col 1";
@@ -48,6 +50,13 @@ protected:
     BOOL OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext* pContext) override
     {
         return createClient ? createClient(*this) : CFrameWnd::OnCreateClient(lpcs, pContext);
+    }
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        const LRESULT result = CFrameWnd::WindowProc(message, wParam, lParam);
+        if (message == WM_SETMESSAGESTRING)
+            messages.push_back(Narrow(statusBar.GetPaneText(0)));
+        return result;
     }
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct)
     {

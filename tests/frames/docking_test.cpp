@@ -175,6 +175,19 @@ TEST_F(Docking, FloatingFrame_IsHiddenByItsCloseButtonAndShownAgain)
     EXPECT_TRUE(first.IsWindowVisible());
 }
 
+TEST_F(Docking, FloatingFrame_IsShownTogetherWithItsFrame)
+{
+    frame->FloatControlBar(&first, CPoint(150, 200));
+    frame->RecalcLayout();
+    const CFrameWnd* const floating = first.GetParentFrame();
+    frame->ShowWindow(SW_HIDE);
+    frame->RecalcLayout();
+    EXPECT_FALSE(floating->IsWindowVisible());
+    frame->ShowWindow(SW_SHOW);
+    Idle();
+    EXPECT_TRUE(floating->IsWindowVisible());
+}
+
 TEST_F(Docking, FloatingFrame_GoesWhenItsBarIsDocked)
 {
     frame->FloatControlBar(&first, CPoint(150, 200));

@@ -1,5 +1,6 @@
 // Status bars: panes, texts, indicators, and the message line of the frame.
 #include "tests/frames/BarFrame.h"
+#include "tests/support/MenuProbe.h"
 
 namespace
 {
@@ -188,6 +189,15 @@ protected:
     }
 };
 
+TEST_F(MessageLineTest, Idle_ShowsTheFirstMessage)
+{
+    Idle();
+    EXPECT_EQ(MessageLine(), "Ready");
+    frame->SetMessageText(L"Another");
+    Idle();
+    EXPECT_EQ(MessageLine(), "Another");
+}
+
 TEST_F(MessageLineTest, SelectedMenuItem_IsExplained)
 {
     const HMENU menu = frame->GetMenu()->GetSubMenu(0)->m_hMenu;
@@ -200,6 +210,18 @@ TEST_F(MessageLineTest, SelectedMenuItem_IsExplained)
     Select(0, MF_HILITE | MF_POPUP, menu);
     EXPECT_EQ(MessageLine(), "");
     Select(0, 0xffff);
+    EXPECT_EQ(MessageLine(), "Ready");
+}
+
+TEST_F(MessageLineTest, MenuOpenedByTheUser_ExplainsTheItemUnderTheMouse)
+{
+    MenuProbe probe(ID_GREEN);
+    KeyPress('C', Modifiers::Alt);
+    EXPECT_TRUE(probe.Chosen());
+    EXPECT_TRUE(PumpUntil([&] { return !frame->commands.empty(); }));
+    EXPECT_EQ(frame->commands, (std::vector<UINT>{ID_GREEN}));
+    EXPECT_NE(std::find(frame->messages.begin(), frame->messages.end(), "Paints it green."),
+              frame->messages.end());
     EXPECT_EQ(MessageLine(), "Ready");
 }
 

@@ -1,5 +1,6 @@
 // Tool bars: resources, buttons, sizes, places and the state of the buttons.
 #include "tests/frames/BarFrame.h"
+#include "tests/support/HostWindow.h"
 #include "tests/support/Snapshot.h"
 
 namespace
@@ -59,6 +60,18 @@ TEST_F(ToolBar, Images_AreShown)
     bar.GetItemRect(bar.CommandToIndex(ID_YELLOW), &rect);
     EXPECT_EQ(picture.CountColour(rect, RGB(255, 255, 0)), 90);
     EXPECT_EQ(picture.CountColour(rect, RGB(192, 192, 192)), 0);
+}
+
+TEST_F(ToolBar, SetSizes_CutsTheImagesAgain)
+{
+    bar.SetSizes(CSize(40, 30), CSize(32, 15));
+    frame->RecalcLayout();
+    const Snapshot picture(bar.m_hWnd);
+    CRect rect;
+    bar.GetItemRect(Red(), &rect);
+    EXPECT_EQ(rect.Size(), CSize(40, 30));
+    EXPECT_EQ(picture.CountColour(rect, RGB(255, 0, 0)), 90);
+    EXPECT_EQ(picture.CountColour(rect, RGB(0, 255, 0)), 90);
 }
 
 TEST_F(ToolBar, CommandToIndex_OfAnUnknownCommandIsMinusOne)
@@ -288,6 +301,29 @@ TEST_F(ToolBar, MouseOverAButton_ShowsItsTextInTheMessageLine)
     EXPECT_TRUE(PumpUntil([&] { return MessageLine() == "Paints it green."; })) << MessageLine();
     MoveMouse(frame->m_hWnd, CPoint(200, 150));
     EXPECT_TRUE(PumpUntil([&] { return MessageLine() == "Ready"; })) << MessageLine();
+}
+
+// A window that is no frame lets its bars take their places itself.
+TEST(BarsOfAWindow, StandAtItsEdgesAndSendItTheirCommands)
+{
+    HostWindow host(400, 300);
+    CToolBar toolBar;
+    CStatusBar statusBar;
+    ASSERT_TRUE(toolBar.CreateEx(&host));
+    ASSERT_TRUE(toolBar.LoadToolBar(IDR_FRAMES));
+    ASSERT_TRUE(statusBar.Create(&host));
+    const UINT indicators[] = {ID_SEPARATOR, ID_INDICATOR_CAPS};
+    ASSERT_TRUE(statusBar.SetIndicators(indicators, 2));
+    host.RepositionBars(AFX_IDW_CONTROLBAR_FIRST, AFX_IDW_CONTROLBAR_LAST, 0);
+    EXPECT_EQ(RectIn(toolBar, host).TopLeft(), CPoint(0, 0));
+    EXPECT_EQ(RectIn(toolBar, host).right, 400);
+    EXPECT_EQ(RectIn(statusBar, host).BottomRight(), CPoint(400, 300));
+    host.TakeLog();
+    CRect rect;
+    toolBar.GetItemRect(0, &rect);
+    Click(toolBar.m_hWnd, rect.CenterPoint());
+    const std::vector<std::string> log = host.TakeLog();
+    EXPECT_NE(std::find(log.begin(), log.end(), "command " + std::to_string(ID_RED) + " code 0"), log.end());
 }
 
 } // namespace

@@ -46,14 +46,12 @@ void DockBar::Forget(CControlBar* bar)
         m_rows.end());
 }
 
-// Makes the bar's window a child that lies or stands as this edge wants it. A line parts docked bars.
+// Makes the bar's window a child that lies or stands as this edge wants it. Grippers part bars, not lines.
 void DockBar::Adopt(CControlBar* bar)
 {
     const DWORD own = BarAccess::Style(*this);
     DWORD style = bar->GetBarStyle() & ~static_cast<DWORD>(CBRS_ALIGN_ANY | CBRS_BORDER_ANY | CBRS_FLOATING);
     style |= own & (CBRS_ALIGN_ANY | CBRS_FLOATING);
-    if (!(own & CBRS_FLOATING))
-        style |= BarAccess::IsHorizontal(*this) ? CBRS_BORDER_TOP : CBRS_BORDER_LEFT;
     bar->SetParent(this);
     bar->SetBarStyle(style);
 }

@@ -14,7 +14,10 @@ BOOL FloatFrame::Create(CPoint screenPoint, DWORD align)
     const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | MFS_SYNCACTIVE;
     if (!CMiniFrameWnd::Create(NULL, _T(""), style, CRect(screenPoint, CSize(10, 10)), &m_site))
         return FALSE;
-    return m_dock.Create(*this, AFX_IDW_DOCKBAR_FLOAT, (align & CBRS_ALIGN_ANY) | CBRS_FLOATING);
+    if (m_dock.Create(*this, AFX_IDW_DOCKBAR_FLOAT, (align & CBRS_ALIGN_ANY) | CBRS_FLOATING))
+        return TRUE;
+    DestroyWindow();
+    return FALSE;
 }
 
 CControlBar* FloatFrame::Bar() const
@@ -45,8 +48,7 @@ void FloatFrame::RecalcLayout(BOOL)
     if (m_bInRecalcLayout || bar == NULL)
         return;
     m_bInRecalcLayout = TRUE;
-    const bool shows = bar->IsVisible() != FALSE;
-    if (shows)
+    if (bar->IsVisible())
     {
         const CSize size = m_dock.CalcFixedLayout(FALSE, BarAccess::IsHorizontal(m_dock));
         CRect window(CPoint(0, 0), size);
@@ -58,8 +60,17 @@ void FloatFrame::RecalcLayout(BOOL)
         bar->GetWindowText(title);
         SetWindowText(title);
     }
-    ShowWindow(shows ? SW_SHOWNA : SW_HIDE);
+    ShowAsNeeded();
     m_bInRecalcLayout = FALSE;
+}
+
+// Not before the frame itself is shown.
+void FloatFrame::ShowAsNeeded()
+{
+    const CControlBar* const bar = Bar();
+    const bool shows = bar != NULL && bar->IsVisible() && m_site.IsWindowVisible();
+    if (shows != HasVisibleStyle(*this))
+        ShowWindow(shows ? SW_SHOWNA : SW_HIDE);
 }
 
 // Closing hides the bar; the command that shows it brings it back.

@@ -20,6 +20,8 @@ public:
     // Moves the bar's top left corner to the point.
     void MoveTo(CPoint screenPoint);
     CPoint Place() const;
+    // Shows or hides the window with its bar.
+    void ShowAsNeeded();
 
     void RecalcLayout(BOOL bNotify = TRUE) override;
 

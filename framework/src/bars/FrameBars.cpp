@@ -110,9 +110,13 @@ LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
         RecalcLayout();
         UpdateWindow();
     }
+    FrameBars* const bars = BarAccess::BarsIfAny(*this);
+    if (bars == NULL)
+        return 0;
     // Floating bars are no descendants of the frame.
-    if (FrameBars* const bars = BarAccess::BarsIfAny(*this))
-        bars->UpdateFloats(wParam);
+    bars->UpdateFloats(wParam);
+    if (!bars->hasMessage && GetMessageBar() != NULL)
+        SendMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
     return 0;
 }
 

@@ -60,8 +60,9 @@ public:
     // Floating frames look active together with their owner.
     void ShowFloatsActive(bool active);
 
-    // The identifier of the text that the message line shows last.
+    // The identifier of the text that the message line shows last, and whether it ever got one.
     UINT shownMessage = 0;
+    bool hasMessage = false;
     // The drag that is going on.
     std::unique_ptr<BarDrag> drag;
 

@@ -128,6 +128,7 @@ void FrameBars::FloatBar(CControlBar* bar, CPoint screenPoint, DWORD align)
         return;
     }
     frame = new FloatFrame(m_frame);
+    // A frame whose window cannot be created deletes itself.
     if (!frame->Create(screenPoint, direction))
         return;
     m_floats.push_back(frame);
@@ -147,8 +148,15 @@ void FrameBars::LayOutFloats()
 
 void FrameBars::UpdateFloats(WPARAM disableWithoutHandler)
 {
-    for (FloatFrame* frame : m_floats)
+    // Handlers may dock and float bars.
+    const std::vector<FloatFrame*> frames = m_floats;
+    for (FloatFrame* frame : frames)
+    {
+        if (std::find(m_floats.begin(), m_floats.end(), frame) == m_floats.end())
+            continue;
+        frame->ShowAsNeeded();
         frame->SendMessageToDescendants(WM_IDLEUPDATECMDUI, disableWithoutHandler, 0, TRUE, TRUE);
+    }
 }
 
 void FrameBars::ShowFloatsActive(bool active)

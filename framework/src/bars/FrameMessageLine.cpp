@@ -66,6 +66,7 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM wParam, LPARAM lParam)
     quorfx::FrameBars& bars = BarAccess::Bars(*this);
     const UINT before = bars.shownMessage;
     bars.shownMessage = static_cast<UINT>(wParam);
+    bars.hasMessage = true;
     CWnd* const line = GetMessageBar();
     if (line == NULL)
         return before;

@@ -106,7 +106,7 @@ void CStatusBar::PlacePanes()
     CRect client;
     GetClientRect(&client);
     int rest = client.Width() - horizontal;
-    if ((GetStyle() & SBARS_SIZEGRIP) && !GetParentFrame()->IsZoomed())
+    if ((GetStyle() & SBARS_SIZEGRIP) && !GetTopLevelParent()->IsZoomed())
         rest -= ::GetSystemMetrics(SM_CXVSCROLL);
     const int around = 2 * textMargin + spacing;
     for (const Pane& pane : m_panes)

@@ -132,6 +132,8 @@ void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage)
         return;
     GetToolBarCtrl().SetBitmapSize(sizeImage);
     GetToolBarCtrl().SetButtonSize(sizeButton);
+    if (m_hbmImageWell != NULL)
+        MakeImages();
     Invalidate();
 }
 

@@ -1,6 +1,7 @@
 // The dialog behind the button of a cell.
 #include "CellTextDialog.h"
 
+#include "Language.h"
 #include "resource.h"
 
 CellTextDialog::CellTextDialog(const CString& dialogTitle, const CString& cellText, CWnd* parent)
@@ -11,6 +12,7 @@ CellTextDialog::CellTextDialog(const CString& dialogTitle, const CString& cellTe
 BOOL CellTextDialog::OnInitDialog()
 {
     CDialog::OnInitDialog();
+    TranslateControls(*this);
     SetWindowText(title);
     return TRUE;
 }

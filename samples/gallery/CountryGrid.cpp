@@ -2,6 +2,7 @@
 #include "CountryGrid.h"
 
 #include "GridFill.h"
+#include "Language.h"
 #include "LogPane.h"
 
 #include <utility>
@@ -103,7 +104,7 @@ bool CountryGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
 {
     if (OnBeforeEdit(cell))
         return TGTreeGrid::OnBeforeEdit(cell, commitNewRow);
-    log.Add(L"OnBeforeEdit  拒绝：组只能改名称");
+    log.Add(Tr(L"OnBeforeEdit  refused: only the name of a group can be changed"));
     return false;
 }
 
@@ -111,14 +112,16 @@ bool CountryGrid::OnModified(TGGridCell& cell, CString& text)
 {
     if (cell.GetColIndex() != NumberColumn || text == cell.GetText() || IsRightLabel(text))
         return true;
-    log.Add(L"OnModified  拒绝：“" + text + L"”为空、为 0 或已被占用");
+    CString line;
+    line.Format(Tr(L"OnModified  refused: “%s” is empty, 0 or in use"), text.GetString());
+    log.Add(line);
     return false;
 }
 
 void CountryGrid::OnDataChanged()
 {
     TGTreeGrid::OnDataChanged();
-    log.Add(L"OnDataChanged  只设置 IsModified()，不通知父窗口");
+    log.Add(Tr(L"OnDataChanged  only sets IsModified(), the parent is not told"));
     changed();
 }
 
@@ -154,8 +157,8 @@ template <class Repair> void CountryGrid::NoteRepairs(const wchar_t* hook, Repai
         if (known == before.end() || known->second == number)
             continue;
         CString line;
-        line.Format(L"%s  编号修复：%s “%s” → “%s”", hook, (*row)[LabelColumn].GetText().GetString(),
-                    known->second.GetString(), number.GetString());
+        line.Format(Tr(L"%s  number repaired: %s “%s” → “%s”"), hook,
+                    (*row)[LabelColumn].GetText().GetString(), known->second.GetString(), number.GetString());
         log.Add(line);
     }
 }

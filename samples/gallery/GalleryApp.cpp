@@ -1,8 +1,10 @@
-// The gallery program: "gallery [FILE.csv] [/pictures FOLDER]".
+// The gallery program: "gallery [FILE.csv] [/language en|zh] [/pictures FOLDER]".
+#include "Language.h"
 #include "MainDialog.h"
 #include "resource.h"
 
 #include <memory>
+#include <string>
 
 namespace
 {
@@ -11,6 +13,7 @@ struct CommandLine
 {
     CString tablePath;
     CString pictureFolder;
+    Language language = SystemLanguage();
 };
 
 CommandLine ReadCommandLine()
@@ -21,10 +24,23 @@ CommandLine ReadCommandLine()
         const CString argument = __wargv[i];
         if (argument.CompareNoCase(L"/pictures") == 0 && i + 1 < __argc)
             line.pictureFolder = __wargv[++i];
+        else if (argument.CompareNoCase(L"/language") == 0 && i + 1 < __argc)
+            line.language =
+                CString(__wargv[++i]).CompareNoCase(L"zh") == 0 ? Language::Chinese : Language::English;
         else
             line.tablePath = argument;
     }
     return line;
+}
+
+// For runs without anybody who could press a button.
+void WriteToErrorStream(CString sentence)
+{
+    sentence.Replace(L"\n", L" ");
+    const CStringA bytes = CStringA("gallery: ") + CStringA(sentence) + "\n";
+    DWORD written = 0;
+    ::WriteFile(::GetStdHandle(STD_ERROR_HANDLE), bytes.GetString(), static_cast<DWORD>(bytes.GetLength()),
+                &written, nullptr);
 }
 
 class GalleryApp : public CWinApp
@@ -34,16 +50,18 @@ public:
     {
         CWinApp::InitInstance();
         const CommandLine line = ReadCommandLine();
-        dialog = std::make_unique<MainDialog>(line.tablePath);
+        SetLanguage(line.language);
+        dialog = std::make_unique<MainDialog>();
         m_pMainWnd = dialog.get();
         if (!dialog->Create(IDD_MAIN, nullptr))
             return FALSE;
         dialog->ShowWindow(SW_SHOW);
         dialog->UpdateWindow();
-        if (line.pictureFolder.IsEmpty())
-            return TRUE;
-        exitCode = dialog->WritePictures(line.pictureFolder) ? 0 : 1;
-        dialog->DestroyWindow();
+        const CString problem = line.tablePath.IsEmpty() ? CString() : dialog->OpenTable(line.tablePath);
+        if (!line.pictureFolder.IsEmpty())
+            TakePictures(problem, line.pictureFolder);
+        else if (!problem.IsEmpty())
+            AfxMessageBox(problem, MB_OK | MB_ICONWARNING);
         return TRUE;
     }
 
@@ -55,6 +73,14 @@ public:
     }
 
 private:
+    void TakePictures(const CString& problem, const CString& folder)
+    {
+        if (!problem.IsEmpty())
+            WriteToErrorStream(problem);
+        exitCode = problem.IsEmpty() && dialog->WritePictures(folder) ? 0 : 1;
+        dialog->DestroyWindow();
+    }
+
     std::unique_ptr<MainDialog> dialog;
     int exitCode = 0;
 };

@@ -4,6 +4,7 @@
 
 #include "CellTextDialog.h"
 #include "ColumnEditors.h"
+#include "Language.h"
 
 #include <cwchar>
 
@@ -36,7 +37,7 @@ bool GalleryGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
 
 QuorUiCtr::TGCellCtrl* GalleryGrid::OnGetCellEdit(TGGridCell& cell)
 {
-    Note(L"OnGetCellEdit  %s：%s", Describe(cell), NameOf(EditorOf(cell.GetCol()).kind));
+    Note(L"OnGetCellEdit  %s: %s", Describe(cell), NameOf(EditorOf(cell.GetCol()).kind));
     return TGGrid::OnGetCellEdit(cell);
 }
 
@@ -50,7 +51,7 @@ void GalleryGrid::OnCellComboString(TGGridCell& cell, CComboBox& combo)
         if (!text.IsEmpty() && combo.FindStringExact(-1, text) == CB_ERR)
             combo.AddString(text);
     }
-    Note(L"OnCellComboString  %s：%d items", Describe(cell), combo.GetCount());
+    Note(L"OnCellComboString  %s: %d items", Describe(cell), combo.GetCount());
 }
 
 bool GalleryGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
@@ -66,7 +67,7 @@ bool GalleryGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
 void GalleryGrid::OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin)
 {
     const ColumnEditor& editor = EditorOf(cell.GetCol());
-    Note(L"OnCellSpinInit  %s：%d..%d", Describe(cell), editor.lower, editor.upper);
+    Note(L"OnCellSpinInit  %s: %d..%d", Describe(cell), editor.lower, editor.upper);
     spin.SetRange32(editor.lower, editor.upper);
 }
 
@@ -75,7 +76,8 @@ bool GalleryGrid::OnModified(TGGridCell& cell, CString& text)
     const ColumnEditor& editor = EditorOf(cell.GetCol());
     const bool accepted =
         editor.kind != EditorKind::Spin || text.IsEmpty() || IsNumberIn(text, editor.lower, editor.upper);
-    Note(L"OnModified  %s, text \"%s\"%s", Describe(cell), text, accepted ? L"" : L"：拒绝");
+    Note(L"OnModified  %s, text \"%s\"%s", Describe(cell), text,
+         accepted ? CString() : CString(L": ") + Tr(L"refused"));
     return accepted && TGGrid::OnModified(cell, text);
 }
 
@@ -112,14 +114,14 @@ void GalleryGrid::OnCmbEditchange(TGGridCell& cell, CComboBox* combo)
 bool GalleryGrid::OnCellTip(long row, long col, CString& text) const
 {
     Note(L"OnCellTip  row %ld, column %ld", row, col);
-    text.Format(L"第 %ld 行 第 %ld 列", row + 1, col + 1);
+    text.Format(Tr(L"Row %ld, column %ld"), row + 1, col + 1);
     return true;
 }
 
 bool GalleryGrid::OnRowTip(long row, CString& text) const
 {
     Note(L"OnRowTip  row %ld", row);
-    text.Format(L"第 %ld 行", row + 1);
+    text.Format(Tr(L"Row %ld"), row + 1);
     return true;
 }
 
@@ -127,20 +129,20 @@ bool GalleryGrid::OnColTip(long col, CString& text) const
 {
     Note(L"OnColTip  column %ld", col);
     const EditorKind kind = EditorOf(const_cast<GalleryGrid*>(this)->GetCol(col)).kind;
-    text.Format(L"第 %ld 列：%s", col + 1, NameOf(kind));
+    text.Format(Tr(L"Column %ld: %s"), col + 1, NameOf(kind));
     return true;
 }
 
 bool GalleryGrid::OnCellButtonTip(long row, long col, CString& text) const
 {
     Note(L"OnCellButtonTip  row %ld, column %ld", row, col);
-    text = L"在对话框中编辑";
+    text = Tr(L"Edit in a dialog");
     return true;
 }
 
 bool GalleryGrid::OnActiveQuadTip(CString& text) const
 {
     AddLine(L"OnActiveQuadTip");
-    text = L"双击全选";
+    text = Tr(L"Double click: all");
     return true;
 }

@@ -90,7 +90,7 @@ void GalleryGrid::NotePainting() const
     if (count.rows + count.cells == 0)
         return;
     CString line;
-    line.Format(L"OnRefresh  %ld rows, %ld cells；OnBeforeRefresh  %ld cells", count.rows, count.cells,
+    line.Format(L"OnRefresh  %ld rows, %ld cells; OnBeforeRefresh  %ld cells", count.rows, count.cells,
                 count.colours);
     log.Add(line);
 }

@@ -3,6 +3,7 @@
 
 #include "ColumnEditors.h"
 #include "GridFill.h"
+#include "Language.h"
 #include "LogPane.h"
 #include "resource.h"
 
@@ -34,14 +35,15 @@ BEGIN_MESSAGE_MAP(GridPage, Page)
     ON_BN_CLICKED(IDC_FIT_LAST, &GridPage::OnFitLast)
 END_MESSAGE_MAP()
 
-GridPage::GridPage(LogPane& logPane) : Page(IDD_GRID_PAGE, logPane), grid(false, logPane), styles(grid, logPane)
+GridPage::GridPage(LogPane& logPane)
+    : Page(IDD_GRID_PAGE, logPane), grid(false, logPane), styles(grid, logPane)
 {
     grid.SetFlatButton(true);
 }
 
 CString GridPage::GetTitle() const
 {
-    return L"Grid 表格";
+    return Tr(L"Grid");
 }
 
 void GridPage::DoDataExchange(CDataExchange* exchange)
@@ -56,27 +58,24 @@ BOOL GridPage::OnInitDialog()
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
     SetRoomyFont(grid, font);
     styles.CreateIn(*this);
-    OpenFile(DataFilePath(L"elements.csv"));
+    OpenFile(ShippedTablePath(L"elements"));
     return TRUE;
 }
 
-bool GridPage::OpenFile(const CString& path)
+CString GridPage::OpenFile(const CString& path)
 {
     const gallery::CsvTable table = gallery::ReadCsvFile(path.GetString());
     for (const std::wstring& problem : table.errors)
         Log().Add(problem.c_str());
     if (table.IsRefused())
-    {
-        banner.SetWindowText(CString(PathFindFileName(path)) + L"：" + table.errors.front().c_str());
-        return true;
-    }
+        return table.errors.front().c_str();
     ShowTable(table);
     CString summary;
-    summary.Format(L"%s：%d 行", PathFindFileName(path), static_cast<int>(table.rows.size()));
+    summary.Format(Tr(L"%s: %d rows"), PathFindFileName(path), static_cast<int>(table.rows.size()));
     if (!table.errors.empty())
-        summary.AppendFormat(L"，%d 行有错，见下方记录", static_cast<int>(table.errors.size()));
+        summary.AppendFormat(Tr(L", %d lines with errors, see below"), static_cast<int>(table.errors.size()));
     banner.SetWindowText(summary);
-    return true;
+    return CString();
 }
 
 void GridPage::ShowTable(const gallery::CsvTable& table)
@@ -121,5 +120,5 @@ void GridPage::OnLogPainting()
 void GridPage::OnFitLast()
 {
     if (!grid.FitLastCol())
-        Log().Add(L"FitLastCol: 不需要或无法调整");
+        Log().Add(Tr(L"FitLastCol: not needed, or not possible"));
 }

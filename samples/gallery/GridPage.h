@@ -13,11 +13,13 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"grid"; }
+    CWnd& MainControl() override { return grid; }
+    bool IsChanged() override { return grid.IsModified(); }
     // The page, then an open editor of each kind.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
-    // Shows the table of a CSV file. A file that cannot be shown leaves the present table alone; the banner
-    // says why, and the log names every line that was left out.
-    bool OpenFile(const CString& path) override;
+    bool CanOpenFiles() const override { return true; }
+    // Shows the table of a CSV file; the log names every line that was left out.
+    CString OpenFile(const CString& path) override;
 
 protected:
     BOOL OnInitDialog() override;

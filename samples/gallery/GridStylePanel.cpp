@@ -1,6 +1,7 @@
 // The style switches of the grid pages.
 #include "GridStylePanel.h"
 
+#include "Language.h"
 #include "resource.h"
 
 #include <algorithm>
@@ -55,13 +56,14 @@ constexpr StyleSwitch Switches[] = {
      [](TGGrid& grid, bool on) { grid.SetColSel(on); }},
 };
 
-constexpr const wchar_t* Keys = L"方向键 Tab Enter Esc 编辑与移动\n"
-                                L"PgUp PgDn Home 滚动\n"
-                                L"Ins 插入 (Ctrl 树)  Del 删除\n"
-                                L"N 新建 (Ctrl 树)  T 新建子行\n"
-                                L"C 复制  X 剪切  V 粘贴\n"
-                                L"Ctrl+V 粘贴为子行\n"
-                                L"A 全选  R 升序  U 降序";
+constexpr const wchar_t* Keys = L"Arrows Tab Enter Esc edit, move\n"
+                                L"PgUp PgDn Home scroll\n"
+                                L"Ins insert (Ctrl: tree)  Del delete\n"
+                                L"N new (Ctrl: tree)  T new child\n"
+                                L"C copy  X cut  V paste\n"
+                                L"Ctrl+V paste as child\n"
+                                L"A all  R ascending  U descending\n"
+                                L"F6 next pane";
 
 } // namespace
 
@@ -77,7 +79,8 @@ BOOL GridStylePanel::OnInitDialog()
     CDialog::OnInitDialog();
     for (const StyleSwitch& entry : Switches)
         CheckDlgButton(static_cast<int>(entry.control), entry.isOn(grid) ? BST_CHECKED : BST_UNCHECKED);
-    SetDlgItemText(IDC_STYLE_KEYS, Keys);
+    TranslateControls(*this);
+    SetDlgItemText(IDC_STYLE_KEYS, Tr(Keys));
     return TRUE;
 }
 

@@ -1,6 +1,7 @@
 // The page with a report list whose cells are edited in place, and with select-all edits.
 #include "ListPage.h"
 
+#include "Language.h"
 #include "ListPageRecord.h"
 #include "LogPane.h"
 #include "resource.h"
@@ -47,7 +48,7 @@ ListPage::ListPage(LogPane& logPane) : Page(IDD_LIST_PAGE, logPane) {}
 
 CString ListPage::GetTitle() const
 {
-    return L"List 列表";
+    return Tr(L"Report list");
 }
 
 void ListPage::DoDataExchange(CDataExchange* exchange)
@@ -65,7 +66,7 @@ BOOL ListPage::OnInitDialog()
 {
     Page::OnInitDialog();
     list.PrepareControl(0);
-    const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"elements.csv").GetString());
+    const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"elements").GetString());
     if (table.IsRefused())
         banner.SetWindowText(table.errors.front().c_str());
     else
@@ -93,7 +94,8 @@ void ListPage::ShowTable(const gallery::CsvTable& table)
             list.SetItemText(item, static_cast<int>(column), texts[column].c_str());
     }
     ArrangeColumns();
-    banner.SetWindowText(L"再次单击当前单元格或按 F2 编辑；←→ 移动；Enter 确定，Esc 取消");
+    banner.SetWindowText(
+        Tr(L"Click the current cell again or press F2 to edit; ← and → move; Enter keeps, Esc drops"));
 }
 
 void ListPage::ArrangeColumns()
@@ -136,7 +138,7 @@ void ListPage::OnBeginEdit(NMHDR* header, LRESULT* result)
         editor->CalculateSize();
         return;
     }
-    Log().Add(L"PositionControl: 列太窄，不编辑");
+    Log().Add(Tr(L"PositionControl: the column is too narrow to edit"));
     list.SetFocus();
 }
 
@@ -196,8 +198,8 @@ void ListPage::ShowGrownEditor(bool multiLine)
     PressKey(VK_F2);
     if (!editor)
         return;
-    editor->SetWindowText(multiLine ? L"第一行\r\n第二行 second line\r\n第三行"
-                                    : L"输入的文字比单元格长，编辑框随之变宽 the editor grows with its text");
+    editor->SetWindowText(Tr(multiLine ? L"First line\r\nSecond line\r\nThird line"
+                                       : L"A text that is longer than its cell: the editor grows with it"));
     editor->CalculateSize();
 }
 

@@ -25,6 +25,7 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"list"; }
+    CWnd& MainControl() override { return list; }
     // Also the page with a grown editor of one line, and of several.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

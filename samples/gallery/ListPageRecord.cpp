@@ -1,6 +1,8 @@
 // The list's notifications of editing as lines for the log.
 #include "ListPageRecord.h"
 
+#include "Language.h"
+
 namespace
 {
 
@@ -21,12 +23,12 @@ CString DescribeEditRecord(const CListCtrl& list, const NMLVDISPINFO& record)
 {
     const LVITEM& item = record.item;
     CString line;
-    line.Format(L"%s  行 %d  列 %d %s  ",
+    line.Format(Tr(L"%s  row %d  column %d %s  "),
                 record.hdr.code == LVN_BEGINLABELEDIT ? L"LVN_BEGINLABELEDIT" : L"LVN_ENDLABELEDIT",
                 item.iItem, item.iSubItem, static_cast<LPCTSTR>(ColumnName(list, item.iSubItem)));
     if (item.pszText)
-        line.AppendFormat(L"文本 “%s” (%d)", item.pszText, item.cchTextMax);
+        line.AppendFormat(Tr(L"text “%s” (%d)"), item.pszText, item.cchTextMax);
     else
-        line += L"已取消";
+        line += Tr(L"cancelled");
     return line;
 }

@@ -13,6 +13,8 @@
 
 #include <algorithm>
 
+#include <shlwapi.h>
+
 namespace
 {
 
@@ -32,19 +34,34 @@ void DrainMessages()
     }
 }
 
+// Moves without the old picture: where a neighbour has grown over it already, that is what would be copied.
+void Place(CWnd& window, int left, int top, int width, int height)
+{
+    window.SetWindowPos(nullptr, left, top, (std::max)(0, width), (std::max)(0, height),
+                        SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+    window.Invalidate();
+}
+
+bool IsControlDown()
+{
+    return GetKeyState(VK_CONTROL) < 0;
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(MainDialog, CDialog)
+    ON_WM_CLOSE()
     ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
     ON_LBN_SELCHANGE(IDC_PAGES, &MainDialog::OnPageChosen)
     ON_COMMAND(ID_FILE_OPEN_TABLE, &MainDialog::OnOpenTable)
     ON_COMMAND(ID_FILE_QUIT, &MainDialog::OnQuit)
     ON_COMMAND(ID_VIEW_CLEAR_LOG, &MainDialog::OnClearLog)
+    ON_COMMAND_RANGE(ID_VIEW_ENGLISH, ID_VIEW_CHINESE, &MainDialog::OnLanguage)
     ON_COMMAND(ID_HELP_ABOUT_GALLERY, &MainDialog::OnAbout)
 END_MESSAGE_MAP()
 
-MainDialog::MainDialog(const CString& path) : CDialog(IDD_MAIN), tablePath(path) {}
+MainDialog::MainDialog() : CDialog(IDD_MAIN) {}
 
 MainDialog::~MainDialog() = default;
 
@@ -59,24 +76,33 @@ BOOL MainDialog::OnInitDialog()
 {
     CDialog::OnInitDialog();
     SetIcon(AfxGetApp()->LoadIcon(1), TRUE);
+    ShowTexts();
+    SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
+    CenterWindow();
+    MakePages();
+    ShowPage(0);
+    return TRUE;
+}
+
+// ---- Pages and texts.
+
+void MainDialog::MakePages()
+{
+    const CWaitCursor wait;
     AddPage(std::make_unique<GridPage>(log));
     AddPage(std::make_unique<TreeRowsPage>(log));
     AddPage(std::make_unique<TreeGridPage>(log));
     AddPage(std::make_unique<PropertiesPage>(log));
     AddPage(std::make_unique<TreePage>(log));
     AddPage(std::make_unique<ListPage>(log));
-    SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
-    CenterWindow();
-    ShowPage(0);
-    if (!tablePath.IsEmpty())
-        pages[0]->OpenFile(tablePath);
-    return TRUE;
 }
 
 void MainDialog::AddPage(std::unique_ptr<Page> page)
 {
     if (!page->CreateIn(*this))
         return;
+    // Tab goes from the list of pages to the page, and from there to the log.
+    page->SetWindowPos(&pageList, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
     pageList.AddString(page->GetTitle());
     pages.push_back(std::move(page));
 }
@@ -92,19 +118,65 @@ void MainDialog::ShowPage(size_t index)
     pages[shownPage]->ShowWindow(SW_SHOW);
 }
 
+// Caption, menu and labels in the language in use.
+void MainDialog::ShowTexts()
+{
+    SetWindowText(Tr(L"QuorUiCtrl gallery"));
+    SetDlgItemText(IDC_LOG_CAPTION, Tr(L"Notifications"));
+    CMenu fresh;
+    fresh.LoadMenu(IDR_MAIN_MENU);
+    TranslateMenu(fresh);
+    fresh.CheckMenuRadioItem(ID_VIEW_ENGLISH, ID_VIEW_CHINESE,
+                             CurrentLanguage() == Language::Chinese ? ID_VIEW_CHINESE : ID_VIEW_ENGLISH,
+                             MF_BYCOMMAND);
+    SetMenu(&fresh);
+    menu.DestroyMenu();
+    menu.Attach(fresh.Detach());
+    DrawMenuBar();
+}
+
+void MainDialog::ChangeLanguage(Language language)
+{
+    SetLanguage(language);
+    ShowTexts();
+    const size_t index = shownPage;
+    shownPage = 0;
+    for (const std::unique_ptr<Page>& page : pages)
+        page->DestroyWindow();
+    pages.clear();
+    pageList.ResetContent();
+    log.RemoveAll();
+    MakePages();
+    ShowPage(index);
+}
+
+void MainDialog::OnLanguage(UINT command)
+{
+    const Language chosen = command == ID_VIEW_CHINESE ? Language::Chinese : Language::English;
+    if (chosen == CurrentLanguage())
+        return;
+    const bool changed = std::any_of(pages.begin(), pages.end(),
+                                     [](const std::unique_ptr<Page>& page) { return page->IsChanged(); });
+    constexpr const wchar_t* Question =
+        L"The pages start anew in the other language, and what was changed in them is lost. Go on?";
+    if (!changed || AfxMessageBox(Tr(Question), MB_YESNO | MB_ICONQUESTION) == IDYES)
+        ChangeLanguage(chosen);
+}
+
+// ---- Place and focus.
+
 void MainDialog::LayOut(int width, int height)
 {
     if (!pageList.GetSafeHwnd() || pages.empty())
         return;
     const int logTop = height - LogHeight;
     const int captionHeight = 16;
-    const int pageHeight = (std::max)(0, logTop - captionHeight - 2 * Margin);
+    const int pageHeight = logTop - captionHeight - 2 * Margin;
     const int pageLeft = PageListWidth + 2 * Margin;
-    pageList.MoveWindow(Margin, Margin, PageListWidth, pageHeight);
-    pages[shownPage]->MoveWindow(pageLeft, Margin, (std::max)(0, width - pageLeft - Margin), pageHeight);
-    GetDlgItem(IDC_LOG_CAPTION)
-        ->MoveWindow(Margin, logTop - captionHeight, width - 2 * Margin, captionHeight);
-    log.MoveWindow(Margin, logTop, width - 2 * Margin, LogHeight - Margin);
+    Place(pageList, Margin, Margin, PageListWidth, pageHeight);
+    Place(*pages[shownPage], pageLeft, Margin, width - pageLeft - Margin, pageHeight);
+    Place(*GetDlgItem(IDC_LOG_CAPTION), Margin, logTop - captionHeight, width - 2 * Margin, captionHeight);
+    Place(log, Margin, logTop, width - 2 * Margin, LogHeight - Margin);
 }
 
 void MainDialog::OnSize(UINT type, int width, int height)
@@ -120,6 +192,46 @@ void MainDialog::OnGetMinMaxInfo(MINMAXINFO* info)
     info->ptMinTrackSize = CPoint(MinimumSize.cx, MinimumSize.cy);
 }
 
+void MainDialog::FocusNextPane(bool backwards)
+{
+    CWnd* const panes[] = {&pageList, &pages[shownPage]->MainControl(), &log};
+    constexpr size_t Count = std::size(panes);
+    const CWnd* const focus = GetFocus();
+    size_t current = 1;
+    if (focus == &pageList)
+        current = 0;
+    else if (focus == &log)
+        current = 2;
+    panes[(current + (backwards ? Count - 1 : 1)) % Count]->SetFocus();
+}
+
+BOOL MainDialog::PreTranslateMessage(MSG* message)
+{
+    if (message->message == WM_KEYDOWN && message->wParam == 'O' && IsControlDown())
+    {
+        OnOpenTable();
+        return TRUE;
+    }
+    if (message->message == WM_KEYDOWN && message->wParam == VK_F6)
+    {
+        FocusNextPane(GetKeyState(VK_SHIFT) < 0);
+        return TRUE;
+    }
+    return CDialog::PreTranslateMessage(message);
+}
+
+// ---- Commands.
+
+void MainDialog::OnClose()
+{
+    DestroyWindow();
+}
+
+void MainDialog::OnQuit()
+{
+    DestroyWindow();
+}
+
 void MainDialog::OnPageChosen()
 {
     const int chosen = pageList.GetCurSel();
@@ -127,38 +239,36 @@ void MainDialog::OnPageChosen()
         ShowPage(static_cast<size_t>(chosen));
 }
 
-BOOL MainDialog::PreTranslateMessage(MSG* message)
+CString MainDialog::OpenTable(const CString& path)
 {
-    if (message->message == WM_KEYDOWN && message->wParam == 'O' && GetKeyState(VK_CONTROL) < 0)
-    {
-        OnOpenTable();
-        return TRUE;
-    }
-    return CDialog::PreTranslateMessage(message);
+    const CWaitCursor wait;
+    if (!pages[shownPage]->CanOpenFiles())
+        ShowPage(0);
+    const CString problem = pages[shownPage]->OpenFile(path);
+    CString sentence;
+    if (!problem.IsEmpty())
+        sentence.Format(Tr(L"%s cannot be shown:\n%s"), PathFindFileName(path), problem.GetString());
+    return sentence;
 }
 
 void MainDialog::OnOpenTable()
 {
     wchar_t path[MAX_PATH] = L"";
+    CString filter;
+    filter.Format(L"%s|*.csv|%s|*.*|", Tr(L"CSV files (*.csv)"), Tr(L"All files (*.*)"));
+    filter.Replace(L'|', L'\0');
     OPENFILENAME dialog = {};
     dialog.lStructSize = sizeof(dialog);
     dialog.hwndOwner = m_hWnd;
-    dialog.lpstrFilter = L"CSV (*.csv)\0*.csv\0所有文件 (*.*)\0*.*\0";
+    dialog.lpstrFilter = filter;
     dialog.lpstrFile = path;
     dialog.nMaxFile = MAX_PATH;
     dialog.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
     if (!GetOpenFileName(&dialog))
         return;
-    if (!pages[shownPage]->OpenFile(path))
-    {
-        ShowPage(0);
-        pages[0]->OpenFile(path);
-    }
-}
-
-void MainDialog::OnQuit()
-{
-    DestroyWindow();
+    const CString problem = OpenTable(path);
+    if (!problem.IsEmpty())
+        AfxMessageBox(problem, MB_OK | MB_ICONWARNING);
 }
 
 void MainDialog::OnClearLog()
@@ -168,7 +278,7 @@ void MainDialog::OnClearLog()
 
 void MainDialog::OnAbout()
 {
-    AfxMessageBox(L"QuorUiCtrl " QUOR_VERSION L" 控件展示", MB_OK | MB_ICONINFORMATION);
+    AfxMessageBox(CString(Tr(L"QuorUiCtrl gallery")) + L" " + QUOR_VERSION, MB_OK | MB_ICONINFORMATION);
 }
 
 bool MainDialog::WritePictures(const CString& folder)

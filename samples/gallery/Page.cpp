@@ -1,6 +1,7 @@
 // The base of the gallery's pages: creation and the log of notifications.
 #include "Page.h"
 
+#include "Language.h"
 #include "LogPane.h"
 #include "resource.h"
 
@@ -34,6 +35,7 @@ CString NameOfCommandCode(UINT code)
 
 BEGIN_MESSAGE_MAP(Page, CDialog)
     ON_WM_SIZE()
+    ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 
 Page::Page(UINT pageTemplateId, LogPane& logPane)
@@ -46,9 +48,16 @@ bool Page::ShowPictureView(size_t view, CString&)
     return view == 0;
 }
 
-bool Page::OpenFile(const CString&)
+CString Page::OpenFile(const CString&)
 {
-    return false;
+    return CString();
+}
+
+BOOL Page::OnInitDialog()
+{
+    CDialog::OnInitDialog();
+    TranslateControls(*this);
+    return TRUE;
 }
 
 bool Page::CreateIn(CWnd& parent)
@@ -80,6 +89,18 @@ BOOL Page::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result)
         log.Add(line);
     }
     return CDialog::OnNotify(wParam, lParam, result);
+}
+
+// A grid that is left with Tab gives the focus to its parent; it goes on from there to the next control.
+void Page::OnSetFocus(CWnd* loser)
+{
+    CWnd* const next = loser != nullptr && loser->GetSafeHwnd() == MainControl().GetSafeHwnd()
+                           ? GetParent()->GetNextDlgTabItem(loser, GetKeyState(VK_SHIFT) < 0)
+                           : nullptr;
+    if (next != nullptr)
+        next->SetFocus();
+    else
+        CDialog::OnSetFocus(loser);
 }
 
 void Page::OnSize(UINT type, int width, int height)

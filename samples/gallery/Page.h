@@ -20,8 +20,15 @@ public:
     // Brings the page into its state for the picture `view` (0, 1, ...) and says what to add to the picture's
     // name; returns false when there is no such picture. By default a page has one picture.
     virtual bool ShowPictureView(size_t view, CString& nameSuffix);
-    // Opens a table file in the page; returns false when the page shows no files.
-    virtual bool OpenFile(const CString& path);
+    // The control that the page is about, which gets the focus with the page.
+    virtual CWnd& MainControl() = 0;
+    // Whether the user has changed what the page shows.
+    virtual bool IsChanged() { return false; }
+    // Whether the page can show table files.
+    virtual bool CanOpenFiles() const { return false; }
+    // Shows a table file and returns an empty text, or leaves the page as it is and returns what is wrong
+    // with the file.
+    virtual CString OpenFile(const CString& path);
 
     // Creates the hidden page as a child of `parent`.
     bool CreateIn(CWnd& parent);
@@ -31,6 +38,7 @@ protected:
     // Places the page's control after the page was resized; sizes in pixels.
     virtual void LayOut(int width, int height) = 0;
 
+    BOOL OnInitDialog() override;
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* result) override;
     // Enter and Esc leave the page alone.
@@ -39,6 +47,7 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnSize(UINT type, int width, int height);
+    afx_msg void OnSetFocus(CWnd* loser);
 
 private:
     UINT templateId;

@@ -29,7 +29,8 @@ BITMAPINFO DescribeBitmap(int width, int height)
 Bitmap CopyFromScreen(const CRect& area)
 {
     Bitmap bitmap{area.Width(), area.Height(), {}};
-    bitmap.bits.resize(static_cast<size_t>((bitmap.width * 3 + 3) / 4 * 4) * static_cast<size_t>(bitmap.height));
+    bitmap.bits.resize(static_cast<size_t>((bitmap.width * 3 + 3) / 4 * 4) *
+                       static_cast<size_t>(bitmap.height));
     CClientDC screen(nullptr);
     CDC memory;
     memory.CreateCompatibleDC(&screen);

@@ -3,6 +3,6 @@
 
 #include <afxwin.h>
 
-// Copies the window's rectangle from the screen and writes it to `path`. Returns false when the file cannot be
-// written.
+// Copies the window's rectangle from the screen and writes it to `path`. Returns false when the file cannot
+// be written.
 bool WriteWindowPicture(CWnd& window, const CString& path);

@@ -1,6 +1,7 @@
 // The page with a property grid.
 #include "PropertiesPage.h"
 
+#include "Language.h"
 #include "LogPane.h"
 #include "PropertiesPageSheet.h"
 #include "resource.h"
@@ -28,7 +29,7 @@ PropertiesPage::PropertiesPage(LogPane& logPane) : Page(IDD_PROPERTIES_PAGE, log
 
 CString PropertiesPage::GetTitle() const
 {
-    return L"Properties 属性";
+    return Tr(L"Properties");
 }
 
 BOOL PropertiesPage::OnInitDialog()
@@ -43,15 +44,15 @@ BOOL PropertiesPage::OnInitDialog()
     GetFont()->GetLogFont(&description);
     font.CreateFontIndirect(&description);
     grid.SetFont(&font);
-    grid.EnableHeaderCtrl(TRUE, L"属性 Property", L"值 Value");
-    grid.SetBoolLabels(L"是 Yes", L"否 No");
+    grid.EnableHeaderCtrl(TRUE, Tr(L"Property"), Tr(L"Value"));
+    grid.SetBoolLabels(Tr(L"Yes"), Tr(L"No"));
     grid.EnableDescriptionArea();
     grid.SetVSDotNetLook();
     grid.MarkModifiedProperties();
     FillSettingsSheet(grid);
     CheckDlgButton(IDC_DESCRIPTION, BST_CHECKED);
     CheckDlgButton(IDC_MARK_MODIFIED, BST_CHECKED);
-    SetDlgItemText(IDC_PROPERTY_TITLE, L"量程 Range");
+    SetDlgItemText(IDC_PROPERTY_TITLE, Tr(L"Range"));
     SetDlgItemText(IDC_PROPERTY_OPTION, L"1");
     return TRUE;
 }
@@ -93,7 +94,7 @@ void PropertiesPage::ShowResult(const CString& call, int result)
     grid.GetItemValue(title, text);
     grid.GetItemValue(title, number);
     CString shown;
-    shown.Format(L"%s = %d\r\n文本 \"%s\"\r\n数字 %g\r\n选项 %d", static_cast<LPCTSTR>(call), result,
+    shown.Format(Tr(L"%s = %d\r\ntext \"%s\"\r\nnumber %g\r\noption %d"), static_cast<LPCTSTR>(call), result,
                  static_cast<LPCTSTR>(text), number, grid.GetOptionItemCurSel(title));
     SetDlgItemText(IDC_PROPERTY_RESULT, shown);
 }
@@ -174,7 +175,7 @@ bool PropertiesPage::ShowPictureView(size_t view, CString& nameSuffix)
     grid.ExpandAll(view != 1);
     grid.SetAlphabeticMode(view == 3);
     CMFCPropertyGridProperty* shown = nullptr;
-    grid.GetItemByTitle(shown, view == 2 ? L"语言 Language" : L"量程 Range");
+    grid.GetItemByTitle(shown, Tr(view == 2 ? L"Language" : L"Range"));
     grid.SetCurSel(view == 1 ? grid.GetProperty(1) : shown);
     grid.EnsureVisible(shown);
     if (view == 2)

@@ -19,6 +19,7 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"properties"; }
+    CWnd& MainControl() override { return grid; }
     // Unfolded with the description, folded, with an open list, in alphabetic order.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

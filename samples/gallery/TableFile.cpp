@@ -1,10 +1,13 @@
 // Where the gallery's table files are.
 #include "TableFile.h"
 
-CString DataFilePath(const wchar_t* fileName)
+#include "Language.h"
+
+CString ShippedTablePath(const wchar_t* name)
 {
     wchar_t program[MAX_PATH] = L"";
     GetModuleFileName(nullptr, program, MAX_PATH);
-    CString path = program;
-    return path.Left(path.ReverseFind(L'\\') + 1) + L"data\\" + fileName;
+    const CString path = program;
+    const wchar_t* ending = CurrentLanguage() == Language::Chinese ? L".zh.csv" : L".csv";
+    return path.Left(path.ReverseFind(L'\\') + 1) + L"data\\" + name + ending;
 }

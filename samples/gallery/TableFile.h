@@ -5,5 +5,5 @@
 
 #include <afxwin.h>
 
-// The path of a data file that is shipped beside the program.
-CString DataFilePath(const wchar_t* fileName);
+// The path of a table that is shipped beside the program, "elements" or "countries", in the language in use.
+CString ShippedTablePath(const wchar_t* name);

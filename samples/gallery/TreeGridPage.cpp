@@ -2,6 +2,7 @@
 #include "TreeGridPage.h"
 
 #include "GridFill.h"
+#include "Language.h"
 #include "LogPane.h"
 #include "TableFile.h"
 #include "resource.h"
@@ -65,7 +66,7 @@ TreeGridPage::TreeGridPage(LogPane& logPane)
 
 CString TreeGridPage::GetTitle() const
 {
-    return L"Tree grid 树形表格";
+    return Tr(L"Tree grid");
 }
 
 void TreeGridPage::DoDataExchange(CDataExchange* exchange)
@@ -79,12 +80,12 @@ BOOL TreeGridPage::OnInitDialog()
     Page::OnInitDialog();
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
     SetRoomyFont(grid, font);
-    const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"countries.csv").GetString());
+    const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"countries").GetString());
     for (const std::wstring& problem : table.errors)
         Log().Add(problem.c_str());
     if (!grid.Fill(table))
-        Log().Add(L"countries.csv：列数不符");
-    SetDlgItemText(IDC_TREE_FIND_TEXT, L"日本");
+        Log().Add(Tr(L"countries.csv: unexpected columns"));
+    SetDlgItemText(IDC_TREE_FIND_TEXT, Tr(L"Japan"));
     SetDlgItemText(IDC_TREE_QUERY_NUMBER, L"156");
     SetDlgItemText(IDC_TREE_QUERY_LABEL, L"157");
     OnQuery();
@@ -165,7 +166,7 @@ void TreeGridPage::OnQuery()
     const int number = _wtoi(TextOf(IDC_TREE_QUERY_NUMBER));
     const CString label = TextOf(IDC_TREE_QUERY_LABEL);
     CString answer;
-    answer.Format(L"GetAutoId(%d) = %d；IsRightLabel(“%s”) = %s", number, grid.GetAutoId(number),
+    answer.Format(L"GetAutoId(%d) = %d; IsRightLabel(“%s”) = %s", number, grid.GetAutoId(number),
                   label.GetString(), grid.IsRightLabel(label) ? L"true" : L"false");
     banner.SetWindowText(answer);
 }

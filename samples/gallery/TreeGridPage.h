@@ -11,6 +11,8 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-grid"; }
+    CWnd& MainControl() override { return grid; }
+    bool IsChanged() override { return grid.IsModified(); }
     // Unfolded to the third level, then folded, then with a copied item pasted beside itself.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

@@ -1,6 +1,7 @@
 // The page with a tree whose items are dragged.
 #include "TreePage.h"
 
+#include "Language.h"
 #include "LogPane.h"
 #include "TreePageImages.h"
 #include "resource.h"
@@ -19,7 +20,7 @@ constexpr size_t RegionColumn = 1;
 constexpr size_t EnglishColumn = 2;
 constexpr size_t ChineseColumn = 3;
 
-constexpr const wchar_t* EmptyFolder = L"收藏 Favourites";
+constexpr const wchar_t* EmptyFolder = L"Favourites";
 
 // Posted to the page itself when the buttons may have to change: an operation of the tree is over by then.
 constexpr UINT UpdateButtonsMessage = WM_APP + 1;
@@ -56,7 +57,7 @@ TreePage::TreePage(LogPane& logPane) : Page(IDD_TREE_PAGE, logPane) {}
 
 CString TreePage::GetTitle() const
 {
-    return L"Tree 拖放树";
+    return Tr(L"Drag tree");
 }
 
 void TreePage::DoDataExchange(CDataExchange* exchange)
@@ -71,7 +72,7 @@ BOOL TreePage::OnInitDialog()
     Page::OnInitDialog();
     CreateTreePageImages(images);
     tree.SetImageList(&images, TVSIL_NORMAL);
-    const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"countries.csv").GetString());
+    const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"countries").GetString());
     if (table.IsRefused())
         banner.SetWindowText(table.errors.front().c_str());
     else
@@ -90,13 +91,13 @@ void TreePage::ShowCountries(const gallery::CsvTable& table)
         const int image = static_cast<int>(TreePageImage::Item);
         tree.InsertItem(name, image, image, region);
     }
-    Folder(EmptyFolder, TVI_ROOT);
+    Folder(Tr(EmptyFolder), TVI_ROOT);
     const HTREEITEM first = tree.GetRootItem();
     tree.Expand(first, TVE_EXPAND);
     tree.Expand(tree.GetChildItem(first), TVE_EXPAND);
     tree.SelectItem(first);
     CString summary;
-    summary.Format(L"%d 个国家和地区", static_cast<int>(table.rows.size()));
+    summary.Format(Tr(L"%d countries"), static_cast<int>(table.rows.size()));
     banner.SetWindowText(summary);
 }
 
@@ -179,14 +180,14 @@ CString TreePage::NameOf(HTREEITEM item) const
     if (item == TVI_ROOT)
         return L"TVI_ROOT";
     const CString text = tree.GetItemText(item);
-    return text.IsEmpty() ? CString(L"（已删除的项）") : L"“" + text + L"”";
+    return text.IsEmpty() ? CString(Tr(L"(a deleted item)")) : L"“" + text + L"”";
 }
 
-void TreePage::AddToLog(const wchar_t* message, HTREEITEM item, HTREEITEM place)
+void TreePage::AddToLog(const CString& message, HTREEITEM item, HTREEITEM place)
 {
-    CString line = CString(message) + L"  " + NameOf(item);
+    CString line = message + L"  " + NameOf(item);
     if (place != nullptr)
-        line += L"  位置 " + NameOf(place);
+        line += Tr(L"  at ") + NameOf(place);
     Log().Add(line);
     PostMessage(UpdateButtonsMessage);
 }
@@ -218,7 +219,10 @@ LRESULT TreePage::OnItemRenamed(WPARAM wParam, LPARAM)
 LRESULT TreePage::OnDropQuery(WPARAM wParam, LPARAM lParam)
 {
     const bool isRefused = IsDlgButtonChecked(IDC_TREE_REFUSE_DROPS) != 0;
-    AddToLog(isRefused ? L"TDM_DROP_QUERY（已拒绝）" : L"TDM_DROP_QUERY", ItemIn(wParam), PlaceIn(lParam));
+    CString message = L"TDM_DROP_QUERY";
+    if (isRefused)
+        message += Tr(L" (refused)");
+    AddToLog(message, ItemIn(wParam), PlaceIn(lParam));
     return isRefused;
 }
 
@@ -242,7 +246,7 @@ bool TreePage::ShowPictureView(size_t view, CString& nameSuffix)
     const HTREEITEM country = tree.GetChildItem(tree.GetChildItem(tree.GetRootItem()));
     const HTREEITEM dragged = tree.GetNextSiblingItem(tree.GetNextSiblingItem(country));
     if (view > 0)
-        BeginDragTo(dragged, view == 1 ? country : FindChild(EmptyFolder, TVI_ROOT));
+        BeginDragTo(dragged, view == 1 ? country : FindChild(Tr(EmptyFolder), TVI_ROOT));
     return true;
 }
 

@@ -12,6 +12,7 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree"; }
+    CWnd& MainControl() override { return tree; }
     // Also the page in the middle of a drag: to a country, and to an empty folder.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 
@@ -43,7 +44,7 @@ private:
     HTREEITEM FindChild(const CString& name, HTREEITEM parent) const;
     // The item's text for the log.
     CString NameOf(HTREEITEM item) const;
-    void AddToLog(const wchar_t* message, HTREEITEM item, HTREEITEM place);
+    void AddToLog(const CString& message, HTREEITEM item, HTREEITEM place);
     void BeginDragTo(HTREEITEM item, HTREEITEM target);
 
     CImageList images;

@@ -3,6 +3,7 @@
 
 #include "ColumnEditors.h"
 #include "GridFill.h"
+#include "Language.h"
 #include "LogPane.h"
 #include "resource.h"
 
@@ -13,16 +14,10 @@ using QuorUiCtr::TGGridTreeRow;
 namespace
 {
 
-// The columns of the element table that make the two upper levels.
-constexpr const wchar_t* OuterGroupColumn = L"常温状态";
-constexpr const wchar_t* InnerGroupColumn = L"类别";
-constexpr const wchar_t* LabelColumn = L"中文名";
-
-long ColumnNamed(const gallery::CsvTable& table, const wchar_t* name)
-{
-    const auto found = std::find(table.header.begin(), table.header.end(), name);
-    return found == table.header.end() ? -1 : static_cast<long>(found - table.header.begin());
-}
+// The columns of the element table that make the two upper levels, and the one with the label.
+constexpr size_t OuterGroupColumn = 8;
+constexpr size_t InnerGroupColumn = 5;
+constexpr long LabelColumn = 2;
 
 // Moves the label column to the front, where the tree is drawn.
 void MoveToFront(gallery::CsvTable& table, long column)
@@ -51,7 +46,7 @@ TreeRowsPage::TreeRowsPage(LogPane& logPane)
 
 CString TreeRowsPage::GetTitle() const
 {
-    return L"Tree rows 树形行";
+    return Tr(L"Tree rows");
 }
 
 void TreeRowsPage::DoDataExchange(CDataExchange* exchange)
@@ -66,7 +61,7 @@ BOOL TreeRowsPage::OnInitDialog()
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
     SetRoomyFont(grid, font);
     styles.CreateIn(*this);
-    const gallery::CsvTable table = gallery::ReadCsvFile(DataFilePath(L"elements.csv").GetString());
+    const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"elements").GetString());
     if (table.IsRefused())
         banner.SetWindowText(table.errors.front().c_str());
     else
@@ -77,28 +72,25 @@ BOOL TreeRowsPage::OnInitDialog()
 void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
 {
     gallery::CsvTable table = source;
-    MoveToFront(table, (std::max)(0L, ColumnNamed(table, LabelColumn)));
-    const long outer = ColumnNamed(table, OuterGroupColumn);
-    const long inner = ColumnNamed(table, InnerGroupColumn);
-    if (outer < 0 || inner < 0)
+    if (table.header.size() <= OuterGroupColumn)
     {
-        banner.SetWindowText(L"数据表缺少分组列");
+        banner.SetWindowText(Tr(L"The table lacks the columns of the groups"));
         return;
     }
+    MoveToFront(table, LabelColumn);
     QuorUiCtr::TGGridUpdate update(grid);
     MakeColumns(grid, table);
     WidenForTree();
     SetColumnEditors(grid);
     for (const std::vector<std::wstring>& texts : table.rows)
     {
-        TGGridTreeRow& group =
-            ChildRow(RootRow(texts[static_cast<size_t>(outer)]), texts[static_cast<size_t>(inner)]);
+        TGGridTreeRow& group = ChildRow(RootRow(texts[OuterGroupColumn]), texts[InnerGroupColumn]);
         group.AppendChild(nullptr);
         FillRow(group.GetLastChild(), texts);
     }
     ForEachRoot(&TGGridTreeRow::UnFoldAll);
     CString summary;
-    summary.Format(L"%d 种元素，三级", static_cast<int>(table.rows.size()));
+    summary.Format(Tr(L"%d elements on three levels"), static_cast<int>(table.rows.size()));
     banner.SetWindowText(summary);
     grid.SetModify(false);
 }

@@ -13,6 +13,8 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-rows"; }
+    CWnd& MainControl() override { return grid; }
+    bool IsChanged() override { return grid.IsModified(); }
     // The page, then an editor in the column of the tree.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

@@ -31,7 +31,7 @@ struct GridColumn
     long width;
 };
 
-constexpr GridColumn GridColumns[] = {{Label, 220}, {Number, 80}, {Country, 260}, {Letters, 100}};
+constexpr GridColumn GridColumns[] = {{Label, 250}, {Number, 80}, {Country, 260}, {Letters, 100}};
 
 // Numbers are kept without leading zeros, as the grid writes those that it makes.
 CString NumberText(const std::wstring& text)
@@ -113,7 +113,7 @@ bool CountryGrid::OnModified(TGGridCell& cell, CString& text)
     if (cell.GetColIndex() != NumberColumn || text == cell.GetText() || IsRightLabel(text))
         return true;
     CString line;
-    line.Format(Tr(L"OnModified  refused: “%s” is empty, 0 or in use"), text.GetString());
+    line.Format(Tr(L"OnModified  refused: \"%s\" is empty, 0 or in use"), text.GetString());
     log.Add(line);
     return false;
 }
@@ -157,7 +157,7 @@ template <class Repair> void CountryGrid::NoteRepairs(const wchar_t* hook, Repai
         if (known == before.end() || known->second == number)
             continue;
         CString line;
-        line.Format(Tr(L"%s  number repaired: %s “%s” → “%s”"), hook,
+        line.Format(Tr(L"%s  number repaired: %s \"%s\" → \"%s\""), hook,
                     (*row)[LabelColumn].GetText().GetString(), known->second.GetString(), number.GetString());
         log.Add(line);
     }

@@ -113,10 +113,10 @@ constexpr Translation Texts[] = {
     {L"Text", L"文字"},
     {L"Japan", L"日本"},
     {L"OnBeforeEdit  refused: only the name of a group can be changed", L"OnBeforeEdit  拒绝：组只能改名称"},
-    {L"OnModified  refused: “%s” is empty, 0 or in use", L"OnModified  拒绝：“%s”为空、为 0 或已被占用"},
+    {L"OnModified  refused: \"%s\" is empty, 0 or in use", L"OnModified  拒绝：“%s”为空、为 0 或已被占用"},
     {L"OnDataChanged  only sets IsModified(), the parent is not told",
      L"OnDataChanged  只设置 IsModified()，不通知父窗口"},
-    {L"%s  number repaired: %s “%s” → “%s”", L"%s  编号修复：%s “%s” → “%s”"},
+    {L"%s  number repaired: %s \"%s\" → \"%s\"", L"%s  编号修复：%s “%s” → “%s”"},
     {L"countries.csv: unexpected columns", L"countries.csv：列数不符"},
 
     // The property page.
@@ -163,7 +163,7 @@ constexpr Translation Texts[] = {
     {L"A text that is longer than its cell: the editor grows with it",
      L"输入的文字比单元格长，编辑框随之变宽"},
     {L"%s  row %d  column %d %s  ", L"%s  行 %d  列 %d %s  "},
-    {L"text “%s” (%d)", L"文本 “%s” (%d)"},
+    {L"text \"%s\" (%d)", L"文本 “%s” (%d)"},
     {L"cancelled", L"已取消"},
 
     // The settings of the measuring station.

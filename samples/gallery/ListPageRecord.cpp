@@ -27,7 +27,7 @@ CString DescribeEditRecord(const CListCtrl& list, const NMLVDISPINFO& record)
                 record.hdr.code == LVN_BEGINLABELEDIT ? L"LVN_BEGINLABELEDIT" : L"LVN_ENDLABELEDIT",
                 item.iItem, item.iSubItem, static_cast<LPCTSTR>(ColumnName(list, item.iSubItem)));
     if (item.pszText)
-        line.AppendFormat(Tr(L"text “%s” (%d)"), item.pszText, item.cchTextMax);
+        line.AppendFormat(Tr(L"text \"%s\" (%d)"), item.pszText, item.cchTextMax);
     else
         line += Tr(L"cancelled");
     return line;

@@ -156,7 +156,7 @@ void TreeGridPage::OnFind()
     bool found = false;
     for (long col = 0; col < grid.GetColNum() && !found; ++col)
         found = grid.FindAndSel(text, col);
-    Log().Add(L"FindAndSel(“" + text + (found ? L"”)  true" : L"”)  false"));
+    Log().Add(L"FindAndSel(\"" + text + (found ? L"\")  true" : L"\")  false"));
 }
 
 void TreeGridPage::OnQuery()
@@ -166,7 +166,7 @@ void TreeGridPage::OnQuery()
     const int number = _wtoi(TextOf(IDC_TREE_QUERY_NUMBER));
     const CString label = TextOf(IDC_TREE_QUERY_LABEL);
     CString answer;
-    answer.Format(L"GetAutoId(%d) = %d; IsRightLabel(“%s”) = %s", number, grid.GetAutoId(number),
+    answer.Format(L"GetAutoId(%d) = %d; IsRightLabel(\"%s\") = %s", number, grid.GetAutoId(number),
                   label.GetString(), grid.IsRightLabel(label) ? L"true" : L"false");
     banner.SetWindowText(answer);
 }

@@ -180,7 +180,7 @@ CString TreePage::NameOf(HTREEITEM item) const
     if (item == TVI_ROOT)
         return L"TVI_ROOT";
     const CString text = tree.GetItemText(item);
-    return text.IsEmpty() ? CString(Tr(L"(a deleted item)")) : L"“" + text + L"”";
+    return text.IsEmpty() ? CString(Tr(L"(a deleted item)")) : L"\"" + text + L"\"";
 }
 
 void TreePage::AddToLog(const CString& message, HTREEITEM item, HTREEITEM place)

@@ -65,6 +65,11 @@ public:
         return TRUE;
     }
 
+    BOOL PreTranslateMessage(MSG* message) override
+    {
+        return (dialog && dialog->RunKey(*message)) || CWinApp::PreTranslateMessage(message);
+    }
+
     int ExitInstance() override
     {
         CWinApp::ExitInstance();

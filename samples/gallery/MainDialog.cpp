@@ -205,19 +205,17 @@ void MainDialog::FocusNextPane(bool backwards)
     panes[(current + (backwards ? Count - 1 : 1)) % Count]->SetFocus();
 }
 
-BOOL MainDialog::PreTranslateMessage(MSG* message)
+bool MainDialog::RunKey(const MSG& message)
 {
-    if (message->message == WM_KEYDOWN && message->wParam == 'O' && IsControlDown())
-    {
+    if (message.message != WM_KEYDOWN || GetSafeHwnd() == nullptr || !::IsChild(m_hWnd, message.hwnd))
+        return false;
+    if (message.wParam == 'O' && IsControlDown())
         OnOpenTable();
-        return TRUE;
-    }
-    if (message->message == WM_KEYDOWN && message->wParam == VK_F6)
-    {
+    else if (message.wParam == VK_F6)
         FocusNextPane(GetKeyState(VK_SHIFT) < 0);
-        return TRUE;
-    }
-    return CDialog::PreTranslateMessage(message);
+    else
+        return false;
+    return true;
 }
 
 // ---- Commands.

@@ -1,107 +1,16 @@
 // Uses the classic programs from outside, as a person would: starts them, presses, types, reads, and closes
 // them.
+#include "tests/compat/Program.h"
 #include "tests/compat/programs/classic_dialog.h"
 
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <string>
 
 namespace
 {
-
-constexpr DWORD deadline = 30'000;
-
-// Asks until the condition holds. Other processes give no event to wait for.
-bool WaitUntil(const std::function<bool()>& condition)
-{
-    const ULONGLONG end = ::GetTickCount64() + deadline;
-    while (!condition())
-    {
-        if (::GetTickCount64() > end)
-            return false;
-        ::Sleep(5);
-    }
-    return true;
-}
-
-std::wstring TextOf(HWND window)
-{
-    wchar_t text[256] = L"";
-    ::SendMessageW(window, WM_GETTEXT, 256, reinterpret_cast<LPARAM>(text));
-    return text;
-}
-
-// A running program; ended by force if a test leaves it running.
-class Program
-{
-public:
-    explicit Program(const std::wstring& name)
-    {
-        wchar_t path[MAX_PATH] = L"";
-        ::GetModuleFileNameW(NULL, path, MAX_PATH);
-        std::wstring command(path);
-        command = L"\"" + command.substr(0, command.rfind(L'\\') + 1) + name + L"\"";
-        STARTUPINFOW startup = {};
-        startup.cb = sizeof startup;
-        if (::CreateProcessW(NULL, command.data(), NULL, NULL, FALSE, 0, NULL, NULL, &startup, &m_process))
-            ::WaitForInputIdle(m_process.hProcess, deadline);
-    }
-    ~Program()
-    {
-        ::TerminateProcess(m_process.hProcess, 99);
-        ::CloseHandle(m_process.hThread);
-        ::CloseHandle(m_process.hProcess);
-    }
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
-
-    // Waits for a visible top-level window of the program whose title begins so.
-    HWND Window(const std::wstring& title) const
-    {
-        HWND found = NULL;
-        WaitUntil([&] { return (found = Find(title)) != NULL; });
-        return found;
-    }
-
-    // Waits for the program's end.
-    DWORD ExitCode() const
-    {
-        DWORD code = STILL_ACTIVE;
-        ::WaitForSingleObject(m_process.hProcess, deadline);
-        ::GetExitCodeProcess(m_process.hProcess, &code);
-        return code;
-    }
-
-private:
-    struct Search
-    {
-        DWORD process;
-        const std::wstring& title;
-        HWND found;
-    };
-
-    HWND Find(const std::wstring& title) const
-    {
-        Search search = {m_process.dwProcessId, title, NULL};
-        ::EnumWindows(
-            [](HWND window, LPARAM parameter) -> BOOL {
-                Search& wanted = *reinterpret_cast<Search*>(parameter);
-                DWORD process = 0;
-                ::GetWindowThreadProcessId(window, &process);
-                if (process == wanted.process && ::IsWindowVisible(window) &&
-                    TextOf(window).rfind(wanted.title, 0) == 0)
-                    wanted.found = window;
-                return wanted.found == NULL;
-            },
-            reinterpret_cast<LPARAM>(&search));
-        return search.found;
-    }
-
-    PROCESS_INFORMATION m_process = {};
-};
 
 // Commands as the menu sends them.
 constexpr WPARAM appAbout = 0xE140;

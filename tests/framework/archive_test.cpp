@@ -360,6 +360,27 @@ TEST(Archive, GeometryComesBack)
     });
 }
 
+TEST(Archive, TimesComeBack)
+{
+    CTime time(2031, 2, 3, 4, 5, 6), timeAlone(2001, 1, 1, 0, 0, 0);
+    CTimeSpan span(1, 2, 3, 4), spanAlone(-5, 0, 0, 0);
+    const std::string bytes = Stored([&](CArchive& ar) {
+        ar << time << span;
+        spanAlone.Serialize64(timeAlone.Serialize64(ar));
+    });
+    EXPECT_EQ(32u, bytes.size());
+    Load(bytes, [&](CArchive& ar) {
+        CTime timeRead, timeAloneRead;
+        CTimeSpan spanRead, spanAloneRead;
+        ar >> timeRead >> spanRead;
+        spanAloneRead.Serialize64(timeAloneRead.Serialize64(ar));
+        EXPECT_TRUE(time == timeRead);
+        EXPECT_TRUE(span == spanRead);
+        EXPECT_TRUE(timeAlone == timeAloneRead);
+        EXPECT_TRUE(spanAlone == spanAloneRead);
+    });
+}
+
 TEST(ArchiveObjects, AnObjectIsItsClassThenItsContent)
 {
     Node node(5);

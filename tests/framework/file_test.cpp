@@ -210,6 +210,57 @@ TEST(File, RenameAndRemoveWorkOnClosedFiles)
     EXPECT_EQ(CFileException::fileNotFound, CauseThrownBy([&] { CFile::Remove(newPath); }));
 }
 
+TEST(FileStatus, TellsSizeTimesAttributesAndPath)
+{
+    TemporaryFolder folder;
+    const CString path = folder.File(_T("a.txt"));
+    const CTime before = CTime::GetCurrentTime() - CTimeSpan(0, 0, 0, 5);
+    MakeFile(path, "12345");
+    ::SetFileAttributes(path, FILE_ATTRIBUTE_READONLY);
+    CFileStatus status;
+    ASSERT_TRUE(CFile::GetStatus(folder.Path() + _T("\\.\\a.txt"), status));
+    EXPECT_EQ(5u, status.m_size);
+    EXPECT_STREQ(path, status.m_szFullName);
+    EXPECT_EQ(CFile::readOnly, status.m_attribute & (CFile::readOnly | CFile::directory));
+    EXPECT_TRUE(status.m_mtime >= before && status.m_mtime <= CTime::GetCurrentTime() + CTimeSpan(5));
+    CFile file(path, CFile::modeRead);
+    CFileStatus ofOpenFile;
+    ASSERT_TRUE(file.GetStatus(ofOpenFile));
+    EXPECT_EQ(5u, ofOpenFile.m_size);
+    EXPECT_TRUE(status.m_mtime == ofOpenFile.m_mtime);
+    EXPECT_EQ(status.m_attribute, ofOpenFile.m_attribute);
+    EXPECT_STREQ(path, ofOpenFile.m_szFullName);
+    EXPECT_FALSE(CFile::GetStatus(folder.File(_T("missing.txt")), status));
+    ASSERT_TRUE(CFile::GetStatus(folder.Path(), status));
+    EXPECT_NE(0, status.m_attribute & CFile::directory);
+}
+
+TEST(FileStatus, SetsTimesAndAttributes)
+{
+    TemporaryFolder folder;
+    const CString path = folder.File(_T("a.txt"));
+    MakeFile(path, "x");
+    CFileStatus status;
+    ASSERT_TRUE(CFile::GetStatus(path, status));
+    const CTime wanted(2001, 2, 3, 4, 5, 6);
+    status.m_mtime = wanted;
+    status.m_attribute |= CFile::readOnly;
+    CFile::SetStatus(path, status);
+    CFileStatus after;
+    ASSERT_TRUE(CFile::GetStatus(path, after));
+    EXPECT_TRUE(wanted == after.m_mtime);
+    EXPECT_NE(0, after.m_attribute & CFile::readOnly);
+    // Without a time only the attributes change, also back from read-only.
+    status.m_mtime = CTime();
+    status.m_attribute = 0;
+    CFile::SetStatus(path, status);
+    ASSERT_TRUE(CFile::GetStatus(path, after));
+    EXPECT_TRUE(wanted == after.m_mtime);
+    EXPECT_EQ(0, after.m_attribute & CFile::readOnly);
+    EXPECT_EQ(CFileException::fileNotFound,
+              CauseThrownBy([&] { CFile::SetStatus(folder.File(_T("missing.txt")), status); }));
+}
+
 TEST(FileException, CausesFollowFromErrorCodes)
 {
     EXPECT_EQ(CFileException::sharingViolation, CFileException::OsErrorToException(ERROR_SHARING_VIOLATION));

@@ -210,6 +210,12 @@ QFX_API CArchive& AFXAPI operator>>(CArchive& ar, POINT& point);
 QFX_API CArchive& AFXAPI operator<<(CArchive& ar, const RECT& rect);
 QFX_API CArchive& AFXAPI operator>>(CArchive& ar, RECT& rect);
 
+// Times as seconds in 64 bits.
+QFX_API CArchive& AFXAPI operator<<(CArchive& ar, CTime time);
+QFX_API CArchive& AFXAPI operator>>(CArchive& ar, CTime& rtime);
+QFX_API CArchive& AFXAPI operator<<(CArchive& ar, CTimeSpan timeSpan);
+QFX_API CArchive& AFXAPI operator>>(CArchive& ar, CTimeSpan& rtimeSpan);
+
 namespace quorfx
 {
 

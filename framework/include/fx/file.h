@@ -2,11 +2,10 @@
 #pragma once
 
 #include "fx/fileexception.h"
+#include "fx/filestatus.h"
 
 // File transactions are not supported by this framework; where a manager can be passed it is NULL.
 class CAtlTransactionManager;
-
-struct CFileStatus;
 
 // A file of the platform, read and written without a buffer. Functions that fail throw CFileException, except
 // where they return a BOOL. Positions and lengths count bytes and have 64 bits.
@@ -125,6 +124,14 @@ public:
     virtual CString GetFileTitle() const;
     // Gives the object a path; the file of that name need not exist and is not touched.
     virtual void SetFilePath(LPCTSTR lpszNewName);
+
+    // Times, size and attributes, of the open file or of a closed one; FALSE when they cannot be had.
+    BOOL GetStatus(CFileStatus& rStatus) const;
+    static BOOL PASCAL GetStatus(LPCTSTR lpszFileName, CFileStatus& rStatus,
+                                 CAtlTransactionManager* pTM = NULL);
+    // Sets the attributes and, when m_mtime is not 0, the times that are not 0.
+    static void PASCAL SetStatus(LPCTSTR lpszFileName, const CFileStatus& status,
+                                 CAtlTransactionManager* pTM = NULL);
 
     static void PASCAL Rename(LPCTSTR lpszOldName, LPCTSTR lpszNewName, CAtlTransactionManager* pTM = NULL);
     static void PASCAL Remove(LPCTSTR lpszFileName, CAtlTransactionManager* pTM = NULL);

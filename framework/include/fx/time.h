@@ -69,6 +69,9 @@ public:
     CString FormatGmt(LPCTSTR pszFormat) const;
     CString FormatGmt(UINT nFormatID) const;
 
+    // Stores or loads the time.
+    CArchive& Serialize64(CArchive& ar);
+
 private:
     struct tm LocalParts() const throw();
 

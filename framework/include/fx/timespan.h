@@ -5,6 +5,8 @@
 
 #include <ctime>
 
+class CArchive;
+
 // A number of seconds, positive or negative. The parts (days, hours of the day ...) all have its sign.
 class QFX_API CTimeSpan
 {
@@ -49,6 +51,9 @@ public:
     CString Format(LPCSTR pFormat) const;
     CString Format(LPCTSTR pszFormat) const;
     CString Format(UINT nID) const;
+
+    // Stores or loads the span.
+    CArchive& Serialize64(CArchive& ar);
 
 private:
     __time64_t m_timeSpan;

@@ -27,8 +27,8 @@ endfunction()
 # quor_add_test(name [CONSOLE] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
 #
 # Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder, which is <name> unless given) and adds
-# it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and get the harness of tests/support; CONSOLE programs use neither. A folder that
-# has no sources yet is skipped.
+# it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and
+# get the harness of tests/support; CONSOLE programs use neither. A folder that has no sources yet is skipped.
 function(quor_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
     if(NOT arg_FOLDER)

@@ -10,3 +10,4 @@
 #include "fx/statusbar.h"
 #include "fx/dialogbar.h"
 #include "fx/splitterwnd.h"
+#include "fx/printinfo.h"

@@ -66,7 +66,8 @@ public:
     // Shows the title, with the document's if bAddToTitle and FWS_ADDTOTITLE are set.
     virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
 
-    // Sends the views their initial update, makes the first one active, and shows the frame if bMakeVisible.
+    // Sends the views their initial update, makes the first one active, and shows the frame if bMakeVisible;
+    // the main window is shown as CWinApp::m_nCmdShow says.
     void InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible);
     // Shows the frame with a SW_ code (-1: as it is) and brings it to the top.
     virtual void ActivateFrame(int nCmdShow = -1);
@@ -144,10 +145,17 @@ protected:
     afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnQueryEndSession();
+    afx_msg void OnEndSession(BOOL bEnding);
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    int CreateContents(LPCREATESTRUCT lpCreateStruct, CCreateContext* pContext);
+    bool IsMainWindow() const;
+    CString DocumentTitle();
+    int TakeShowCommand() const;
+
     // What LoadAccelTable loaded, to be given back with the frame.
     HACCEL m_hLoadedAccelTable;
     // Lays out at the next idle time.
@@ -159,4 +167,10 @@ private:
     quorfx::FrameBars* m_pBars;
 
     friend struct quorfx::BarAccess;
+    // The number among the frames of one document; 0 for the only one.
+    int m_nWindow;
+
+    friend class CDocument;
+    friend class CMDIChildWnd;
+    friend class CMDIFrameWnd;
 };

@@ -4,9 +4,19 @@
 #include "fx/config.h"
 #include "fx/cmdtarget.h"
 #include "fx/string.h"
+#include "fx/position.h"
 #include "atltypes.h"
+#include <vector>
 
+class CCommandLineInfo;
+class CDocTemplate;
+class CDocument;
+class CRecentFileList;
 class CWnd;
+
+// How many recently used files a program shows unless it says otherwise, and at most.
+#define _AFX_MRU_COUNT 4
+#define _AFX_MRU_MAX_COUNT 16
 
 // A thread with a message loop. The main thread's object is the CWinApp.
 class QFX_API CWinThread : public CCmdTarget
@@ -84,6 +94,36 @@ public:
     HICON LoadIcon(UINT nIDResource) const;
     HICON LoadStandardIcon(LPCTSTR lpszIconName) const { return ::LoadIcon(NULL, lpszIconName); }
 
+    // The kinds of documents. They belong to the application from then on.
+    void AddDocTemplate(CDocTemplate* pTemplate);
+    POSITION GetFirstDocTemplatePosition() const;
+    CDocTemplate* GetNextDocTemplate(POSITION& pos) const;
+    // Opens the file with the template that it fits best, or shows the document that has it open already.
+    // NULL on failure, of which the user has been told.
+    virtual CDocument* OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU = TRUE);
+    virtual void AddToRecentFileList(LPCTSTR lpszPathName);
+    // Asks about every modified document; FALSE when what is going on must stop.
+    virtual BOOL SaveAllModified();
+    // Asks nobody. Call HideApplication before it when the program ends.
+    void CloseAllDocuments(BOOL bEndSession);
+    void HideApplication();
+
+    // The command line of the process, parameter by parameter.
+    void ParseCommandLine(CCommandLineInfo& rCmdInfo);
+    // Does what the command line says. FALSE when the program is to end: InitInstance then returns FALSE.
+    BOOL ProcessShellCommand(CCommandLineInfo& rCmdInfo);
+    // Called for the command line /Register and /Unregister; the bases do nothing more than return TRUE.
+    virtual BOOL Register();
+    virtual BOOL Unregister();
+
+    // The commands ID_FILE_NEW and ID_FILE_OPEN, for the message maps of programs, which name them as
+    // &CWinApp::OnFileNew: that is why they are public. With several templates that have a name for it the
+    // user is asked for the kind of the new document.
+    afx_msg void OnFileNew();
+    afx_msg void OnFileOpen();
+    // The command ID_FILE_PRINT_SETUP. The framework has no printing, and this tells the user so.
+    afx_msg void OnFilePrintSetup();
+
     // All AfxMessageBox calls come here.
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     // nCode 1 shows the hourglass, -1 takes it back, 0 restores it.
@@ -107,10 +147,26 @@ protected:
     DECLARE_MESSAGE_MAP()
 
     void SetRegistryKey(LPCTSTR lpszRegistryKey);
+    // Reads the recently used files, at most nMaxMRU, from the settings; call it in InitInstance, after
+    // SetRegistryKey.
+    void LoadStdProfileSettings(UINT nMaxMRU = _AFX_MRU_COUNT);
+    // Enters the templates' kinds of files, with program, icon and name, into the registry, or takes them
+    // out. Call EnableShellOpen before it.
+    void EnableShellOpen();
+    void RegisterShellFileTypes(BOOL bCompat = FALSE);
+    void UnregisterShellFileTypes();
     // The command ID_APP_EXIT: closes the main window.
     afx_msg void OnAppExit();
 
 private:
+    afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
+    afx_msg BOOL OnOpenRecentFile(UINT nID);
+    void SaveRecentFiles();
+    void PrintAndClose(const CCommandLineInfo& commandLine);
+    void DeleteDocTemplates();
+
+    std::vector<CDocTemplate*> m_docTemplates;
+    CRecentFileList* m_pRecentFileList;
     CString m_appName;
     CString m_exeName;
     CString m_registryKey;

@@ -1,14 +1,12 @@
-// CDocument, CView and CScrollView: what a frame shows.
+// CView and CScrollView: what a frame shows.
 #pragma once
 
-#include "fx/position.h"
-#include "fx/string.h"
+#include "fx/document.h"
 #include "fx/wnd.h"
 #include "atltypes.h"
-#include <vector>
 
-class CDocument;
 class CFrameWnd;
+class CPreviewView;
 class CView;
 struct CPrintInfo;
 
@@ -19,55 +17,12 @@ struct CCreateContext
     CRuntimeClass* m_pNewViewClass = NULL;
     // The document the view shows.
     CDocument* m_pCurrentDoc = NULL;
+    // The template that creates the frame.
+    CDocTemplate* m_pNewDocTemplate = NULL;
     // The frame of an existing window that the new one resembles.
     CFrameWnd* m_pCurrentFrame = NULL;
     // The last view of the document.
     CView* m_pLastView = NULL;
-};
-
-// Data that views show: keeps the list of its views and tells them about changes. It owns no view.
-class QFX_API CDocument : public CCmdTarget
-{
-    DECLARE_DYNAMIC(CDocument)
-
-public:
-    CDocument();
-    virtual ~CDocument();
-
-    const CString& GetTitle() const { return m_strTitle; }
-    // Also refreshes the titles of the views' frames.
-    virtual void SetTitle(LPCTSTR lpszTitle);
-    virtual BOOL IsModified() { return m_bModified; }
-    virtual void SetModifiedFlag(BOOL bModified = TRUE) { m_bModified = bModified; }
-
-    // The views, in the order of their addition. A view belongs to one document at most.
-    void AddView(CView* pView);
-    void RemoveView(CView* pView);
-    virtual POSITION GetFirstViewPosition() const;
-    // Returns the view and moves on; rPosition becomes NULL after the last one.
-    virtual CView* GetNextView(POSITION& rPosition) const;
-    // Calls OnUpdate of every view but the sender.
-    void UpdateAllViews(CView* pSender, LPARAM lHint = 0L, CObject* pHint = NULL);
-
-    // Starts a new document: empties it and clears the modified flag. FALSE refuses.
-    virtual BOOL OnNewDocument();
-    // Called to empty the document.
-    virtual void DeleteContents();
-    // Called when views came or went. The base closes the document after its last view if m_bAutoDelete is
-    // set.
-    virtual void OnChangedViewList();
-    // Destroys the frames of all views and empties the document; deletes it if m_bAutoDelete is set.
-    virtual void OnCloseDocument();
-
-    // TRUE (the default): the document was created with new and goes with its last view.
-    BOOL m_bAutoDelete;
-
-protected:
-    CString m_strTitle;
-    BOOL m_bModified;
-
-private:
-    std::vector<CView*> m_views;
 };
 
 // A child window that shows a document inside a frame. Created on the heap, by its run-time class or by new;
@@ -91,13 +46,34 @@ public:
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
     // The scroll bar that the panes of a splitter share.
     virtual CScrollBar* GetScrollBarCtrl(int nBar) const;
+    // Called before OnDraw and OnPrint. The base does nothing.
+    virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
+    // For views that can tell what is selected, and that scroll; the bases do nothing and return FALSE.
+    virtual BOOL IsSelected(const CObject* pDocItem) const;
+    virtual BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE);
+    virtual BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE);
+
+    // The framework has no printing: this returns FALSE, as it does when the user cancels the print dialog,
+    // so that nothing is printed.
+    BOOL DoPreparePrinting(CPrintInfo* pInfo);
+    // The commands ID_FILE_PRINT and ID_FILE_PRINT_PREVIEW: ask OnPreparePrinting, and end there. Programs
+    // name them in the message maps of their views as &CView::OnFilePrint: that is why they are public.
+    afx_msg void OnFilePrint();
+    afx_msg void OnFilePrintPreview();
 
 protected:
+    // What a program overrides to print. OnPreparePrinting returns FALSE, OnPrint calls OnDraw, the others do
+    // nothing.
+    virtual BOOL OnPreparePrinting(CPrintInfo* pInfo);
+    virtual void OnBeginPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnPrint(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnEndPrinting(CDC* pDC, CPrintInfo* pInfo);
+    virtual void OnEndPrintPreview(CDC* pDC, CPrintInfo* pInfo, POINT point, CPreviewView* pView);
+
     // Called when the document changed. The base repaints everything.
     virtual void OnUpdate(CView* pSender, LPARAM lHint, CObject* pHint);
     // Paints the view; the device context is prepared by OnPrepareDC.
     virtual void OnDraw(CDC* pDC) = 0;
-    virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
     // Called when the view becomes the frame's active one or stops being it. The base takes the focus.
     virtual void OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView);
     // Called when the frame of the active view is activated or deactivated.
@@ -121,6 +97,8 @@ protected:
 
     friend class CDocument;
     friend class CFrameWnd;
+    friend class CMDIChildWnd;
+    friend class CMDIFrameWnd;
 };
 
 // A view larger than its window, with scroll bars. Sizes and positions are in logical units of the mapping
@@ -157,10 +135,9 @@ public:
     // pixels. FALSE if nothing moved. bDoScroll FALSE only asks.
     virtual BOOL OnScroll(UINT nScrollCode, UINT nPos, BOOL bDoScroll = TRUE);
     virtual BOOL OnScrollBy(CSize sizeScroll, BOOL bDoScroll = TRUE);
-
-protected:
     virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
 
+protected:
     // Sets range and page of the scroll bars for the window's size, and keeps the position inside.
     void UpdateBars();
     // Sizes and points of the mapping mode in device pixels, never negative, and back.

@@ -78,15 +78,30 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
     }
 }
 
+// The name of the active document, with the frame's number when the document has several.
+CString CFrameWnd::DocumentTitle()
+{
+    CDocument* document = GetActiveDocument();
+    if (document == NULL || document->GetTitle().IsEmpty())
+        return CString();
+    CString title = document->GetTitle();
+    if (m_nWindow > 0)
+    {
+        CString number;
+        number.Format(_T(":%d"), m_nWindow);
+        title += number;
+    }
+    return title;
+}
+
 void CFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle)
 {
     if ((GetStyle() & FWS_ADDTOTITLE) == 0)
         return;
-    CDocument* document = GetActiveDocument();
+    const CString name = bAddToTitle ? DocumentTitle() : CString();
     CString title = m_strTitle;
-    if (bAddToTitle && document != NULL && !document->GetTitle().IsEmpty())
+    if (!name.IsEmpty())
     {
-        const CString name = document->GetTitle();
         const bool documentFirst = (GetStyle() & FWS_PREFIXTITLE) != 0;
         title = documentFirst ? name + _T(" - ") + m_strTitle : m_strTitle + _T(" - ") + name;
     }

@@ -14,6 +14,8 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_ACTIVATE()
     ON_WM_INITMENUPOPUP()
     ON_WM_MENUSELECT()
+    ON_WM_QUERYENDSESSION()
+    ON_WM_ENDSESSION()
     ON_NOTIFY_EX_RANGE(TTN_NEEDTEXT, 0, 0xffff, &CFrameWnd::OnToolTipText)
     ON_MESSAGE(WM_SETMESSAGESTRING, &CFrameWnd::OnSetMessageString)
     ON_MESSAGE(WM_POPMESSAGESTRING, &CFrameWnd::OnPopMessageString)
@@ -51,7 +53,8 @@ CFrameWnd::CFrameWnd()
       m_hLoadedAccelTable(NULL),
       m_bLayoutIsDue(FALSE),
       m_rectBorder(0, 0, 0, 0),
-      m_pBars(NULL)
+      m_pBars(NULL),
+      m_nWindow(0)
 {
 }
 
@@ -125,10 +128,14 @@ BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 
 int CFrameWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
 {
+    return CreateContents(lpCreateStruct, static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams));
+}
+
+int CFrameWnd::CreateContents(LPCREATESTRUCT lpCreateStruct, CCreateContext* pContext)
+{
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
-    CCreateContext* context = static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams);
-    if (!OnCreateClient(lpCreateStruct, context))
+    if (!OnCreateClient(lpCreateStruct, pContext))
     {
         TRACE(_T("Frame: the client area could not be created.\n"));
         return -1;
@@ -162,11 +169,6 @@ void CFrameWnd::OnDestroy()
 {
     SetActiveView(NULL);
     CWnd::OnDestroy();
-}
-
-void CFrameWnd::OnClose()
-{
-    DestroyWindow();
 }
 
 void CFrameWnd::PostNcDestroy()
@@ -241,7 +243,18 @@ CFrameWnd* CFrameWnd::GetActiveFrame()
     return this;
 }
 
-void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible)
+// How the main window is shown first is what whoever started the program wants.
+int CFrameWnd::TakeShowCommand() const
+{
+    CWinApp* const application = AfxGetApp();
+    if (application == NULL || !IsMainWindow())
+        return -1;
+    const int command = application->m_nCmdShow;
+    application->m_nCmdShow = -1;
+    return command;
+}
+
+void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible)
 {
     if (m_pViewActive == NULL)
     {
@@ -254,10 +267,12 @@ void CFrameWnd::InitialUpdateFrame(CDocument*, BOOL bMakeVisible)
         CView* view = m_pViewActive;
         if (view != NULL)
             view->OnActivateFrame(WA_INACTIVE, this);
-        ActivateFrame(-1);
+        ActivateFrame(TakeShowCommand());
         if (view != NULL)
             view->OnActivateView(TRUE, view, view);
     }
+    if (pDoc != NULL)
+        pDoc->NumberFrames();
     OnUpdateFrameTitle(TRUE);
 }
 

@@ -85,6 +85,21 @@ void CView::OnPaint()
 
 void CView::OnPrepareDC(CDC*, CPrintInfo*) {}
 
+BOOL CView::IsSelected(const CObject*) const
+{
+    return FALSE;
+}
+
+BOOL CView::OnScroll(UINT, UINT, BOOL)
+{
+    return FALSE;
+}
+
+BOOL CView::OnScrollBy(CSize, BOOL)
+{
+    return FALSE;
+}
+
 BOOL CView::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))

@@ -1,11 +1,13 @@
 // CWinApp: the application object.
-#include "afxwin.h"
+#include "afxadv.h"
 #include "thread/ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
     ON_COMMAND(ID_APP_EXIT, OnAppExit)
+    ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
+    ON_COMMAND_EX_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE16, &CWinApp::OnOpenRecentFile)
 END_MESSAGE_MAP()
 
 namespace
@@ -41,6 +43,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
       m_pszExeName(NULL),
       m_pszRegistryKey(NULL),
       m_pszProfileName(NULL),
+      m_pRecentFileList(NULL),
       m_exeName(ProgramName()),
       m_waitCursorCount(0),
       m_waitCursorRestore(NULL)
@@ -59,6 +62,8 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
 
 CWinApp::~CWinApp()
 {
+    DeleteDocTemplates();
+    delete m_pRecentFileList;
     AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
     if (state.m_pCurrentWinApp == this)
     {
@@ -87,6 +92,7 @@ int CWinApp::Run()
 
 int CWinApp::ExitInstance()
 {
+    SaveRecentFiles();
     return CWinThread::ExitInstance();
 }
 

@@ -1,0 +1,47 @@
+// CFrameWnd: closing, and the end of the session.
+#include "frame/FrameMessages.h"
+
+bool CFrameWnd::IsMainWindow() const
+{
+    CWinApp* const application = AfxGetApp();
+    return application != NULL && application->m_pMainWnd == this;
+}
+
+// Without an active document, as in a frame of many documents, all documents are asked about.
+void CFrameWnd::OnClose()
+{
+    CDocument* const document = GetActiveDocument();
+    CWinApp* const application = AfxGetApp();
+    const bool isMain = IsMainWindow();
+    if (document != NULL && !document->CanCloseFrame(this))
+        return;
+    if (isMain && document == NULL && !application->SaveAllModified())
+        return;
+    const HWND window = m_hWnd;
+    if (isMain)
+    {
+        application->HideApplication();
+        application->CloseAllDocuments(FALSE);
+    }
+    else if (document != NULL)
+    {
+        document->PreCloseFrame(this);
+    }
+    // The last document may have taken the frame, and this object, with it.
+    if (::IsWindow(window))
+        DestroyWindow();
+}
+
+BOOL CFrameWnd::OnQueryEndSession()
+{
+    return !IsMainWindow() || AfxGetApp()->SaveAllModified();
+}
+
+void CFrameWnd::OnEndSession(BOOL bEnding)
+{
+    if (!bEnding || !IsMainWindow())
+        return;
+    CWinApp* const application = AfxGetApp();
+    application->CloseAllDocuments(TRUE);
+    application->ExitInstance();
+}

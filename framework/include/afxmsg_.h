@@ -284,6 +284,9 @@
 #define ON_WM_INPUTLANGCHANGE()                                                                              \
     AFX_WM_ENTRY(WM_INPUTLANGCHANGE, AfxSig_uintUint, OnInputLangChange, void, UINT, UINT)
 
+#define ON_WM_MDIACTIVATE()                                                                                  \
+    AFX_WM_ENTRY(WM_MDIACTIVATE, AfxSig_mdiActivate, OnMDIActivate, void, BOOL, CWnd*, CWnd*)
+
 // Messages that a parent reflects to the control they came from; see CWnd::OnChildNotify.
 #define ON_WM_CTLCOLOR_REFLECT()                                                                             \
     AFX_WM_ENTRY(WM_CTLCOLOR + WM_REFLECT_BASE, AfxSig_reflectCtlColor, CtlColor, HBRUSH, CDC*, UINT)

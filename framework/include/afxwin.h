@@ -16,6 +16,7 @@
 #include "fx/dialog.h"
 #include "fx/frame.h"
 #include "fx/miniframe.h"
+#include "fx/mdiframe.h"
 #include "fx/commandlineinfo.h"
 #include "fx/view.h"
 #include "fx/doctemplate.h"

@@ -91,6 +91,7 @@ enum AfxSig
     AfxSig_dropFiles,        // void (HDROP)
     AfxSig_hotKey,           // void (UINT, UINT, UINT), lParam split
     AfxSig_uintUint,         // void (UINT, UINT)
+    AfxSig_mdiActivate,      // void (BOOL, CWnd*, CWnd*)
 
     // Reflected window messages.
     AfxSig_reflectCtlColor,   // HBRUSH (CDC*, UINT)

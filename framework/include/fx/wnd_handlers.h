@@ -76,6 +76,9 @@ afx_msg void OnNcMButtonDown(UINT nHitTest, CPoint screenPoint);
 afx_msg void OnNcMButtonUp(UINT nHitTest, CPoint screenPoint);
 afx_msg void OnNcMButtonDblClk(UINT nHitTest, CPoint screenPoint);
 afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
+// To a child of an MDI client window: whether it becomes active; the children that become active and
+// inactive.
+afx_msg void OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeactivateWnd);
 afx_msg void OnActivateApp(BOOL bActive, DWORD dwThreadID);
 afx_msg void OnDrawItem(int nIDCtl, LPDRAWITEMSTRUCT lpDrawItemStruct);
 afx_msg void OnMeasureItem(int nIDCtl, LPMEASUREITEMSTRUCT lpMeasureItemStruct);

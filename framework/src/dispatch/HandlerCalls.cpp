@@ -136,6 +136,13 @@ LRESULT CallMouseActivate(const Call& call)
     return call.As<int, CWnd*, UINT, UINT>(call.WordWindow(), call.LowLong(), call.HighLong());
 }
 
+// The child is told which one becomes active instead of which one it is for.
+LRESULT CallMdiActivate(const Call& call)
+{
+    const BOOL isActivated = call.LongPointer<HWND>() == call.window.m_hWnd;
+    return call.As<void, BOOL, CWnd*, CWnd*>(isActivated, call.LongWindow(), call.WordWindow());
+}
+
 // Indexed by AfxSig; the order is that of the enumeration.
 constexpr Decoder Decoders[] = {
     nullptr,
@@ -192,6 +199,7 @@ constexpr Decoder Decoders[] = {
     [](const Call& c) { return c.As<void, HDROP>(c.WordPointer<HDROP>()); },
     [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); },
     [](const Call& c) { return c.As<void, UINT, UINT>(c.Word(), static_cast<UINT>(c.lParam)); },
+    CallMdiActivate,
     CallReflectedCtlColor,
     [](const Call& c) { return c.As<void, UINT, UINT>(c.LowWord(), c.HighWord()); },
     [](const Call& c) { return c.As<int, void*>(c.LongPointer<void*>()); },

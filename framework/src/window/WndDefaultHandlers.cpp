@@ -285,6 +285,10 @@ void CWnd::OnActivate(UINT, CWnd*, BOOL)
 {
     Default();
 }
+void CWnd::OnMDIActivate(BOOL, CWnd*, CWnd*)
+{
+    Default();
+}
 void CWnd::OnActivateApp(BOOL, DWORD)
 {
     Default();

@@ -213,6 +213,8 @@ protected:
         CDocument* pDoc = GetActiveDocument();
         if (pDoc->IsModified() && AfxMessageBox(IDS_DISCARD, MB_YESNO | MB_ICONQUESTION) != IDYES)
             return;
+        // The question has been asked.
+        pDoc->SetModifiedFlag(FALSE);
         CFrameWnd::OnClose();
     }
 

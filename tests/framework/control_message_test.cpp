@@ -3,6 +3,7 @@
 #include "tests/support/HostWindow.h"
 
 #include <afxcmn.h>
+#include <afxdtctl.h>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -343,6 +344,24 @@ TEST(ControlMessages, RealListBoxAndScrollBar)
     CRect place;
     bar.GetWindowRect(&place);
     EXPECT_EQ(place, CRect(info.rcScrollBar));
+}
+
+// Not with the platform's control, which keeps a font of its own for each font it is given.
+TEST(ControlMessages, FontOfThePickersCalendar)
+{
+    RecordingWindow window;
+    CDateTimeCtrl picker;
+    picker.Attach(window);
+    CFont font;
+    ASSERT_TRUE(font.CreatePointFont(120, L"Tahoma"));
+    picker.SetMonthCalFont(font, FALSE);
+    EXPECT_EQ(static_cast<UINT>(DTM_SETMCFONT), window.last.message);
+    EXPECT_EQ(reinterpret_cast<WPARAM>(font.GetSafeHandle()), window.last.wParam);
+    EXPECT_EQ(FALSE, window.last.lParam);
+    window.answer = reinterpret_cast<LRESULT>(font.GetSafeHandle());
+    EXPECT_EQ(&font, picker.GetMonthCalFont());
+    EXPECT_EQ(static_cast<UINT>(DTM_GETMCFONT), window.last.message);
+    picker.Detach();
 }
 
 TEST(ControlMessages, TabStructure_CarriesTheState)

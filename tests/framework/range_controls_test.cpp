@@ -183,10 +183,6 @@ TEST_F(PickerWrapper, LookOfTheCalendar)
     EXPECT_TRUE(m_picker.SetFormat(L"yyyy'/'MM"));
     m_picker.SetMonthCalColor(MCSC_TEXT, RGB(1, 2, 3));
     EXPECT_EQ(RGB(1, 2, 3), m_picker.GetMonthCalColor(MCSC_TEXT));
-    CFont font;
-    font.CreatePointFont(120, L"Tahoma");
-    m_picker.SetMonthCalFont(font);
-    EXPECT_EQ(&font, m_picker.GetMonthCalFont());
     EXPECT_EQ(reinterpret_cast<HWND>(::SendMessage(m_picker, DTM_GETMONTHCAL, 0, 0)),
               m_picker.GetMonthCalCtrl()->GetSafeHwnd());
 }

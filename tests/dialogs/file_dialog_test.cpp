@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <set>
 
 namespace
 {
@@ -59,9 +60,34 @@ protected:
     }
 };
 
+// The accelerator tables of this process.
+std::set<HACCEL> AcceleratorTables()
+{
+    // Under Wine a handle without its upper word stands for the object as well.
+    std::set<HACCEL> tables;
+    for (UINT_PTR slot = 0x20; slot < 0xfff0; slot += 2)
+    {
+        if (::CopyAcceleratorTable(reinterpret_cast<HACCEL>(slot), NULL, 0) != 0)
+            tables.insert(reinterpret_cast<HACCEL>(slot));
+    }
+    return tables;
+}
+
 class FileDialog : public testing::Test
 {
 protected:
+    static void SetUpTestSuite() { s_tablesBefore = AcceleratorTables(); }
+    // The list of files leaves the table of its keys behind, each time the system shows one.
+    static void TearDownTestSuite()
+    {
+        for (const HACCEL table : AcceleratorTables())
+        {
+            if (s_tablesBefore.count(table) == 0)
+                ::DestroyAcceleratorTable(table);
+        }
+        std::set<HACCEL>().swap(s_tablesBefore);
+    }
+
     void TearDown() override
     {
         for (const ShownMessage& box : m_boxes.Shown())
@@ -75,7 +101,9 @@ protected:
     MessageBoxProbe m_boxes;
     HostWindow m_host;
     TemporaryFolder m_folder;
+    static std::set<HACCEL> s_tablesBefore;
 };
+std::set<HACCEL> FileDialog::s_tablesBefore;
 
 constexpr DWORD kOpenFlags = OFN_HIDEREADONLY | OFN_FILEMUSTEXIST;
 

@@ -95,7 +95,8 @@ protected:
     void TearDown() override
     {
         AfxGetThread()->m_pMainWnd = NULL;
-        frame->DestroyWindow();
+        if (frame != NULL)
+            frame->DestroyWindow();
     }
 
     void Show()
@@ -121,7 +122,7 @@ protected:
         return rect.CenterPoint();
     }
 
-    BarFrame* frame;
+    BarFrame* frame; // NULL when a test has destroyed it
 };
 
 } // namespace quor::test

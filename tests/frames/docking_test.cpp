@@ -218,7 +218,7 @@ TEST_F(Docking, DestroyedFrame_TakesFloatingBarsAlong)
     frame->DestroyWindow();
     EXPECT_FALSE(::IsWindow(floating));
     EXPECT_EQ(second.m_hWnd, nullptr);
-    frame = new BarFrame;
+    frame = NULL;
 }
 
 TEST_F(Docking, DragOfTheGripper_DocksAtAnotherEdge)

@@ -1,0 +1,5 @@
+// Synchronisation of threads.
+#pragma once
+
+#include "afx.h"
+#include "fx/sync.h"

@@ -22,6 +22,7 @@
 #include <windows.h>
 #include <windowsx.h>
 #include <commctrl.h>
+#include <htmlhelp.h>
 #include <tchar.h>
 #include <malloc.h>
 

@@ -307,6 +307,15 @@ public:
     BOOL IsTopParentActive() const;
     void ActivateTopParent();
 
+    // ---- Help: shows it through the application.
+    virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
+    virtual void HtmlHelp(DWORD_PTR dwData, UINT nCmd = 0x000F);
+    afx_msg void OnHelp();
+    afx_msg void OnHelpIndex();
+    afx_msg void OnHelpFinder();
+    afx_msg void OnHelpUsing();
+
+
     // ---- Tool tips.
     BOOL EnableToolTips(BOOL bEnable = TRUE);
     // Describes the tool at a client point: fills *pTI and returns a number that differs from tool to tool,

@@ -64,6 +64,8 @@ CWinApp* AFXAPI AfxGetApp()
 
 LPCTSTR AFXAPI AfxGetAppName()
 {
-    const LPCTSTR name = AfxGetModuleState()->m_lpszCurrentAppName;
+    // A program may replace the name that its object has.
+    const CWinApp* const app = AfxGetApp();
+    const LPCTSTR name = app != NULL ? app->m_pszAppName : AfxGetModuleState()->m_lpszCurrentAppName;
     return name != NULL ? name : _T("");
 }

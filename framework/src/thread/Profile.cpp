@@ -1,5 +1,8 @@
-// CWinApp: settings in the registry.
+// CWinApp: settings in the registry or in an .INI file.
 #include "afxwin.h"
+#include "controls/CommonControls.h"
+
+#include <vector>
 
 namespace
 {
@@ -26,82 +29,186 @@ public:
                                 NULL) == ERROR_SUCCESS;
     }
     HKEY Get() const { return m_key; }
+    // Gives the key to the caller.
+    HKEY Release() { return std::exchange(m_key, static_cast<HKEY>(NULL)); }
 
 private:
     HKEY m_key = NULL;
 };
 
-CString SectionPath(LPCTSTR company, LPCTSTR application, LPCTSTR section)
+CString KeyPath(const CWinApp& app, LPCTSTR section)
 {
     CString path(_T("Software\\"));
-    if (company != NULL)
-    {
-        path += company;
-        path += _T('\\');
-    }
-    path += application;
+    path += app.m_pszRegistryKey;
     path += _T('\\');
-    path += section;
+    path += app.m_pszProfileName;
+    if (section != NULL)
+    {
+        path += _T('\\');
+        path += section;
+    }
     return path;
+}
+
+// One value of a section. Reading and writing bytes of the wrong type or size fails.
+bool ReadValue(const CWinApp& app, LPCTSTR section, LPCTSTR entry, DWORD wantedType, std::vector<BYTE>& value)
+{
+    RegistryKey key;
+    DWORD type = 0;
+    DWORD size = 0;
+    if (!key.Open(KeyPath(app, section), KEY_READ) ||
+        ::RegQueryValueEx(key.Get(), entry, NULL, &type, NULL, &size) != ERROR_SUCCESS || type != wantedType)
+        return false;
+    value.resize(size);
+    return ::RegQueryValueEx(key.Get(), entry, NULL, &type, value.data(), &size) == ERROR_SUCCESS;
+}
+
+BOOL WriteValue(const CWinApp& app, LPCTSTR section, LPCTSTR entry, DWORD type, const void* bytes,
+                size_t size)
+{
+    RegistryKey key;
+    return key.Create(KeyPath(app, section)) &&
+           ::RegSetValueEx(key.Get(), entry, 0, type, static_cast<const BYTE*>(bytes),
+                           static_cast<DWORD>(size)) == ERROR_SUCCESS;
+}
+
+BOOL DeleteSectionOrEntry(CWinApp& app, LPCTSTR section, LPCTSTR entry)
+{
+    const CString path = KeyPath(app, section);
+    if (entry == NULL)
+        return app.DelRegTree(HKEY_CURRENT_USER, path) == ERROR_SUCCESS;
+    RegistryKey key;
+    return key.Create(path) && ::RegDeleteValue(key.Get(), entry) == ERROR_SUCCESS;
+}
+
+// Replaces one of the application's texts, which are blocks of malloc.
+void Replace(LPCTSTR& text, LPCTSTR replacement)
+{
+    std::free(const_cast<LPTSTR>(text));
+    text = _tcsdup(replacement);
+}
+
+// Bytes in an .INI file: two letters each, the low half first.
+CString LettersOf(const BYTE* bytes, UINT count)
+{
+    CString letters;
+    for (UINT i = 0; i < count; ++i)
+    {
+        letters += static_cast<TCHAR>(_T('A') + (bytes[i] & 0xf));
+        letters += static_cast<TCHAR>(_T('A') + (bytes[i] >> 4));
+    }
+    return letters;
+}
+
+std::vector<BYTE> BytesOf(const CString& letters)
+{
+    std::vector<BYTE> bytes;
+    for (int i = 0; i + 1 < letters.GetLength(); i += 2)
+        bytes.push_back(
+            static_cast<BYTE>((letters[i] - _T('A')) | static_cast<BYTE>((letters[i + 1] - _T('A')) << 4)));
+    return bytes;
 }
 
 } // namespace
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey)
 {
-    m_registryKey = lpszRegistryKey;
-    m_pszRegistryKey = m_registryKey;
+    ASSERT(lpszRegistryKey != NULL);
+    Replace(m_pszRegistryKey, lpszRegistryKey);
+    Replace(m_pszProfileName, m_pszAppName);
+}
+
+void CWinApp::SetRegistryKey(UINT nIDRegistryKey)
+{
+    CString key;
+    if (!key.LoadString(nIDRegistryKey))
+        AfxThrowResourceException();
+    SetRegistryKey(key);
+}
+
+HKEY CWinApp::GetAppRegistryKey(CAtlTransactionManager* pTM)
+{
+    return GetSectionKey(NULL, pTM);
+}
+
+HKEY CWinApp::GetSectionKey(LPCTSTR lpszSection, CAtlTransactionManager*)
+{
+    RegistryKey key;
+    return m_pszRegistryKey != NULL && key.Create(KeyPath(*this, lpszSection)) ? key.Release() : NULL;
+}
+
+LONG CWinApp::DelRegTree(HKEY hParentKey, const CString& strKeyName, CAtlTransactionManager*)
+{
+    return static_cast<LONG>(::RegDeleteTree(hParentKey, strKeyName));
 }
 
 UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault)
 {
-    RegistryKey key;
-    DWORD value = 0;
-    DWORD size = sizeof(value);
-    DWORD type = 0;
-    if (!key.Open(SectionPath(m_pszRegistryKey, m_pszProfileName, lpszSection), KEY_READ) ||
-        ::RegQueryValueEx(key.Get(), lpszEntry, NULL, &type, reinterpret_cast<BYTE*>(&value), &size) !=
-            ERROR_SUCCESS ||
-        type != REG_DWORD)
-        return static_cast<UINT>(nDefault);
+    if (m_pszRegistryKey == NULL)
+        return ::GetPrivateProfileInt(lpszSection, lpszEntry, nDefault, m_pszProfileName);
+    std::vector<BYTE> bytes;
+    UINT value = static_cast<UINT>(nDefault);
+    if (ReadValue(*this, lpszSection, lpszEntry, REG_DWORD, bytes) && bytes.size() == sizeof value)
+        std::memcpy(&value, bytes.data(), sizeof value);
     return value;
 }
 
 BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue)
 {
-    RegistryKey key;
-    return key.Create(SectionPath(m_pszRegistryKey, m_pszProfileName, lpszSection)) &&
-           ::RegSetValueEx(key.Get(), lpszEntry, 0, REG_DWORD, reinterpret_cast<const BYTE*>(&nValue),
-                           sizeof(nValue)) == ERROR_SUCCESS;
+    if (m_pszRegistryKey != NULL)
+        return WriteValue(*this, lpszSection, lpszEntry, REG_DWORD, &nValue, sizeof nValue);
+    CString text;
+    text.Format(_T("%d"), nValue);
+    return ::WritePrivateProfileString(lpszSection, lpszEntry, text, m_pszProfileName);
 }
 
 CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault)
 {
-    RegistryKey key;
-    DWORD size = 0;
-    DWORD type = 0;
-    if (!key.Open(SectionPath(m_pszRegistryKey, m_pszProfileName, lpszSection), KEY_READ) ||
-        ::RegQueryValueEx(key.Get(), lpszEntry, NULL, &type, NULL, &size) != ERROR_SUCCESS || type != REG_SZ)
+    if (m_pszRegistryKey == NULL)
+        return quorfx::ReadText([&](LPTSTR buffer, int size) -> LPCTSTR {
+            const LPCTSTR otherwise = lpszDefault != NULL ? lpszDefault : _T("");
+            ::GetPrivateProfileString(lpszSection, lpszEntry, otherwise, buffer, static_cast<DWORD>(size),
+                                      m_pszProfileName);
+            return buffer;
+        });
+    std::vector<BYTE> bytes;
+    if (!ReadValue(*this, lpszSection, lpszEntry, REG_SZ, bytes))
         return CString(lpszDefault);
-    CString value;
-    LPTSTR const buffer = value.GetBuffer(static_cast<int>(size / sizeof(TCHAR)));
-    const LONG error =
-        ::RegQueryValueEx(key.Get(), lpszEntry, NULL, &type, reinterpret_cast<BYTE*>(buffer), &size);
-    value.ReleaseBuffer();
-    return error == ERROR_SUCCESS ? value : CString(lpszDefault);
+    // What another program has written need not end with a zero.
+    bytes.resize(bytes.size() + sizeof(TCHAR));
+    return CString(reinterpret_cast<LPCTSTR>(bytes.data()));
 }
 
 BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue)
 {
-    const CString path = SectionPath(m_pszRegistryKey, m_pszProfileName, lpszSection);
-    if (lpszEntry == NULL)
-        return ::RegDeleteKey(HKEY_CURRENT_USER, path) == ERROR_SUCCESS;
-    RegistryKey key;
-    if (!key.Create(path))
+    if (m_pszRegistryKey == NULL)
+        return ::WritePrivateProfileString(lpszSection, lpszEntry, lpszValue, m_pszProfileName);
+    if (lpszEntry == NULL || lpszValue == NULL)
+        return DeleteSectionOrEntry(*this, lpszSection, lpszEntry);
+    return WriteValue(*this, lpszSection, lpszEntry, REG_SZ, lpszValue,
+                      (_tcslen(lpszValue) + 1) * sizeof(TCHAR));
+}
+
+BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes)
+{
+    *ppData = NULL;
+    *pBytes = 0;
+    std::vector<BYTE> bytes;
+    if (m_pszRegistryKey == NULL)
+        bytes = BytesOf(GetProfileString(lpszSection, lpszEntry));
+    else if (!ReadValue(*this, lpszSection, lpszEntry, REG_BINARY, bytes))
         return FALSE;
-    if (lpszValue == NULL)
-        return ::RegDeleteValue(key.Get(), lpszEntry) == ERROR_SUCCESS;
-    const size_t bytes = (_tcslen(lpszValue) + 1) * sizeof(TCHAR);
-    return ::RegSetValueEx(key.Get(), lpszEntry, 0, REG_SZ, reinterpret_cast<const BYTE*>(lpszValue),
-                           static_cast<DWORD>(bytes)) == ERROR_SUCCESS;
+    if (m_pszRegistryKey == NULL && bytes.empty())
+        return FALSE;
+    *ppData = new BYTE[bytes.size()];
+    *pBytes = static_cast<UINT>(bytes.size());
+    std::copy(bytes.begin(), bytes.end(), *ppData);
+    return TRUE;
+}
+
+BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes)
+{
+    if (m_pszRegistryKey == NULL)
+        return WriteProfileString(lpszSection, lpszEntry, LettersOf(pData, nBytes));
+    return WriteValue(*this, lpszSection, lpszEntry, REG_BINARY, pData, nBytes);
 }

@@ -43,15 +43,18 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
       m_pszExeName(NULL),
       m_pszRegistryKey(NULL),
       m_pszProfileName(NULL),
+      m_pszHelpFilePath(NULL),
+      m_eHelpType(afxWinHelp),
+      m_bHelpMode(FALSE),
       m_pRecentFileList(NULL),
-      m_exeName(ProgramName()),
       m_waitCursorCount(0),
       m_waitCursorRestore(NULL)
 {
-    m_appName = TitleOf(lpszAppName, m_exeName);
-    m_pszAppName = m_appName;
-    m_pszExeName = m_exeName;
-    m_pszProfileName = m_pszAppName;
+    const CString programName = ProgramName();
+    m_pszAppName = _tcsdup(TitleOf(lpszAppName, programName));
+    m_pszExeName = _tcsdup(programName);
+    m_pszProfileName = _tcsdup(programName + _T(".INI"));
+    SetHelpMode(afxWinHelp);
     m_hThread = ::GetCurrentThread();
     m_nThreadID = ::GetCurrentThreadId();
     CurrentThreadState().thread = this;
@@ -62,6 +65,7 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
 
 CWinApp::~CWinApp()
 {
+    m_hThread = NULL; // not a handle that is to be closed
     DeleteDocTemplates();
     delete m_pRecentFileList;
     AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
@@ -70,6 +74,9 @@ CWinApp::~CWinApp()
         state.m_pCurrentWinApp = NULL;
         state.m_lpszCurrentAppName = NULL;
     }
+    for (const LPCTSTR text :
+         {m_pszAppName, m_pszExeName, m_pszRegistryKey, m_pszProfileName, m_pszHelpFilePath})
+        std::free(const_cast<LPTSTR>(text));
 }
 
 BOOL CWinApp::InitApplication()

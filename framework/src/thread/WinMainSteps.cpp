@@ -1,7 +1,9 @@
 // The start and the end of a program.
 #include "afxwin.h"
 #include "handlemap/TemporaryLevel.h"
+#include "thread/OleState.h"
 #include "thread/ThreadState.h"
+#include "window/ToolTips.h"
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)
 {
@@ -19,9 +21,6 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
     return TRUE;
 }
 
-namespace
-{
-
 void DestroyToolTipControl()
 {
     ToolTipState& tips = CurrentThreadState().toolTip;
@@ -29,6 +28,9 @@ void DestroyToolTipControl()
         ::DestroyWindow(tips.control);
     tips = ToolTipState();
 }
+
+namespace
+{
 
 int RunThread(CWinThread& thread)
 {
@@ -52,5 +54,6 @@ int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmd
         exitCode = RunThread(*thread);
     DestroyToolTipControl();
     DeleteTemporaryObjects();
+    LeaveOle();
     return exitCode;
 }

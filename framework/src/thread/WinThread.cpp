@@ -10,19 +10,12 @@ IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 BEGIN_MESSAGE_MAP(CWinThread, CCmdTarget)
 END_MESSAGE_MAP()
 
-CWinThread::CWinThread() : m_pMainWnd(NULL), m_pActiveWnd(NULL), m_hThread(NULL), m_nThreadID(0) {}
-
-CWinThread::~CWinThread()
-{
-    ThreadState& state = CurrentThreadState();
-    if (state.thread == this)
-        state.thread = nullptr;
-}
-
 CWinThread* AFXAPI AfxGetThread()
 {
-    CWinThread* const thread = CurrentThreadState().thread;
-    return thread != NULL ? thread : AfxGetApp();
+    if (CWinThread* const thread = CurrentThreadState().thread)
+        return thread;
+    CWinApp* const app = AfxGetApp();
+    return app != NULL && app->m_nThreadID == ::GetCurrentThreadId() ? app : NULL;
 }
 
 CWnd* AFXAPI AfxGetMainWnd()
@@ -43,7 +36,9 @@ BOOL CWinThread::InitInstance()
 
 int CWinThread::ExitInstance()
 {
-    return static_cast<int>(CurrentThreadState().pumpedMessage.wParam);
+    // A thread that ends without a loop of its own has last seen some message of a dialog.
+    const MSG& last = CurrentThreadState().pumpedMessage;
+    return last.message == WM_QUIT ? static_cast<int>(last.wParam) : 0;
 }
 
 namespace

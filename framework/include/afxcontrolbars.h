@@ -3,5 +3,6 @@
 
 #include "afxwin.h"
 #include "afxcmn.h"
+#include "afxdialogex.h"
 #include "afxdisp.h"
 #include "afxpropertygridctrl.h"

@@ -5,6 +5,7 @@
 #include "tests/support/Input.h"
 #include "tests/support/Pump.h"
 
+#include <afxdialogex.h>
 #include <gtest/gtest.h>
 
 namespace

@@ -50,7 +50,8 @@ public:
     DWORD GetDefID() const;
 
     // Called when all controls exist. The base runs the template's initial data and UpdateData(FALSE). Return
-    // FALSE after having set the focus oneself.
+    // FALSE after having set the focus oneself. A dialog whose template gives it no place is centred over its
+    // owner afterwards, unless it has been moved or shown here.
     virtual BOOL OnInitDialog();
     // Called before OnInitDialog with the font of the template.
     virtual void OnSetFont(CFont* pFont);
@@ -74,25 +75,18 @@ protected:
     CWnd* m_pParentWnd;
 
     afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
+    // F1: sends the main window the command ID_HELP.
+    afx_msg BOOL OnHelpInfo(HELPINFO* lpHelpInfo);
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     BOOL CreateFrom(LPCDLGTEMPLATE lpTemplate, CWnd* pParentWnd);
     void RunDialog(LPCDLGTEMPLATE lpTemplate);
-    INT_PTR InitDialog();
+    // The template is NULL for a dialog of the system, which has its place.
+    INT_PTR InitDialog(LPCDLGTEMPLATE lpTemplate = NULL);
     friend class CCommonDialog;
     friend class CPropertyPage;
     static INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
-};
-
-// A dialog of the extended control library; here it does what CDialog does.
-class QFX_API CDialogEx : public CDialog
-{
-    DECLARE_DYNAMIC(CDialogEx)
-
-public:
-    CDialogEx();
-    explicit CDialogEx(UINT nIDTemplate, CWnd* pParentWnd = NULL);
-    explicit CDialogEx(LPCTSTR lpszTemplateName, CWnd* pParentWnd = NULL);
 };

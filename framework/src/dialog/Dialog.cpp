@@ -1,15 +1,18 @@
 // CDialog: templates, the modal loop, and what the dialog procedure answers.
+#include "afxpriv.h"
 #include "dialog/CommandRoute.h"
 #include "dialog/DialogTemplate.h"
 #include "dialog/DisabledWindows.h"
+#include "thread/HelpContext.h"
 
 IMPLEMENT_DYNAMIC(CDialog, CWnd)
-IMPLEMENT_DYNAMIC(CDialogEx, CDialog)
 
 BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_COMMAND(IDOK, &CDialog::OnOK)
     ON_COMMAND(IDCANCEL, &CDialog::OnCancel)
     ON_MESSAGE(WM_SETFONT, &CDialog::HandleSetFont)
+    ON_WM_HELPINFO()
+    ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
 END_MESSAGE_MAP()
 
 CDialog::CDialog() : CDialog(static_cast<LPCTSTR>(NULL), NULL) {}
@@ -130,20 +133,43 @@ void CDialog::EndDialog(int nResult)
 }
 
 // Runs inside the platform's dialog procedure, which exceptions must not cross.
-INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM, LPARAM)
+INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM, LPARAM lParam)
 {
     if (message != WM_INITDIALOG)
         return FALSE;
     CDialog* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hWnd));
-    return dialog != NULL ? dialog->InitDialog() : TRUE;
+    return dialog != NULL ? dialog->InitDialog(reinterpret_cast<LPCDLGTEMPLATE>(lParam)) : TRUE;
 }
 
-INT_PTR CDialog::InitDialog()
+namespace
+{
+
+// Centres a dialog whose template does not say where it is to be, unless its host has placed or shown it.
+void CentreWhereItWasCreated(CWnd& dialog, LPCDLGTEMPLATE dialogTemplate, const CRect& created)
+{
+    if (dialog.IsWindowVisible() || (dialog.GetStyle() & WS_CHILD) || quorfx::HasPlace(dialogTemplate))
+        return;
+    CRect now;
+    dialog.GetWindowRect(&now);
+    if (now.TopLeft() == created.TopLeft())
+        dialog.CenterWindow();
+}
+
+} // namespace
+
+INT_PTR CDialog::InitDialog(LPCDLGTEMPLATE lpTemplate)
 {
     try
     {
+        const HWND window = m_hWnd;
+        CRect created;
+        GetWindowRect(&created);
         PreInitDialog();
-        return OnInitDialog();
+        const BOOL setsFocus = OnInitDialog();
+        // A modeless dialog that gave up may have deleted itself.
+        if (lpTemplate != NULL && FromHandlePermanent(window) == this)
+            CentreWhereItWasCreated(*this, lpTemplate, created);
+        return setsFocus;
     }
     catch (CException* exception)
     {
@@ -175,6 +201,23 @@ LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM)
 {
     OnSetFont(CFont::FromHandle(reinterpret_cast<HFONT>(wParam)));
     return Default();
+}
+
+BOOL CDialog::OnHelpInfo(HELPINFO*)
+{
+    CWnd* const main = AfxGetMainWnd();
+    if ((GetStyle() & WS_CHILD) || main == NULL || ::GetKeyState(VK_SHIFT) < 0)
+        return static_cast<BOOL>(Default());
+    main->SendMessage(WM_COMMAND, ID_HELP);
+    return TRUE;
+}
+
+// The help on a dialog has the number of its template.
+LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM lParam)
+{
+    if (lParam == 0 && m_lpszTemplateName != NULL && IS_INTRESOURCE(m_lpszTemplateName))
+        lParam = HID_BASE_RESOURCE + static_cast<LPARAM>(reinterpret_cast<UINT_PTR>(m_lpszTemplateName));
+    return ShowHelpContext(static_cast<DWORD_PTR>(lParam));
 }
 
 void CDialog::OnOK()
@@ -229,9 +272,3 @@ DWORD CDialog::GetDefID() const
 {
     return static_cast<DWORD>(::SendMessage(m_hWnd, DM_GETDEFID, 0, 0));
 }
-
-CDialogEx::CDialogEx() {}
-
-CDialogEx::CDialogEx(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(nIDTemplate, pParentWnd) {}
-
-CDialogEx::CDialogEx(LPCTSTR lpszTemplateName, CWnd* pParentWnd) : CDialog(lpszTemplateName, pParentWnd) {}

@@ -52,12 +52,24 @@ CSize DialogTemplateSize(HWND dialog, LPCDLGTEMPLATE dialogTemplate)
     return rect.Size();
 }
 
+bool HasPlace(LPCDLGTEMPLATE dialogTemplate)
+{
+    constexpr DWORD placingStyles = DS_CENTER | DS_CENTERMOUSE | DS_ABSALIGN;
+    const ExtendedTemplate* const extended = reinterpret_cast<const ExtendedTemplate*>(dialogTemplate);
+    const bool isExtended = IsExtended(dialogTemplate);
+    const DWORD style = isExtended ? extended->style : dialogTemplate->style;
+    const int x = isExtended ? extended->x : dialogTemplate->x;
+    const int y = isExtended ? extended->y : dialogTemplate->y;
+    return x != 0 || y != 0 || (style & placingStyles) != 0;
+}
+
 BOOL CreateFromTemplate(CWnd* window, LPCDLGTEMPLATE dialogTemplate, CWnd* parent, DLGPROC procedure)
 {
     EnsureCommonControls();
     CreationScope scope(*window);
-    const HWND created = ::CreateDialogIndirectParam(AfxGetInstanceHandle(), dialogTemplate,
-                                                     parent->GetSafeHwnd(), procedure, 0);
+    const HWND created =
+        ::CreateDialogIndirectParam(AfxGetInstanceHandle(), dialogTemplate, parent->GetSafeHwnd(), procedure,
+                                    reinterpret_cast<LPARAM>(dialogTemplate));
     return scope.Finish(created);
 }
 

@@ -1,0 +1,5 @@
+// Dialogs with a background of their own.
+#pragma once
+
+#include "afxwin.h"
+#include "fx/dialogex.h"

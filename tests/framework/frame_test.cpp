@@ -366,4 +366,18 @@ TEST(FrameClass, OnCreateClientThatFails_FailsTheCreation)
     EXPECT_FALSE(frame->Create(NULL, L"Never"));
 }
 
+TEST(FrameIcon, AFrameWithoutAnIconOfItsOwnHasTheProgramsFrameIcon)
+{
+    const HICON programs = AfxGetApp()->LoadIcon(AFX_IDI_STD_FRAME);
+    ASSERT_NE(programs, HICON(NULL));
+    CFrameWnd* const plain = new CFrameWnd;
+    ASSERT_TRUE(plain->Create(NULL, L"Plain"));
+    EXPECT_EQ(::GetClassLongPtr(plain->m_hWnd, GCLP_HICON), reinterpret_cast<LONG_PTR>(programs));
+    plain->DestroyWindow();
+    CFrameWnd* const loaded = new CFrameWnd;
+    ASSERT_TRUE(loaded->LoadFrame(IDR_FRAME)) << "there is a menu of that number, but no icon";
+    EXPECT_EQ(::GetClassLongPtr(loaded->m_hWnd, GCLP_HICON), reinterpret_cast<LONG_PTR>(programs));
+    loaded->DestroyWindow();
+}
+
 } // namespace

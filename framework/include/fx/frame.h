@@ -151,11 +151,13 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     int CreateContents(LPCREATESTRUCT lpCreateStruct, CCreateContext* pContext);
     bool IsMainWindow() const;
     CString DocumentTitle();
     int TakeShowCommand() const;
 
+    UINT m_nIDHelp; // the number of the help on this frame; 0 for none
     // What LoadAccelTable loaded, to be given back with the frame.
     HACCEL m_hLoadedAccelTable;
     // Lays out at the next idle time.

@@ -1,7 +1,9 @@
 // CFrameWnd: creation, layout and activation.
+#include "afxpriv.h"
 #include "bars/BarDrag.h"
 #include "bars/FrameBars.h"
 #include "frame/FrameMessages.h"
+#include "thread/HelpContext.h"
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)
 
@@ -13,6 +15,7 @@ BEGIN_MESSAGE_MAP(CFrameWnd, CWnd)
     ON_WM_SETFOCUS()
     ON_WM_ACTIVATE()
     ON_WM_INITMENUPOPUP()
+    ON_MESSAGE(WM_COMMANDHELP, &CFrameWnd::OnCommandHelp)
     ON_WM_MENUSELECT()
     ON_WM_QUERYENDSESSION()
     ON_WM_ENDSESSION()
@@ -37,6 +40,12 @@ const CRect CFrameWnd::rectDefault(CW_USEDEFAULT, CW_USEDEFAULT, 0, 0);
 namespace quorfx
 {
 
+HICON FrameIcon(UINT id)
+{
+    const LPCTSTR name = MAKEINTRESOURCE(id);
+    return id != 0 ? ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name) : NULL;
+}
+
 LPCTSTR RegisterFrameClass(HICON icon)
 {
     return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW),
@@ -50,6 +59,7 @@ CFrameWnd::CFrameWnd()
       m_hAccelTable(NULL),
       m_pViewActive(NULL),
       m_bInRecalcLayout(FALSE),
+      m_nIDHelp(0),
       m_hLoadedAccelTable(NULL),
       m_bLayoutIsDue(FALSE),
       m_rectBorder(0, 0, 0, 0),
@@ -97,9 +107,12 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
     if (text.LoadString(nIDResource))
         AfxExtractSubString(title, text, 0);
     const LPCTSTR resource = MAKEINTRESOURCE(nIDResource);
-    const HICON icon = ::LoadIcon(AfxFindResourceHandle(resource, RT_GROUP_ICON), resource);
-    const CString className = quorfx::RegisterFrameClass(icon);
-    if (!Create(className, title, dwDefaultStyle, rectDefault, pParentWnd, resource, 0, pContext))
+    m_nIDHelp = nIDResource;
+    // Without an icon of that number the frame gets the one of its kind.
+    const HICON icon = quorfx::FrameIcon(nIDResource);
+    const CString className = icon != NULL ? quorfx::RegisterFrameClass(icon) : _T("");
+    if (!Create(className.IsEmpty() ? NULL : static_cast<LPCTSTR>(className), title, dwDefaultStyle,
+                rectDefault, pParentWnd, resource, 0, pContext))
         return FALSE;
     LoadAccelTable(resource);
     // With a context a document template sends the update after the document has been opened.
@@ -120,7 +133,7 @@ BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName)
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
     if (cs.lpszClass == NULL)
-        cs.lpszClass = quorfx::RegisterFrameClass(NULL);
+        cs.lpszClass = quorfx::RegisterFrameClass(quorfx::FrameIcon(AFX_IDI_STD_FRAME));
     if (cs.style & FWS_ADDTOTITLE)
         cs.style |= FWS_PREFIXTITLE;
     return CWnd::PreCreateWindow(cs);
@@ -285,4 +298,11 @@ void CFrameWnd::ActivateFrame(int nCmdShow)
     if (nCmdShow != -1)
         ShowWindow(nCmdShow);
     BringWindowToTop();
+}
+
+LRESULT CFrameWnd::OnCommandHelp(WPARAM, LPARAM lParam)
+{
+    if (lParam == 0 && m_nIDHelp != 0)
+        lParam = HID_BASE_RESOURCE + static_cast<LPARAM>(m_nIDHelp);
+    return ShowHelpContext(static_cast<DWORD_PTR>(lParam));
 }

@@ -314,7 +314,10 @@ public:
     afx_msg void OnHelpIndex();
     afx_msg void OnHelpFinder();
     afx_msg void OnHelpUsing();
+    DWORD GetWindowContextHelpId() const;
+    BOOL SetWindowContextHelpId(DWORD dwContextHelpId);
 
+#include "fx/wnd_system.h"
 
     // ---- Tool tips.
     BOOL EnableToolTips(BOOL bEnable = TRUE);
@@ -380,3 +383,4 @@ QFX_API LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM w
 
 #include "fx/wnd_inline.h"
 #include "fx/wnd_inline_items.h"
+#include "fx/wnd_inline_system.h"

@@ -292,6 +292,8 @@ public:
         return ::GetCharWidth32(m_hAttribDC, nFirstChar, nLastChar, lpBuffer);
     }
 
+#include "fx/dc_graphics.h"
+
     // The device context for output, and the one for queries.
     HDC m_hDC;
     HDC m_hAttribDC;

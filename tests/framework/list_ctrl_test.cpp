@@ -255,4 +255,34 @@ TEST_F(ListWrapper, ColorsMarksAndView)
     EXPECT_EQ(m_list.GetView(), static_cast<DWORD>(LV_VIEW_LIST));
 }
 
+// Whether the list of images still exists.
+bool IsAlive(HIMAGELIST images)
+{
+    int width = 0, height = 0;
+    return ::ImageList_GetIconSize(images, &width, &height) != FALSE;
+}
+
+TEST(ListImages, ThoseOfAnObjectSurviveTheList)
+{
+    HostWindow host;
+    CImageList normal, small, state;
+    for (CImageList* const images : {&normal, &small, &state})
+        images->Create(16, 16, ILC_COLOR32, 1, 1);
+    const HIMAGELIST nobodys = ::ImageList_Create(16, 16, ILC_COLOR32, 1, 1);
+    CListCtrl list;
+    list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 100, 100), &host, 6);
+    list.SetImageList(&normal, LVSIL_NORMAL);
+    list.SetImageList(&small, LVSIL_SMALL);
+    list.SetImageList(&state, LVSIL_STATE);
+    list.DestroyWindow();
+    EXPECT_TRUE(IsAlive(normal));
+    EXPECT_TRUE(IsAlive(small));
+    EXPECT_TRUE(IsAlive(state));
+
+    list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 100, 100), &host, 6);
+    list.SendMessage(LVM_SETIMAGELIST, LVSIL_SMALL, reinterpret_cast<LPARAM>(nobodys));
+    list.DestroyWindow();
+    EXPECT_FALSE(IsAlive(nobodys)) << "the list owns one that is nobody's";
+}
+
 } // namespace

@@ -61,7 +61,8 @@ public:
     DWORD SetView(int iView) { return quorfx::Send<DWORD>(m_hWnd, LVM_SETVIEW, iView); }
 
     // Image lists: LVSIL_NORMAL, LVSIL_SMALL or LVSIL_STATE. SetImageList
-    // returns the list before. The control deletes its lists unless it has LVS_SHAREIMAGELISTS.
+    // returns the list before. A list that belongs to a CImageList object stays when the control goes; others
+    // it deletes, unless it has LVS_SHAREIMAGELISTS.
     CImageList* GetImageList(int nImageList) const;
     CImageList* SetImageList(CImageList* pImageList, int nImageListType);
 
@@ -375,4 +376,8 @@ public:
 
 protected:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
+    // Takes the image lists that belong to CImageList objects out, so that the control does not delete them.
+    afx_msg void OnNcDestroy();
+
+    DECLARE_MESSAGE_MAP()
 };

@@ -27,6 +27,9 @@ template <class Read> CString ReadText(Read read)
     }
 }
 
+// Takes an image list that belongs to a CImageList object out of the list control.
+void KeepOwnedImageList(HWND list, int kind);
+
 // Whether the message is a request to draw one's own item; calls the control's DrawItem then.
 template <class Control> BOOL DrawOwnItem(Control* control, UINT message, LPARAM lParam)
 {

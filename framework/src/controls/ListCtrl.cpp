@@ -3,6 +3,10 @@
 
 IMPLEMENT_DYNAMIC(CListCtrl, CWnd)
 
+BEGIN_MESSAGE_MAP(CListCtrl, CWnd)
+    ON_WM_NCDESTROY()
+END_MESSAGE_MAP()
+
 CListCtrl::~CListCtrl()
 {
     DestroyWindow();
@@ -298,6 +302,25 @@ CToolTipCtrl* CListCtrl::SetToolTips(CToolTipCtrl* pWndTip)
 {
     const HWND before = quorfx::Send<HWND>(m_hWnd, LVM_SETTOOLTIPS, pWndTip->GetSafeHwnd());
     return static_cast<CToolTipCtrl*>(CWnd::FromHandle(before));
+}
+
+namespace quorfx
+{
+
+void KeepOwnedImageList(HWND list, int kind)
+{
+    const HIMAGELIST images = Send<HIMAGELIST>(list, LVM_GETIMAGELIST, kind);
+    if (images != NULL && CImageList::FromHandlePermanent(images) != NULL)
+        Send(list, LVM_SETIMAGELIST, kind, static_cast<HIMAGELIST>(NULL));
+}
+
+} // namespace quorfx
+
+void CListCtrl::OnNcDestroy()
+{
+    for (const int kind : {LVSIL_NORMAL, LVSIL_SMALL, LVSIL_STATE})
+        quorfx::KeepOwnedImageList(m_hWnd, kind);
+    CWnd::OnNcDestroy();
 }
 
 void CListCtrl::DrawItem(LPDRAWITEMSTRUCT) {}

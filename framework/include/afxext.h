@@ -1,9 +1,11 @@
-// Form views, creation contexts and the bars of frames.
+// Form and edit views, creation contexts, bitmap buttons and the bars of frames.
 #pragma once
 
 #define __AFXEXT_H__
 
 #include "afxwin.h"
+#include "fx/bitmapbutton.h"
+#include "fx/ctrlview.h"
 #include "fx/formview.h"
 #include "fx/controlbar.h"
 #include "fx/toolbar.h"

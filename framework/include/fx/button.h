@@ -4,6 +4,8 @@
 #include "fx/message.h"
 #include "fx/wnd.h"
 
+class CImageList;
+
 // Wraps a BUTTON window. The object has no state of its own: a pointer to any CWnd of a button may be cast to
 // it.
 class QFX_API CButton : public CWnd
@@ -45,6 +47,56 @@ public:
         return quorfx::Send<HCURSOR>(m_hWnd, BM_SETIMAGE, IMAGE_CURSOR, hCursor);
     }
     HCURSOR GetCursor() { return quorfx::Send<HCURSOR>(m_hWnd, BM_GETIMAGE, IMAGE_CURSOR); }
+
+    // Pictures of all states, the room round the text, and the size that fits both. FALSE where the control
+    // cannot.
+    BOOL GetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_GETIMAGELIST, 0, pbuttonImagelist);
+    }
+    BOOL SetImageList(PBUTTON_IMAGELIST pbuttonImagelist)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_SETIMAGELIST, 0, pbuttonImagelist);
+    }
+    BOOL GetTextMargin(RECT* pmargin) { return quorfx::Send<BOOL>(m_hWnd, BCM_GETTEXTMARGIN, 0, pmargin); }
+    BOOL SetTextMargin(RECT* pmargin) { return quorfx::Send<BOOL>(m_hWnd, BCM_SETTEXTMARGIN, 0, pmargin); }
+    BOOL GetIdealSize(SIZE* psize) { return quorfx::Send<BOOL>(m_hWnd, BCM_GETIDEALSIZE, 0, psize); }
+    // The sign that the command asks for an administrator.
+    BOOL SetElevationRequired(BOOL fElevationRequired)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_SETSHIELD, 0, fElevationRequired);
+    }
+
+    // The second line of a command link. The count is the size of the buffer and then the length.
+    CString GetNote() const;
+    BOOL GetNote(LPTSTR lpszNote, UINT* cchNote) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_GETNOTE, cchNote, lpszNote);
+    }
+    BOOL SetNote(LPCTSTR lpszNote) { return quorfx::Send<BOOL>(m_hWnd, BCM_SETNOTE, 0, lpszNote); }
+    UINT GetNoteLength() const { return quorfx::Send<UINT>(m_hWnd, BCM_GETNOTELENGTH); }
+
+    // The part of a split button that opens its menu.
+    BOOL SetDropDownState(BOOL fDropDown)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_SETDROPDOWNSTATE, fDropDown);
+    }
+    BOOL GetSplitInfo(PBUTTON_SPLITINFO pInfo) const
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_GETSPLITINFO, 0, pInfo);
+    }
+    BOOL SetSplitInfo(PBUTTON_SPLITINFO pInfo)
+    {
+        return quorfx::Send<BOOL>(m_hWnd, BCM_SETSPLITINFO, 0, pInfo);
+    }
+    UINT GetSplitStyle() const;
+    BOOL SetSplitStyle(UINT uSplitStyle);
+    BOOL GetSplitSize(LPSIZE pSize) const;
+    BOOL SetSplitSize(LPSIZE pSize);
+    TCHAR GetSplitGlyph() const;
+    BOOL SetSplitGlyph(TCHAR chGlyph);
+    CImageList* GetSplitImageList() const;
+    BOOL SetSplitImageList(CImageList* pSplitImageList);
 
     // Called to draw a BS_OWNERDRAW button. The base draws nothing.
     virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);

@@ -5,6 +5,7 @@
 #include "tests/support/GuiHandles.h"
 #include "tests/support/Input.h"
 #include "tests/support/Pump.h"
+#include "tests/support/Snapshot.h"
 
 #include <memory>
 
@@ -492,6 +493,73 @@ TEST_F(PropertyGridEdit, EditingLeavesNoObjectsBehind)
     useAll();
     PumpPending();
     EXPECT_EQ(Growth(before, CountGuiHandles()), "");
+}
+
+// A property with a button that is wider than usual.
+class WideButtonProperty : public CMFCPropertyGridProperty
+{
+public:
+    using CMFCPropertyGridProperty::CMFCPropertyGridProperty;
+    static constexpr int ButtonWidth = 55;
+
+    void AdjustButtonRect() override
+    {
+        CMFCPropertyGridProperty::AdjustButtonRect();
+        m_rectButton.left = m_rectButton.right - ButtonWidth;
+    }
+    int ButtonLeft() const { return m_rectButton.left; }
+};
+
+TEST_F(PropertyGridEdit, TheEditorEndsWhereAWiderButtonBegins)
+{
+    auto* const wide = new WideButtonProperty(L"Wide", _variant_t(L"a"));
+    wide->AddOption(L"a");
+    wide->AddOption(L"b");
+    grid.AddProperty(wide);
+    ASSERT_TRUE(grid.EditItem(wide));
+    CRect editor;
+    Editor()->GetWindowRect(&editor);
+    grid.ScreenToClient(&editor);
+    EXPECT_LE(editor.right, wide->ButtonLeft());
+    EXPECT_GT(editor.right, wide->ButtonLeft() - 8) << "and not far before";
+}
+
+// A property whose editor is to stay out of sight.
+class HiddenEditorProperty : public CMFCPropertyGridProperty
+{
+public:
+    using CMFCPropertyGridProperty::CMFCPropertyGridProperty;
+
+    CWnd* CreateInPlaceEdit(CRect rectEdit, BOOL& bDefaultFormat) override
+    {
+        CWnd* const editor = CMFCPropertyGridProperty::CreateInPlaceEdit(rectEdit, bDefaultFormat);
+        editor->ShowWindow(SW_HIDE);
+        return editor;
+    }
+};
+
+TEST_F(PropertyGridEdit, AnEditorThatAPropertyHidesStaysHidden)
+{
+    auto* const hidden = new HiddenEditorProperty(L"Hidden", _variant_t(L"a"));
+    grid.AddProperty(hidden);
+    ASSERT_TRUE(grid.EditItem(hidden));
+    EXPECT_FALSE(Editor()->IsWindowVisible());
+    ASSERT_TRUE(grid.EditItem(title));
+    EXPECT_TRUE(Editor()->IsWindowVisible());
+}
+
+TEST_F(PropertyGridEdit, TheSpinButtonIsThereAsSoonAsTheEditor)
+{
+    ASSERT_TRUE(grid.EditItem(level));
+    PumpPending();
+    CWnd* spin = grid.GetWindow(GW_CHILD);
+    while (spin != NULL && ClassOf(*spin) != L"msctls_updown32")
+        spin = spin->GetWindow(GW_HWNDNEXT);
+    ASSERT_NE(spin, nullptr);
+    CRect area;
+    spin->GetWindowRect(&area);
+    grid.ScreenToClient(&area);
+    EXPECT_FALSE(Snapshot(grid.m_hWnd).IsUniform(area)) << "it has arrows";
 }
 
 } // namespace

@@ -68,11 +68,13 @@ BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT lptClick)
     auto* const own = dynamic_cast<PropertyInPlaceEdit*>(m_pWndInPlace);
     if (own != nullptr && lptClick != NULL)
         own->OpenedByClick();
-    m_pWndInPlace->ShowWindow(SW_SHOW);
     m_pWndInPlace->SetFocus();
     // Focus messages run the host, which may have closed the editor again.
     if (m_pWndInPlace == NULL)
         return FALSE;
+    // The spin button draws itself when its buddy does, which has happened before it had its place.
+    if (m_pWndSpin != NULL)
+        m_pWndSpin->Invalidate();
     m_pWndInPlace->SendMessage(EM_SETSEL, 0, -1);
     return TRUE;
 }
@@ -84,7 +86,8 @@ CWnd* CMFCPropertyGridProperty::CreateInPlaceEdit(CRect rectEdit, BOOL& bDefault
     auto edit = std::make_unique<PropertyInPlaceEdit>(
         quorfx::EditMask(m_strEditMask, m_strEditTempl, m_strValidChars));
     const DWORD readOnly = IsTypingAllowed() ? 0 : ES_READONLY;
-    if (!edit->Create(WS_CHILD | ES_AUTOHSCROLL | readOnly, rectEdit, m_pWndList, AFX_PROPLIST_ID_INPLACE))
+    if (!edit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | readOnly, rectEdit, m_pWndList,
+                      AFX_PROPLIST_ID_INPLACE))
         return NULL;
     bDefaultFormat = TRUE;
     return edit.release();
@@ -122,8 +125,9 @@ CComboBox* CMFCPropertyGridProperty::CreateCombo(CWnd* pWndParent, CRect rect)
 void CMFCPropertyGridProperty::AdjustInPlaceEditRect(CRect& rectEdit, CRect& rectSpin)
 {
     rectSpin.SetRectEmpty();
+    // A derived property may have made its button wider.
     if (HasButton())
-        rectEdit.right = quorfx::ButtonRectangle(rectEdit).left;
+        rectEdit.right = m_rectButton.left;
     if (m_bHasSpin && IsTypingAllowed())
     {
         rectSpin = quorfx::ButtonRectangle(rectEdit);

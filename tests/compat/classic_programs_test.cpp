@@ -180,4 +180,69 @@ TEST_F(ClassicView, AsksBeforeItDiscards)
     EXPECT_EQ(m_program.ExitCode(), 0u);
 }
 
+// The program that an application wizard makes around a dialog.
+class WizardDialog : public testing::Test
+{
+protected:
+    static constexpr WPARAM aboutBox = 0x0010;
+
+    void SetUp() override { ASSERT_NE(m_dialog, nullptr); }
+
+    static POINT CentreOf(const RECT& rect)
+    {
+        return {(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
+    }
+    static POINT CentreOf(HWND window)
+    {
+        RECT rect = {};
+        ::GetWindowRect(window, &rect);
+        return CentreOf(rect);
+    }
+
+    const Program m_program{L"wizard_dialog.exe"};
+    const HWND m_dialog = m_program.Window(L"wizard_dialog");
+};
+
+TEST_F(WizardDialog, OpensInTheMiddleOfTheScreen)
+{
+    RECT workArea = {};
+    ::SystemParametersInfoW(SPI_GETWORKAREA, 0, &workArea, 0);
+    const POINT wanted = CentreOf(workArea);
+    EXPECT_NEAR(CentreOf(m_dialog).x, wanted.x, 1);
+    EXPECT_NEAR(CentreOf(m_dialog).y, wanted.y, 1);
+}
+
+TEST_F(WizardDialog, ShowsItsAboutBoxFromTheSystemMenu)
+{
+    ::PostMessageW(m_dialog, WM_SYSCOMMAND, aboutBox, 0);
+    const HWND about = m_program.Window(L"About wizard_dialog");
+    ASSERT_NE(about, nullptr);
+    EXPECT_FALSE(::IsWindowEnabled(m_dialog)) << "the box is modal";
+    EXPECT_EQ(::GetWindow(about, GW_OWNER), m_dialog);
+    EXPECT_NEAR(CentreOf(about).x, CentreOf(m_dialog).x, 1) << "it stands in the middle of the dialog";
+    EXPECT_NEAR(CentreOf(about).y, CentreOf(m_dialog).y, 1);
+    ::PostMessageW(about, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(about); }));
+    EXPECT_TRUE(WaitUntil([this] { return ::IsWindowEnabled(m_dialog) != FALSE; }));
+}
+
+TEST_F(WizardDialog, OtherSystemCommandsStillWork)
+{
+    ::PostMessageW(m_dialog, WM_SYSCOMMAND, SC_CLOSE, 0);
+    EXPECT_EQ(m_program.ExitCode(), 0u);
+}
+
+TEST_F(WizardDialog, EscapeEndsTheProgram)
+{
+    const HWND button = ::GetDlgItem(m_dialog, IDOK);
+    ::PostMessageW(button, WM_KEYDOWN, VK_ESCAPE, 0);
+    EXPECT_EQ(m_program.ExitCode(), 0u);
+}
+
+TEST_F(WizardDialog, EnterEndsTheProgram)
+{
+    ::PostMessageW(::GetDlgItem(m_dialog, IDOK), WM_KEYDOWN, VK_RETURN, 0);
+    EXPECT_EQ(m_program.ExitCode(), 0u);
+}
+
 } // namespace

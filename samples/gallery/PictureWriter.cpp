@@ -1,7 +1,8 @@
 // Pictures of a window as BMP files.
 #include "PictureWriter.h"
 
-#include <cstdio>
+#include <filesystem>
+#include <fstream>
 #include <vector>
 
 namespace
@@ -46,18 +47,18 @@ Bitmap CopyFromScreen(const CRect& area)
 
 bool WriteBmp(const Bitmap& bitmap, const CString& path)
 {
-    std::FILE* file = _wfopen(path, L"wb");
-    if (!file)
-        return false;
+    std::ofstream file(std::filesystem::path(path.GetString()), std::ios::binary);
     const BITMAPINFO info = DescribeBitmap(bitmap.width, bitmap.height);
     BITMAPFILEHEADER header = {};
     header.bfType = 0x4D42;
     header.bfOffBits = sizeof(header) + sizeof(info.bmiHeader);
     header.bfSize = header.bfOffBits + static_cast<DWORD>(bitmap.bits.size());
-    bool written = std::fwrite(&header, sizeof(header), 1, file) == 1 &&
-                   std::fwrite(&info.bmiHeader, sizeof(info.bmiHeader), 1, file) == 1 &&
-                   std::fwrite(bitmap.bits.data(), bitmap.bits.size(), 1, file) == 1;
-    return std::fclose(file) == 0 && written;
+    file.write(reinterpret_cast<const char*>(&header), sizeof(header));
+    file.write(reinterpret_cast<const char*>(&info.bmiHeader), sizeof(info.bmiHeader));
+    file.write(reinterpret_cast<const char*>(bitmap.bits.data()),
+               static_cast<std::streamsize>(bitmap.bits.size()));
+    file.close();
+    return file.good();
 }
 
 } // namespace

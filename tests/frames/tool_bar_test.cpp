@@ -44,6 +44,23 @@ TEST_F(ToolBar, LoadToolBar_RefusesWhatIsNotThereOrDamaged)
     EXPECT_EQ(bar.GetToolBarCtrl().GetButtonCount(), 6);
 }
 
+// The resource compiler of the GNU tools has a format of its own.
+TEST_F(ToolBar, LoadToolBar_ReadsWhatTheResourceCompilerMakesOfAScript)
+{
+    ASSERT_TRUE(bar.LoadToolBar(IDR_SCRIPTED));
+    EXPECT_EQ(bar.GetToolBarCtrl().GetButtonCount(), 3);
+    UINT id = 0, style = 0;
+    int image = 0;
+    bar.GetButtonInfo(1, id, style, image);
+    EXPECT_EQ(id, static_cast<UINT>(ID_SEPARATOR));
+    bar.GetButtonInfo(2, id, style, image);
+    EXPECT_EQ(id, static_cast<UINT>(ID_BLUE));
+    EXPECT_EQ(image, 1);
+    CRect rect;
+    bar.GetItemRect(0, &rect);
+    EXPECT_EQ(rect.Size(), CSize(23, 22));
+}
+
 TEST_F(ToolBar, LoadToolBar_MakesButtonsThatFitTheImages)
 {
     CRect rect;

@@ -18,16 +18,38 @@ namespace
 
 constexpr int defaultSeparatorWidth = 8;
 
-// A tool bar resource; the commands follow.
+// What a tool bar resource says.
 struct ToolBarResource
 {
-    WORD version;
-    WORD width;
-    WORD height;
-    WORD itemCount;
+    CSize imageSize;
+    std::vector<UINT> commands;
 };
 
 const LPCTSTR toolBarType = MAKEINTRESOURCE(241);
+
+// Reads width and height of an image, the count of the commands, and the commands; false when there is less.
+template <class TNumber> bool ReadNumbers(const void* data, DWORD size, ToolBarResource& resource)
+{
+    const TNumber* const numbers = static_cast<const TNumber*>(data);
+    const DWORD count = size / sizeof(TNumber);
+    if (count < 3 || numbers[2] > count - 3)
+        return false;
+    resource.imageSize = CSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));
+    resource.commands.assign(numbers + 3, numbers + 3 + numbers[2]);
+    return true;
+}
+
+// The usual resource has 16-bit numbers, and version 1 before them. The resource compiler of the GNU tools
+// writes 32-bit numbers without a version.
+bool ReadToolBar(const void* data, DWORD size, ToolBarResource& resource)
+{
+    const WORD* const words = static_cast<const WORD*>(data);
+    if (size < 2 * sizeof(WORD))
+        return false;
+    if (words[1] == 0)
+        return ReadNumbers<DWORD>(data, size, resource);
+    return words[0] == 1 && ReadNumbers<WORD>(words + 1, size - static_cast<DWORD>(sizeof(WORD)), resource);
+}
 
 } // namespace
 
@@ -78,19 +100,15 @@ BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName)
     const HGLOBAL loaded = found != NULL ? ::LoadResource(module, found) : NULL;
     if (loaded == NULL)
         return FALSE;
-    const ToolBarResource& resource = *static_cast<const ToolBarResource*>(::LockResource(loaded));
-    const DWORD size = ::SizeofResource(module, found);
-    if (size < sizeof(resource) || resource.version != 1 ||
-        size < sizeof(resource) + resource.itemCount * sizeof(WORD))
+    ToolBarResource resource;
+    if (!ReadToolBar(::LockResource(loaded), ::SizeofResource(module, found), resource))
     {
         TRACE(_T("Tool bar: the resource is damaged.\n"));
         return FALSE;
     }
-    const WORD* const first = reinterpret_cast<const WORD*>(&resource + 1);
-    const std::vector<UINT> commands(first, first + resource.itemCount);
-    if (!SetButtons(commands.data(), resource.itemCount))
+    if (!SetButtons(resource.commands.data(), static_cast<int>(resource.commands.size())))
         return FALSE;
-    SetSizes(CSize(resource.width + 7, resource.height + 7), CSize(resource.width, resource.height));
+    SetSizes(resource.imageSize + CSize(7, 7), resource.imageSize);
     return LoadBitmap(lpszResourceName);
 }
 

@@ -24,8 +24,6 @@ public:
     {
     }
 
-    void SetSize(int newCX, int newCY) throw() { *this = CSize(newCX, newCY); }
-
     BOOL operator==(SIZE size) const throw() { return cx == size.cx && cy == size.cy; }
     BOOL operator!=(SIZE size) const throw() { return cx != size.cx || cy != size.cy; }
     void operator+=(SIZE size) throw()
@@ -66,7 +64,6 @@ public:
     {
     }
 
-    void SetPoint(int newX, int newY) throw() { *this = CPoint(newX, newY); }
     void Offset(int xOffset, int yOffset) throw()
     {
         x += xOffset;
@@ -139,7 +136,6 @@ public:
     BOOL EqualRect(LPCRECT lpRect) const throw() { return ::EqualRect(this, lpRect); }
 
     void SetRect(int x1, int y1, int x2, int y2) throw() { *this = CRect(x1, y1, x2, y2); }
-    void SetRect(POINT topLeft, POINT bottomRight) throw() { *this = CRect(topLeft, bottomRight); }
     void SetRectEmpty() throw() { *this = CRect(); }
     void CopyRect(LPCRECT lpSrcRect) throw() { *this = CRect(lpSrcRect); }
     // Exchanges sides so that width and height are not negative.
@@ -150,8 +146,6 @@ public:
         if (top > bottom)
             std::swap(top, bottom);
     }
-    static void SwapLeftRight(LPRECT lpRect) throw() { std::swap(lpRect->left, lpRect->right); }
-    void SwapLeftRight() throw() { SwapLeftRight(this); }
 
     // Inflate moves the sides outwards, deflate inwards.
     void InflateRect(int x, int y) throw() { InflateRect(x, y, x, y); }
@@ -235,11 +229,6 @@ public:
         return rect;
     }
     // Each value times nMultiplier / nDivisor, rounded.
-    CRect MulDiv(int nMultiplier, int nDivisor) const throw()
-    {
-        return CRect(::MulDiv(left, nMultiplier, nDivisor), ::MulDiv(top, nMultiplier, nDivisor),
-                     ::MulDiv(right, nMultiplier, nDivisor), ::MulDiv(bottom, nMultiplier, nDivisor));
-    }
 
 private:
     CRect Moved(int x, int y) const throw() { return CRect(left + x, top + y, right + x, bottom + y); }

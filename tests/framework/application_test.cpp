@@ -25,11 +25,6 @@ public:
 
     using CWinApp::SetRegistryKey;
 
-    BOOL InitApplication() override
-    {
-        m_log.push_back("InitApplication");
-        return CWinApp::InitApplication();
-    }
     BOOL InitInstance() override
     {
         m_log.push_back("InitInstance");
@@ -88,7 +83,7 @@ TEST(Application, StartsRunsUntilTheMainWindowClosesAndEnds)
     EXPECT_EQ(AfxGetApp(), &app);
     EXPECT_EQ(AfxGetThread(), &app);
     EXPECT_EQ(RunProgram(), 12);
-    EXPECT_EQ(log, (Log{"InitApplication", "InitInstance", "Run", "ExitInstance, window gone"}));
+    EXPECT_EQ(log, (Log{"InitInstance", "Run", "ExitInstance, window gone"}));
     EXPECT_EQ(app.m_pMainWnd, nullptr);
     EXPECT_EQ(app.m_nCmdShow, SW_SHOW);
 }
@@ -99,7 +94,7 @@ TEST(Application, DoesNotRunWhenItDidNotStart)
     ScriptedApp app(log);
     app.m_starts = FALSE;
     EXPECT_EQ(RunProgram(), 12);
-    EXPECT_EQ(log, (Log{"InitApplication", "InitInstance", "ExitInstance, window gone"}));
+    EXPECT_EQ(log, (Log{"InitInstance", "ExitInstance, window gone"}));
     // The window's end has asked the loop to end that never ran.
     MSG message;
     while (::PeekMessage(&message, NULL, 0, 0, PM_REMOVE))
@@ -112,7 +107,7 @@ TEST(Application, EndsAtOnceWithoutAMainWindow)
     ScriptedApp app(log);
     app.m_hasWindow = false;
     EXPECT_EQ(RunProgram(), 12);
-    EXPECT_EQ(log, (Log{"InitApplication", "InitInstance", "Run", "ExitInstance, window gone"}));
+    EXPECT_EQ(log, (Log{"InitInstance", "Run", "ExitInstance, window gone"}));
 }
 
 TEST(Application, KnowsItsNames)

@@ -32,10 +32,10 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(UpdatingWindow, CWnd)
-    ON_COMMAND(100, OnCommandHandler)
-    ON_COMMAND(101, OnCommandHandler)
-    ON_UPDATE_COMMAND_UI(100, OnUpdate)
-    ON_UPDATE_COMMAND_UI(103, OnUpdateElsewhere)
+    ON_COMMAND(100, &UpdatingWindow::OnCommandHandler)
+    ON_COMMAND(101, &UpdatingWindow::OnCommandHandler)
+    ON_UPDATE_COMMAND_UI(100, &UpdatingWindow::OnUpdate)
+    ON_UPDATE_COMMAND_UI(103, &UpdatingWindow::OnUpdateElsewhere)
 END_MESSAGE_MAP()
 
 CCmdUI& At(CCmdUI& state, CMenu& menu, UINT index)
@@ -123,7 +123,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(SelfUpdatingButton, CWnd)
-    ON_UPDATE_COMMAND_UI_REFLECT(OnUpdateSelf)
+    ON_UPDATE_COMMAND_UI_REFLECT(&SelfUpdatingButton::OnUpdateSelf)
 END_MESSAGE_MAP()
 
 TEST_F(CommandUI, DialogControlsAreUpdated)

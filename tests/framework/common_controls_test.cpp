@@ -61,7 +61,7 @@ TEST_F(HeaderWrapper, Order)
     int order[] = {2, 0, 1};
     EXPECT_TRUE(m_header.SetOrderArray(3, order));
     int read[3] = {};
-    EXPECT_TRUE(m_header.GetOrderArray(read));
+    EXPECT_TRUE(m_header.GetOrderArray(read, 3));
     EXPECT_EQ(std::vector<int>(read, read + 3), (std::vector<int>{2, 0, 1}));
     EXPECT_EQ(m_header.OrderToIndex(0), 2);
     CRect rect;

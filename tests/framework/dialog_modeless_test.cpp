@@ -213,7 +213,7 @@ TEST_F(DialogModeless, InitialDataOfTheTemplate_FillsItsLists)
 
 TEST_F(DialogModeless, RunTimeClass_IsThatOfADialogEx)
 {
-    CDialogEx dialog;
+    CDialogEx dialog(1U);
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CDialogEx)));
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CDialog)));
     EXPECT_TRUE(dialog.IsKindOf(RUNTIME_CLASS(CWnd)));

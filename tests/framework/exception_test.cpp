@@ -11,7 +11,7 @@ int g_deletedExceptions = 0;
 class HeapException : public CException
 {
 public:
-    explicit HeapException(int number) : m_number(number) {}
+    explicit HeapException(int number) : CException(TRUE), m_number(number) {}
     ~HeapException() override { ++g_deletedExceptions; }
 
     int m_number;

@@ -177,5 +177,4 @@ TEST(Rect, Combinations)
     EXPECT_TRUE(rect != second);
     EXPECT_EQ("-1,-2,13,14", Text(first + CRect(1, 2, 3, 4)));
     EXPECT_EQ("1,2,7,6", Text(first - CRect(1, 2, 3, 4)));
-    EXPECT_EQ("0,0,5,5", Text(first.MulDiv(1, 2)));
 }

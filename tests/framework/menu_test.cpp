@@ -30,9 +30,7 @@ TEST(Menu, TemporaryMenus_DoNotDestroyTheirs)
     EXPECT_EQ(subHandle, sub->GetSafeHmenu());
     EXPECT_EQ(sub, menu.GetSubMenu(0));
     EXPECT_EQ(nullptr, menu.GetSubMenu(1));
-    EXPECT_EQ(nullptr, CMenu::FromHandlePermanent(subHandle));
     EXPECT_EQ(&menu, CMenu::FromHandle(menu));
-    EXPECT_EQ(&menu, CMenu::FromHandlePermanent(menu));
     CMenu::DeleteTempMap();
     EXPECT_TRUE(::IsMenu(subHandle));
 }

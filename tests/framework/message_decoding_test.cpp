@@ -188,7 +188,7 @@ BEGIN_MESSAGE_MAP(DecodingWindow, CWnd)
     ON_WM_INITMENUPOPUP()
     ON_WM_STYLECHANGED()
     ON_MESSAGE(WM_USER + 5, &DecodingWindow::OnAny)
-    ON_REGISTERED_MESSAGE(registeredMessage, OnAny)
+    ON_REGISTERED_MESSAGE(registeredMessage, &DecodingWindow::OnAny)
 END_MESSAGE_MAP()
 
 // A negative coordinate and a large one.

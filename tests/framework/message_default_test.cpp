@@ -12,6 +12,8 @@ namespace
 class DefaultWindow : public CWnd
 {
 public:
+    using CWnd::GetCurrentMessage;
+
     Log m_log;
     std::vector<UINT> m_current;
 
@@ -51,10 +53,10 @@ protected:
 BEGIN_MESSAGE_MAP(DefaultWindow, CWnd)
     ON_WM_CHAR()
     ON_WM_PAINT()
-    ON_MESSAGE(WM_SETTEXT, OnSetText)
-    ON_MESSAGE(WM_USER + 1, OnOuter)
-    ON_MESSAGE(WM_USER + 2, OnInner)
-    ON_MESSAGE(WM_USER + 3, OnThrow)
+    ON_MESSAGE(WM_SETTEXT, &DefaultWindow::OnSetText)
+    ON_MESSAGE(WM_USER + 1, &DefaultWindow::OnOuter)
+    ON_MESSAGE(WM_USER + 2, &DefaultWindow::OnInner)
+    ON_MESSAGE(WM_USER + 3, &DefaultWindow::OnThrow)
 END_MESSAGE_MAP()
 
 TEST(MessageDefault, ABaseHandlerUsesTheOriginalParameters)
@@ -75,7 +77,7 @@ TEST(MessageDefault, TheCurrentMessageIsRestoredAfterANestedOne)
     ASSERT_TRUE(CreateChild(window, parent, 1));
     window.SendMessage(WM_USER + 1, 3, 4);
     EXPECT_EQ(window.m_current, (std::vector<UINT>{WM_USER + 1, WM_USER + 2, WM_USER + 1}));
-    EXPECT_EQ(CWnd::GetCurrentMessage()->message, 0u);
+    EXPECT_EQ(DefaultWindow::GetCurrentMessage()->message, 0u);
 }
 
 TEST(MessageDefault, NoExceptionLeavesAWindowProcedure)
@@ -85,7 +87,7 @@ TEST(MessageDefault, NoExceptionLeavesAWindowProcedure)
     ASSERT_TRUE(CreateChild(window, parent, 1));
     EXPECT_EQ(window.SendMessage(WM_USER + 3, 0), 0);
     EXPECT_EQ(window.SendMessage(WM_USER + 3, 1), 0);
-    EXPECT_EQ(CWnd::GetCurrentMessage()->message, 0u);
+    EXPECT_EQ(DefaultWindow::GetCurrentMessage()->message, 0u);
 }
 
 TEST(MessageDefault, PaintingThatThrowsDoesNotStartOver)
@@ -156,8 +158,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(BaseMapWindow, CWnd)
-    ON_MESSAGE(WM_USER + 1, OnBoth)
-    ON_MESSAGE(WM_USER + 2, OnBase)
+    ON_MESSAGE(WM_USER + 1, &BaseMapWindow::OnBoth)
+    ON_MESSAGE(WM_USER + 2, &BaseMapWindow::OnBase)
 END_MESSAGE_MAP()
 
 template <typename TValue> class TemplateMapWindow : public BaseMapWindow
@@ -210,7 +212,7 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(LateRegisteredWindow, CWnd)
-    ON_REGISTERED_MESSAGE(lateRegisteredMessage, OnRegistered)
+    ON_REGISTERED_MESSAGE(lateRegisteredMessage, &LateRegisteredWindow::OnRegistered)
 END_MESSAGE_MAP()
 
 TEST(MessageMap, ARegisteredMessageMayGetItsNumberLater)

@@ -149,7 +149,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(ScriptedThread, CWinThread)
-    ON_THREAD_MESSAGE(WM_USER + 9, OnThreadMessage)
+    ON_THREAD_MESSAGE(WM_USER + 9, &ScriptedThread::OnThreadMessage)
 END_MESSAGE_MAP()
 
 TEST(MessageLoop, IdleCountsUpWhileItIsWantedAndStartsOverAfterAMessage)

@@ -65,10 +65,10 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(ReflectingChild, CWnd)
-    ON_CONTROL_REFLECT(EatenCode, OnEaten)
+    ON_CONTROL_REFLECT(EatenCode, &ReflectingChild::OnEaten)
     ON_CONTROL_REFLECT_EX(SharedCode, &ReflectingChild::OnShared)
-    ON_NOTIFY_REFLECT(EatenCode, OnNotifyEaten)
-    ON_NOTIFY_REFLECT_EX(SharedCode, OnNotifyShared)
+    ON_NOTIFY_REFLECT(EatenCode, &ReflectingChild::OnNotifyEaten)
+    ON_NOTIFY_REFLECT_EX(SharedCode, &ReflectingChild::OnNotifyShared)
     ON_WM_CTLCOLOR_REFLECT()
     ON_WM_HSCROLL_REFLECT()
     ON_WM_DRAWITEM_REFLECT()
@@ -82,6 +82,8 @@ END_MESSAGE_MAP()
 class RoutingParent : public CWnd
 {
 public:
+    using CWnd::ReflectLastMsg;
+
     explicit RoutingParent(Log& log) : m_log(log)
     {
         CreateEx(0, AfxRegisterWndClass(0), L"", WS_OVERLAPPEDWINDOW, 0, 0, 200, 200, NULL, NULL);
@@ -142,17 +144,17 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(RoutingParent, CWnd)
-    ON_CONTROL(EatenCode, ChildId, OnMapCommand)
-    ON_CONTROL(SharedCode, ChildId, OnMapCommand)
-    ON_CONTROL(ParentCode, ChildId, OnMapCommand)
-    ON_CONTROL_RANGE(ParentCode, 20, 22, OnMapRange)
-    ON_COMMAND(ChildId, OnMapCommand)
-    ON_COMMAND_RANGE(100, 110, OnMapRange)
-    ON_COMMAND_EX(120, OnMapEx)
-    ON_NOTIFY(EatenCode, ChildId, OnMapNotify)
-    ON_NOTIFY(SharedCode, ChildId, OnMapNotify)
-    ON_NOTIFY(ParentCode, ChildId, OnMapNotify)
-    ON_NOTIFY_EX(NM_CLICK, ChildId, OnMapNotifyEx)
+    ON_CONTROL(EatenCode, ChildId, &RoutingParent::OnMapCommand)
+    ON_CONTROL(SharedCode, ChildId, &RoutingParent::OnMapCommand)
+    ON_CONTROL(ParentCode, ChildId, &RoutingParent::OnMapCommand)
+    ON_CONTROL_RANGE(ParentCode, 20, 22, &RoutingParent::OnMapRange)
+    ON_COMMAND(ChildId, &RoutingParent::OnMapCommand)
+    ON_COMMAND_RANGE(100, 110, &RoutingParent::OnMapRange)
+    ON_COMMAND_EX(120, &RoutingParent::OnMapEx)
+    ON_NOTIFY(EatenCode, ChildId, &RoutingParent::OnMapNotify)
+    ON_NOTIFY(SharedCode, ChildId, &RoutingParent::OnMapNotify)
+    ON_NOTIFY(ParentCode, ChildId, &RoutingParent::OnMapNotify)
+    ON_NOTIFY_EX(NM_CLICK, ChildId, &RoutingParent::OnMapNotifyEx)
     ON_WM_CTLCOLOR()
     ON_WM_HSCROLL()
     ON_WM_DRAWITEM()
@@ -343,8 +345,8 @@ TEST_F(MessageRouting, OnlyAttachedChildrenGetTheirMessagesBack)
 
 TEST_F(MessageRouting, ReflectLastMsgTellsWhetherTheChildTookIt)
 {
-    EXPECT_FALSE(CWnd::ReflectLastMsg(m_child.m_hWnd)) << "no message is being handled";
-    EXPECT_FALSE(CWnd::ReflectLastMsg(NULL));
+    EXPECT_FALSE(RoutingParent::ReflectLastMsg(m_child.m_hWnd)) << "no message is being handled";
+    EXPECT_FALSE(RoutingParent::ReflectLastMsg(NULL));
     EXPECT_EQ(m_log, Log{});
 }
 
@@ -363,8 +365,8 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(SecondTarget, CCmdTarget)
-    ON_COMMAND(30, OnThirty)
-    ON_COMMAND(120, OnThirty)
+    ON_COMMAND(30, &SecondTarget::OnThirty)
+    ON_COMMAND(120, &SecondTarget::OnThirty)
 END_MESSAGE_MAP()
 
 class RouteStart : public RoutingParent

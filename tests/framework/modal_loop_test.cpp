@@ -37,8 +37,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(ModalWindow, CWnd)
-    ON_MESSAGE(WM_KICKIDLE, OnKickIdle)
-    ON_MESSAGE(WM_USER, OnUser)
+    ON_MESSAGE(WM_KICKIDLE, &ModalWindow::OnKickIdle)
+    ON_MESSAGE(WM_USER, &ModalWindow::OnUser)
     ON_WM_ENTERIDLE()
 END_MESSAGE_MAP()
 

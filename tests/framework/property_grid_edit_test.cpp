@@ -196,7 +196,7 @@ TEST_F(PropertyGridEdit, ANewFontReachesTheOpenEditor)
 
 // ---- Derived grids and properties.
 
-class StrictGrid : public CMFCPropertyGridCtrl
+class StrictGrid : public EditableGrid
 {
 public:
     bool accepts = true;
@@ -413,7 +413,7 @@ TEST(PropertyGridRobustness, TheHostMayDeleteTheGrid)
     for (const UINT way : {VK_RETURN, VK_TAB, VK_NEXT, 0})
     {
         PropertyHost host;
-        auto grid = std::make_unique<CMFCPropertyGridCtrl>();
+        auto grid = std::make_unique<EditableGrid>();
         grid->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host, 7);
         auto* const property = new CMFCPropertyGridProperty(L"Only", _variant_t(1L));
         grid->AddProperty(property);
@@ -435,7 +435,7 @@ TEST(PropertyGridRobustness, TheHostMayDeleteTheGrid)
 TEST(PropertyGridRobustness, TheHostMayDeleteTheGridWhileTheListIsOpen)
 {
     PropertyHost host;
-    auto grid = std::make_unique<CMFCPropertyGridCtrl>();
+    auto grid = std::make_unique<EditableGrid>();
     grid->Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 300, 200), &host, 7);
     auto* const flag = new CMFCPropertyGridProperty(L"Flag", _variant_t(true));
     grid->AddProperty(flag);

@@ -164,12 +164,9 @@ TEST(PropertyTree, GroupsBeginUnfoldedAndValueListsFolded)
     Property value(L"Value", _variant_t(1L));
     EXPECT_TRUE(group.IsGroup());
     EXPECT_TRUE(group.IsExpanded());
-    EXPECT_FALSE(group.HasValueField());
     EXPECT_TRUE(list.IsGroup());
     EXPECT_FALSE(list.IsExpanded());
-    EXPECT_TRUE(list.HasValueField());
     EXPECT_FALSE(value.IsGroup());
-    EXPECT_TRUE(value.HasValueField());
 }
 
 TEST(PropertyTree, FindItemByDataLooksGroupByGroup)

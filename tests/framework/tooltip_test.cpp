@@ -73,7 +73,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(TipWindow, CWnd)
-    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, OnNeedText)
+    ON_NOTIFY_EX(TTN_NEEDTEXT, 0, &TipWindow::OnNeedText)
 END_MESSAGE_MAP()
 
 // The tip control that the window owns, or NULL.

@@ -222,16 +222,6 @@ TEST_F(ScrollViews, MouseWheel_ScrollsLines)
     EXPECT_EQ(m_view->GetScrollPosition(), CPoint(0, 0));
 }
 
-TEST_F(ScrollViews, OnScrollBy_CanOnlyAsk)
-{
-    EXPECT_TRUE(m_view->OnScrollBy(CSize(5, 0), FALSE));
-    EXPECT_FALSE(m_view->OnScrollBy(CSize(-5, 0), FALSE));
-    EXPECT_EQ(m_view->GetScrollPosition(), CPoint(0, 0));
-    EXPECT_TRUE(m_view->OnScrollBy(CSize(5, 6)));
-    EXPECT_EQ(m_view->GetScrollPosition(), CPoint(5, 6));
-    EXPECT_FALSE(m_view->OnScrollBy(CSize(0, 0)));
-}
-
 TEST_F(ScrollViews, LargerWindow_PullsThePositionBack)
 {
     m_view->ScrollToPosition(CPoint(5000, 5000));
@@ -264,12 +254,6 @@ TEST_F(ScrollViews, MappingModes_ConvertSizesAndPositions)
     EXPECT_GT(device.y, 50);
     EXPECT_NEAR(m_view->GetScrollPosition().x, 100, 2);
     EXPECT_NEAR(m_view->GetScrollPosition().y, -100, 2);
-}
-
-TEST_F(ScrollViews, CenterOnPoint)
-{
-    m_view->CenterOnPoint(CPoint(500, 400));
-    EXPECT_EQ(m_view->GetScrollPosition(), CPoint(500 - Room().cx / 2, 400 - Room().cy / 2));
 }
 
 TEST_F(ScrollViews, FillOutsideRect_FillsBesideAndBelow)

@@ -104,8 +104,8 @@ private:
 BEGIN_MESSAGE_MAP(SuicidalWindow, CWnd)
     ON_WM_LBUTTONDOWN()
     ON_WM_MOUSEWHEEL()
-    ON_COMMAND(7, OnCommandSeven)
-    ON_MESSAGE(WM_USER, OnUser)
+    ON_COMMAND(7, &SuicidalWindow::OnCommandSeven)
+    ON_MESSAGE(WM_USER, &SuicidalWindow::OnUser)
 END_MESSAGE_MAP()
 
 struct LastMessage

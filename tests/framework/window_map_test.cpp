@@ -128,8 +128,8 @@ protected:
 };
 
 BEGIN_MESSAGE_MAP(IdlingWindow, CWnd)
-    ON_MESSAGE(WM_USER, OnIdleInside)
-    ON_MESSAGE(0x036A, OnKickIdle)
+    ON_MESSAGE(WM_USER, &IdlingWindow::OnIdleInside)
+    ON_MESSAGE(0x036A, &IdlingWindow::OnKickIdle)
 END_MESSAGE_MAP()
 
 TEST(WindowMap, TemporaryObjectsSurviveTheMessageThatGotThem)

@@ -54,7 +54,7 @@ BEGIN_MESSAGE_MAP(PaintingWindow, CWnd)
     ON_WM_PAINT()
     ON_WM_CTLCOLOR()
     ON_WM_SETCURSOR()
-    ON_EN_CHANGE(4, OnEditChange)
+    ON_EN_CHANGE(4, &PaintingWindow::OnEditChange)
 END_MESSAGE_MAP()
 
 class WindowPaint : public testing::Test

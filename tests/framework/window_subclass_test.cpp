@@ -35,7 +35,7 @@ protected:
 
 BEGIN_MESSAGE_MAP(SubclassedWindow, CWnd)
     ON_WM_CREATE()
-    ON_MESSAGE(WM_SETTEXT, OnSetText)
+    ON_MESSAGE(WM_SETTEXT, &SubclassedWindow::OnSetText)
 END_MESSAGE_MAP()
 
 HWND PlainEdit(CWnd& parent, UINT_PTR id)

@@ -27,7 +27,7 @@ private:
 };
 
 BEGIN_MESSAGE_MAP(CountingWindow, CWnd)
-    ON_MESSAGE(WM_USER, OnUser)
+    ON_MESSAGE(WM_USER, &CountingWindow::OnUser)
 END_MESSAGE_MAP()
 
 LRESULT CALLBACK CountingProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam)

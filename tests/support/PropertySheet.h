@@ -8,6 +8,14 @@
 namespace quor::test
 {
 
+// A grid whose editing tests may begin and end.
+class EditableGrid : public CMFCPropertyGridCtrl
+{
+public:
+    using CMFCPropertyGridCtrl::EditItem;
+    using CMFCPropertyGridCtrl::EndEditItem;
+};
+
 // The grid has the control id 7 and is 400 x 300 pixels. Its rows:
 //   0 Texts:   1 Title "Draft"  2 Code (mask)  3 Fixed (read-only)  4 Off (disabled)
 //   5 Numbers: 6 Count 5  7 Level 3 (spin, 0 to 9)  8 Ratio 0.5
@@ -121,7 +129,7 @@ protected:
     static std::wstring Text(Property* property) { return Wide(property->FormatProperty()); }
 
     PropertyHost host;
-    CMFCPropertyGridCtrl grid;
+    EditableGrid grid;
     Property* texts = nullptr;
     Property* title = nullptr;
     Property* code = nullptr;

@@ -32,10 +32,12 @@ public:
 
     // One of the causes above.
     int m_cause;
-    // The file, where known.
-    CString m_strFileName;
 
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) const;
+
+private:
+    // The file, where known.
+    CString m_strFileName;
 };
 
 [[noreturn]] QFX_API void AFXAPI AfxThrowArchiveException(int cause, LPCTSTR lpszArchiveName = NULL);
@@ -69,7 +71,6 @@ public:
 
     BOOL IsLoading() const { return (m_nMode & load) != 0; }
     BOOL IsStoring() const { return (m_nMode & load) == 0; }
-    BOOL IsByteSwapping() const { return FALSE; }
     // Loading: whether the next byte must come from the file.
     BOOL IsBufferEmpty() const { return m_lpBufCur == m_lpBufMax; }
     CFile* GetFile() const { return m_pFile; }

@@ -141,12 +141,6 @@ public:
         SerializeElements<TYPE>(ar, m_pData, m_nSize);
     }
 
-protected:
-    TYPE* m_pData;
-    INT_PTR m_nSize;
-    INT_PTR m_nMaxSize;
-    INT_PTR m_nGrowBy;
-
 private:
     INT_PTR Checked(INT_PTR nIndex) const
     {
@@ -220,4 +214,9 @@ private:
         Construct(nIndex, nIndex + nCount);
         m_nSize += nCount;
     }
+
+    TYPE* m_pData;
+    INT_PTR m_nSize;
+    INT_PTR m_nMaxSize;
+    INT_PTR m_nGrowBy;
 };

@@ -229,9 +229,7 @@ public:
     CMenu* m_pMenu;    // the menu that holds the item, NULL for a control
     CMenu* m_pSubMenu; // the popup the item opens, else NULL
     CWnd* m_pOther;    // the window of the control, NULL for a menu item
-    BOOL m_bEnableChanged;
-    BOOL m_bContinueRouting;
-    UINT m_nIndexMax; // number of items that the caller walks
+    UINT m_nIndexMax;  // number of items that the caller walks
     CMenu* m_pParentMenu;
 
     // Enables or greys the item; also marks it as decided, so that automatic greying leaves it alone.
@@ -245,4 +243,11 @@ public:
     void ContinueRouting() { m_bContinueRouting = TRUE; }
     // Asks pTarget's route for the state; without a handler and with bDisableIfNoHndler the item is disabled.
     BOOL DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler);
+
+private:
+    friend struct FrameworkAccess;
+    friend class CFrameWnd;
+
+    BOOL m_bEnableChanged;
+    BOOL m_bContinueRouting;
 };

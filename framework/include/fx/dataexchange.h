@@ -20,9 +20,6 @@ public:
     BOOL m_bSaveAndValidate;
     // The window with the controls.
     CWnd* m_pDlgWnd;
-    // The control prepared last (0: none), and whether it is an edit: Fail goes back there.
-    UINT m_idLastControl;
-    BOOL m_bEditLastControl;
 
     // Finds a control and remembers it for Fail. Throws CNotSupportedException if the window has no such
     // control.
@@ -32,6 +29,13 @@ public:
     // Ends the exchange after a failed check: the control gets the focus, the text of an edit is selected,
     // and CUserException is thrown. The caller has told the user.
     void Fail();
+
+private:
+    friend struct FrameworkAccess;
+
+    // The control prepared last (0: none), and whether it is an edit: Fail goes back there.
+    UINT m_idLastControl;
+    BOOL m_bEditLastControl;
 };
 
 // Each exchange function moves one value between `value` and the control nIDC of the window.

@@ -157,7 +157,7 @@ public:
     CPoint MoveTo(POINT point) { return MoveTo(point.x, point.y); }
     BOOL LineTo(int x, int y);
     BOOL LineTo(POINT point) { return LineTo(point.x, point.y); }
-    BOOL Polyline(const POINT* lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
+    BOOL Polyline(LPPOINT lpPoints, int nCount) { return ::Polyline(m_hDC, lpPoints, nCount); }
     BOOL PolyPolyline(const POINT* lpPoints, const DWORD* lpPolyPoints, int nCount)
     {
         return ::PolyPolyline(m_hDC, lpPoints, lpPolyPoints, static_cast<DWORD>(nCount));
@@ -211,7 +211,7 @@ public:
     {
         return ::Pie(m_hDC, x1, y1, x2, y2, x3, y3, x4, y4);
     }
-    BOOL Polygon(const POINT* lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
+    BOOL Polygon(LPPOINT lpPoints, int nCount) { return ::Polygon(m_hDC, lpPoints, nCount); }
 
     // Bits. Source coordinates are in the source's logical units.
     BOOL PatBlt(int x, int y, int nWidth, int nHeight, DWORD dwRop)

@@ -64,6 +64,18 @@ protected:
     // OK: UpdateData(TRUE), then EndDialog(IDOK). Cancel: EndDialog(IDCANCEL).
     virtual void OnOK();
     virtual void OnCancel();
+
+    DECLARE_MESSAGE_MAP()
+
+private:
+    // The window classes of the framework that are made from templates as well.
+    friend class CCommonDialog;
+    friend class CDialogBar;
+    friend class CFindReplaceDialog;
+    friend class CFormView;
+    friend class CPropertyPage;
+    friend class CPropertySheet;
+
     // Called right before OnInitDialog.
     virtual void PreInitDialog();
 
@@ -77,10 +89,6 @@ protected:
     afx_msg LRESULT HandleSetFont(WPARAM wParam, LPARAM lParam);
     // F1: sends the main window the command ID_HELP.
     afx_msg BOOL OnHelpInfo(HELPINFO* lpHelpInfo);
-
-    DECLARE_MESSAGE_MAP()
-
-private:
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
     BOOL CreateFrom(LPCDLGTEMPLATE lpTemplate, CWnd* pParentWnd);
     void RunDialog(LPCDLGTEMPLATE lpTemplate);

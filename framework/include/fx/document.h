@@ -84,16 +84,18 @@ public:
     BOOL m_bAutoDelete;
 
 protected:
+    DECLARE_MESSAGE_MAP()
+
+private:
+    friend class CMultiDocTemplate;
+    friend class CSingleDocTemplate;
+
     CString m_strTitle;
     BOOL m_bModified;
-
     afx_msg void OnFileClose();
     afx_msg void OnFileSave();
     afx_msg void OnFileSaveAs();
 
-    DECLARE_MESSAGE_MAP()
-
-private:
     bool SaveUnder(LPCTSTR path);
     bool SaveInPlace();
     CString ProposedFileName() const;

@@ -11,7 +11,6 @@ class QFX_API CException : public CObject
 {
     DECLARE_DYNAMIC(CException)
 public:
-    CException();
     // bAutoDelete: whether the object is on the heap, so that Delete() frees it.
     explicit CException(BOOL bAutoDelete);
 
@@ -27,6 +26,7 @@ public:
 protected:
     virtual ~CException();
 
+private:
     BOOL m_bAutoDelete;
 };
 
@@ -40,7 +40,7 @@ public:
 
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) const;
 
-protected:
+private:
     // The fixed text of the class; NULL when it has none.
     virtual LPCTSTR GetDefaultMessage() const;
 };
@@ -51,9 +51,11 @@ class QFX_API CMemoryException : public CSimpleException
     DECLARE_DYNAMIC(CMemoryException)
 public:
     CMemoryException() {}
+
+private:
+    friend struct ThrownException;
     explicit CMemoryException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
-protected:
     virtual LPCTSTR GetDefaultMessage() const;
 };
 
@@ -63,9 +65,11 @@ class QFX_API CResourceException : public CSimpleException
     DECLARE_DYNAMIC(CResourceException)
 public:
     CResourceException() {}
+
+private:
+    friend struct ThrownException;
     explicit CResourceException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
-protected:
     virtual LPCTSTR GetDefaultMessage() const;
 };
 
@@ -75,6 +79,9 @@ class QFX_API CUserException : public CSimpleException
     DECLARE_DYNAMIC(CUserException)
 public:
     CUserException() {}
+
+private:
+    friend struct ThrownException;
     explicit CUserException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 };
 
@@ -84,9 +91,11 @@ class QFX_API CNotSupportedException : public CSimpleException
     DECLARE_DYNAMIC(CNotSupportedException)
 public:
     CNotSupportedException() {}
+
+private:
+    friend struct ThrownException;
     explicit CNotSupportedException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
-protected:
     virtual LPCTSTR GetDefaultMessage() const;
 };
 
@@ -96,9 +105,11 @@ class QFX_API CInvalidArgException : public CSimpleException
     DECLARE_DYNAMIC(CInvalidArgException)
 public:
     CInvalidArgException() {}
+
+private:
+    friend struct ThrownException;
     explicit CInvalidArgException(BOOL bAutoDelete) : CSimpleException(bAutoDelete) {}
 
-protected:
     virtual LPCTSTR GetDefaultMessage() const;
 };
 

@@ -65,6 +65,7 @@ public:
         bufferCommit,
         bufferCheck
     };
+
     enum BufferFlags
     {
         bufferDirect = 0x01,

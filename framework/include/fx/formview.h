@@ -29,10 +29,6 @@ protected:
     virtual void OnActivateView(BOOL bActivate, CView* pActivateView, CView* pDeactiveView);
     virtual void OnActivateFrame(UINT nState, CFrameWnd* pFrameWnd);
 
-    LPCTSTR m_lpszTemplateName;
-    CCreateContext* m_pCreateContext;
-    HWND m_hWndFocus;
-
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
 
@@ -41,4 +37,8 @@ protected:
 private:
     static INT_PTR CALLBACK FormProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
     BOOL SaveFocusControl();
+
+    LPCTSTR m_lpszTemplateName;
+    CCreateContext* m_pCreateContext;
+    HWND m_hWndFocus;
 };

@@ -63,8 +63,6 @@ public:
     // The part of the title that names the program.
     CString GetTitle() const { return m_strTitle; }
     void SetTitle(LPCTSTR lpszTitle) { m_strTitle = lpszTitle; }
-    // Shows the title, with the document's if bAddToTitle and FWS_ADDTOTITLE are set.
-    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
 
     // Sends the views their initial update, makes the first one active, and shows the frame if bMakeVisible;
     // the main window is shown as CWinApp::m_nCmdShow says.
@@ -114,9 +112,7 @@ public:
     virtual void GetMessageString(UINT nID, CString& rMessage) const;
     void SetMessageText(LPCTSTR lpszText);
     void SetMessageText(UINT nID);
-    virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
 
-    virtual BOOL IsFrameWnd() const;
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     // Routes commands: active view, frame, application.
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
@@ -127,11 +123,6 @@ protected:
     virtual BOOL PreCreateWindow(CREATESTRUCT& cs);
     virtual void PostNcDestroy();
 
-    HACCEL m_hAccelTable;
-    CString m_strTitle;
-    CView* m_pViewActive;
-    BOOL m_bInRecalcLayout;
-
     afx_msg int OnCreate(LPCREATESTRUCT lpCreateStruct);
     afx_msg void OnDestroy();
     afx_msg void OnClose();
@@ -139,19 +130,33 @@ protected:
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
     afx_msg void OnInitMenuPopup(CMenu* pMenu, UINT nIndex, BOOL bSysMenu);
-    afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
     afx_msg void OnMenuSelect(UINT nItemID, UINT nFlags, HMENU hSysMenu);
-    afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
-    afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     afx_msg BOOL OnQueryEndSession();
     afx_msg void OnEndSession(BOOL bEnding);
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CMiniFrameWnd;
+    friend class CView;
+    friend class CDocTemplate;
+    friend class CWinApp;
+
+    // Shows the title, with the document's if bAddToTitle and FWS_ADDTOTITLE are set.
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    virtual HACCEL GetDefaultAccelerator() { return m_hAccelTable; }
+    virtual BOOL IsFrameWnd() const;
+    HACCEL m_hAccelTable;
+    CString m_strTitle;
+    CView* m_pViewActive;
+    BOOL m_bInRecalcLayout;
+    afx_msg BOOL OnToolTipText(UINT nID, NMHDR* pNMHDR, LRESULT* pResult);
+    afx_msg void OnUpdateKeyIndicator(CCmdUI* pCmdUI);
+    afx_msg LRESULT OnSetMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnPopMessageString(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnIdleUpdateCmdUI(WPARAM wParam, LPARAM lParam);
     afx_msg LRESULT OnCommandHelp(WPARAM wParam, LPARAM lParam);
+
     int CreateContents(LPCREATESTRUCT lpCreateStruct, CCreateContext* pContext);
     bool IsMainWindow() const;
     CString DocumentTitle();

@@ -204,7 +204,7 @@ public:
         return Attach(::CreateEllipticRgn(x1, y1, x2, y2));
     }
     BOOL CreateEllipticRgnIndirect(LPCRECT lpRect) { return Attach(::CreateEllipticRgnIndirect(lpRect)); }
-    BOOL CreatePolygonRgn(const POINT* lpPoints, int nCount, int nMode)
+    BOOL CreatePolygonRgn(LPPOINT lpPoints, int nCount, int nMode)
     {
         return Attach(::CreatePolygonRgn(lpPoints, nCount, nMode));
     }
@@ -231,11 +231,11 @@ public:
 
     // Become the combination of one or two regions; the result is NULLREGION, SIMPLEREGION, COMPLEXREGION or
     // ERROR. A region must exist before; pRgn2 may be NULL for RGN_COPY.
-    int CombineRgn(const CRgn* pRgn1, const CRgn* pRgn2, int nCombineMode);
-    int CopyRgn(const CRgn* pRgnSrc) { return CombineRgn(pRgnSrc, NULL, RGN_COPY); }
+    int CombineRgn(CRgn* pRgn1, CRgn* pRgn2, int nCombineMode);
+    int CopyRgn(CRgn* pRgnSrc) { return CombineRgn(pRgnSrc, NULL, RGN_COPY); }
     void SetRectRgn(int x1, int y1, int x2, int y2) { ::SetRectRgn(*this, x1, y1, x2, y2); }
     void SetRectRgn(LPCRECT lpRect) { SetRectRgn(lpRect->left, lpRect->top, lpRect->right, lpRect->bottom); }
-    BOOL EqualRgn(const CRgn* pRgn) const { return ::EqualRgn(*this, *pRgn); }
+    BOOL EqualRgn(CRgn* pRgn) const { return ::EqualRgn(*this, *pRgn); }
     int OffsetRgn(int x, int y) { return ::OffsetRgn(*this, x, y); }
     int OffsetRgn(POINT point) { return OffsetRgn(point.x, point.y); }
     int GetRgnBox(LPRECT lpRect) const { return ::GetRgnBox(*this, lpRect); }

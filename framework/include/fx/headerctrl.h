@@ -41,7 +41,7 @@ public:
 
     // The order of the items on the screen, left to right, as an array of indices. A count of -1 stands for
     // all.
-    BOOL GetOrderArray(LPINT piArray, int iCount = -1);
+    BOOL GetOrderArray(LPINT piArray, int iCount);
     BOOL SetOrderArray(int iCount, LPINT piArray)
     {
         return quorfx::Send<BOOL>(m_hWnd, HDM_SETORDERARRAY, iCount, piArray);

@@ -85,7 +85,11 @@ public:
         return ::ImageList_DrawEx(m_hImageList, nImage, pDC->GetSafeHdc(), pt.x, pt.y, sz.cx, sz.cy, clrBk,
                                   clrFg, nStyle);
     }
-    static BOOL PASCAL DrawIndirect(IMAGELISTDRAWPARAMS* pimldp) { return ::ImageList_DrawIndirect(pimldp); }
+    BOOL DrawIndirect(IMAGELISTDRAWPARAMS* pimldp)
+    {
+        pimldp->himl = m_hImageList;
+        return ::ImageList_DrawIndirect(pimldp);
+    }
 
     // Dragging: one image at a time in the whole program. BeginDrag starts with an image and its hot spot;
     // DragEnter shows it, at a position relative to the window's top left corner (the screen's when pWndLock

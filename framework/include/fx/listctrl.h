@@ -145,7 +145,7 @@ public:
     HCURSOR SetHotCursor(HCURSOR hc) { return quorfx::Send<HCURSOR>(m_hWnd, LVM_SETHOTCURSOR, 0, hc); }
     // In milliseconds.
     DWORD GetHoverTime() const { return quorfx::Send<DWORD>(m_hWnd, LVM_GETHOVERTIME); }
-    DWORD SetHoverTime(DWORD dwHoverTime = static_cast<DWORD>(-1))
+    DWORD SetHoverTime(DWORD dwHoverTime = (DWORD)-1)
     {
         return quorfx::Send<DWORD>(m_hWnd, LVM_SETHOVERTIME, 0, dwHoverTime);
     }
@@ -240,10 +240,10 @@ public:
     {
         return quorfx::Send<BOOL>(m_hWnd, LVM_SETCOLUMNORDERARRAY, iCount, piArray);
     }
-    int GetSelectedColumn() const { return quorfx::Send<int>(m_hWnd, LVM_GETSELECTEDCOLUMN); }
-    void SetSelectedColumn(int iCol) { quorfx::Send(m_hWnd, LVM_SETSELECTEDCOLUMN, iCol); }
+    UINT GetSelectedColumn() const { return quorfx::Send<UINT>(m_hWnd, LVM_GETSELECTEDCOLUMN); }
+    LRESULT SetSelectedColumn(int iCol) { return quorfx::Send<LRESULT>(m_hWnd, LVM_SETSELECTEDCOLUMN, iCol); }
     // The header of the report view, NULL in other views.
-    CHeaderCtrl* GetHeaderCtrl() const;
+    CHeaderCtrl* GetHeaderCtrl();
 
     // Groups of items, with EnableGroupView. The structures have cbSize set by the caller; groups are named
     // by the identifiers that the program gave them. InsertGroup and MoveGroup take zero-based places and

@@ -47,7 +47,6 @@ public:
     virtual CFrameWnd* GetActiveFrame();
     // The name of the active child's document behind that of the program; the system adds it in brackets when
     // the child is maximized.
-    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
     virtual BOOL PreTranslateMessage(MSG* pMsg);
     virtual BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo);
 
@@ -59,16 +58,18 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized);
-    // ID_WINDOW_NEW: another frame for the active document.
-    afx_msg void OnWindowNew();
-    afx_msg void OnUpdateWindowNew(CCmdUI* pCmdUI);
-    // ID_WINDOW_ARRANGE, ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT.
-    afx_msg BOOL OnMDIWindowCmd(UINT nID);
-    afx_msg void OnUpdateMDIWindowCmd(CCmdUI* pCmdUI);
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+    afx_msg void OnWindowNew();
+    // ID_WINDOW_NEW: another frame for the active document.
+    afx_msg void OnUpdateWindowNew(CCmdUI* pCmdUI);
+    afx_msg BOOL OnMDIWindowCmd(UINT nID);
+    // ID_WINDOW_ARRANGE, ID_WINDOW_CASCADE, ID_WINDOW_TILE_HORZ, ID_WINDOW_TILE_VERT.
+    afx_msg void OnUpdateMDIWindowCmd(CCmdUI* pCmdUI);
+
     LRESULT Tell(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
     void ShowMenuOf(const CMDIChildWnd* child);
 
@@ -108,7 +109,6 @@ public:
 
     virtual BOOL DestroyWindow();
     virtual void ActivateFrame(int nCmdShow = -1);
-    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
     virtual BOOL PreTranslateMessage(MSG* pMsg);
 
 protected:
@@ -122,6 +122,10 @@ protected:
     DECLARE_MESSAGE_MAP()
 
 private:
+    friend class CDocument;
+
+    virtual void OnUpdateFrameTitle(BOOL bAddToTitle);
+
     void FindHandles(UINT resource, CCreateContext* context);
 
     HMENU m_hMenuShared;

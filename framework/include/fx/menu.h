@@ -20,7 +20,6 @@ public:
     // The object of the handle in this thread: the attached one, or a temporary one that lives until the
     // message loop is idle. NULL for a NULL handle.
     static CMenu* PASCAL FromHandle(HMENU hMenu);
-    static CMenu* PASCAL FromHandlePermanent(HMENU hMenu);
     static void PASCAL DeleteTempMap();
 
     // Takes ownership of the handle. FALSE for NULL.
@@ -84,7 +83,7 @@ public:
     BOOL SetMenuItemBitmaps(UINT nPosition, UINT nFlags, const CBitmap* pBmpUnchecked,
                             const CBitmap* pBmpChecked);
 
-    int GetMenuItemCount() const { return ::GetMenuItemCount(m_hMenu); }
+    UINT GetMenuItemCount() const { return ::GetMenuItemCount(m_hMenu); }
     // (UINT)-1 for a sub-menu.
     UINT GetMenuItemID(int nPos) const { return ::GetMenuItemID(m_hMenu, nPos); }
     UINT GetMenuState(UINT nID, UINT nFlags) const { return ::GetMenuState(m_hMenu, nID, nFlags); }
@@ -123,4 +122,10 @@ public:
     virtual void MeasureItem(LPMEASUREITEMSTRUCT lpMeasureItemStruct);
 
     HMENU m_hMenu;
+
+private:
+    friend struct FrameworkAccess;
+
+    // The object that is attached to the handle, or NULL.
+    static CMenu* PASCAL FromHandlePermanent(HMENU hMenu);
 };

@@ -61,10 +61,6 @@ public:
     void SetCurSel(CMFCPropertyGridProperty* pProp, BOOL bRedraw = TRUE);
     // Scrolls the least that shows the property; bExpandParents unfolds what contains it first.
     void EnsureVisible(CMFCPropertyGridProperty* pProp, BOOL bExpandParents = FALSE);
-    // Opens the editor of a property. FALSE when it cannot be edited.
-    virtual BOOL EditItem(CMFCPropertyGridProperty* pProp, LPPOINT lptClick = NULL);
-    // Closes the editor, taking its value when bUpdateData. FALSE when it stays open.
-    virtual BOOL EndEditItem(BOOL bUpdateData = TRUE);
 
     // ---- Look.
     // Alphabetic: all properties in one list, sorted by CompareProps, without the groups.
@@ -105,7 +101,7 @@ public:
                          COLORREF clrDescriptionText, COLORREF clrLine);
     void GetCustomColors(COLORREF& clrBackground, COLORREF& clrText, COLORREF& clrGroupBackground,
                          COLORREF& clrGroupText, COLORREF& clrDescriptionBackground,
-                         COLORREF& clrDescriptionText, COLORREF& clrLine) const;
+                         COLORREF& clrDescriptionText, COLORREF& clrLine);
     COLORREF GetBkColor() const;
     COLORREF GetTextColor() const;
     CFont& GetBoldFont() { return m_fontBold; }
@@ -119,17 +115,15 @@ public:
     int GetPropertyColumnWidth() const;
     // The rows' part of the client area, without header, scroll bar and description.
     CRect GetListRect() const;
-    CMFCHeaderCtrl& GetHeaderCtrl() { return m_wndHeader; }
+    virtual CMFCHeaderCtrl& GetHeaderCtrl() { return m_wndHeader; }
     CScrollBar* GetScrollBarCtrl(int nBar) const override;
     // The property under a point and, when pnArea is given, its part. Over the description: NULL and
     // ClickDescription, or with bPropsOnly just NULL.
     CMFCPropertyGridProperty* HitTest(CPoint pt, CMFCPropertyGridProperty::ClickArea* pnArea = NULL,
                                       BOOL bPropsOnly = FALSE) const;
 
-    // The order in alphabetic mode: negative, zero or positive; by name without regard to case.
-    virtual int CompareProps(const CMFCPropertyGridProperty* pProp1,
-                             const CMFCPropertyGridProperty* pProp2) const;
-
+    // Sets up the header when it is created.
+    virtual void InitHeader();
     BOOL PreTranslateMessage(MSG* pMsg) override;
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* pTI) const override;
 
@@ -137,6 +131,13 @@ public:
     virtual void OnPropertyChanged(CMFCPropertyGridProperty* pProp) const;
 
 protected:
+    // Opens the editor of a property. FALSE when it cannot be edited.
+    virtual BOOL EditItem(CMFCPropertyGridProperty* pProp, LPPOINT lptClick = NULL);
+    // Closes the editor, taking its value when bUpdateData. FALSE when it stays open.
+    virtual BOOL EndEditItem(BOOL bUpdateData = TRUE);
+    // The order in alphabetic mode: negative, zero or positive; by name without regard to case.
+    virtual int CompareProps(const CMFCPropertyGridProperty* pProp1,
+                             const CMFCPropertyGridProperty* pProp2) const;
     // Prepares the control when it gets its window.
     virtual void Init();
     void PreSubclassWindow() override;
@@ -144,11 +145,9 @@ protected:
     virtual BOOL ValidateItemData(CMFCPropertyGridProperty*) { return TRUE; }
     virtual void OnChangeSelection(CMFCPropertyGridProperty*, CMFCPropertyGridProperty*) {}
     virtual void OnClickButton(CPoint point);
-    virtual void OnSelectCombo();
-    virtual void OnCloseCombo();
+    void OnSelectCombo();
     // Recomputes rows, areas and scroll bar; done with the next paint or question about a place.
     virtual void AdjustLayout();
-    virtual void InitHeader();
     virtual void OnDrawBorder(CDC* pDC);
     virtual void OnDrawList(CDC* pDC);
     virtual void OnDrawDescription(CDC* pDC, CRect rect);
@@ -162,10 +161,6 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnEnable(BOOL bEnable);
     afx_msg void OnSysColorChange();
-    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnFinishCombo(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnFinishEdit(WPARAM wParam, LPARAM lParam);
     afx_msg void OnSetFocus(CWnd* pOldWnd);
     afx_msg void OnKillFocus(CWnd* pNewWnd);
     afx_msg UINT OnGetDlgCode();
@@ -187,8 +182,6 @@ protected:
     BOOL OnCommand(WPARAM wParam, LPARAM lParam) override;
     BOOL OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResult) override;
 
-    CMFCPropertyGridProperty* m_pSel;
-
 private:
     friend class PropertyInPlaceEdit;
     using Properties = CArray<CMFCPropertyGridProperty*, CMFCPropertyGridProperty*>;
@@ -198,6 +191,12 @@ private:
         DragColumns,
         DragDescription
     };
+
+    void OnCloseCombo();
+    afx_msg LRESULT OnSetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetFont(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnFinishCombo(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnFinishEdit(WPARAM wParam, LPARAM lParam);
 
     void AddRowsOf(CMFCPropertyGridProperty& prop);
     void CollectTerminals(CMFCPropertyGridProperty& prop);
@@ -255,6 +254,7 @@ private:
     BOOL HasFocusInside(HWND hWndFocus) const;
     void EditorLostFocus(HWND hWndNewFocus);
 
+    CMFCPropertyGridProperty* m_pSel;
     Properties m_lstProps;
     Properties m_rows;      // what is shown, from the top; valid unless m_bRowsDirty
     Properties m_terminals; // the sorted properties of alphabetic mode; valid unless m_bTerminalsDirty

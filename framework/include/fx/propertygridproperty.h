@@ -88,10 +88,8 @@ public:
     // Forbids typing. With options the value can still be chosen, without them the property is read-only.
     void AllowEdit(BOOL bAllow = TRUE);
     BOOL IsAllowEdit() const { return m_bAllowEdit; }
-    BOOL IsSelected() const;
+    virtual BOOL IsSelected() const;
     BOOL IsInPlaceEditing() const { return m_pWndInPlace != NULL; }
-    // Whether there is a value beside the name: not for a plain group.
-    virtual BOOL HasValueField() const;
 
     // ---- Value.
     virtual const _variant_t& GetValue() const { return m_varValue; }
@@ -122,8 +120,9 @@ public:
     // ---- Place and drawing.
     // The row's rectangle, which may lie above or below the list area; empty when the property has no row.
     CRect GetRect() const;
-    // ClickName, ClickValue or ClickExpandBox for a point in the row.
-    ClickArea HitTest(CPoint point);
+    // This property for a point in its row, and then its part in *pnArea: ClickName, ClickValue or
+    // ClickExpandBox; NULL for another point.
+    CMFCPropertyGridProperty* HitTest(CPoint point, CMFCPropertyGridProperty::ClickArea* pnArea = NULL);
     void Redraw();
     // The text for a tool tip; the base gives the name, or value, when it is cut.
     virtual CString GetNameTooltip();
@@ -159,34 +158,29 @@ public:
     virtual void OnSetSelection(CMFCPropertyGridProperty*) {}
     virtual void OnKillSelection(CMFCPropertyGridProperty*) {}
     virtual void OnPosSizeChanged(CRect rectNew);
-    virtual void OnDestroyWindow();
     // TRUE when the property set the cursor for the value.
     virtual BOOL OnSetCursor() const { return FALSE; }
-    virtual HBRUSH OnCtlColor(CDC* pDC, UINT nCtlColor);
-
-    // The printf formats of numbers.
-    static CString m_strFormatChar;
-    static CString m_strFormatShort;
-    static CString m_strFormatLong;
-    static CString m_strFormatUShort;
-    static CString m_strFormatULong;
-    static CString m_strFormatFloat;
-    static CString m_strFormatDouble;
-
-protected:
     // Creates the editor, a heap object that the property owns; with bDefaultFormat set to TRUE it gets the
     // property's text.
     virtual CWnd* CreateInPlaceEdit(CRect rectEdit, BOOL& bDefaultFormat);
     virtual CSpinButtonCtrl* CreateSpinControl(CRect rectSpin);
-    // Creates the combo box whose list drops down; the options are added afterwards.
-    virtual CComboBox* CreateCombo(CWnd* pWndParent, CRect rect);
     // Narrows rectEdit, the value's rectangle, by what stands beside the editor.
     virtual void AdjustInPlaceEditRect(CRect& rectEdit, CRect& rectSpin);
     // Sets m_rectButton.
     virtual void AdjustButtonRect();
+
+    // The printf formats of numbers.
+    static CString m_strFormatShort;
+    static CString m_strFormatLong;
+    static CString m_strFormatFloat;
+    static CString m_strFormatDouble;
+
+protected:
+    // Creates the combo box whose list drops down; the options are added afterwards.
+    virtual CComboBox* CreateCombo(CWnd* pWndParent, CRect rect);
     virtual BOOL HasButton() const;
-    // Reads a text into the value, keeping its type. FALSE when the text is no such value.
-    virtual BOOL TextToVar(const CString& strText);
+    virtual void OnDestroyWindow();
+    virtual HBRUSH OnCtlColor(CDC* pDC, UINT nCtlColor);
 
     // Sets all members to their first values.
     void Init();
@@ -197,41 +191,26 @@ protected:
     // The focus left the editor for a window outside the grid: TRUE ends the editing.
     virtual BOOL OnKillFocus(CWnd*) { return TRUE; }
 
+    // What published examples of derived properties use.
     CMFCPropertyGridCtrl* m_pWndList; // NULL while in no grid
     CMFCPropertyGridProperty* m_pParent;
-    CArray<CMFCPropertyGridProperty*, CMFCPropertyGridProperty*> m_lstSubItems;
     CList<CString, LPCTSTR> m_lstOptions;
-
-    CString m_strName;
-    CString m_strDescr;
-    CString m_strEditMask;
-    CString m_strEditTempl;
-    CString m_strValidChars;
     _variant_t m_varValue;
-    COleVariant m_varValueOrig;
-    DWORD_PTR m_dwData;
-
-    BOOL m_bGroup;
-    BOOL m_bIsValueList;
-    BOOL m_bExpanded;
-    BOOL m_bVisible;
     BOOL m_bEnabled;
     BOOL m_bAllowEdit;
-    BOOL m_bNameIsTruncated;
     BOOL m_bValueIsTruncated;
-    BOOL m_bHasSpin;
-    int m_nMinValue;
-    int m_nMaxValue;
-
     CRect m_rectButton;
     CWnd* m_pWndInPlace;
     CComboBox* m_pWndCombo;
-    CSpinButtonCtrl* m_pWndSpin;
 
 private:
     CMFCPropertyGridProperty(const CMFCPropertyGridProperty&) = delete;
     CMFCPropertyGridProperty& operator=(const CMFCPropertyGridProperty&) = delete;
 
+    // Whether there is a value beside the name: not for a plain group.
+    BOOL HasValueField() const;
+    // Reads a text into the value, keeping its type. FALSE when the text is no such value.
+    BOOL TextToVar(const CString& strText);
     void SetOwnerList(CMFCPropertyGridCtrl* pWndList);
     BOOL Contains(const CMFCPropertyGridProperty* pProp) const;
     void LeaveOwner();
@@ -249,11 +228,29 @@ private:
     BOOL ApplyText(const CString& strText);
 
     CRect ValueRect() const;
+    ClickArea AreaAt(CPoint point) const;
     void PlaceEditors();
     void ShowText();
     void FillCombo();
     void DestroyEditors();
 
+    CArray<CMFCPropertyGridProperty*, CMFCPropertyGridProperty*> m_lstSubItems;
+    CString m_strName;
+    CString m_strDescr;
+    CString m_strEditMask;
+    CString m_strEditTempl;
+    CString m_strValidChars;
+    COleVariant m_varValueOrig;
+    DWORD_PTR m_dwData;
+    BOOL m_bGroup;
+    BOOL m_bIsValueList;
+    BOOL m_bExpanded;
+    BOOL m_bVisible;
+    BOOL m_bNameIsTruncated;
+    BOOL m_bHasSpin;
+    int m_nMinValue;
+    int m_nMaxValue;
+    CSpinButtonCtrl* m_pWndSpin;
     int m_nRow; // index in the grid's visible rows, -1 for none
     PropertyGridWatch* m_pWatches;
 };

@@ -273,10 +273,8 @@ public:
         std::memmove(pchDest, pchSrc, ByteCount(nChars));
     }
 
-protected:
-    CStringData* GetData() const throw() { return reinterpret_cast<CStringData*>(m_pszData) - 1; }
-
 private:
+    CStringData* GetData() const throw() { return reinterpret_cast<CStringData*>(m_pszData) - 1; }
     static PXSTR NilText() { return static_cast<PXSTR>(CStringData::Nil()->data()); }
     static size_t ByteCount(int nChars) { return static_cast<size_t>(nChars) * sizeof(XCHAR); }
 

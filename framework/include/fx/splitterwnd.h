@@ -125,11 +125,12 @@ protected:
     afx_msg void OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
-    afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
 private:
+    afx_msg LRESULT OnInitialUpdate(WPARAM wParam, LPARAM lParam);
+
     // What is at a point: the bar behind a row or a column, -1 for none, or a box that splits one off.
     struct Hit
     {

@@ -63,10 +63,6 @@ protected:
     afx_msg void OnNcPaint();
     afx_msg void OnPaint();
     afx_msg void OnSize(UINT nType, int cx, int cy);
-    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnGetText(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnGetTextLength(WPARAM wParam, LPARAM lParam);
-    afx_msg LRESULT OnSetMinHeight(WPARAM wParam, LPARAM lParam);
 
     DECLARE_MESSAGE_MAP()
 
@@ -80,6 +76,10 @@ private:
         bool isDirty = false; // the text is to be shown with the next change
     };
 
+    afx_msg LRESULT OnSetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetText(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnGetTextLength(WPARAM wParam, LPARAM lParam);
+    afx_msg LRESULT OnSetMinHeight(WPARAM wParam, LPARAM lParam);
     void PlacePanes();
     void ShowPane(int nIndex);
     void MeasureText(Pane& pane) const;

@@ -141,7 +141,6 @@ public:
         AppendFormatWorker(FormatResource(nFormatID), AfxFormatArgument(args)...);
     }
     void FormatV(PCXSTR pszFormat, va_list args);
-    void AppendFormatV(PCXSTR pszFormat, va_list args);
 
     // Replace the text by a message in the format of the system's function: %1 is the first argument as a
     // wide text, %1!d! as printf's %d. CString arguments pass as their text. The format may be a string
@@ -176,6 +175,7 @@ private:
                (LoadString(LOWORD(reinterpret_cast<ULONG_PTR>(pszSrc))), true);
     }
     static CStringW FormatResource(UINT nFormatID);
+    void AppendFormatV(PCXSTR pszFormat, va_list args);
     void AFX_CDECL FormatWorker(PCXSTR pszFormat, ...);
     void AFX_CDECL AppendFormatWorker(PCXSTR pszFormat, ...);
     void AFX_CDECL FormatMessageWorker(PCXSTR pszFormat, ...);

@@ -36,7 +36,7 @@ public:
     }
     CStringA& operator=(LPCWSTR pszSrc) { return *this = CStringA(pszSrc); }
 
-    CStringA& operator+=(const CStringA& strSrc)
+    CStringA& operator+=(const CSimpleStringT<char>& strSrc)
     {
         Append(strSrc);
         return *this;

@@ -80,11 +80,11 @@ public:
 protected:
     DECLARE_MESSAGE_MAP()
 
-    // Calls the ON_THREAD_MESSAGE handler of a message without a window.
-    BOOL DispatchThreadMessageEx(MSG* pMsg);
     friend BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg);
 
 private:
+    // Calls the ON_THREAD_MESSAGE handler of a message without a window.
+    BOOL DispatchThreadMessageEx(MSG* pMsg);
     CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam);
     UINT RunToEnd();
     static unsigned __stdcall ThreadMain(void* start);
@@ -115,7 +115,6 @@ public:
     ~CWinApp() override;
 
     HINSTANCE m_hInstance;
-    HINSTANCE m_hPrevInstance; // always NULL
     LPTSTR m_lpCmdLine;
     int m_nCmdShow;
     // The texts are blocks of malloc: who replaces one frees the old block and makes the new one with
@@ -173,7 +172,6 @@ public:
     virtual int DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT nIDPrompt);
     // nCode 1 shows the hourglass, -1 takes it back, 0 restores it.
     virtual void DoWaitCursor(int nCode);
-    virtual BOOL InitApplication();
     BOOL InitInstance() override;
     int Run() override;
     int ExitInstance() override;
@@ -229,10 +227,11 @@ protected:
     void EnableShellOpen();
     void RegisterShellFileTypes(BOOL bCompat = FALSE);
     void UnregisterShellFileTypes();
+
+private:
     // The command ID_APP_EXIT: closes the main window.
     afx_msg void OnAppExit();
 
-private:
     afx_msg void OnUpdateRecentFileMenu(CCmdUI* pCmdUI);
     afx_msg BOOL OnOpenRecentFile(UINT nID);
     void SaveRecentFiles();

@@ -90,15 +90,6 @@ public:
     void Activate(BOOL bActivate) { quorfx::Send(m_hWnd, TTM_ACTIVATE, bActivate); }
     void RelayEvent(LPMSG lpMsg) { quorfx::Send(m_hWnd, TTM_RELAYEVENT, 0, lpMsg); }
     void Pop() { quorfx::Send(m_hWnd, TTM_POP); }
-    BOOL Popup() { return quorfx::Send<BOOL>(m_hWnd, TTM_POPUP); }
+    void Popup() { quorfx::Send(m_hWnd, TTM_POPUP); }
     void Update() { quorfx::Send(m_hWnd, TTM_UPDATE); }
-    void TrackActivate(LPTOOLINFO lpToolInfo, BOOL bActivate)
-    {
-        quorfx::Send(m_hWnd, TTM_TRACKACTIVATE, bActivate, lpToolInfo);
-    }
-    // Screen coordinates.
-    void TrackPosition(int xPos, int yPos)
-    {
-        quorfx::Send(m_hWnd, TTM_TRACKPOSITION, 0, MAKELPARAM(xPos, yPos));
-    }
 };

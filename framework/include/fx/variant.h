@@ -6,6 +6,15 @@
 #include <oaidl.h>
 #include <oleauto.h>
 
+#ifdef QUORFX_BUILD
+// comutil.h declares them without export.
+namespace _com_util
+{
+QFX_API BSTR WINAPI ConvertStringToBSTR(const char* pSrc);
+QFX_API char* WINAPI ConvertBSTRToString(BSTR pSrc);
+} // namespace _com_util
+#endif
+
 typedef const VARIANT* LPCVARIANT;
 
 // A failed COM call; m_sc is its result.
@@ -13,12 +22,15 @@ class QFX_API COleException : public CException
 {
     DECLARE_DYNAMIC(COleException)
 public:
-    COleException() : m_sc(S_OK) {}
-
     // The system's text for m_sc.
     virtual BOOL GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext = NULL) const;
 
     SCODE m_sc;
+
+private:
+    friend void AFXAPI AfxThrowOleException(SCODE sc);
+
+    COleException() : CException(TRUE), m_sc(S_OK) {}
 };
 
 // Throws a COleException for sc, or CMemoryException when memory is what is missing. Returns when sc is a
@@ -39,7 +51,7 @@ public:
 
     // VT_BSTR; an empty or NULL text is an empty BSTR.
     COleVariant(LPCTSTR lpszSrc);
-    COleVariant(const CString& strSrc);
+    COleVariant(CString& strSrc);
     // A text; vtSrc must be VT_BSTR.
     COleVariant(LPCTSTR lpszSrc, VARTYPE vtSrc);
     COleVariant(BYTE nSrc);
@@ -47,8 +59,6 @@ public:
     COleVariant(short nSrc, VARTYPE vtSrc = VT_I2);
     // vtSrc is VT_I4, VT_ERROR or VT_BOOL.
     COleVariant(long lSrc, VARTYPE vtSrc = VT_I4);
-    COleVariant(LONGLONG nSrc);
-    COleVariant(ULONGLONG nSrc);
     COleVariant(float fltSrc);
     COleVariant(double dblSrc);
 
@@ -70,7 +80,6 @@ public:
     // Same type and same value; texts compare by their characters.
     BOOL operator==(const VARIANT& varSrc) const;
     BOOL operator==(LPCVARIANT pSrc) const;
-    BOOL operator==(const COleVariant& varSrc) const;
 
     operator LPVARIANT() { return this; }
     operator LPCVARIANT() const { return this; }

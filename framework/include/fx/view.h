@@ -87,11 +87,6 @@ protected:
     afx_msg void OnDestroy();
     afx_msg void OnPaint();
     afx_msg int OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message);
-    afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
-    afx_msg BOOL OnNextPaneCmd(UINT nID);
-    afx_msg void OnUpdateNextPaneMenu(CCmdUI* pCmdUI);
-    afx_msg BOOL OnSplitCmd(UINT nID);
-    afx_msg void OnUpdateSplitCmd(CCmdUI* pCmdUI);
 
     DECLARE_MESSAGE_MAP()
 
@@ -99,6 +94,13 @@ protected:
     friend class CFrameWnd;
     friend class CMDIChildWnd;
     friend class CMDIFrameWnd;
+
+private:
+    afx_msg LRESULT HandleInitialUpdate(WPARAM wParam, LPARAM lParam);
+    afx_msg BOOL OnNextPaneCmd(UINT nID);
+    afx_msg void OnUpdateNextPaneMenu(CCmdUI* pCmdUI);
+    afx_msg BOOL OnSplitCmd(UINT nID);
+    afx_msg void OnUpdateSplitCmd(CCmdUI* pCmdUI);
 };
 
 // A view larger than its window, with scroll bars. Sizes and positions are in logical units of the mapping
@@ -124,7 +126,6 @@ public:
     CPoint GetDeviceScrollPosition() const;
     // Scrolls that point to the top left corner, as far as the size allows.
     void ScrollToPosition(POINT pt);
-    void CenterOnPoint(CPoint ptCenter);
     // Paints what lies outside the whole.
     void FillOutsideRect(CDC* pDC, CBrush* pBrush);
     // Makes the frame fit the whole; bShrinkOnly never enlarges it.
@@ -138,24 +139,26 @@ public:
     virtual void OnPrepareDC(CDC* pDC, CPrintInfo* pInfo = NULL);
 
 protected:
-    // Sets range and page of the scroll bars for the window's size, and keeps the position inside.
-    void UpdateBars();
-    // Sizes and points of the mapping mode in device pixels, never negative, and back.
-    CSize DeviceSize(SIZE logicalSize) const;
-    // Scrolls so that this device point of the whole is at the top left corner; FALSE if nothing moved.
-    BOOL ScrollToDevicePosition(CPoint devicePoint);
-
-    int m_nMapMode;
-    CSize m_totalLog;
-    CSize m_totalDev;
-    CSize m_pageDev;
-    CSize m_lineDev;
-    BOOL m_bInsideUpdate;
-
     afx_msg void OnSize(UINT nType, int cx, int cy);
     afx_msg void OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg void OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar);
     afx_msg BOOL OnMouseWheel(UINT nFlags, short zDelta, CPoint pt);
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    friend class CFormView;
+
+    // Sets range and page of the scroll bars for the window's size, and keeps the position inside.
+    void UpdateBars();
+    // Sizes and points of the mapping mode in device pixels, never negative, and back.
+    CSize DeviceSize(SIZE logicalSize) const;
+    // Scrolls so that this device point of the whole is at the top left corner; FALSE if nothing moved.
+    BOOL ScrollToDevicePosition(CPoint devicePoint);
+    int m_nMapMode;
+    CSize m_totalLog;
+    CSize m_totalDev;
+    CSize m_pageDev;
+    CSize m_lineDev;
+    BOOL m_bInsideUpdate;
 };

@@ -38,7 +38,6 @@ class QFX_API CWnd : public CCmdTarget
 
 public:
     CWnd();
-    explicit CWnd(HWND hWnd);
     ~CWnd() override;
 
     HWND m_hWnd; // NULL when there is no window; first member after the base
@@ -86,8 +85,6 @@ public:
     // Called when the object is attached, before the first message; the place for set-up that subclassing
     // needs too.
     virtual void PreSubclassWindow();
-    // Where the procedure that SubclassWindow replaced is kept.
-    virtual WNDPROC* GetSuperWndProcAddr();
     enum AdjustType
     {
         adjustBorder = 0,
@@ -103,31 +100,19 @@ public:
     // The window that gets this window's notifications: the one set, else the parent.
     CWnd* GetOwner() const;
     void SetOwner(CWnd* pOwnerWnd);
-    virtual BOOL IsFrameWnd() const;
 
     // ---- Messages.
-    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
-    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const;
+    LRESULT SendMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
+    BOOL PostMessage(UINT message, WPARAM wParam = 0, LPARAM lParam = 0);
     BOOL SendNotifyMessage(UINT message, WPARAM wParam, LPARAM lParam);
     // Sends to all descendants (bDeep) or children; with bOnlyPerm only to windows that have an attached
     // object.
     void SendMessageToDescendants(UINT message, WPARAM wParam = 0, LPARAM lParam = 0, BOOL bDeep = TRUE,
                                   BOOL bOnlyPerm = FALSE);
-    // The message that is being handled on this thread.
-    static const MSG* PASCAL GetCurrentMessage();
-    // Passes the current message, with its original parameters, to DefWindowProc.
-    LRESULT Default();
     virtual BOOL PreTranslateMessage(MSG* pMsg);
-    // Calls PreTranslateMessage of the attached objects from the message's window up to hWndStop.
-    static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
-    BOOL PreTranslateInput(LPMSG lpMsg); // IsDialogMessage for input messages
     BOOL IsDialogMessage(LPMSG lpMsg);
     BOOL OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo) override;
-    // Sends the message that is being handled to the attached object of hWndChild, or of this window, as a
-    // reflected one. TRUE when it was handled; pResult may be NULL.
-    static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = NULL);
     BOOL SendChildNotifyLastMsg(LRESULT* pResult = NULL);
-    static BOOL PASCAL GrayCtlColor(HDC hDC, HWND hWnd, UINT nCtlColor, HBRUSH hbrGray, COLORREF clrText);
 
     // ---- Text and font.
     void SetWindowText(LPCTSTR lpszString);
@@ -175,8 +160,8 @@ public:
     void ClientToScreen(LPRECT lpRect) const;
     void ScreenToClient(LPPOINT lpPoint) const;
     void ScreenToClient(LPRECT lpRect) const;
-    int MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
-    int MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
+    void MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const;
+    void MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const;
 
     // ---- Painting.
     CDC* BeginPaint(LPPAINTSTRUCT lpPaint);
@@ -240,7 +225,7 @@ public:
     int SetDlgCtrlID(int nID);
     void CheckDlgButton(int nIDButton, UINT nCheck);
     void CheckRadioButton(int nIDFirstButton, int nIDLastButton, int nIDCheckButton);
-    int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const;
+    int GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton);
     UINT IsDlgButtonChecked(int nIDButton) const;
     UINT GetDlgItemInt(int nID, BOOL* lpTrans = NULL, BOOL bSigned = TRUE) const;
     void SetDlgItemInt(int nID, UINT nValue, BOOL bSigned = TRUE);
@@ -303,9 +288,6 @@ public:
     // The enabled window that should own a new popup; *pWndTop gets the top-level window that is to be
     // disabled.
     static CWnd* PASCAL GetSafeOwner(CWnd* pParent = NULL, HWND* pWndTop = NULL);
-    static HWND PASCAL GetSafeOwner_(HWND hWnd, HWND* pWndTop);
-    BOOL IsTopParentActive() const;
-    void ActivateTopParent();
 
     // ---- Help: shows it through the application.
     virtual void WinHelp(DWORD_PTR dwData, UINT nCmd = HELP_CONTEXT);
@@ -353,20 +335,46 @@ protected:
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     BOOL ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     virtual void DoDataExchange(CDataExchange* pDX);
+    // The message that is being handled on this thread.
+    static const MSG* PASCAL GetCurrentMessage();
+    // Passes the current message, with its original parameters, to DefWindowProc.
+    LRESULT Default();
+    // Sends the message that is being handled to the attached object of hWndChild as a reflected one. TRUE
+    // when it was handled; pResult may be NULL.
+    static BOOL PASCAL ReflectLastMsg(HWND hWndChild, LRESULT* pResult = NULL);
     // The last call for a window; m_hWnd is NULL. Objects that own themselves delete themselves here.
     virtual void PostNcDestroy();
 
     DECLARE_MESSAGE_MAP()
 
+private:
+    friend struct FrameworkAccess;
+    friend class CCmdUI;
+    friend class CDataExchange;
+    friend class CDialog;
+    friend class CDialogBar;
+    friend class CFormView;
+    friend class CFrameWnd;
+    friend class CPropertySheet;
+    friend class CreationScope;
+    friend class CView;
+
+    explicit CWnd(HWND hWnd);
+    // Where the procedure that SubclassWindow replaced is kept.
+    virtual WNDPROC* GetSuperWndProcAddr();
+    virtual BOOL IsFrameWnd() const;
+    BOOL PreTranslateInput(LPMSG lpMsg); // IsDialogMessage for input messages
+    // Calls PreTranslateMessage of the attached objects from the message's window up to hWndStop.
+    static BOOL PASCAL WalkPreTranslateTree(HWND hWndStop, MSG* pMsg);
+    static BOOL PASCAL GrayCtlColor(HDC hDC, HWND hWnd, UINT nCtlColor, HBRUSH hbrGray, COLORREF clrText);
+    static HWND PASCAL GetSafeOwner_(HWND hWnd, HWND* pWndTop);
+    BOOL IsTopParentActive() const;
+    void ActivateTopParent();
+
     HWND m_hWndOwner; // set by SetOwner
     UINT m_nFlags;    // WF_ bits
     WNDPROC m_pfnSuper;
     int m_nModalResult;
-
-    friend LRESULT AFXAPI AfxCallWndProc(CWnd*, HWND, UINT, WPARAM, LPARAM);
-    friend class CCmdUI;
-    friend class CDataExchange;
-    friend class CreationScope;
 };
 
 // Bits of CWnd::m_nFlags.

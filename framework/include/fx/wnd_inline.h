@@ -33,11 +33,11 @@ inline BOOL CWnd::IsFrameWnd() const
     return FALSE;
 }
 
-inline LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+inline LRESULT CWnd::SendMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::SendMessage(m_hWnd, message, wParam, lParam);
 }
-inline BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam) const
+inline BOOL CWnd::PostMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
     return ::PostMessage(m_hWnd, message, wParam, lParam);
 }
@@ -69,7 +69,7 @@ inline HICON CWnd::SetIcon(HICON hIcon, BOOL bBigIcon)
 }
 inline HICON CWnd::GetIcon(BOOL bBigIcon) const
 {
-    return reinterpret_cast<HICON>(SendMessage(WM_GETICON, static_cast<WPARAM>(bBigIcon)));
+    return reinterpret_cast<HICON>(::SendMessage(m_hWnd, WM_GETICON, static_cast<WPARAM>(bBigIcon), 0));
 }
 inline void CWnd::DrawMenuBar()
 {
@@ -129,13 +129,13 @@ inline void CWnd::ScreenToClient(LPPOINT lpPoint) const
 {
     ::ScreenToClient(m_hWnd, lpPoint);
 }
-inline int CWnd::MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const
+inline void CWnd::MapWindowPoints(CWnd* pwndTo, LPPOINT lpPoint, UINT nCount) const
 {
-    return ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), lpPoint, nCount);
+    ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), lpPoint, nCount);
 }
-inline int CWnd::MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const
+inline void CWnd::MapWindowPoints(CWnd* pwndTo, LPRECT lpRect) const
 {
-    return ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), reinterpret_cast<LPPOINT>(lpRect), 2);
+    ::MapWindowPoints(m_hWnd, pwndTo->GetSafeHwnd(), reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 inline void CWnd::EndPaint(LPPAINTSTRUCT lpPaint)

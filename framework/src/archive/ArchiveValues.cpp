@@ -96,7 +96,7 @@ template <class TSame, class TOther> void ReadText(CArchive& ar, TSame& string, 
 } // namespace
 
 CArchiveException::CArchiveException(int cause, LPCTSTR lpszArchiveName)
-    : m_cause(cause), m_strFileName(lpszArchiveName)
+    : CException(TRUE), m_cause(cause), m_strFileName(lpszArchiveName)
 {
 }
 

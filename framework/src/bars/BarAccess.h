@@ -25,6 +25,10 @@ struct BarAccess
     static UINT& Delayed(CControlBar& bar) { return bar.m_nDelayedShow; }
     static int& MruWidth(CControlBar& bar) { return bar.m_nMruWidth; }
     static BOOL IsHorizontal(const CControlBar& bar) { return bar.IsHorizontal(); }
+    static LRESULT SizeParent(CControlBar& bar, WPARAM wParam, LPARAM lParam)
+    {
+        return bar.CControlBar::OnSizeParent(wParam, lParam);
+    }
     static FrameBars& Bars(CFrameWnd& frame);
     static FrameBars* BarsIfAny(const CFrameWnd& frame) { return frame.m_pBars; }
 };

@@ -168,7 +168,7 @@ LRESULT DockBar::OnSizeParent(WPARAM wParam, LPARAM lParam)
 {
     const AFX_SIZEPARENTPARAMS& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
     const CRect room(layout.rect);
-    CControlBar::OnSizeParent(wParam, lParam);
+    BarAccess::SizeParent(*this, wParam, lParam);
     if (layout.hDWP != NULL)
         PlaceBars(BarAccess::IsHorizontal(*this) ? room.Width() : room.Height());
     return 0;

@@ -12,7 +12,6 @@ class DockBar : public CControlBar
     DECLARE_DYNAMIC(DockBar)
 
 public:
-    explicit DockBar(CFrameWnd& site) : m_site(site) {}
     ~DockBar() override;
 
     // align is the edge, with CBRS_FLOATING in a floating frame.
@@ -48,7 +47,6 @@ private:
     std::vector<DockRow> VisibleRows(bool commits);
     void Adopt(CControlBar* bar);
 
-    CFrameWnd& m_site;
     std::vector<DockRow> m_rows;
 };
 

@@ -45,9 +45,9 @@ void FloatFrame::MoveTo(CPoint screenPoint)
 void FloatFrame::RecalcLayout(BOOL)
 {
     CControlBar* const bar = Bar();
-    if (m_bInRecalcLayout || bar == NULL)
+    if (m_isFitting || bar == NULL)
         return;
-    m_bInRecalcLayout = TRUE;
+    m_isFitting = true;
     if (bar->IsVisible())
     {
         const CSize size = m_dock.CalcFixedLayout(FALSE, BarAccess::IsHorizontal(m_dock));
@@ -61,7 +61,7 @@ void FloatFrame::RecalcLayout(BOOL)
         SetWindowText(title);
     }
     ShowAsNeeded();
-    m_bInRecalcLayout = FALSE;
+    m_isFitting = false;
 }
 
 // Not before the frame itself is shown.

@@ -10,7 +10,7 @@ namespace quorfx
 class FloatFrame : public CMiniFrameWnd
 {
 public:
-    explicit FloatFrame(CFrameWnd& site) : m_site(site), m_dock(site) {}
+    explicit FloatFrame(CFrameWnd& site) : m_site(site) {}
 
     // screenPoint: the top left corner of the bar. align: CBRS_ALIGN_TOP for a lying bar, CBRS_ALIGN_LEFT for
     // a standing one.
@@ -34,6 +34,7 @@ protected:
 private:
     CFrameWnd& m_site;
     DockBar m_dock;
+    bool m_isFitting = false;
 };
 
 } // namespace quorfx

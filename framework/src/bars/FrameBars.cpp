@@ -133,7 +133,7 @@ BOOL CFrameWnd::NegotiateBorderSpace(UINT nBorderCmd, LPRECT lpRectBorder)
     case borderSet:
         if (lpRectBorder != NULL)
             border = *lpRectBorder;
-        if (border == m_rectBorder)
+        if (::EqualRect(&border, &m_rectBorder))
             return FALSE;
         m_rectBorder = border;
         return TRUE;

@@ -29,7 +29,7 @@ void FrameBars::EnableDocking(DWORD style)
     {
         if (!(style & edge.align) || Dock(edge.id) != NULL)
             continue;
-        m_docks.push_back(std::make_unique<DockBar>(m_frame));
+        m_docks.push_back(std::make_unique<DockBar>());
         m_docks.back()->Create(m_frame, edge.id, edge.align);
     }
 }

@@ -92,7 +92,7 @@ void CSplitterWnd::OnMouseMove(UINT, CPoint point)
 void CSplitterWnd::Track(CPoint point)
 {
     const CPoint moved = InTrackArea(point);
-    if (moved == m_trackPoint)
+    if (moved.x == m_trackPoint.x && moved.y == m_trackPoint.y)
         return;
     InvertTrackers();
     m_trackPoint = moved;

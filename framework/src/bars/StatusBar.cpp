@@ -1,5 +1,6 @@
 // CStatusBar: creation, panes, texts and the state of the indicators.
 #include "bars/BarAccess.h"
+#include "FrameworkAccess.h"
 #include "controls/CommonControls.h"
 
 IMPLEMENT_DYNAMIC(CStatusBar, CControlBar)
@@ -299,7 +300,7 @@ class StatusPaneUI : public CCmdUI
 public:
     void Enable(BOOL bOn) override
     {
-        m_bEnableChanged = TRUE;
+        FrameworkAccess::EnableChanged(*this) = TRUE;
         Change(SBPS_DISABLED, !bOn);
     }
     void SetCheck(int nCheck) override { Change(SBPS_POPOUT, nCheck != 0); }

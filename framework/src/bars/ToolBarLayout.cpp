@@ -1,5 +1,6 @@
 // CToolBar: rows of buttons, painting, tool tips and the state of the buttons.
 #include "bars/BarAccess.h"
+#include "FrameworkAccess.h"
 
 namespace
 {
@@ -245,7 +246,7 @@ class ToolBarButtonUI : public CCmdUI
 public:
     void Enable(BOOL bOn) override
     {
-        m_bEnableChanged = TRUE;
+        FrameworkAccess::EnableChanged(*this) = TRUE;
         // The bit of a disabled button is set in TBBS_ styles.
         UINT style = Bar().GetButtonStyle(Index()) & ~TBBS_DISABLED;
         if (!bOn)

@@ -268,7 +268,7 @@ BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount)
     return quorfx::Send<BOOL>(m_hWnd, LVM_GETCOLUMNORDERARRAY, iCount, piArray);
 }
 
-CHeaderCtrl* CListCtrl::GetHeaderCtrl() const
+CHeaderCtrl* CListCtrl::GetHeaderCtrl()
 {
     return static_cast<CHeaderCtrl*>(CWnd::FromHandle(quorfx::Send<HWND>(m_hWnd, LVM_GETHEADER)));
 }

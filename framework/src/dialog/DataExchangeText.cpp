@@ -1,5 +1,6 @@
 // Data exchange with text fields.
 #include "afxwin.h"
+#include "FrameworkAccess.h"
 #include <cerrno>
 #include <cfloat>
 #include <limits>
@@ -266,9 +267,10 @@ void AFXAPI DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars)
         AfxMessageBox(message, MB_ICONEXCLAMATION, AFX_IDP_PARSE_STRING_SIZE);
         pDX->Fail();
     }
-    const HWND control = ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, static_cast<int>(pDX->m_idLastControl));
+    const HWND control =
+        ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, static_cast<int>(FrameworkAccess::LastControl(*pDX)));
     if (control == NULL)
         return;
-    const UINT limitText = pDX->m_bEditLastControl ? EM_LIMITTEXT : CB_LIMITTEXT;
+    const UINT limitText = FrameworkAccess::IsEditLastControl(*pDX) ? EM_LIMITTEXT : CB_LIMITTEXT;
     ::SendMessage(control, limitText, static_cast<WPARAM>(nChars), 0);
 }

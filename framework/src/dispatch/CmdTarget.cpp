@@ -1,5 +1,6 @@
 // CCmdTarget: the search for a command's handler and its call; the hourglass.
 #include "dispatch/MessageMap.h"
+#include "FrameworkAccess.h"
 
 IMPLEMENT_DYNAMIC(CCmdTarget, CObject)
 
@@ -56,10 +57,11 @@ BOOL CallNotifyHandler(const Command& command, UINT_PTR kind)
 BOOL CallUpdateHandler(const Command& command)
 {
     CCmdUI* const state = static_cast<CCmdUI*>(command.extra);
-    state->m_bContinueRouting = FALSE;
+    BOOL& continueRouting = FrameworkAccess::ContinueRouting(*state);
+    continueRouting = FALSE;
     command.As<void, CCmdUI*>(state);
-    const BOOL handled = !state->m_bContinueRouting;
-    state->m_bContinueRouting = FALSE;
+    const BOOL handled = !continueRouting;
+    continueRouting = FALSE;
     return handled;
 }
 

@@ -7,10 +7,10 @@ CCmdUI::CCmdUI()
       m_pMenu(NULL),
       m_pSubMenu(NULL),
       m_pOther(NULL),
-      m_bEnableChanged(FALSE),
-      m_bContinueRouting(FALSE),
       m_nIndexMax(0),
-      m_pParentMenu(NULL)
+      m_pParentMenu(NULL),
+      m_bEnableChanged(FALSE),
+      m_bContinueRouting(FALSE)
 {
 }
 

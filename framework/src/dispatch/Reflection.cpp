@@ -1,6 +1,7 @@
 // Commands and notifications: which of parent and child sees them, and in which order.
 #include "dispatch/MessageMap.h"
 #include "thread/ThreadState.h"
+#include "FrameworkAccess.h"
 
 namespace
 {
@@ -13,7 +14,7 @@ public:
     void Enable(BOOL bOn) override
     {
         m_enabled = bOn;
-        m_bEnableChanged = TRUE;
+        FrameworkAccess::EnableChanged(*this) = TRUE;
     }
     void SetCheck(int) override {}
     void SetRadio(BOOL) override {}

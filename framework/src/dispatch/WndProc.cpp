@@ -2,6 +2,7 @@
 #include "dispatch/MessageMap.h"
 #include "thread/ThreadState.h"
 #include "window/WindowMap.h"
+#include "FrameworkAccess.h"
 
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
@@ -57,7 +58,7 @@ LRESULT AFXAPI AfxCallWndProc(CWnd* pWnd, HWND hWnd, UINT nMsg, WPARAM wParam, L
     // call.
     try
     {
-        return pWnd->WindowProc(nMsg, wParam, lParam);
+        return FrameworkAccess::CallWindowProc(*pWnd, nMsg, wParam, lParam);
     }
     catch (CException* exception)
     {

@@ -1,5 +1,6 @@
 // The message map of CWnd, and its default handlers that offer the message to the child it is about.
 #include "afxwin.h"
+#include "FrameworkAccess.h"
 
 BEGIN_MESSAGE_MAP(CWnd, CCmdTarget)
     ON_WM_NCDESTROY()
@@ -31,7 +32,7 @@ namespace
 // Owner-drawn items of a menu object are drawn and measured by that object.
 CMenu* OwnerDrawnMenu(UINT controlType, HMENU menu)
 {
-    return controlType == ODT_MENU ? CMenu::FromHandlePermanent(menu) : NULL;
+    return controlType == ODT_MENU ? FrameworkAccess::PermanentMenu(menu) : NULL;
 }
 
 } // namespace

@@ -76,7 +76,7 @@ void ShowDocument(CDocument* document)
         return;
     frame->ActivateFrame();
     CWnd* main = AfxGetMainWnd();
-    if (frame->GetParent() != NULL && main != frame && main != NULL && main->IsFrameWnd())
+    if (frame->GetParent() != NULL && main != frame && main != NULL && main->IsKindOf(RUNTIME_CLASS(CFrameWnd)))
         static_cast<CFrameWnd*>(main)->ActivateFrame();
 }
 

@@ -1,5 +1,6 @@
 // The dialogs that ask for the file of a document.
 #include "document/FilePrompt.h"
+#include "FrameworkAccess.h"
 #include <commdlg.h>
 
 namespace
@@ -74,7 +75,7 @@ bool PromptForFile(CString& fileName, UINT titleId, DWORD flags, bool open, CDoc
     HWND disabled = NULL;
     OPENFILENAME parameters = {};
     parameters.lStructSize = sizeof parameters;
-    parameters.hwndOwner = CWnd::GetSafeOwner_(NULL, &disabled);
+    parameters.hwndOwner = FrameworkAccess::SafeOwner(&disabled);
     parameters.lpstrFilter = filter.Text();
     parameters.nFilterIndex = 1;
     parameters.lpstrDefExt = filter.DefaultExtension();

@@ -1,5 +1,6 @@
 // CRecentFileList: the recently used files.
 #include "afxadv.h"
+#include "FrameworkAccess.h"
 #include "document/DocumentSupport.h"
 
 CRecentFileList::CRecentFileList(UINT nStart, LPCTSTR lpszSection, LPCTSTR lpszEntryFormat, int nSize,
@@ -105,7 +106,7 @@ void CRecentFileList::UpdateMenu(CCmdUI* pCmdUI)
     // The caller goes on behind the last one.
     --pCmdUI->m_nIndex;
     pCmdUI->m_nIndexMax = static_cast<UINT>(menu->GetMenuItemCount());
-    pCmdUI->m_bEnableChanged = TRUE;
+    FrameworkAccess::EnableChanged(*pCmdUI) = TRUE;
 }
 
 CString CRecentFileList::EntryName(int index) const

@@ -111,7 +111,7 @@ static_assert(_countof(kMessages) == CFileException::endOfFile + 1, "one message
 } // namespace
 
 CFileException::CFileException(int cause, LONG lOsError, LPCTSTR lpszArchiveName)
-    : m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszArchiveName)
+    : CException(TRUE), m_cause(cause), m_lOsError(lOsError), m_strFileName(lpszArchiveName)
 {
 }
 

@@ -58,7 +58,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
         return;
     CCmdUI state;
     state.m_pMenu = pMenu;
-    state.m_nIndexMax = static_cast<UINT>(pMenu->GetMenuItemCount());
+    state.m_nIndexMax = pMenu->GetMenuItemCount();
     for (state.m_nIndex = 0; state.m_nIndex < state.m_nIndexMax; ++state.m_nIndex)
     {
         state.m_nID = CommandOfItem(pMenu, state.m_nIndex, state.m_pSubMenu);
@@ -69,7 +69,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
         state.m_bEnableChanged = FALSE;
         state.DoUpdate(this, disable);
         // A handler may have inserted or removed items: go on behind the item that was updated.
-        const UINT count = static_cast<UINT>(pMenu->GetMenuItemCount());
+        const UINT count = pMenu->GetMenuItemCount();
         if (count < state.m_nIndexMax)
             state.m_nIndex -= (std::min)(state.m_nIndex, state.m_nIndexMax - count);
         else

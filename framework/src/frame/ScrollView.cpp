@@ -153,7 +153,7 @@ void CScrollView::UpdateBars()
     SetScrollInfo(SB_VERT, &info);
     // The bars clamp their positions by themselves; the contents follow.
     const CPoint clamped = GetDeviceScrollPosition();
-    if (clamped != position)
+    if (clamped.x != position.x || clamped.y != position.y)
         ScrollWindow(position.x - clamped.x, position.y - clamped.y);
     m_bInsideUpdate = FALSE;
 }
@@ -185,7 +185,7 @@ BOOL CScrollView::ScrollToDevicePosition(CPoint devicePoint)
     const CPoint before = GetDeviceScrollPosition();
     const CPoint after((std::max)(0L, std::min<LONG>(devicePoint.x, GetScrollLimit(SB_HORZ))),
                        (std::max)(0L, std::min<LONG>(devicePoint.y, GetScrollLimit(SB_VERT))));
-    if (after == before)
+    if (after.x == before.x && after.y == before.y)
         return FALSE;
     if (after.x != before.x)
         SetScrollPos(SB_HORZ, after.x);
@@ -193,14 +193,6 @@ BOOL CScrollView::ScrollToDevicePosition(CPoint devicePoint)
         SetScrollPos(SB_VERT, after.y);
     ScrollWindow(before.x - after.x, before.y - after.y);
     return TRUE;
-}
-
-void CScrollView::CenterOnPoint(CPoint ptCenter)
-{
-    CRect client;
-    GetClientRect(&client);
-    const CSize center = DeviceSize(CSize(ptCenter.x, ptCenter.y));
-    ScrollToDevicePosition(CPoint(center.cx - client.Width() / 2, center.cy - client.Height() / 2));
 }
 
 void CScrollView::FillOutsideRect(CDC* pDC, CBrush* pBrush)

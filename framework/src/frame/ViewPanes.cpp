@@ -8,7 +8,7 @@ namespace
 // The splitter around a view; NULL for none.
 CSplitterWnd* SplitterOf(const CWnd* view)
 {
-    for (CWnd* parent = view->GetParent(); parent != NULL && !parent->IsFrameWnd();
+    for (CWnd* parent = view->GetParent(); parent != NULL && !parent->IsKindOf(RUNTIME_CLASS(CFrameWnd));
          parent = parent->GetParent())
         if (CSplitterWnd* const splitter = DYNAMIC_DOWNCAST(CSplitterWnd, parent))
             return splitter;

@@ -10,21 +10,28 @@ IMPLEMENT_DYNAMIC(CUserException, CSimpleException)
 IMPLEMENT_DYNAMIC(CNotSupportedException, CSimpleException)
 IMPLEMENT_DYNAMIC(CInvalidArgException, CSimpleException)
 
+// The one exception object of a class that is thrown without memory of its own. It has no destructor to run
+// at exit, so a throw from a late destructor still finds it.
+struct ThrownException
+{
+    template <typename TException> static TException* Shared()
+    {
+        alignas(TException) static char storage[sizeof(TException)];
+        static TException* const exception = ::new (storage) TException(FALSE);
+        return exception;
+    }
+};
+
 namespace
 {
 
-// The one exception object of a class that is thrown without memory of its own. It has no destructor to run
-// at exit, so a throw from a late destructor still finds it.
 template <typename TException> TException* SharedException()
 {
-    alignas(TException) static char storage[sizeof(TException)];
-    static TException* const exception = ::new (storage) TException(FALSE);
-    return exception;
+    return ThrownException::Shared<TException>();
 }
 
 } // namespace
 
-CException::CException() : m_bAutoDelete(TRUE) {}
 CException::CException(BOOL bAutoDelete) : m_bAutoDelete(bAutoDelete) {}
 CException::~CException() = default;
 
@@ -55,7 +62,7 @@ int CException::ReportError(UINT nType, UINT nMessageID)
     return AfxMessageBox(text, nType, helpContext);
 }
 
-CSimpleException::CSimpleException() = default;
+CSimpleException::CSimpleException() : CException(TRUE) {}
 CSimpleException::CSimpleException(BOOL bAutoDelete) : CException(bAutoDelete) {}
 
 BOOL CSimpleException::GetErrorMessage(LPTSTR lpszError, UINT nMaxError, PUINT pnHelpContext) const

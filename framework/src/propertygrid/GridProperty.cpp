@@ -17,12 +17,12 @@ CMFCPropertyGridProperty::CMFCPropertyGridProperty(const CString& strGroupName, 
 CMFCPropertyGridProperty::CMFCPropertyGridProperty(const CString& strName, const _variant_t& varValue,
                                                    LPCTSTR lpszDescr, DWORD_PTR dwData, LPCTSTR lpszEditMask,
                                                    LPCTSTR lpszEditTemplate, LPCTSTR lpszValidChars)
-    : m_strName(strName),
+    : m_varValue(varValue),
+      m_strName(strName),
       m_strDescr(lpszDescr),
       m_strEditMask(lpszEditMask),
       m_strEditTempl(lpszEditTemplate),
       m_strValidChars(lpszValidChars),
-      m_varValue(varValue),
       m_varValueOrig(static_cast<const VARIANT&>(varValue)),
       m_dwData(dwData)
 {

@@ -22,10 +22,18 @@ BOOL DrawCellText(CDC& dc, const CString& text, const CRect& cell)
 
 } // namespace
 
-CMFCPropertyGridProperty::ClickArea CMFCPropertyGridProperty::HitTest(CPoint point)
+CMFCPropertyGridProperty* CMFCPropertyGridProperty::HitTest(CPoint point,
+                                                            CMFCPropertyGridProperty::ClickArea* pnArea)
 {
-    if (m_pWndList == NULL)
-        return ClickName;
+    if (m_pWndList == NULL || !GetRect().PtInRect(point))
+        return NULL;
+    if (pnArea != NULL)
+        *pnArea = AreaAt(point);
+    return this;
+}
+
+CMFCPropertyGridProperty::ClickArea CMFCPropertyGridProperty::AreaAt(CPoint point) const
+{
     const CRect row = GetRect();
     const int indent = m_pWndList->IndentOf(*this);
     const int column = m_pWndList->GetLeftColumnWidth();

@@ -2,11 +2,8 @@
 #include "afxpropertygridctrl.h"
 #include "propertygrid/PropertyValueText.h"
 
-CString CMFCPropertyGridProperty::m_strFormatChar = _T("%c");
 CString CMFCPropertyGridProperty::m_strFormatShort = _T("%d");
 CString CMFCPropertyGridProperty::m_strFormatLong = _T("%ld");
-CString CMFCPropertyGridProperty::m_strFormatUShort = _T("%u");
-CString CMFCPropertyGridProperty::m_strFormatULong = _T("%lu");
 CString CMFCPropertyGridProperty::m_strFormatFloat = _T("%f");
 CString CMFCPropertyGridProperty::m_strFormatDouble = _T("%lf");
 

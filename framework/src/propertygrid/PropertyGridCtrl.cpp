@@ -333,7 +333,7 @@ void CMFCPropertyGridCtrl::SetCustomColors(COLORREF clrBackground, COLORREF clrT
 void CMFCPropertyGridCtrl::GetCustomColors(COLORREF& clrBackground, COLORREF& clrText,
                                            COLORREF& clrGroupBackground, COLORREF& clrGroupText,
                                            COLORREF& clrDescriptionBackground, COLORREF& clrDescriptionText,
-                                           COLORREF& clrLine) const
+                                           COLORREF& clrLine)
 {
     clrBackground = m_clrBackground;
     clrText = m_clrText;

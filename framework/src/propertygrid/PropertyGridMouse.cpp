@@ -35,7 +35,7 @@ CMFCPropertyGridCtrl::HitTest(CPoint pt, CMFCPropertyGridProperty::ClickArea* pn
     const int row = quorfx::RowAt(list, m_nRowHeight, m_nFirstRow, RowCount(), pt.y);
     CMFCPropertyGridProperty* const prop = isInList ? PropertyOfRow(row) : NULL;
     if (prop != NULL && pnArea != NULL)
-        *pnArea = prop->HitTest(pt);
+        *pnArea = prop->AreaAt(pt);
     return prop;
 }
 
@@ -180,7 +180,7 @@ void CMFCPropertyGridCtrl::OnLButtonDown(UINT, CPoint point)
 
 void CMFCPropertyGridCtrl::ClickRow(CMFCPropertyGridProperty* pProp, CPoint point)
 {
-    const CMFCPropertyGridProperty::ClickArea area = pProp->HitTest(point);
+    const CMFCPropertyGridProperty::ClickArea area = pProp->AreaAt(point);
     const bool wasSelected = pProp == m_pSel;
     PropertyGridWatch clicked(pProp->m_pWatches);
     if (!Select(pProp, TRUE) || clicked.IsGone())

@@ -11,6 +11,11 @@ namespace quorfx
 namespace
 {
 
+// The formats of numbers that programs cannot change.
+constexpr const TCHAR* CharacterFormat = _T("%c");
+constexpr const TCHAR* UnsignedFormat = _T("%u");
+constexpr const TCHAR* UnsignedLongFormat = _T("%lu");
+
 struct IntegerRange
 {
     VARTYPE type;
@@ -36,7 +41,7 @@ CString FormatCharacter(BYTE character)
     CString text;
     // A zero would end the text in the middle of a longer format.
     if (character != 0)
-        text.Format(CMFCPropertyGridProperty::m_strFormatChar, static_cast<wchar_t>(character));
+        text.Format(CharacterFormat, static_cast<wchar_t>(character));
     return text;
 }
 
@@ -172,7 +177,7 @@ CString FormatValue(const VARIANT& value, const FlagLabels& labels)
         text.Format(CMFCPropertyGridProperty::m_strFormatShort, value.iVal);
         return text;
     case VT_UI2:
-        text.Format(CMFCPropertyGridProperty::m_strFormatUShort, value.uiVal);
+        text.Format(UnsignedFormat, value.uiVal);
         return text;
     case VT_I4:
     case VT_INT:
@@ -180,7 +185,7 @@ CString FormatValue(const VARIANT& value, const FlagLabels& labels)
         return text;
     case VT_UI4:
     case VT_UINT:
-        text.Format(CMFCPropertyGridProperty::m_strFormatULong, value.ulVal);
+        text.Format(UnsignedLongFormat, value.ulVal);
         return text;
     default:
         return FormatOther(value);

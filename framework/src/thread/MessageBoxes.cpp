@@ -1,5 +1,6 @@
 // AfxMessageBox.
 #include "afxwin.h"
+#include "FrameworkAccess.h"
 
 namespace
 {
@@ -24,7 +25,7 @@ UINT WithDefaultIcon(UINT type)
 int ShowMessageBox(LPCTSTR text, UINT type)
 {
     HWND top = NULL;
-    const HWND owner = CWnd::GetSafeOwner_(NULL, &top);
+    const HWND owner = FrameworkAccess::SafeOwner(&top);
     const int answer = ::MessageBox(owner, text, AfxGetAppName(), WithDefaultIcon(type));
     if (top != NULL)
         ::EnableWindow(top, TRUE);

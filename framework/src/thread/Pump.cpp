@@ -2,6 +2,7 @@
 #include "afxpriv.h"
 #include "thread/Pump.h"
 #include "thread/ThreadState.h"
+#include "FrameworkAccess.h"
 
 void AFXAPI AfxPostQuitMessage(int nExitCode)
 {
@@ -40,7 +41,7 @@ BOOL IsIdleMessageOfThread(const MSG& message)
 BOOL PreTranslateForWindows(MSG* message)
 {
     CWnd* const main = AfxGetMainWnd();
-    if (CWnd::WalkPreTranslateTree(main->GetSafeHwnd(), message))
+    if (FrameworkAccess::WalkPreTranslateTree(main->GetSafeHwnd(), message))
         return TRUE;
     if (main == NULL || message->hwnd == NULL)
         return FALSE;

@@ -5,7 +5,7 @@
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 
 BEGIN_MESSAGE_MAP(CWinApp, CWinThread)
-    ON_COMMAND(ID_APP_EXIT, OnAppExit)
+    ON_COMMAND(ID_APP_EXIT, &CWinApp::OnAppExit)
     ON_UPDATE_COMMAND_UI(ID_FILE_MRU_FILE1, &CWinApp::OnUpdateRecentFileMenu)
     ON_COMMAND_EX_RANGE(ID_FILE_MRU_FILE1, ID_FILE_MRU_FILE16, &CWinApp::OnOpenRecentFile)
 END_MESSAGE_MAP()
@@ -36,7 +36,6 @@ CString TitleOf(LPCTSTR given, const CString& programName)
 
 CWinApp::CWinApp(LPCTSTR lpszAppName)
     : m_hInstance(::GetModuleHandle(NULL)),
-      m_hPrevInstance(NULL),
       m_lpCmdLine(NULL),
       m_nCmdShow(SW_SHOWDEFAULT),
       m_pszAppName(NULL),
@@ -77,11 +76,6 @@ CWinApp::~CWinApp()
     for (const LPCTSTR text :
          {m_pszAppName, m_pszExeName, m_pszRegistryKey, m_pszProfileName, m_pszHelpFilePath})
         std::free(const_cast<LPTSTR>(text));
-}
-
-BOOL CWinApp::InitApplication()
-{
-    return TRUE;
 }
 
 BOOL CWinApp::InitInstance()

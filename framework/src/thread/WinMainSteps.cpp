@@ -5,7 +5,7 @@
 #include "thread/ThreadState.h"
 #include "window/ToolTips.h"
 
-BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)
+BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow)
 {
     ::SetErrorMode(::SetErrorMode(0) | SEM_FAILCRITICALERRORS | SEM_NOOPENFILEERRORBOX);
     AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
@@ -14,7 +14,6 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCm
     if (CWinApp* const app = AfxGetApp())
     {
         app->m_hInstance = hInstance;
-        app->m_hPrevInstance = hPrevInstance;
         app->m_lpCmdLine = lpCmdLine;
         app->m_nCmdShow = nCmdShow;
     }
@@ -47,10 +46,9 @@ int RunThread(CWinThread& thread)
 int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmdLine, int nCmdShow)
 {
     CWinThread* const thread = AfxGetThread();
-    CWinApp* const app = AfxGetApp();
     int exitCode = -1;
     const bool initialised = AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) != FALSE;
-    if (thread != NULL && initialised && (app == NULL || app->InitApplication()))
+    if (thread != NULL && initialised)
         exitCode = RunThread(*thread);
     DestroyToolTipControl();
     DeleteTemporaryObjects();

@@ -6,13 +6,13 @@
 namespace _com_util
 {
 
-QFX_API BSTR WINAPI ConvertStringToBSTR(const char* pSrc)
+BSTR WINAPI ConvertStringToBSTR(const char* pSrc)
 {
     return pSrc == nullptr ? nullptr : CString(pSrc).AllocSysString();
 }
 
 // The caller frees the result with delete[].
-QFX_API char* WINAPI ConvertBSTRToString(BSTR pSrc)
+char* WINAPI ConvertBSTRToString(BSTR pSrc)
 {
     if (pSrc == nullptr)
         return nullptr;

@@ -95,7 +95,7 @@ COleVariant::COleVariant(LPCTSTR lpszSrc) : COleVariant()
 {
     *this = lpszSrc;
 }
-COleVariant::COleVariant(const CString& strSrc) : COleVariant()
+COleVariant::COleVariant(CString& strSrc) : COleVariant()
 {
     *this = strSrc;
 }
@@ -104,14 +104,6 @@ COleVariant::COleVariant(LPCTSTR lpszSrc, VARTYPE vtSrc) : COleVariant()
     SetString(lpszSrc, vtSrc);
 }
 COleVariant::COleVariant(BYTE nSrc) : COleVariant()
-{
-    *this = nSrc;
-}
-COleVariant::COleVariant(LONGLONG nSrc) : COleVariant()
-{
-    *this = nSrc;
-}
-COleVariant::COleVariant(ULONGLONG nSrc) : COleVariant()
 {
     *this = nSrc;
 }
@@ -243,12 +235,7 @@ BOOL COleVariant::operator==(const VARIANT& varSrc) const
 }
 BOOL COleVariant::operator==(LPCVARIANT pSrc) const
 {
-    return *this == *pSrc;
-}
-
-BOOL COleVariant::operator==(const COleVariant& varSrc) const
-{
-    return *this == static_cast<const VARIANT&>(varSrc);
+    return operator==(*pSrc);
 }
 
 void COleVariant::Clear()

@@ -1,6 +1,7 @@
 // The hook on window creation that gives a CWnd its window.
 #include "window/CreationScope.h"
 #include "thread/ThreadState.h"
+#include "FrameworkAccess.h"
 
 CreationScope::CreationScope(CWnd& object) : m_object(&object), m_outer(CurrentThreadState().creation)
 {
@@ -34,7 +35,7 @@ bool IsInputMethodWindow(HWND window)
 
 void RouteMessagesTo(CWnd& object)
 {
-    WNDPROC* const super = object.GetSuperWndProcAddr();
+    WNDPROC* const super = FrameworkAccess::SuperWndProcAddress(object);
     const LONG_PTR replaced =
         ::SetWindowLongPtr(object.m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(AfxGetAfxWndProc()));
     const WNDPROC old = reinterpret_cast<WNDPROC>(replaced);

@@ -15,7 +15,7 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const
     return rString.GetLength();
 }
 
-int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton) const
+int CWnd::GetCheckedRadioButton(int nIDFirstButton, int nIDLastButton)
 {
     for (int id = nIDFirstButton; id <= nIDLastButton; ++id)
     {

@@ -2,6 +2,7 @@
 #include "afxwin.h"
 #include "thread/ThreadState.h"
 #include "window/ToolTips.h"
+#include "FrameworkAccess.h"
 
 namespace
 {
@@ -210,7 +211,7 @@ void ChangeHit(CWnd& window, INT_PTR hit, const TOOLINFO& tool)
 {
     ForgetHit();
     const bool showsInactive = (tool.uFlags & static_cast<UINT>(TTF_ALWAYSTIP)) != 0;
-    if (hit == -1 || !(showsInactive || window.IsTopParentActive()))
+    if (hit == -1 || !(showsInactive || FrameworkAccess::IsTopParentActive(window)))
         return;
     AddTool(window.GetParentOwner()->GetSafeHwnd(), tool);
     ToolTips().window = &window;

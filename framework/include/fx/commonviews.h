@@ -20,12 +20,14 @@ public:
 protected:
     // Takes the image list of this kind (LVSIL_) out if it belongs to a CImageList object.
     void RemoveImageList(int nImageList);
-    // Called to draw an item with LVS_OWNERDRAWFIXED. The base draws nothing.
-    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
     virtual BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult);
     afx_msg void OnNcDestroy();
 
     DECLARE_MESSAGE_MAP()
+
+private:
+    // Called to draw an item with LVS_OWNERDRAWFIXED. The base draws nothing.
+    virtual void DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct);
 };
 
 // A view that is a tree control.

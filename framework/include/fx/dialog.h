@@ -94,7 +94,5 @@ private:
     void RunDialog(LPCDLGTEMPLATE lpTemplate);
     // The template is NULL for a dialog of the system, which has its place.
     INT_PTR InitDialog(LPCDLGTEMPLATE lpTemplate = NULL);
-    friend class CCommonDialog;
-    friend class CPropertyPage;
     static INT_PTR CALLBACK DialogProc(HWND hWnd, UINT message, WPARAM wParam, LPARAM lParam);
 };

@@ -151,7 +151,7 @@ void CentreWhereItWasCreated(CWnd& dialog, LPCDLGTEMPLATE dialogTemplate, const 
         return;
     CRect now;
     dialog.GetWindowRect(&now);
-    if (now.TopLeft() == created.TopLeft())
+    if (now.left == created.left && now.top == created.top)
         dialog.CenterWindow();
 }
 

@@ -120,7 +120,7 @@ TEST_F(Help, OnHelpFallsBackToTheDefault)
 class NumberedDialog : public CDialog
 {
 public:
-    NumberedDialog() { m_lpszTemplateName = MAKEINTRESOURCE(321); }
+    NumberedDialog() : CDialog(321u) {}
 };
 
 TEST_F(Help, ADialogAsksForHelpOnItsTemplate)

@@ -376,4 +376,14 @@ TEST(FrameIcon, AFrameWithoutAnIconOfItsOwnHasTheProgramsFrameIcon)
     loaded->DestroyWindow();
 }
 
+TEST(FrameIcon, AnMdiFrameHasTheProgramsIconForMdiFrames)
+{
+    const HICON programs = AfxGetApp()->LoadIcon(AFX_IDI_STD_MDIFRAME);
+    ASSERT_NE(programs, HICON(NULL));
+    CMDIFrameWnd* const frame = new CMDIFrameWnd;
+    ASSERT_TRUE(frame->Create(NULL, L"Frame"));
+    EXPECT_EQ(::GetClassLongPtr(frame->m_hWnd, GCLP_HICON), reinterpret_cast<LONG_PTR>(programs));
+    frame->DestroyWindow();
+}
+
 } // namespace

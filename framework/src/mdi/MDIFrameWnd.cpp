@@ -29,6 +29,8 @@ CMDIFrameWnd::~CMDIFrameWnd()
 
 BOOL CMDIFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
+    if (cs.lpszClass == NULL)
+        cs.lpszClass = quorfx::RegisterFrameClass(quorfx::FrameIcon(AFX_IDI_STD_MDIFRAME));
     if (!CFrameWnd::PreCreateWindow(cs))
         return FALSE;
     // The system puts the name of a maximized child behind the program's; so does the frame for others.

@@ -31,7 +31,7 @@ const LPCTSTR toolBarType = MAKEINTRESOURCE(241);
 template <class TNumber> bool ReadNumbers(const void* data, DWORD size, ToolBarResource& resource)
 {
     const TNumber* const numbers = static_cast<const TNumber*>(data);
-    const DWORD count = size / sizeof(TNumber);
+    const DWORD count = static_cast<DWORD>(size / sizeof(TNumber));
     if (count < 3 || numbers[2] > count - 3)
         return false;
     resource.imageSize = CSize(static_cast<int>(numbers[0]), static_cast<int>(numbers[1]));

@@ -116,7 +116,7 @@ FILE
 
 start_display() {
     local number pipe
-    exec {pipe}< <(exec Xvfb -displayfd 3 -screen 0 800x600x24 -nolisten tcp 3>&1 >/dev/null 2>&1)
+    exec {pipe}< <(exec Xvfb -displayfd 3 -screen 0 800x600x24 -noreset -nolisten tcp 3>&1 >/dev/null 2>&1)
     xvfb=$!
     read -r -t 30 number <&"$pipe" || die "Xvfb does not start"
     exec {pipe}<&-

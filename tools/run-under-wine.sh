@@ -48,12 +48,13 @@ end_stale_display() {
     [[ $(cat "/proc/$pid/comm" 2>/dev/null) != Xvfb ]] || kill "$pid" || true
 }
 
-# Starts an X server on a display number that it finds itself.
+# Starts an X server on a display number that it finds itself. Without -noreset it would begin anew, and cut off who is
+# connecting, whenever its last client leaves: a program of Wine that looks at the screen and ends does that.
 start_display() {
     local attempt number pipe
     for attempt in 1 2 3; do
         exec {pipe}< <(exec "${on_display_core[@]}" Xvfb -displayfd 3 -screen 0 "$quor_screen" \
-            -nolisten tcp 3>&1 >/dev/null 2>"$quor_wine_home/$session.xvfb.log" 9>&-)
+            -noreset -nolisten tcp 3>&1 >/dev/null 2>"$quor_wine_home/$session.xvfb.log" 9>&-)
         xvfb=$!
         if read -r -t 30 number <&"$pipe"; then
             exec {pipe}<&-

@@ -3,6 +3,8 @@
 
 #include <windows.h>
 
+#include <gtest/gtest.h>
+
 #include <functional>
 #include <string>
 
@@ -44,6 +46,8 @@ public:
         startup.cb = sizeof startup;
         if (::CreateProcessW(NULL, command.data(), NULL, NULL, FALSE, 0, NULL, NULL, &startup, &m_process))
             ::WaitForInputIdle(m_process.hProcess, deadline);
+        else
+            ADD_FAILURE() << "cannot be started, error " << ::GetLastError();
     }
     ~Program()
     {
@@ -54,11 +58,15 @@ public:
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
 
-    // Waits for a visible top-level window of the program whose title begins so.
+    // Waits for a visible top-level window of the program whose title begins so. A program that ends shows
+    // none.
     HWND Window(const std::wstring& title) const
     {
         HWND found = NULL;
-        WaitUntil([&] { return (found = Find(title)) != NULL; });
+        WaitUntil([&] { return (found = Find(title)) != NULL || HasEnded(); });
+        if (found == NULL)
+            ADD_FAILURE() << (HasEnded() ? "the program has ended with code " : "no such window; state ")
+                          << State();
         return found;
     }
 
@@ -78,6 +86,14 @@ private:
         const std::wstring& title;
         HWND found;
     };
+
+    DWORD State() const
+    {
+        DWORD code = STILL_ACTIVE;
+        ::GetExitCodeProcess(m_process.hProcess, &code);
+        return code;
+    }
+    bool HasEnded() const { return State() != STILL_ACTIVE; }
 
     HWND Find(const std::wstring& title) const
     {

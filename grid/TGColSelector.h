@@ -1,7 +1,7 @@
 // TGColSelector: the column header, the window along the grid's top edge.
 #pragma once
 
-#include "grid/BrushWindowClass.h"
+#include "grid/window/BrushWindowClass.h"
 #include "module/QuorExport.h"
 
 #include <afxwin.h>

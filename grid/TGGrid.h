@@ -1,7 +1,7 @@
 // TGGrid: the editable grid control: model, window, hooks.
 #pragma once
 
-#include "grid/BrushWindowClass.h"
+#include "grid/window/BrushWindowClass.h"
 #include "grid/TGGridCol.h"
 #include "grid/TGGridRow.h"
 #include "grid/TGGridStyle.h"

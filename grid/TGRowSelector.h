@@ -1,8 +1,8 @@
 // TGRowSelector: the row header, the narrow window at the grid's left edge.
 #pragma once
 
-#include "grid/BrushWindowClass.h"
-#include "grid/HeaderIcon.h"
+#include "grid/window/BrushWindowClass.h"
+#include "grid/headers/HeaderIcon.h"
 #include "module/QuorExport.h"
 
 #include <afxwin.h>

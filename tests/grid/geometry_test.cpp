@@ -1,5 +1,5 @@
 // The pure rules of the grid's geometry.
-#include "grid/GridGeometry.h"
+#include "grid/window/GridGeometry.h"
 
 #include <gtest/gtest.h>
 

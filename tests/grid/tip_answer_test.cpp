@@ -1,5 +1,5 @@
 // The text of tool tips: formatted with itself, fitted into its buffer, safe for every text.
-#include "grid/TipAnswer.h"
+#include "grid/window/TipAnswer.h"
 
 #include <gtest/gtest.h>
 

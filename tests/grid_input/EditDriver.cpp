@@ -1,7 +1,7 @@
 // A user who edits cells with mouse and keyboard.
 #include "EditDriver.h"
 
-#include "grid/GridGeometry.h"
+#include "grid/window/GridGeometry.h"
 
 #include <stdexcept>
 

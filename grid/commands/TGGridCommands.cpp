@@ -1,0 +1,354 @@
+// The user's row and column commands: insert, append, delete.
+#include "grid/model/GridStructure.h"
+#include "grid/model/RowWatch.h"
+
+#include <memory>
+#include <vector>
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+enum class CommandPlace
+{
+    Before,
+    After
+};
+
+} // namespace
+
+// The steps that the commands share.
+class TGGrid::Commands
+{
+public:
+    explicit Commands(TGGrid& servedGrid) : grid(servedGrid) {}
+
+    bool InsertColAtSelection(CommandPlace place);
+    bool AskForCol(long position, TGGridCol*& col);
+    bool ReportInsertedCol(long position);
+    std::unique_ptr<TGGridTreeRow> MakeTree();
+    bool InsertRowAtSelection(CommandPlace place, bool asTree);
+    bool InsertRootRow(long selected, CommandPlace place, bool asTree);
+    bool InsertSibling(long selected, CommandPlace place, bool asTree);
+    void FoldRowAt(long i);
+    bool AskForRow(long position, bool asTree, TGGridRow*& row);
+    bool AskForChild(TGGridTreeRow& parent, long position, bool asTree, TGGridTreeRow*& child);
+    bool ReportInsertedRow(long position);
+    bool DeleteSelectedRows();
+    void DeleteRows(const std::vector<long>& indices);
+    bool DeleteSelectedCols();
+
+private:
+    TGGrid& grid;
+};
+
+// ---- Columns
+
+bool TGGrid::DoInsertCol()
+{
+    return Commands(*this).InsertColAtSelection(CommandPlace::Before);
+}
+
+bool TGGrid::DoInsertColAfter()
+{
+    return Commands(*this).InsertColAtSelection(CommandPlace::After);
+}
+
+bool TGGrid::Commands::InsertColAtSelection(CommandPlace place)
+{
+    if (grid.IsColFixLength() || grid.GetColSelNum() != 1)
+        return false;
+    const long selected = grid.colSel[0];
+    const long position = place == CommandPlace::Before ? selected : selected + 1;
+    TGGridCol* col = nullptr;
+    if (!AskForCol(position, col))
+        return false;
+    grid.InsertCol(position, col, 0);
+    grid.SelectCol(place == CommandPlace::Before ? selected + 1 : selected, false);
+    grid.SelectCol(position, true);
+    return ReportInsertedCol(position);
+}
+
+bool TGGrid::DoAppendCol()
+{
+    if (IsColFixLength())
+        return false;
+    TGGridCol* col = nullptr;
+    if (!Commands(*this).AskForCol(GetColNum(), col))
+        return false;
+    UnSelect();
+    AppendCol(col, 0);
+    const long appended = GetColNum() - 1;
+    SelectCol(appended, true);
+    return Commands(*this).ReportInsertedCol(appended);
+}
+
+// Asks OnBeforeInsertCol. A hook may have removed columns meanwhile; a position that no longer exists refuses
+// like a veto.
+bool TGGrid::Commands::AskForCol(long position, TGGridCol*& col)
+{
+    if (!grid.OnBeforeInsertCol(position, col))
+        return false;
+    if (position <= grid.GetColNum())
+        return true;
+    delete col;
+    return false;
+}
+
+bool TGGrid::Commands::ReportInsertedCol(long position)
+{
+    if (grid.IsValidCol(position))
+        grid.OnInsertCol(grid.GetCol(position));
+    grid.OnDataChanged();
+    return true;
+}
+
+// ---- Rows
+
+bool TGGrid::DoInsertRow()
+{
+    return Commands(*this).InsertRowAtSelection(CommandPlace::Before, false);
+}
+
+bool TGGrid::DoInsertRowAfter()
+{
+    return Commands(*this).InsertRowAtSelection(CommandPlace::After, false);
+}
+
+bool TGGrid::DoInsertTree()
+{
+    return IsTreeGrid() && Commands(*this).InsertRowAtSelection(CommandPlace::Before, true);
+}
+
+bool TGGrid::DoInsertTreeAfter()
+{
+    return IsTreeGrid() && Commands(*this).InsertRowAtSelection(CommandPlace::After, true);
+}
+
+// A row with one empty child, which the tree commands hand to the hooks.
+std::unique_ptr<TGGridTreeRow> TGGrid::Commands::MakeTree()
+{
+    auto tree = std::make_unique<TGGridTreeRow>(grid);
+    tree->InsertChild(tree->GetChildNum(), nullptr);
+    return tree;
+}
+
+bool TGGrid::Commands::InsertRowAtSelection(CommandPlace place, bool asTree)
+{
+    if (grid.IsRowFixLength() || grid.GetRowSelNum() != 1)
+        return false;
+    const long selected = grid.rowSel[0];
+    const bool inserted = grid.IsTreeGrid() && grid.GetRow(selected).IsChildRow()
+                              ? InsertSibling(selected, place, asTree)
+                              : InsertRootRow(selected, place, asTree);
+    if (!inserted)
+        return false;
+    const long position = place == CommandPlace::Before ? selected : selected + 1;
+    grid.SelectRow(place == CommandPlace::Before ? selected + 1 : selected, false);
+    grid.SelectRow(position, true);
+    return ReportInsertedRow(position);
+}
+
+bool TGGrid::Commands::InsertRootRow(long selected, CommandPlace place, bool asTree)
+{
+    const long position = place == CommandPlace::Before ? selected : selected + 1;
+    TGGridRow* row = nullptr;
+    if (!AskForRow(position, asTree, row))
+        return false;
+    if (place == CommandPlace::After)
+        FoldRowAt(selected);
+    grid.InsertRow(position, row);
+    return true;
+}
+
+bool TGGrid::Commands::InsertSibling(long selected, CommandPlace place, bool asTree)
+{
+    TGGridTreeRow* sibling = &grid.GetTreeRow(selected);
+    TGGridTreeRow* parent = sibling->Parent();
+    const long rank = parent->GetChildIndex(sibling);
+    const long position = place == CommandPlace::Before ? rank : rank + 1;
+    TGGridTreeRow* child = nullptr;
+    if (!AskForChild(*parent, position, asTree, child))
+        return false;
+    // The hook may have removed the row or its parent.
+    if (!grid.IsValidRow(selected) || grid.rows[selected] != sibling || sibling->Parent() != parent ||
+        position > parent->GetChildNum())
+    {
+        delete child;
+        return false;
+    }
+    if (place == CommandPlace::After)
+        FoldRowAt(selected);
+    parent->InsertChild(position, child);
+    return true;
+}
+
+void TGGrid::Commands::FoldRowAt(long i)
+{
+    if (grid.IsTreeGrid() && grid.GetRow(i).IsTreeRow())
+        grid.GetTreeRow(i).Fold();
+}
+
+// Asks OnBeforeInsertRow, handing it a prepared tree when `asTree` is set. The grid keeps owning the prepared
+// tree when the hook refuses or replaces it.
+bool TGGrid::Commands::AskForRow(long position, bool asTree, TGGridRow*& row)
+{
+    std::unique_ptr<TGGridTreeRow> prepared = asTree ? MakeTree() : nullptr;
+    row = prepared.get();
+    if (!grid.OnBeforeInsertRow(position, row))
+        return false;
+    if (row == prepared.get())
+        prepared.release();
+    if (position <= grid.GetRowNum())
+        return true;
+    delete row;
+    return false;
+}
+
+bool TGGrid::Commands::AskForChild(TGGridTreeRow& parent, long position, bool asTree, TGGridTreeRow*& child)
+{
+    std::unique_ptr<TGGridTreeRow> prepared = asTree ? MakeTree() : nullptr;
+    child = prepared.get();
+    if (!grid.OnBeforeInsertChild(parent, position, child))
+        return false;
+    if (child == prepared.get())
+        prepared.release();
+    return true;
+}
+
+bool TGGrid::Commands::ReportInsertedRow(long position)
+{
+    if (grid.IsValidRow(position))
+        grid.OnInsertRow(grid.GetRow(position));
+    grid.OnDataChanged();
+    return true;
+}
+
+bool TGGrid::DoAppendRow(bool select)
+{
+    if (IsRowFixLength())
+        return false;
+    TGGridRow* row = nullptr;
+    if (!Commands(*this).AskForRow(GetRowNum(), false, row))
+        return false;
+    UnSelect();
+    AppendRow(row);
+    const long appended = GetRowNum() - 1;
+    if (select)
+        SelectRow(appended, true);
+    else if (!IsNoAppendButton())
+        ShowAppendRow();
+    return Commands(*this).ReportInsertedRow(appended);
+}
+
+bool TGGrid::DoAppendTree()
+{
+    TGGridRow* row = nullptr;
+    if (!IsTreeGrid() || IsRowFixLength() || !Commands(*this).AskForRow(GetRowNum(), true, row))
+        return false;
+    AppendRow(row);
+    return Commands(*this).ReportInsertedRow(GetRowNum() - 1);
+}
+
+bool TGGrid::DoAppendChild()
+{
+    if (!IsTreeGrid() || IsRowFixLength() || GetRowSelNum() != 1 || !GetSelRow(0).IsTreeRow())
+        return false;
+    const long selected = rowSel[0];
+    TGGridTreeRow* parent = &GetTreeRow(selected);
+    TGGridTreeRow* child = nullptr;
+    if (!Commands(*this).AskForChild(*parent, parent->GetChildNum(), false, child))
+        return false;
+    if (!IsValidRow(selected) || rows[selected] != parent)
+    {
+        delete child;
+        return false;
+    }
+    const RowWatch alive(*this, parent);
+    parent->InsertChild(parent->GetChildNum(), child);
+    TGGridTreeRow* appended = alive.IsAlive() && parent->IsParentRow() ? &parent->GetLastChild() : nullptr;
+    const RowWatch watch(*this, appended);
+    if (watch.IsAlive())
+        SelectRow(appended->GetIndex(), true);
+    if (watch.IsAlive())
+        OnInsertRow(*appended);
+    OnDataChanged();
+    return true;
+}
+
+// ---- Deletion
+
+bool TGGrid::DoDelete()
+{
+    if (IsRowSelected() && !IsRowFixLength())
+        return Commands(*this).DeleteSelectedRows();
+    return IsColSelected() && !IsColFixLength() && Commands(*this).DeleteSelectedCols();
+}
+
+bool TGGrid::Commands::DeleteSelectedRows()
+{
+    grid.FilterDelUnable();
+    if (!grid.OnBeforeDeleteRow())
+        return false;
+    DeleteRows(std::vector<long>(grid.rowSel.begin(), grid.rowSel.end()));
+    grid.OnEndDeleteRow();
+    grid.OnDataChanged();
+    return true;
+}
+
+// All rows leave as one change, each parent with its offspring.
+void TGGrid::Commands::DeleteRows(const std::vector<long>& indices)
+{
+    const TGGridUpdate update(grid);
+    grid.ClearSel();
+    const long tellings = static_cast<long>(indices.size());
+    const std::vector<TGGridRow*> doomed = Structure(grid).AnnounceRemoval(indices, tellings);
+    Structure(grid).TakeOut(doomed);
+    for (TGGridRow* row : doomed)
+        delete row;
+    grid.RecalcLayout(1);
+}
+
+bool TGGrid::Commands::DeleteSelectedCols()
+{
+    if (!grid.OnBeforeDeleteCol())
+        return false;
+    const std::vector<long> doomed(grid.colSel.begin(), grid.colSel.end());
+    grid.ClearSel();
+    {
+        TGGridUpdate update(grid);
+        for (auto i = doomed.rbegin(); i != doomed.rend(); ++i)
+            if (grid.IsValidCol(*i))
+                grid.DelCol(*i);
+    }
+    grid.OnEndDeleteCol();
+    grid.OnDataChanged();
+    return true;
+}
+
+void TGGrid::FilterDelUnable()
+{
+    std::vector<long> kept;
+    for (long i : rowSel)
+        if (!GetRow(i).IsDelUnable())
+            kept.push_back(i);
+    if (static_cast<long>(kept.size()) != rowSel.GetNum())
+    {
+        rowSel.Clear();
+        for (long i : kept)
+            rowSel.Append(i);
+    }
+    Invalidate(TRUE);
+}
+
+bool TGGrid::IsSelDelUnable()
+{
+    for (long i : rowSel)
+        if (GetRow(i).IsDelUnable())
+            return true;
+    return false;
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,330 @@
+// The edit session of the grid: opening, committing and dropping in-place editors.
+#include "grid/TGGrid.h"
+
+#include "grid/edit/CellEditorLife.h"
+#include "grid/edit/CellWatch.h"
+#include "grid/model/RowWatch.h"
+#include "grid/TGCellButtonEdit.h"
+#include "grid/TGCellCombo.h"
+#include "grid/TGCellCtrlIds.h"
+#include "grid/TGCellEdit.h"
+#include "grid/TGCellSpinEdit.h"
+
+#include <new>
+
+namespace QuorUiCtr
+{
+
+// The steps of an edit session.
+class TGGrid::EditSession
+{
+public:
+    explicit EditSession(TGGrid& servedGrid) : grid(servedGrid) {}
+
+    TGGridCell* FindCell(long row, long col);
+    void OpenEditor(TGGridCell& cell);
+    void SkipTreeQuad(TGGridCell& cell, CRect& rect);
+    void AcceptNewRow();
+    TGGridRow* AppendNewRow();
+    void DropNewRow();
+    void CommitEdit(TGCellCtrl& editor);
+    void CommitNewRow(const TGGridCell& cell, const CString& text);
+    void StoreText(TGGridCell& cell, const CString& text);
+    void HideEditor();
+    void RetireEditor();
+    void OpenLockedCell();
+
+private:
+    TGGrid& grid;
+};
+namespace
+{
+
+constexpr UINT_PTR OpenTimer = 0;
+constexpr UINT_PTR CloseTimer = 1;
+
+// Ending an edit runs hooks that may end edits again, of any grid.
+bool endingEdit = false;
+
+class EndingEdit
+{
+public:
+    EndingEdit() { endingEdit = true; }
+    ~EndingEdit() { endingEdit = false; }
+    EndingEdit(const EndingEdit&) = delete;
+    EndingEdit& operator=(const EndingEdit&) = delete;
+};
+
+} // namespace
+
+TGCellCtrl* TGGrid::OnGetCellEdit(TGGridCell& cell)
+{
+    const TGGridCol& col = cell.GetCol();
+    if (col.IsComboEdit())
+        return new (std::nothrow) TGCellCombo(cell, true);
+    if (col.IsComboSel())
+        return new (std::nothrow) TGCellCombo(cell, false);
+    if (col.IsRightButton())
+        return new (std::nothrow) TGCellButtonEdit(cell);
+    if (col.IsRightSpin())
+        return new (std::nothrow) TGCellSpinEdit(cell);
+    return new (std::nothrow) TGCellEdit(cell);
+}
+
+TGGridCell* TGGrid::EditSession::FindCell(long row, long col)
+{
+    TGGridRow* found = grid.IsNewRow(row) ? grid.newRow : grid.IsValidRow(row) ? grid.rows[row] : nullptr;
+    return found && grid.IsValidCol(col) ? found->FindCell(col) : nullptr;
+}
+
+void TGGrid::BeginEditCell(long row, long col)
+{
+    if (!m_hWnd)
+        return;
+    UnSelect();
+    EndEditCell();
+    FlushLayout();
+    TGGridCell* cell = EditSession(*this).FindCell(row, col);
+    if (!m_hWnd || !cell || cell->IsReadOnly())
+        return;
+    CellWatch watch(*this, cell);
+    bool commitNewRow = false;
+    const bool wasNewRow = IsNewRow(row);
+    if (OnBeforeEdit(*cell, commitNewRow))
+    {
+        // A hook that edits on its own account has its edit committed first.
+        EndEditCell();
+        if (m_hWnd && watch.Cell())
+            EditSession(*this).OpenEditor(*watch.Cell());
+    }
+    else if (wasNewRow && commitNewRow && m_hWnd)
+        EditSession(*this).AcceptNewRow();
+}
+
+void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
+{
+    RetireEditor();
+    CRect rect;
+    cell.GetRect(rect);
+    grid.ShowRect(rect);
+    grid.editCell = &cell;
+    rect.DeflateRect(1, 1, 0, 0);
+    SkipTreeQuad(cell, rect);
+    grid.dc->LPtoDP(rect);
+
+    CellWatch watch(grid, &cell);
+    TGCellCtrl* editor = grid.OnGetCellEdit(cell);
+    if (!editor)
+    {
+        if (grid.editCell == &cell)
+            grid.editCell = nullptr;
+        return;
+    }
+    // The hook may have ended this session, or opened the cell itself.
+    if (grid.editCell != &cell || !watch.Cell() || !grid.m_hWnd || grid.cellCtrl)
+    {
+        delete editor;
+        return;
+    }
+    grid.cellCtrl = editor;
+    {
+        CellEditorLife::Creation creation(grid.cellCtrl);
+        editor->Create(rect);
+    }
+    grid.OnCurChanged();
+}
+
+// In the tree's column the editor begins right of the plus or minus box, or one step right of the parent's.
+void TGGrid::EditSession::SkipTreeQuad(TGGridCell& cell, CRect& rect)
+{
+    TGGridRow& row = cell.GetRow();
+    if (cell.GetColIndex() != 0 || !row.IsTreeRow())
+        return;
+    TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(row);
+    CRect quadRect;
+    if (treeRow.IsParentRow())
+    {
+        treeRow.GetTreeQuad(quadRect);
+        rect.left = quadRect.right;
+    }
+    else if (treeRow.IsChildRow())
+    {
+        treeRow.GetParent().GetTreeQuad(quadRect);
+        rect.left = 2 * quadRect.right - quadRect.left;
+    }
+}
+
+// The pending row becomes a row of the grid without an edit.
+void TGGrid::EditSession::AcceptNewRow()
+{
+    if (TGGridRow* accepted = AppendNewRow())
+    {
+        grid.OnInsertRow(*accepted);
+        grid.OnDataChanged();
+    }
+    DropNewRow();
+    grid.RecalcLayout(1);
+}
+
+// Asks OnBeforeInsertRow and moves the pending row, or the one that the hook supplies, to the end of the
+// rows. Returns null when the hook refuses.
+TGGridRow* TGGrid::EditSession::AppendNewRow()
+{
+    TGGridRow* const pending = grid.newRow;
+    const RowWatch watch(grid, pending);
+    TGGridRow* accepted = pending;
+    if (!grid.OnBeforeInsertRow(grid.GetRowNum(), accepted))
+        return nullptr;
+    // A hook that changes the grid may have had the line made anew.
+    if (accepted == pending && !watch.IsAlive())
+        accepted = grid.newRow;
+    if (!accepted)
+        return nullptr;
+    if (accepted == grid.newRow)
+        grid.newRow = nullptr;
+    accepted->SetIndex(grid.rows.Append(accepted));
+    return accepted;
+}
+
+void TGGrid::EditSession::DropNewRow()
+{
+    // A hook may have opened an editor there.
+    if (grid.editCell && &grid.editCell->GetRow() == grid.newRow)
+        grid.CancelEditCell();
+    delete grid.newRow;
+    grid.newRow = nullptr;
+}
+
+void TGGrid::EndEditCell()
+{
+    if (endingEdit || !editCell)
+        return;
+    EndingEdit guard;
+    if (cellCtrl && cellCtrl->IsModified())
+        EditSession(*this).CommitEdit(*cellCtrl);
+    // Also what a hook has opened meanwhile.
+    editCell = nullptr;
+    EditSession(*this).HideEditor();
+    if (!newRow)
+        RecalcLayout(1);
+}
+
+void TGGrid::EditSession::CommitEdit(TGCellCtrl& editor)
+{
+    CellWatch watch(grid, grid.editCell);
+    CString text;
+    editor.GetNewText(text);
+    if (!grid.OnModified(*grid.editCell, text) || !watch.Cell())
+        return;
+    if (&watch.Cell()->GetRow() == grid.newRow)
+        CommitNewRow(*watch.Cell(), text);
+    else
+        StoreText(*watch.Cell(), text);
+}
+
+void TGGrid::EditSession::CommitNewRow(const TGGridCell& cell, const CString& text)
+{
+    const long col = cell.GetColIndex();
+    if (TGGridRow* accepted = AppendNewRow())
+    {
+        const long row = accepted->GetIndex();
+        grid.OnInsertRow(*accepted);
+        if (TGGridCell* stored = FindCell(row, col))
+            StoreText(*stored, text);
+    }
+    DropNewRow();
+}
+
+void TGGrid::EditSession::StoreText(TGGridCell& cell, const CString& text)
+{
+    cell.SetText(text);
+    cell.Refresh();
+    grid.OnDataChanged();
+}
+
+void TGGrid::CancelEditCell()
+{
+    if (!editCell)
+        return;
+    editCell = nullptr;
+    EditSession(*this).HideEditor();
+}
+
+void TGGrid::EditSession::HideEditor()
+{
+    if (grid.cellCtrl)
+        grid.cellCtrl->Hide();
+}
+
+void TGGrid::EditSession::RetireEditor()
+{
+    TGCellCtrl* finished = grid.cellCtrl;
+    grid.cellCtrl = nullptr;
+    CellEditorLife::Retire(finished);
+}
+
+void TGGrid::AutoEditCell(TGGridCell* cell)
+{
+    if (!m_hWnd || cellLock)
+        return;
+    cellLock = !cell && editCell ? editCell : cell;
+    SetTimer(OpenTimer, 0, nullptr);
+}
+
+void TGGrid::AutoCloseCell(int ms)
+{
+    if (m_hWnd)
+        SetTimer(CloseTimer, static_cast<UINT>(ms), nullptr);
+}
+
+void TGGrid::OnTimer(UINT_PTR id)
+{
+    CWnd::OnTimer(id);
+    if (id == OpenTimer)
+        EditSession(*this).OpenLockedCell();
+    else if (id == CloseTimer)
+    {
+        KillTimer(CloseTimer);
+        EndEditCell();
+    }
+}
+
+void TGGrid::EditSession::OpenLockedCell()
+{
+    grid.KillTimer(OpenTimer);
+    if (!grid.cellLock)
+        return;
+    const long row = grid.cellLock->GetRowIndex();
+    const long col = grid.cellLock->GetColIndex();
+    grid.cellLock = nullptr;
+    grid.CancelEditCell();
+    grid.BeginEditCell(row, col);
+}
+
+void TGGrid::OnCbnSelchange()
+{
+    if (!editCell || !cellCtrl)
+        return;
+    OnCmbSelchange(*editCell, static_cast<CComboBox*>(cellCtrl->GetWnd()));
+    OnDataChanged();
+}
+
+void TGGrid::OnCbnEditChange()
+{
+    CComboBox* combo = static_cast<CComboBox*>(GetDlgItem(CellEditorId));
+    if (!editCell || !combo)
+        return;
+    CellWatch watch(*this, editCell);
+    // The hook may destroy the combo box, and the object with it.
+    const HWND comboWindow = combo->m_hWnd;
+    OnCmbEditchange(*editCell, combo);
+    if (watch.Cell() && ::IsWindow(comboWindow))
+    {
+        CString text;
+        CWnd::FromHandle(comboWindow)->GetWindowText(text);
+        OnModified(*watch.Cell(), text);
+    }
+    OnDataChanged();
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,93 @@
+// The column header: its caption boxes, the column under a point and its tool tips.
+#include "grid/TGColSelector.h"
+
+#include "grid/headers/HeaderBox.h"
+#include "grid/TGGrid.h"
+#include "grid/window/TipAnswer.h"
+
+namespace QuorUiCtr
+{
+
+BEGIN_MESSAGE_MAP(TGColSelector, CWnd)
+    ON_WM_PAINT()
+    ON_WM_LBUTTONDOWN()
+    ON_WM_MOUSEMOVE()
+    ON_WM_SETCURSOR()
+    ON_WM_LBUTTONUP()
+    ON_WM_RBUTTONUP()
+    ON_WM_CAPTURECHANGED()
+END_MESSAGE_MAP()
+
+TGColSelector::TGColSelector(TGGrid& owner) : grid(&owner)
+{
+    bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
+}
+
+void TGColSelector::MakeWindow()
+{
+    moving = false;
+    resizing = false;
+    resizeCol = -1;
+    markX = -1;
+    const long left = grid->IsRowSel() ? grid->GetRowHeight() : 0;
+    const CRect place(left, 0, headerExtent, grid->GetColHeaderHeight());
+    const CString& className = windowClass.Register(bkBrush);
+    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, ColHeaderId))
+        EnableToolTips(TRUE);
+}
+
+TGColSelector::~TGColSelector()
+{
+    DestroyWindow();
+}
+
+void TGColSelector::PrepareContext(CDC& context) const
+{
+    CPoint corner;
+    grid->GetUpCorner(corner);
+    context.SetViewportOrg(corner.x - (grid->IsRowSel() ? grid->GetRowHeight() : 0), 0);
+}
+
+void TGColSelector::OnPaint()
+{
+    CPaintDC context(this);
+    PrepareContext(context);
+    context.SetTextColor(RGB(0, 0, 0));
+    context.SetBkMode(TRANSPARENT);
+    context.SelectObject(grid->GetFont());
+    const long height = grid->GetColHeaderHeight();
+    for (TGGridCol* col : grid->cols)
+    {
+        const CRect box(col->GetLeft(), 0, col->GetRight(), height);
+        if (context.RectVisible(&box))
+            DrawCaption(context, *col, box);
+    }
+}
+
+void TGColSelector::DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const
+{
+    DrawHeaderBox(context, box, grid->IsFlatButton());
+    CRect text(box.left + 2, grid->GetRowSpace(), box.right, box.bottom - 1);
+    const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
+    context.DrawText(col.GetName(), &text, DT_EDITCONTROL | alignment);
+}
+
+long TGColSelector::PtToCol(CPoint point) const
+{
+    if (grid->GetDC() == nullptr)
+        return point.x;
+    if (grid->IsRowSel())
+        point.x += grid->GetRowHeight();
+    return grid->ColAt(grid->ClientToLogical(point).x);
+}
+
+INT_PTR TGColSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const
+{
+    const long col = PtToCol(point);
+    CString tip;
+    if (!grid->IsValidCol(col) || !grid->OnColTip(col, tip))
+        return -1;
+    return AnswerTip(*this, tip, col, 0, info);
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,273 @@
+// The column header's mouse work: selecting, resizing and moving columns.
+#include "grid/TGColSelector.h"
+
+#include "grid/headers/HeaderDrag.h"
+#include "grid/TGGrid.h"
+
+namespace QuorUiCtr
+{
+namespace
+{
+
+constexpr long MoveMarkWidth = 3;
+constexpr long ResizeMarkWidth = 1;
+constexpr long FarDown = 10000;
+
+} // namespace
+
+// The logical x of a point in client coordinates.
+long TGColSelector::LogicalX(CPoint point) const
+{
+    if (grid->GetDC() == nullptr)
+        return point.x;
+    if (grid->IsRowSel())
+        point.x += grid->GetRowHeight();
+    return grid->ClientToLogical(point).x;
+}
+
+// The column whose right edge or the pixel before it is at `x`; -1 when there is none. With coinciding edges
+// the last column counts.
+long TGColSelector::ColWithEdgeAt(long x) const
+{
+    long found = -1;
+    if (grid->IsColFixWidth())
+        return found;
+    for (const TGGridCol* col : grid->cols)
+        if (x == col->GetRight() || x == col->GetRight() - 1)
+            found = col->GetIndex();
+    return found;
+}
+
+BOOL TGColSelector::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message)
+{
+    CPoint point;
+    ::GetCursorPos(&point);
+    ScreenToClient(&point);
+    if (ColWithEdgeAt(LogicalX(point)) == -1)
+        return CWnd::OnSetCursor(wnd, hitTest, message);
+    ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
+    return TRUE;
+}
+
+// ---- Buttons
+
+void TGColSelector::OnLButtonDown(UINT flags, CPoint point)
+{
+    SetFocus();
+    // The end of an edit runs hooks, which may close the window.
+    if (m_hWnd == nullptr)
+        return;
+    SetCapture();
+    const long edgeCol = ColWithEdgeAt(LogicalX(point));
+    if (edgeCol != -1)
+    {
+        resizeCol = edgeCol;
+        markX = -1;
+        resizing = true;
+    }
+    else if (const long col = PtToCol(point); grid->IsValidCol(col))
+        ClickCol(col);
+    if (m_hWnd != nullptr)
+        CWnd::OnLButtonDown(flags, point);
+}
+
+void TGColSelector::ClickCol(long col)
+{
+    const bool control = IsKeyHeld(VK_CONTROL);
+    if (grid->IsColSelected(col))
+    {
+        if (control)
+            grid->SelectCol(col, false);
+        else if (!grid->IsColPosFix())
+        {
+            // The hook may take the capture or the window away.
+            moving = grid->IsSelConnect() && grid->OnBeginMoveCol() && GetCapture() == this;
+            markX = -1;
+        }
+    }
+    else if (IsKeyHeld(VK_SHIFT))
+        ExtendSelection(col);
+    else
+    {
+        if (!control)
+            grid->UnSelect();
+        grid->SelectCol(col, true);
+    }
+}
+
+// Selects the columns between the one selected column and `col`.
+void TGColSelector::ExtendSelection(long col)
+{
+    if (grid->GetColSelNum() != 1)
+        return;
+    const long selected = grid->colSel[0];
+    for (long i = selected + 1; i <= col; ++i)
+        grid->SelectCol(i, true);
+    for (long i = selected - 1; i >= col; --i)
+        grid->SelectCol(i, true);
+}
+
+void TGColSelector::OnLButtonUp(UINT flags, CPoint point)
+{
+    // The drag ends before the capture does: losing the capture cancels a drag.
+    const bool wasMoving = moving;
+    const bool wasResizing = resizing;
+    CancelDrag();
+    if (GetCapture() == this)
+        ::ReleaseCapture();
+    if (wasResizing)
+        ResizeTo(LogicalX(point));
+    else if (wasMoving)
+        DropAt(PtToCol(point));
+    if (m_hWnd != nullptr)
+        grid->SetFocus();
+    if (m_hWnd != nullptr)
+        CWnd::OnLButtonUp(flags, point);
+}
+
+void TGColSelector::OnRButtonUp(UINT flags, CPoint point)
+{
+    CWnd::OnRButtonUp(flags, point);
+    grid->SetFocus();
+    const long col = PtToCol(point);
+    if (m_hWnd == nullptr || !grid->IsValidCol(col))
+        return;
+    ClientToScreen(&point);
+    if (!grid->IsColSelected(col))
+    {
+        grid->UnSelect();
+        grid->SelectCol(col, true);
+    }
+    if (grid->IsValidCol(col))
+        grid->OnRClickCol(grid->GetCol(col), point);
+}
+
+// ---- Dragging
+
+void TGColSelector::OnMouseMove(UINT flags, CPoint point)
+{
+    if ((moving || resizing) && ScrollAtEdge(point))
+        return;
+    if (moving)
+        MarkMoveTarget(PtToCol(point));
+    else if (resizing)
+        MoveMark(LogicalX(point));
+    if (m_hWnd != nullptr)
+        CWnd::OnMouseMove(flags, point);
+}
+
+// Scrolls when the mouse is at the left or right edge of the data area; returns whether it is.
+bool TGColSelector::ScrollAtEdge(CPoint point)
+{
+    if (!grid->hScrollShown)
+        return false;
+    CRect area;
+    grid->GetClientRect(area);
+    grid->MapWindowPoints(this, area);
+    if (point.x < area.right && point.x > area.left + CutColumnWidth(point))
+        return false;
+    grid->MoveView(point.x >= area.right ? AutoScrollStep : -AutoScrollStep, 0);
+    grid->UpdateWindow();
+    return true;
+}
+
+// The width of the column under the point when it is scrolled partly out of the view, else 0.
+long TGColSelector::CutColumnWidth(CPoint point) const
+{
+    const long position = grid->GetScrollPos(SB_HORZ);
+    const long col = PtToCol(point);
+    if (position == 0 || !grid->IsValidCol(col) || grid->GetCol(col).GetLeft() >= position)
+        return 0;
+    return grid->GetCol(col).GetWidth();
+}
+
+void TGColSelector::MarkMoveTarget(long col)
+{
+    ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
+    if (col < 0 || col > grid->GetColNum() || !grid->OnMovingCol(col) || !moving)
+        return;
+    MoveMark(grid->IsValidCol(col) ? grid->GetCol(col).GetLeft() : grid->GetRight());
+}
+
+void TGColSelector::MoveMark(long x)
+{
+    if (x == markX)
+        return;
+    InvertMark();
+    markX = x;
+    InvertMark();
+}
+
+// Empty when no mark is shown.
+CRect TGColSelector::MarkRect() const
+{
+    const long width = moving ? MoveMarkWidth : ResizeMarkWidth;
+    return markX == -1 ? CRect() : CRect(markX, 0, markX + width, FarDown);
+}
+
+void TGColSelector::InvertMark()
+{
+    RestoreMark(MarkRect());
+}
+
+void TGColSelector::RestoreMark()
+{
+    grid->ClearOutsideCells(MarkRect());
+    InvertMark();
+}
+
+void TGColSelector::RestoreMark(const CRect& drawn)
+{
+    CRect part;
+    CDC* context = grid->GetDC();
+    if (part.IntersectRect(MarkRect(), drawn) && context != nullptr)
+        context->InvertRect(part);
+}
+
+// Takes the mark off the screen and leaves the dragging states.
+void TGColSelector::CancelDrag()
+{
+    MoveMark(-1);
+    moving = false;
+    resizing = false;
+}
+
+void TGColSelector::OnCaptureChanged(CWnd* newCapture)
+{
+    CancelDrag();
+    CWnd::OnCaptureChanged(newCapture);
+}
+
+void TGColSelector::ResizeTo(long x)
+{
+    if (!grid->IsValidCol(resizeCol))
+        return;
+    TGGridCol& col = grid->GetCol(resizeCol);
+    if (x <= col.GetLeft() + 1)
+        return;
+    const long distance = x - col.GetRight();
+    col.SetRight(x);
+    for (TGGridCol* following : grid->cols)
+        if (following->GetIndex() > resizeCol)
+            following->Move(distance);
+    grid->RecalcLayout(1);
+}
+
+// The hook may have changed the columns and the selection.
+void TGColSelector::DropAt(long to)
+{
+    if (to < 0 || to > grid->GetColNum() || !grid->OnMoveCol(to) || to > grid->GetColNum() ||
+        !grid->IsColSelected())
+        return;
+    const long first = grid->colSel[0];
+    const long last = grid->colSel[grid->GetColSelNum() - 1];
+    if (to >= first && to <= last + 1)
+        return;
+    grid->MoveSelectedCols(first, last, to);
+    if (m_hWnd != nullptr)
+        CWnd::Invalidate();
+    grid->OnEndMoveCol();
+    grid->OnDataChanged();
+}
+
+} // namespace QuorUiCtr

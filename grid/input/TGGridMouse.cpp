@@ -1,0 +1,158 @@
+// TGGrid's mouse and focus: hit tests, clicks, the focus state in the corner, tool tips.
+#include "grid/TGGrid.h"
+
+#include "grid/model/RowWatch.h"
+#include "grid/TGActiveQuad.h"
+#include "grid/window/TipAnswer.h"
+
+namespace QuorUiCtr
+{
+
+// ---- Hit tests --------------------------------------------------------------------------------------------
+
+CPoint TGGrid::ClientToLogical(CPoint point) const
+{
+    if (dc != nullptr)
+        dc->DPtoLP(&point);
+    return point;
+}
+
+void TGGrid::PtToCell(CPoint point, long& row, long& col) const
+{
+    const CPoint logical = ClientToLogical(point);
+    row = logical.y / GetRowHeight();
+    col = ColAt(logical.x);
+}
+
+long TGGrid::ColAt(long logicalX) const
+{
+    long index = 0;
+    for (const TGGridCol* col : cols)
+    {
+        if (col->GetLeft() <= logicalX && logicalX < col->GetRight())
+            break;
+        ++index;
+    }
+    return index;
+}
+
+INT_PTR TGGrid::OnToolHitTest(CPoint point, TOOLINFO* info) const
+{
+    // While a layout is postponed, nobody can say what is under a point.
+    if (layoutPending)
+        return -1;
+    long row = -1;
+    long col = -1;
+    PtToCell(point, row, col);
+    CString tip;
+    if (!IsValidRow(row) || !IsValidCol(col) || !OnCellTip(row, col, tip))
+        return -1;
+    return AnswerTip(*this, tip, static_cast<INT_PTR>(row) * 10 + col, 0, info);
+}
+
+// ---- Clicks -----------------------------------------------------------------------------------------------
+
+void TGGrid::OnLButtonDown(UINT flags, CPoint point)
+{
+    SetFocus();
+    EndEditCell();
+    FlushLayout();
+    PressCell(point);
+    CWnd::OnLButtonDown(flags, point);
+}
+
+// A double click acts as a second click.
+void TGGrid::OnLButtonDblClk(UINT flags, CPoint point)
+{
+    OnLButtonDown(flags, point);
+}
+
+void TGGrid::PressCell(CPoint point)
+{
+    long row = -1;
+    long col = -1;
+    PtToCell(point, row, col);
+    if (row < 0 || !IsValidCol(col))
+        UnSelect();
+    else if (IsValidRow(row) && col == 0 && GetRow(row).IsTreeRow())
+        PressTreeCell(row, point);
+    else if (IsValidRow(row) || (IsNewRow(row) && IsAppendRowShown()))
+        BeginEditCell(row, col);
+    else
+        UnSelect();
+}
+
+void TGGrid::PressTreeCell(long row, CPoint point)
+{
+    TGGridTreeRow& treeRow = GetTreeRow(row);
+    CPoint logical = ClientToLogical(point);
+    if (!treeRow.IsParentRow() || !treeRow.IsPtInTreeQuad(logical))
+    {
+        BeginEditCell(row, 0);
+        return;
+    }
+    const RowWatch watch(*this, &treeRow);
+    UnSelect();
+    if (!watch.IsAlive())
+        return;
+    if (treeRow.IsFold())
+        treeRow.UnFold();
+    else
+        treeRow.Fold();
+}
+
+void TGGrid::OnRButtonUp(UINT flags, CPoint point)
+{
+    CWnd::OnRButtonUp(flags, point);
+    SetFocus();
+    FlushLayout();
+    long row = -1;
+    long col = -1;
+    PtToCell(point, row, col);
+    if (!IsValidRow(row) || !IsValidCol(col))
+        return;
+    ClientToScreen(&point);
+    OnRClickCell(GetCell(row, col), point);
+}
+
+void TGGrid::OnCancelMode()
+{
+    if (GetCapture() == this)
+        ReleaseCapture();
+    CWnd::OnCancelMode();
+}
+
+BOOL TGGrid::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message)
+{
+    return CWnd::OnSetCursor(wnd, hitTest, message);
+}
+
+// ---- Focus ------------------------------------------------------------------------------------------------
+
+bool TGGrid::IsMyFocus(const CWnd* wnd) const
+{
+    if (wnd->GetSafeHwnd() == nullptr || GetSafeHwnd() == nullptr)
+        return false;
+    return wnd->GetSafeHwnd() == GetSafeHwnd() || IsChild(wnd);
+}
+
+void TGGrid::ShowActive(bool active)
+{
+    if (quad != nullptr)
+        quad->ShowActive(active);
+}
+
+void TGGrid::OnSetFocus(CWnd* oldFocus)
+{
+    CWnd::OnSetFocus(oldFocus);
+    ShowActive(true);
+}
+
+void TGGrid::OnKillFocus(CWnd* newFocus)
+{
+    CWnd::OnKillFocus(newFocus);
+    if (!IsMyFocus(newFocus))
+        ShowActive(false);
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,249 @@
+// TGGrid's two selections and the search that selects.
+//
+// Selected bands are shown by inverting them: each change of a selection inverts its band once, and painting
+// inverts what is selected after drawing, so the screen and the index lists always agree. While painting is
+// postponed or under way a change repaints instead, because nobody knows then which bands are drawn already.
+// Hooks run last in every step, or are followed by a fresh look at what they may have changed.
+#include "grid/TGGrid.h"
+
+#include "grid/model/RowWatch.h"
+#include "grid/input/SelectedIndices.h"
+
+namespace QuorUiCtr
+{
+
+// ---- Selecting --------------------------------------------------------------------------------------------
+
+void TGGrid::SelectRow(long row, bool select)
+{
+    if (!IsValidRow(row))
+        return;
+    if (select)
+    {
+        EndEditCell();
+        UnselectCols();
+        if (!IsValidRow(row))
+            return;
+    }
+    if (select ? SelectedIndices::Add(rowSel, row) : SelectedIndices::Remove(rowSel, row))
+    {
+        ChangeRowBand(row, select);
+        if (select)
+            ShowRowBand(row);
+    }
+    OnCurChanged();
+}
+
+void TGGrid::SelectCol(long col, bool select)
+{
+    if (!IsValidCol(col))
+        return;
+    if (select)
+    {
+        EndEditCell();
+        UnselectRows();
+        if (!IsValidCol(col))
+            return;
+    }
+    if (select ? SelectedIndices::Add(colSel, col) : SelectedIndices::Remove(colSel, col))
+    {
+        TGGridCol* changed = ColAtIndex(col);
+        ChangeColBand(*changed, select);
+        if (select)
+            ShowColBand(*changed);
+    }
+    OnCurChanged();
+}
+
+void TGGrid::SelectAll()
+{
+    EndEditCell();
+    ClearSel();
+    rowSel.Reserve(GetRowNum());
+    for (long row = 0; row < GetRowNum(); ++row)
+        rowSel.Append(row);
+    OnCurChanged();
+    Invalidate(1);
+}
+
+void TGGrid::UnSelect()
+{
+    UnselectCols();
+    UnselectRows();
+    OnCurChanged();
+}
+
+void TGGrid::ClearSel()
+{
+    rowSel.Clear();
+    colSel.Clear();
+}
+
+void TGGrid::SelectOnly(TGGridRow& row)
+{
+    const RowWatch watch(*this, &row);
+    UnSelect();
+    if (watch.IsAlive())
+        SelectRow(row.GetIndex(), true);
+}
+
+// Entries may name columns that are gone: deleting columns does not renumber them.
+void TGGrid::UnselectCols()
+{
+    for (const long i : colSel)
+        if (TGGridCol* col = ColAtIndex(i))
+            ChangeColBand(*col, false);
+    colSel.Clear();
+}
+
+void TGGrid::UnselectRows()
+{
+    if (CanInvertNow())
+        InvertSelectedRows();
+    else if (IsRowSelected())
+        Invalidate(0);
+    rowSel.Clear();
+}
+
+bool TGGrid::CanInvertNow() const
+{
+    return !IsUpdating() && !refreshing;
+}
+
+// Looks for the row only when it is needed: among many rows that costs more than the rest.
+void TGGrid::ChangeRowBand(long row, bool select)
+{
+    if (!CanInvertNow())
+        Invalidate(0);
+    else if (TGGridRow* changed = GetSafeHwnd() != nullptr ? RowAt(row) : nullptr)
+        changed->Select(select);
+}
+
+void TGGrid::ChangeColBand(TGGridCol& col, bool select)
+{
+    if (CanInvertNow())
+        col.Select(select);
+    else
+        Invalidate(0);
+}
+
+void TGGrid::InvertBand(const CRect& band)
+{
+    if (IsUpdating())
+        redrawPending = true;
+    else if (GetSafeHwnd() != nullptr && dc != nullptr)
+        dc->InvertRect(band);
+}
+
+// ---- Scrolling selected bands into view -------------------------------------------------------------------
+
+// The other direction stays where it is: the rectangle has no extent at the centre of the view.
+void TGGrid::ShowRowBand(long row)
+{
+    if (GetSafeHwnd() == nullptr)
+        return;
+    CRect area;
+    GetClientRect(&area);
+    const long x = ClientToLogical(area.CenterPoint()).x;
+    ShowBand(CRect(x, row * GetRowHeight(), x, (row + 1) * GetRowHeight()));
+}
+
+void TGGrid::ShowColBand(const TGGridCol& col)
+{
+    if (GetSafeHwnd() == nullptr)
+        return;
+    CRect area;
+    GetClientRect(&area);
+    const long y = ClientToLogical(area.CenterPoint()).y;
+    ShowBand(CRect(col.GetLeft(), y, col.GetRight(), y));
+}
+
+void TGGrid::ShowBand(const CRect& band)
+{
+    if (!IsUpdating())
+    {
+        ShowRect(band);
+        return;
+    }
+    pendingShowRect = band;
+    showPending = true;
+}
+
+// ---- Queries ----------------------------------------------------------------------------------------------
+
+bool TGGrid::IsRowSelected(long i)
+{
+    return SelectedIndices::Contains(rowSel, i);
+}
+
+bool TGGrid::IsColSelected(long i)
+{
+    return SelectedIndices::Contains(colSel, i);
+}
+
+TGGridRow& TGGrid::GetSelRow(long k)
+{
+    ASSERT(k >= 0 && k < GetRowSelNum());
+    return GetRow(rowSel[k]);
+}
+
+TGGridCol& TGGrid::GetSelCol(long k)
+{
+    ASSERT(k >= 0 && k < GetColSelNum());
+    return GetCol(colSel[k]);
+}
+
+void TGGrid::GetSel(Table<TGGridRow*>& out)
+{
+    for (const long i : rowSel)
+        if (rows.MoveTo(i) && rows.Cur() != nullptr)
+            out.Append(rows.Cur());
+}
+
+void TGGrid::GetSel(Table<TGGridCol*>& out)
+{
+    for (const long i : colSel)
+        if (TGGridCol* col = ColAtIndex(i))
+            out.Append(col);
+}
+
+bool TGGrid::IsSelConnect()
+{
+    DualList<long>& selected = IsColSelected() ? colSel : rowSel;
+    const long number = selected.GetNum();
+    return number > 0 && selected[number - 1] - selected[0] + 1 == number;
+}
+
+bool TGGrid::IsSelFold()
+{
+    if (!treeGrid)
+        return true;
+    for (const long i : rowSel)
+    {
+        TGGridRow* row = RowAt(i);
+        if (row != nullptr && row->IsParentRow() && row->HasFlag(TGGridRow::UnfoldFlag))
+            return false;
+    }
+    return true;
+}
+
+// ---- Search -----------------------------------------------------------------------------------------------
+
+bool TGGrid::FindAndSel(const wchar_t* text, long col)
+{
+    for (TGGridRow* row : rows)
+    {
+        if (row == nullptr || (treeGrid && row->IsChildRow()))
+            continue;
+        if (row->HasText(text, col))
+        {
+            SelectOnly(*row);
+            return true;
+        }
+        if (treeGrid && row->IsTreeRow() && static_cast<TGGridTreeRow*>(row)->FindAndSel(text, col))
+            return true;
+    }
+    return false;
+}
+
+} // namespace QuorUiCtr

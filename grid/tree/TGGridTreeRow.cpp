@@ -1,0 +1,226 @@
+// A tree row's place in its tree: copies, navigation, counts, search and the plus or minus box. What changes
+// the tree is in TGGridTreeStructure.cpp.
+#include "grid/TGGridTreeRow.h"
+
+#include "grid/window/GridGeometry.h"
+#include "grid/model/RowWatch.h"
+#include "grid/TGGrid.h"
+
+namespace QuorUiCtr
+{
+
+TGGridTreeRow::TGGridTreeRow(TGGrid& owner) : TGGridRow(owner) {}
+
+TGGridTreeRow::TGGridTreeRow(TGGridTreeRow* parentRow) : TGGridRow(parentRow->GetGrid()), parent(parentRow) {}
+
+TGGridTreeRow::~TGGridTreeRow()
+{
+    children.Clear();
+}
+
+// ---- Columns ----------------------------------------------------------------------------------------------
+
+void TGGridTreeRow::InsertCol(long position, TGGridCol& col)
+{
+    TGGridRow::InsertCol(position, col);
+    for (TGGridTreeRow* child : children)
+        if (child != nullptr)
+            child->InsertCol(position, col);
+}
+
+void TGGridTreeRow::AppendCol(TGGridCol& col)
+{
+    TGGridRow::AppendCol(col);
+    for (TGGridTreeRow* child : children)
+        if (child != nullptr)
+            child->AppendCol(col);
+}
+
+void TGGridTreeRow::DelCol(long position)
+{
+    TGGridRow::DelCol(position);
+    for (TGGridTreeRow* child : children)
+        if (child != nullptr)
+            child->DelCol(position);
+}
+
+void TGGridTreeRow::MoveCol(long from, long to)
+{
+    TGGridRow::MoveCol(from, to);
+    for (TGGridTreeRow* child : children)
+        if (child != nullptr)
+            child->MoveCol(from, to);
+}
+
+// ---- Navigation -------------------------------------------------------------------------------------------
+
+bool TGGridTreeRow::IsParentRow()
+{
+    return !children.IsEmpty();
+}
+
+bool TGGridTreeRow::IsChildRow()
+{
+    return parent != nullptr;
+}
+
+bool TGGridTreeRow::IsTreeRow()
+{
+    return true;
+}
+
+TGGridTreeRow& TGGridTreeRow::GetParent() const
+{
+    ASSERT(parent != nullptr);
+    return *parent;
+}
+
+TGGridTreeRow& TGGridTreeRow::RootRow()
+{
+    TGGridTreeRow* row = this;
+    while (row->IsChildRow())
+        row = row->parent;
+    return *row;
+}
+
+bool TGGridTreeRow::IsOut() const
+{
+    return children.IsOut();
+}
+
+TGGridTreeRow& TGGridTreeRow::CurChild()
+{
+    ASSERT(!IsOut());
+    return *children.Cur();
+}
+
+TGGridTreeRow& TGGridTreeRow::GetChild(long position)
+{
+    ASSERT(position >= 0 && position < GetChildNum());
+    return *children[position];
+}
+
+TGGridTreeRow& TGGridTreeRow::GetLastChild()
+{
+    ASSERT(!children.IsEmpty());
+    children.MoveToLast();
+    return *children.Cur();
+}
+
+bool TGGridTreeRow::IsChildVisible() const
+{
+    const auto first = children.begin();
+    return first != children.end() && *first != nullptr && (*first)->IsVisible();
+}
+
+long TGGridTreeRow::GetParentNum()
+{
+    long depth = 0;
+    for (TGGridTreeRow* row = this; row->IsChildRow(); row = row->parent)
+        ++depth;
+    return depth;
+}
+
+bool TGGridTreeRow::IsBelow(const TGGridTreeRow* ancestor) const
+{
+    const TGGridTreeRow* row = parent;
+    while (row != nullptr && row != ancestor)
+        row = row->parent;
+    return row != nullptr;
+}
+
+// ---- Counts -----------------------------------------------------------------------------------------------
+
+long TGGridTreeRow::GetChildIndex(TGGridTreeRow* child)
+{
+    return children.Find(child);
+}
+
+long TGGridTreeRow::GetOffspringNum()
+{
+    long number = GetChildNum();
+    for (TGGridTreeRow* child : children)
+        if (child != nullptr)
+            number += child->GetOffspringNum();
+    return number;
+}
+
+long TGGridTreeRow::GetRowNum()
+{
+    long number = 1;
+    if (!IsFold())
+        for (TGGridTreeRow* child : children)
+            if (child != nullptr)
+                number += child->GetRowNum();
+    return number;
+}
+
+long TGGridTreeRow::GetGlobalChildIndex(long position)
+{
+    long rowIndex = GetIndex() + 1;
+    for (TGGridTreeRow* child : children)
+    {
+        if (position-- <= 0)
+            break;
+        if (child != nullptr)
+            rowIndex += child->GetRowNum();
+    }
+    return rowIndex;
+}
+
+// ---- Search -----------------------------------------------------------------------------------------------
+
+TGGridTreeRow* TGGridTreeRow::FindOffspring(const wchar_t* text, long col)
+{
+    for (TGGridTreeRow* child : children)
+    {
+        if (child == nullptr)
+            continue;
+        if (child->HasText(text, col))
+            return child;
+        if (TGGridTreeRow* found = child->FindOffspring(text, col))
+            return found;
+    }
+    return nullptr;
+}
+
+bool TGGridTreeRow::FindAndSel(const wchar_t* text, long col)
+{
+    TGGridTreeRow* found = FindOffspring(text, col);
+    if (found == nullptr)
+        return false;
+    TGGrid& owner = GetGrid();
+    const RowWatch watch(owner, found);
+    const TGGridUpdate update(owner);
+    for (TGGridTreeRow* row = found->parent; row != nullptr && watch.IsAlive(); row = row->parent)
+        row->UnFold();
+    if (watch.IsAlive())
+        owner.SelectOnly(*found);
+    return true;
+}
+
+// ---- The plus or minus box --------------------------------------------------------------------------------
+
+void TGGridTreeRow::GetTreeQuad(CRect& rect)
+{
+    if (!IsParentRow())
+        return;
+    TGGrid& owner = GetGrid();
+    const auto first = owner.cols.begin();
+    const long left = first != owner.cols.end() && *first != nullptr ? (*first)->GetLeft() : 0;
+    rect = TreeQuadRect(left, GetIndex(), GetParentNum(), owner.GetRowHeight());
+}
+
+bool TGGridTreeRow::IsPtInTreeQuad(CPoint& point)
+{
+    CRect rect(0, 0, 0, 0);
+    GetTreeQuad(rect);
+    return rect.PtInRect(point) != FALSE;
+}
+
+bool TGGridTreeRow::IsLastChild() const
+{
+    return parent != nullptr && *parent->children.IteratorAt(parent->GetChildNum() - 1) == this;
+}
+
+} // namespace QuorUiCtr

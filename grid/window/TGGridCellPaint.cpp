@@ -1,0 +1,132 @@
+// The drawing of one cell: frame, background, tree decoration and text.
+#include "grid/TGGridCell.h"
+
+#include "grid/edit/CellWatch.h"
+#include "grid/window/GridGeometry.h"
+#include "grid/TGGrid.h"
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+void DrawLine(CDC& context, long x1, long y1, long x2, long y2)
+{
+    context.MoveTo(x1, y1);
+    context.LineTo(x2, y2);
+}
+
+long Middle(long first, long last)
+{
+    return (first + last) / 2;
+}
+
+// The box in front of a parent row: a frame with a minus, or a plus when the row is folded.
+void DrawFoldBox(CDC& context, const CRect& box, bool folded)
+{
+    context.Rectangle(&box);
+    const long x = Middle(box.left, box.right);
+    const long y = Middle(box.top, box.bottom);
+    DrawLine(context, box.left + 2, y, box.right - 2, y);
+    if (folded)
+        DrawLine(context, x, box.top + 2, x, box.bottom - 2);
+}
+
+} // namespace
+
+void TGGridCell::Refresh()
+{
+    if (grid == nullptr || grid->GetSafeHwnd() == nullptr)
+        return;
+    TGGrid& owner = *grid;
+    if (owner.IsUpdating())
+    {
+        owner.Invalidate(1);
+        return;
+    }
+    // Hooks may delete the cell, and ask for a layout, which makes a new context.
+    const CellWatch self(owner, this);
+    if (!owner.OnRefresh(*this) || owner.GetDC() == nullptr || self.Cell() == nullptr)
+        return;
+    owner.OnBeforeRefresh(*this);
+    if (owner.GetDC() == nullptr || self.Cell() == nullptr)
+        return;
+    Draw(*owner.GetDC());
+    CRect cell;
+    GetRect(cell);
+    owner.InvertSelectionIn(CellOutlineRect(cell));
+}
+
+void TGGridCell::Draw(CDC& context) const
+{
+    CRect cell;
+    GetRect(cell);
+    const CRect outline = CellOutlineRect(cell);
+    if (!context.RectVisible(&outline))
+        return;
+    context.Rectangle(&outline);
+    const CRect inside = CellInsideRect(cell);
+    context.FillSolidRect(&inside, context.GetBkColor());
+    CRect textRect = CellTextRect(cell, grid->GetRowSpace());
+    if (col->GetIndex() == 0 && row->IsTreeRow())
+        textRect.left += DrawTreeDecoration(context, cell) - inside.left;
+    DrawCellText(context, textRect);
+}
+
+void TGGridCell::DrawCellText(CDC& context, CRect textRect) const
+{
+    if (text.IsEmpty())
+        return;
+    const UINT alignment = col->IsCenterAlign() ? DT_CENTER : DT_LEFT;
+    context.DrawText(text, &textRect, DT_SINGLELINE | DT_EDITCONTROL | alignment);
+}
+
+long TGGridCell::DrawTreeDecoration(CDC& context, const CRect& cell) const
+{
+    TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(*row);
+    const bool lines = grid->IsNeedTreeLine();
+    long textLeft = CellInsideRect(cell).left;
+    if (treeRow.IsParentRow())
+    {
+        CRect box;
+        treeRow.GetTreeQuad(box);
+        textLeft = box.right;
+        DrawFoldBox(context, box, treeRow.IsFold());
+        if (lines && !treeRow.IsFold())
+            DrawLine(context, Middle(box.left, box.right), box.bottom, Middle(box.left, box.right),
+                     cell.bottom);
+    }
+    if (treeRow.IsChildRow())
+    {
+        CRect parentBox;
+        treeRow.GetParent().GetTreeQuad(parentBox);
+        if (!treeRow.IsParentRow())
+            textLeft = 2 * parentBox.right - parentBox.left;
+        if (lines)
+            DrawChildLines(context, cell, parentBox);
+    }
+    return textLeft;
+}
+
+void TGGridCell::DrawChildLines(CDC& context, const CRect& cell, const CRect& parentBox) const
+{
+    TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(*row);
+    const long x = Middle(parentBox.left, parentBox.right);
+    const long y = Middle(cell.top, cell.bottom);
+    const long end = treeRow.IsParentRow() ? parentBox.right : parentBox.right + parentBox.Width() / 2;
+    DrawLine(context, x, cell.top, x, y);
+    DrawLine(context, x, y, end, y);
+    if (!treeRow.IsLastChild())
+        DrawLine(context, x, y, x, cell.bottom);
+    for (TGGridTreeRow* ancestor = treeRow.Parent(); ancestor->IsChildRow(); ancestor = ancestor->Parent())
+    {
+        if (ancestor->IsLastChild())
+            continue;
+        CRect box;
+        ancestor->GetParent().GetTreeQuad(box);
+        DrawLine(context, Middle(box.left, box.right), cell.top, Middle(box.left, box.right), cell.bottom);
+    }
+}
+
+} // namespace QuorUiCtr

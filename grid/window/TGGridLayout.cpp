@@ -1,0 +1,335 @@
+// TGGrid's layout: measures, scroll bars, header placement, the new-row line, the prepared drawing context
+// and the bracket that makes many changes as one.
+#include "grid/window/GridGeometry.h"
+#include "grid/window/GridLayout.h"
+#include "grid/headers/HeaderBox.h"
+#include "grid/TGActiveQuad.h"
+#include "grid/TGColSelector.h"
+#include "grid/TGRowSelector.h"
+
+#include <algorithm>
+
+namespace QuorUiCtr
+{
+
+namespace
+{
+
+// Set while any grid of the process is laid out: showing a scroll bar sends WM_SIZE, which asks for a layout.
+bool layingOut = false;
+
+class LayoutGuard
+{
+public:
+    LayoutGuard() { layingOut = true; }
+    ~LayoutGuard() { layingOut = false; }
+    LayoutGuard(const LayoutGuard&) = delete;
+    LayoutGuard& operator=(const LayoutGuard&) = delete;
+};
+
+void PlaceChild(CWnd* child, const CRect& place)
+{
+    if (child->GetSafeHwnd() != nullptr)
+        child->SetWindowPos(nullptr, place.left, place.top, place.Width(), place.Height(),
+                            SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
+}
+
+void InvalidateChild(CWnd* child)
+{
+    if (child->GetSafeHwnd() != nullptr)
+        child->Invalidate(TRUE);
+}
+
+} // namespace
+
+// ---- Measures ---------------------------------------------------------------------------------------------
+
+long TGGrid::GetBottom()
+{
+    const long lines = GetRowNum() + (IsAppendRowShown() ? 1 : 0);
+    return GetRowHeight() * lines;
+}
+
+long TGGrid::GetRight()
+{
+    return IsColEmpty() ? 0 : ColAtIndex(GetColNum() - 1)->GetRight();
+}
+
+long TGGrid::GetColHeaderHeight()
+{
+    long lines = 1;
+    for (const TGGridCol* col : cols)
+        lines = (std::max)(lines, CaptionLineCount(col->GetName()));
+    return GetRowHeight() * lines;
+}
+
+void TGGrid::GetClientRect(RECT* rect)
+{
+    CWnd::GetClientRect(rect);
+    if (IsRowSel())
+        rect->left += GetRowHeight();
+    if (IsColSel())
+        rect->top += GetColHeaderHeight();
+}
+
+void TGGrid::GetUpCorner(CPoint& corner)
+{
+    CRect area;
+    GetClientRect(&area);
+    corner = CPoint(area.left - BarPosition(SB_HORZ), area.top - BarPosition(SB_VERT));
+}
+
+void TGGrid::SetRowSpace(int pixels)
+{
+    rowSpace = pixels;
+    RecalcLayout(1);
+}
+
+bool TGGrid::FitLastCol()
+{
+    if (GetSafeHwnd() == nullptr || IsColEmpty())
+        return false;
+    FlushLayout();
+    CRect area;
+    GetClientRect(&area);
+    TGGridCol& last = *ColAtIndex(GetColNum() - 1);
+    const long difference = area.Width() - GetRight();
+    if (difference == 0 || difference < GetRowHeight() - last.GetWidth())
+        return false;
+    last.SetRight(last.GetRight() + difference);
+    RecalcLayout(1);
+    return true;
+}
+
+// ---- Layout -----------------------------------------------------------------------------------------------
+
+void TGGrid::RecalcLayout(int redraw)
+{
+    if (layingOut || GetSafeHwnd() == nullptr)
+        return;
+    if (IsUpdating())
+    {
+        layoutPending = true;
+        redrawPending = redrawPending || redraw != 0;
+        return;
+    }
+    Layout(*this).PerformLayout(redraw);
+}
+
+void TGGrid::Layout::PerformLayout(int redraw)
+{
+    const LayoutGuard guard;
+    grid.layoutPending = false;
+    grid.EndEditCell();
+    // The hooks of the edit may have closed the window.
+    if (grid.GetSafeHwnd() == nullptr)
+        return;
+    PlaceHeaders();
+    LayOutScrollBars();
+    grid.ClearDC();
+    grid.PrepareDC(nullptr);
+    RenewNewRow();
+    if (redraw != 0)
+        grid.Invalidate(1);
+}
+
+void TGGrid::Layout::LayOutScrollBars()
+{
+    const int barWidth = ::GetSystemMetrics(SM_CXVSCROLL);
+    const int barHeight = ::GetSystemMetrics(SM_CYHSCROLL);
+    CRect area;
+    grid.GetClientRect(&area);
+    // A host may have created the window with bars: what the window shows counts, not what was laid out last.
+    if (IsBarShown(SB_VERT))
+        area.right += barWidth;
+    if (IsBarShown(SB_HORZ))
+        area.bottom += barHeight;
+    const CSize content(grid.GetRight(), grid.GetBottom());
+    const ScrollBarPlan plan = PlanScrollBars(content, area.Size(), barWidth, barHeight);
+    const int hPosition = grid.BarPosition(SB_HORZ);
+    const int vPosition = grid.BarPosition(SB_VERT);
+    LayOutBar(SB_HORZ, plan.horizontal, hPosition, content.cx - plan.area.cx);
+    LayOutBar(SB_VERT, plan.vertical, vPosition, content.cy - plan.area.cy);
+    grid.hScrollShown = plan.horizontal;
+    grid.vScrollShown = plan.vertical;
+}
+
+// Drawing a scroll bar costs more than the rest of a layout together, so that its values are set without and
+// its picture is left to the next paint.
+void TGGrid::Layout::LayOutBar(int bar, bool needed, int position, int maximum)
+{
+    if (needed != IsBarShown(bar))
+        grid.ShowScrollBar(static_cast<UINT>(bar), needed);
+    if (!needed)
+        return;
+    int oldMinimum = 0;
+    int oldMaximum = 0;
+    grid.GetScrollRange(bar, &oldMinimum, &oldMaximum);
+    if (oldMinimum != 0 || oldMaximum != maximum)
+    {
+        grid.SetScrollRange(bar, 0, maximum, FALSE);
+        RepaintBar(bar);
+    }
+    grid.SetBarPosition(bar, (std::min)(position, maximum));
+}
+
+bool TGGrid::Layout::IsBarShown(int bar) const
+{
+    return (grid.CWnd::GetStyle() & (bar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL)) != 0;
+}
+
+int TGGrid::BarPosition(int bar) const
+{
+    return (bar == SB_HORZ ? hScrollShown : vScrollShown) ? GetScrollPos(bar) : 0;
+}
+
+void TGGrid::SetBarPosition(int bar, int position)
+{
+    if (GetScrollPos(bar) == position)
+        return;
+    SetScrollPos(bar, position, FALSE);
+    Layout(*this).RepaintBar(bar);
+}
+
+void TGGrid::Layout::RepaintBar(int bar)
+{
+    CRect place;
+    grid.CWnd::GetClientRect(&place);
+    if (bar == SB_VERT)
+        place = CRect(place.right, place.top, place.right + ::GetSystemMetrics(SM_CXVSCROLL), place.bottom);
+    else
+        place = CRect(place.left, place.bottom, place.right, place.bottom + ::GetSystemMetrics(SM_CYHSCROLL));
+    grid.RedrawWindow(&place, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_NOCHILDREN);
+}
+
+// The header windows follow the row height and the header height, which change with the font, the row space
+// and the captions.
+void TGGrid::Layout::PlaceHeaders()
+{
+    const CSize measure(grid.GetRowHeight(), grid.GetColHeaderHeight());
+    // Not operator==, which is ambiguous between two CSize with some compilers.
+    if (measure.cx == grid.headerMeasure.cx && measure.cy == grid.headerMeasure.cy)
+        return;
+    grid.headerMeasure = measure;
+    const long left = grid.IsRowSel() ? measure.cx : 0;
+    const long top = grid.IsColSel() ? measure.cy : 0;
+    PlaceChild(grid.quad, CRect(0, 0, measure.cx, measure.cy));
+    PlaceChild(grid.colHeader, CRect(left, 0, headerExtent, measure.cy));
+    PlaceChild(grid.rowHeader, CRect(0, top, measure.cx, headerExtent));
+}
+
+void TGGrid::Layout::RenewNewRow()
+{
+    // While an edit of the new row is being committed, its cells are in use.
+    if (grid.newRow != nullptr && grid.editCell != nullptr && &grid.editCell->GetRow() == grid.newRow)
+    {
+        grid.newRow->SetIndex(grid.GetRowNum());
+        return;
+    }
+    const bool locked =
+        grid.newRow != nullptr && grid.cellLock != nullptr && &grid.cellLock->GetRow() == grid.newRow;
+    const long lockedCol = locked ? grid.cellLock->GetColIndex() : -1;
+    delete grid.newRow;
+    grid.newRow = nullptr;
+    grid.newRow = grid.treeGrid ? new TGGridTreeRow(grid) : new TGGridRow(grid);
+    grid.newRow->SetIndex(grid.GetRowNum());
+    if (locked)
+        grid.cellLock = grid.IsValidCol(lockedCol) ? &(*grid.newRow)[lockedCol] : nullptr;
+}
+
+void TGGrid::Invalidate(int erase)
+{
+    if (GetSafeHwnd() == nullptr)
+        return;
+    if (IsUpdating())
+    {
+        redrawPending = true;
+        return;
+    }
+    if (erase != 0)
+    {
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN);
+        return;
+    }
+    CWnd::Invalidate(FALSE);
+    InvalidateChild(quad);
+    InvalidateChild(colHeader);
+    InvalidateChild(rowHeader);
+}
+
+// ---- Many changes as one ----------------------------------------------------------------------------------
+
+void TGGrid::BeginUpdate()
+{
+    ++updateDepth;
+}
+
+void TGGrid::EndUpdate()
+{
+    if (updateDepth == 0 || --updateDepth > 0)
+        return;
+    const bool layout = layoutPending;
+    const bool redraw = redrawPending;
+    const bool show = showPending;
+    layoutPending = false;
+    redrawPending = false;
+    showPending = false;
+    if (layout)
+        RecalcLayout(redraw ? 1 : 0);
+    else if (redraw)
+        Invalidate(1);
+    if (show)
+        ShowRect(pendingShowRect);
+}
+
+void TGGrid::FlushLayout()
+{
+    if (layoutPending && !layingOut && GetSafeHwnd() != nullptr)
+        Layout(*this).PerformLayout(0);
+}
+
+// ---- Drawing context --------------------------------------------------------------------------------------
+
+void TGGrid::PrepareDC(CDC* context)
+{
+    if (context != nullptr)
+    {
+        ClearDC();
+        dc = context;
+    }
+    else if (dc == nullptr)
+    {
+        if (GetSafeHwnd() == nullptr)
+            return;
+        dc = new CClientDC(this);
+        ownsDC = true;
+    }
+    dc->SetROP2(R2_COPYPEN);
+    dc->SelectObject(&font);
+    dc->SelectObject(&gridPen);
+    Layout(*this).MapDC();
+}
+
+// The logical origin lies one pixel outside the data area, so that the first grid lines are hidden. Nothing
+// is drawn over the header windows, whether or not the host made the window with WS_CLIPCHILDREN.
+void TGGrid::Layout::MapDC()
+{
+    CRect area;
+    grid.GetClientRect(&area);
+    CPoint corner;
+    grid.GetUpCorner(corner);
+    grid.dc->SetViewportOrg(0, 0);
+    grid.dc->SelectClipRgn(nullptr);
+    grid.dc->IntersectClipRect(&area);
+    grid.dc->SetViewportOrg(corner.x - 1, corner.y - 1);
+}
+
+void TGGrid::ClearDC()
+{
+    if (ownsDC)
+        delete dc;
+    ownsDC = false;
+    dc = nullptr;
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,138 @@
+// TGGrid's scrolling: moving the view, bringing rectangles into view, scroll bar and wheel messages.
+#include "grid/window/GridGeometry.h"
+#include "grid/window/GridLayout.h"
+#include "grid/TGColSelector.h"
+#include "grid/TGRowSelector.h"
+
+namespace QuorUiCtr
+{
+
+void TGGrid::MoveView(int dx, int dy)
+{
+    if (GetSafeHwnd() == nullptr)
+        return;
+    FlushLayout();
+    const int hPosition = BarPosition(SB_HORZ);
+    const int vPosition = BarPosition(SB_VERT);
+    CRect area;
+    GetClientRect(&area);
+    if (hScrollShown)
+        dx = ClampScroll(hPosition, dx, GetRight() - area.Width());
+    if (vScrollShown)
+        dy = ClampScroll(vPosition, dy, GetBottom() - area.Height());
+    if (dx == 0 && dy == 0)
+        return;
+    SetBarPosition(SB_HORZ, hPosition + dx);
+    SetBarPosition(SB_VERT, vPosition + dy);
+    ClearDC();
+    PrepareDC(nullptr);
+    // What the end of an edit draws stands where it is to be after the scrolling already.
+    const bool drawn = IsEditing();
+    EndEditCell();
+    Layout(*this).ScrollContents(dx, dy);
+    if (drawn)
+        Invalidate(0);
+}
+
+// The data area scrolls by itself, so that the header windows and an editor stay where they are.
+void TGGrid::Layout::ScrollContents(int dx, int dy)
+{
+    if (grid.GetSafeHwnd() == nullptr)
+        return;
+    CRect area;
+    grid.GetClientRect(&area);
+    grid.ScrollWindow(-dx, -dy, &area, &area);
+    if (grid.IsColSel() && grid.colHeader->GetSafeHwnd() != nullptr)
+        grid.colHeader->ScrollWindow(-dx, 0);
+    if (grid.IsRowSel() && grid.rowHeader->GetSafeHwnd() != nullptr)
+        grid.rowHeader->ScrollWindow(0, -dy);
+}
+
+void TGGrid::ShowRect(CRect rect)
+{
+    if (GetSafeHwnd() == nullptr)
+        return;
+    if (layoutPending)
+    {
+        pendingShowRect = rect;
+        showPending = true;
+        return;
+    }
+    const CRect view = ViewRect();
+    const int dx = LeastScroll(rect.left, rect.right, view.left, view.right, BarPosition(SB_HORZ));
+    const int dy = LeastScroll(rect.top, rect.bottom, view.top, view.bottom, BarPosition(SB_VERT));
+    MoveView(dx, dy);
+}
+
+void TGGrid::ShowAppendRow()
+{
+    if (GetSafeHwnd() == nullptr)
+        return;
+    const CRect view = ViewRect();
+    const long centre = (view.left + view.right) / 2;
+    const long top = GetRowHeight() * GetRowNum();
+    ShowRect(CRect(centre, top, centre, top + GetRowHeight()));
+}
+
+CRect TGGrid::ViewRect()
+{
+    CRect area;
+    GetClientRect(&area);
+    return CRect(ClientToLogical(area.TopLeft()), ClientToLogical(area.BottomRight()));
+}
+
+void TGGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    ScrollRequest request = Layout(*this).ReadScrollRequest(SB_VERT, SIF_TRACKPOS);
+    CRect area;
+    GetClientRect(&area);
+    request.line = GetRowHeight();
+    request.page = area.Height();
+    MoveView(0, VerticalScrollTarget(code, request) - request.position);
+    CWnd::OnVScroll(code, position, bar);
+    SetFocus();
+}
+
+void TGGrid::OnHScroll(UINT code, UINT position, CScrollBar* bar)
+{
+    ScrollRequest request = Layout(*this).ReadScrollRequest(SB_HORZ, SIF_ALL);
+    CRect area;
+    GetClientRect(&area);
+    request.line = GetDefaultWidth();
+    request.page = area.Width();
+    MoveView(HorizontalScrollTarget(code, request) - request.position, 0);
+    CWnd::OnHScroll(code, position, bar);
+    SetFocus();
+}
+
+// The position that a message carries has 16 bits only, hence the tracking position is always read from the
+// bar.
+ScrollRequest TGGrid::Layout::ReadScrollRequest(int bar, UINT trackMask)
+{
+    ScrollRequest request = {};
+    int minimum = 0;
+    int maximum = 0;
+    grid.GetScrollRange(bar, &minimum, &maximum);
+    SCROLLINFO info = {};
+    info.cbSize = sizeof(info);
+    grid.GetScrollInfo(bar, &info, trackMask);
+    request.position = grid.GetScrollPos(bar);
+    request.minimum = minimum;
+    request.maximum = maximum;
+    request.track = info.nTrackPos;
+    return request;
+}
+
+BOOL TGGrid::OnMouseWheel(UINT flags, short delta, CPoint point)
+{
+    // Tracking takes the bar's own tracking position, so that the position given here only travels with the
+    // default handling.
+    if (vScrollShown)
+    {
+        const long position = WheelPosition(GetScrollPos(SB_VERT), GetRowHeight(), delta);
+        OnVScroll(SB_THUMBTRACK, static_cast<UINT>(position), nullptr);
+    }
+    return CWnd::OnMouseWheel(flags, delta, point);
+}
+
+} // namespace QuorUiCtr

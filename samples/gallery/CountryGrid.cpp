@@ -22,7 +22,7 @@ enum SourceColumn : size_t
     SourceColumnCount
 };
 
-constexpr long LabelColumn = 0;
+constexpr long GroupColumn = 0;
 constexpr long NumberColumn = 1;
 
 struct GridColumn
@@ -69,14 +69,14 @@ bool CountryGrid::Fill(const gallery::CsvTable& table)
         if (std::exchange(continent, texts[Continent]) != texts[Continent])
         {
             AppendRow(nullptr);
-            GetCell(GetRowNum() - 1, LabelColumn).SetText(continent.c_str());
+            GetCell(GetRowNum() - 1, GroupColumn).SetText(continent.c_str());
             region.clear();
         }
         TGGridTreeRow& root = GetTreeRow(GetRowNum() - 1);
         if (std::exchange(region, texts[Region]) != texts[Region])
         {
             root.AppendChild(nullptr);
-            root.GetLastChild()[LabelColumn].SetText(region.c_str());
+            root.GetLastChild()[GroupColumn].SetText(region.c_str());
         }
         TGGridTreeRow& group = root.GetLastChild();
         group.AppendChild(nullptr);
@@ -158,7 +158,7 @@ template <class Repair> void CountryGrid::NoteRepairs(const wchar_t* hook, Repai
             continue;
         CString line;
         line.Format(Tr(L"%s  number repaired: %s \"%s\" → \"%s\""), hook,
-                    (*row)[LabelColumn].GetText().GetString(), known->second.GetString(), number.GetString());
+                    (*row)[GroupColumn].GetText().GetString(), known->second.GetString(), number.GetString());
         log.Add(line);
     }
 }

@@ -49,7 +49,7 @@ public:
     {
         Forget();
         total = number;
-        if (!Reserve(static_cast<std::size_t>(number / (largestChunk / 2) + 1)) || !MakeRoom(0, 1))
+        if (!Reserve(static_cast<std::size_t>(number / (largestChunk / 2)) + 1) || !MakeRoom(0, 1))
             return false;
         SetChunk(0, {first, 0});
         SplitIfLarge(0);

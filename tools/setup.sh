@@ -27,6 +27,7 @@ check_requirements() {
     cat <<'LIST'
 clang clang++
 clang-format clang-format-14 clang-format
+clang-tidy clang-tidy
 python3-clang /usr/lib/python3/dist-packages/clang/__init__.py
 shellcheck shellcheck
 xdotool xdotool

@@ -12,7 +12,8 @@ namespace
 void PopulateWithoutWindow(Report& report, long n)
 {
     std::unique_ptr<GridSubject> grid;
-    const double ours = MedianMs([&] { grid->AppendRows(n); }, [&] { grid = std::make_unique<GridSubject>(nullptr); });
+    const double ours =
+        MedianMs([&] { grid->AppendRows(n); }, [&] { grid = std::make_unique<GridSubject>(nullptr); });
     RawTable table;
     const double floor = MedianMs([&] { FillRawTable(table, n); }, [&] { table = RawTable(); });
     report.Add({"populate without window", n, ours, "vectors of wstring", floor});
@@ -33,16 +34,14 @@ void PopulateRowByRow(Report& report, Host& host, long n)
     constexpr long Timed = 1000;
     GridSubject grid(&host);
     const double ours = MedianMs([&] { grid.AppendRows(Timed); },
-                                 [&]
-                                 {
+                                 [&] {
                                      grid.Empty();
                                      grid.AppendRowsAsOne(n - Timed);
                                      grid.Grid().UpdateWindow();
                                  });
     ListViewSubject list(host);
     const double peer = MedianMs([&] { list.AppendRows(Timed); },
-                                 [&]
-                                 {
+                                 [&] {
                                      list.Empty();
                                      list.AppendRowsAsOne(n - Timed);
                                      list.List().UpdateWindow();

@@ -20,8 +20,8 @@ public:
     {
         const CString windowClass = AfxRegisterWndClass(CS_SAVEBITS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW,
                                                         LoadCursor(nullptr, IDC_ARROW), grid.GetBrush());
-        CreateEx(0, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL, 0, 0, ViewWidth, ViewHeight,
-                 parent.m_hWnd, nullptr);
+        CreateEx(0, windowClass, L"", WS_CHILD | WS_VISIBLE | WS_HSCROLL | WS_VSCROLL, 0, 0, ViewWidth,
+                 ViewHeight, parent.m_hWnd, nullptr);
     }
     ~RawPaintWindow() override { DestroyWindow(); }
 
@@ -111,19 +111,15 @@ double TimeRawRepaints(Host& host, QuorUiCtr::TGGrid& grid, bool selected)
     // As many rows as the grid has to draw on average: a view that begins inside a row shows one more.
     raw.SetRows((client.Height() - headerHeight) / rowHeight + 1);
     raw.SetSelected(selected);
-    return MedianOf(
-        [&]
-        {
-            double total = 0;
-            for (int i = 0; i < RepaintsPerRun; ++i)
-                total += TimeMs(
-                    [&]
-                    {
-                        ::InvalidateRect(raw.m_hWnd, nullptr, TRUE);
-                        ::UpdateWindow(raw.m_hWnd);
-                    });
-            return total / RepaintsPerRun;
-        });
+    return MedianOf([&] {
+        double total = 0;
+        for (int i = 0; i < RepaintsPerRun; ++i)
+            total += TimeMs([&] {
+                ::InvalidateRect(raw.m_hWnd, nullptr, TRUE);
+                ::UpdateWindow(raw.m_hWnd);
+            });
+        return total / RepaintsPerRun;
+    });
 }
 
 void RepaintAgainstFloor(Report& report, Host& host, long n, bool selected)
@@ -157,7 +153,9 @@ void RepaintAgainstListView(Report& report, Host& host, long n)
 // Compares our own figures at two sizes: the peer is the grid with 1000 rows.
 void RepaintAgainstSmallGrid(Report& report, Host& host, bool selected)
 {
-    const auto repaint = [&](GridSubject& grid, long n) { return MedianOf([&] { return TimeRepaints(grid, n); }); };
+    const auto repaint = [&](GridSubject& grid, long n) {
+        return MedianOf([&] { return TimeRepaints(grid, n); });
+    };
     double figures[2];
     int at = 0;
     for (long n : {1000L, 100000L})
@@ -194,8 +192,7 @@ void RunScroll(Report& report)
     Host host;
     for (long n : {1000L, 100000L})
     {
-        const auto scrollLines = [](HWND window)
-        {
+        const auto scrollLines = [](HWND window) {
             for (int step = 0; step < Steps; ++step)
             {
                 SendMessage(window, WM_VSCROLL, SB_LINEDOWN, 0);

@@ -17,8 +17,8 @@ Host::Host()
 {
     const CString windowClass = AfxRegisterWndClass(CS_DBLCLKS, LoadCursor(nullptr, IDC_ARROW),
                                                     reinterpret_cast<HBRUSH>(COLOR_WINDOW + 1));
-    CreateEx(0, windowClass, L"QuorUiCtrl benchmark", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0, 0,
-             ViewWidth + 20, ViewHeight + 60, nullptr, nullptr);
+    CreateEx(0, windowClass, L"QuorUiCtrl benchmark", WS_OVERLAPPEDWINDOW | WS_VISIBLE | WS_CLIPCHILDREN, 0,
+             0, ViewWidth + 20, ViewHeight + 60, nullptr, nullptr);
     UpdateWindow();
 }
 

@@ -1,5 +1,5 @@
-// The benchmark program: runs the workloads whose names are given (all without arguments), prints the table and
-// writes it to the file named by "--csv FILE".
+// The benchmark program: runs the workloads whose names are given (all without arguments), prints the table
+// and writes it to the file named by "--csv FILE".
 #include "Workloads.h"
 
 #include <afxwin.h>
@@ -19,15 +19,9 @@ struct Workload
 };
 
 constexpr Workload Workloads[] = {
-    {"command", bench::RunCommands},
-    {"edit", bench::RunEdit},
-    {"memory", bench::RunMemory},
-    {"populate", bench::RunPopulate},
-    {"propgrid", bench::RunPropGrid},
-    {"repaint", bench::RunRepaint},
-    {"scroll", bench::RunScroll},
-    {"select", bench::RunSelection},
-    {"treegrid", bench::RunTreeGrid},
+    {"command", bench::RunCommands},  {"edit", bench::RunEdit},         {"memory", bench::RunMemory},
+    {"populate", bench::RunPopulate}, {"propgrid", bench::RunPropGrid}, {"repaint", bench::RunRepaint},
+    {"scroll", bench::RunScroll},     {"select", bench::RunSelection},  {"treegrid", bench::RunTreeGrid},
     {"treemove", bench::RunTreeMove},
 };
 

@@ -10,7 +10,8 @@ namespace QuorUiCtr
 
 // Host data of one row. Derive from it, allocate the object with new and hand it to TGGridRow::SetExtendData:
 // from then on the row owns it and deletes it through the virtual destructor. The class is empty on purpose;
-// assigning one TGRowData to another copies nothing, so that copying a row never copies host data by accident.
+// assigning one TGRowData to another copies nothing, so that copying a row never copies host data by
+// accident.
 class QUOR_EXT_CLASS TGRowData
 {
 public:

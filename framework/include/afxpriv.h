@@ -15,8 +15,8 @@
 #define WM_INITIALUPDATE 0x0364
 // Asks a frame to go back to the string resource wParam in its message line.
 #define WM_POPMESSAGESTRING 0x0375
-// Asks a window to show help about itself: lParam is the context that is known, 0 for none. A window that does so
-// returns TRUE.
+// Asks a window to show help about itself: lParam is the context that is known, 0 for none. A window that
+// does so returns TRUE.
 #define WM_COMMANDHELP 0x0365
 // Asks a window for the context of help at the client point in lParam; 0 for none.
 #define WM_HELPHITTEST 0x0366

@@ -1,4 +1,5 @@
-// Identifiers of the framework's own resources, windows and commands. Readable by the resource compiler as well.
+// Identifiers of the framework's own resources, windows and commands. Readable by the resource compiler as
+// well.
 #ifndef QUORFX_AFXRES_H
 #define QUORFX_AFXRES_H
 

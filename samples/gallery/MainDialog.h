@@ -17,8 +17,8 @@ public:
     // Shows a table file in the page that is shown or, where that shows no files, in the first one. Returns
     // an empty text, or one sentence that names the file and what is wrong with it.
     CString OpenTable(const CString& path);
-    // Runs the command of a key that works in all panes: Ctrl+O, F6. Returns false for other messages. Called before
-    // any window sees the message, because the pages, dialogs of their own, would take it.
+    // Runs the command of a key that works in all panes: Ctrl+O, F6. Returns false for other messages. Called
+    // before any window sees the message, because the pages, dialogs of their own, would take it.
     bool RunKey(const MSG& message);
     // Shows every page in turn and writes its pictures into `folder`. Returns false when one fails.
     bool WritePictures(const CString& folder);

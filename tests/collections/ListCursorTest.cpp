@@ -41,8 +41,10 @@ TYPED_TEST(ListCursor, Append_MakesTheNewElementCurrentAndReturnsItsIndex)
 
 TYPED_TEST(ListCursor, MoveTo_ReachesEveryElementFromEveryOther)
 {
-    for (long from = 0; from < 4; ++from) {
-        for (long to = 0; to < 4; ++to) {
+    for (long from = 0; from < 4; ++from)
+    {
+        for (long to = 0; to < 4; ++to)
+        {
             EXPECT_TRUE(this->list.MoveTo(from));
             EXPECT_TRUE(this->list.MoveTo(to));
             EXPECT_EQ(this->list.GetCur(), to);
@@ -53,7 +55,8 @@ TYPED_TEST(ListCursor, MoveTo_ReachesEveryElementFromEveryOther)
 
 TYPED_TEST(ListCursor, MoveTo_OutsideTheList_LeavesNoCurrentElement)
 {
-    for (long outside : {-1L, -5L, 4L, 100L}) {
+    for (long outside : {-1L, -5L, 4L, 100L})
+    {
         this->list.MoveTo(2);
         EXPECT_FALSE(this->list.MoveTo(outside)) << outside;
         EXPECT_EQ(this->list.GetCur(), -1) << outside;
@@ -88,7 +91,8 @@ TYPED_TEST(ListCursor, EveryMoveInAnEmptyList_StaysOut)
 TYPED_TEST(ListCursor, MoveToNext_IsCircularThroughOut)
 {
     this->list.MoveTo(-1);
-    for (long expected : {0L, 1L, 2L, 3L, -1L, 0L}) {
+    for (long expected : {0L, 1L, 2L, 3L, -1L, 0L})
+    {
         this->list.MoveToNext();
         EXPECT_EQ(this->list.GetCur(), expected);
         EXPECT_EQ(this->list.IsOut(), expected == -1);
@@ -99,7 +103,8 @@ TYPED_TEST(ListCursor, MoveToNext_IsCircularThroughOut)
 TYPED_TEST(ListCursor, MoveToPre_IsCircularThroughOut)
 {
     this->list.MoveTo(-1);
-    for (long expected : {3L, 2L, 1L, 0L, -1L, 3L}) {
+    for (long expected : {3L, 2L, 1L, 0L, -1L, 3L})
+    {
         this->list.MoveToPre();
         EXPECT_EQ(this->list.GetCur(), expected);
         EXPECT_EQ(this->list.Cur(), expected < 0 ? 0 : 10 * (expected + 1));
@@ -190,7 +195,8 @@ TYPED_TEST(ListCursor, Iteration_LeavesTheCursorAlone)
 {
     this->list.MoveTo(1);
     long sum = 0;
-    for (long& element : this->list) {
+    for (long& element : this->list)
+    {
         sum += element;
         ++element;
     }

@@ -179,7 +179,8 @@ TYPED_TEST(ListStructure, Grow_AppendsDefaultsKeepsTheCursorAndNeverShrinks)
 TYPED_TEST(ListStructure, Reserve_ChangesNothingThatCanBeSeen)
 {
     this->list.MoveTo(2);
-    for (long n : {100L, 2L, 0L, -1L}) {
+    for (long n : {100L, 2L, 0L, -1L})
+    {
         this->list.Reserve(n);
         EXPECT_EQ(Show(this->list), "10 20 30 40 | cur 2");
     }
@@ -212,8 +213,10 @@ TYPED_TEST(ListStructure, Move_OutsideTheList_DoesNothingAndReturnsFalse)
 
 TYPED_TEST(ListStructure, Move_BetweenAllPairsOfPositions_MovesBeforeTheTarget)
 {
-    for (long from = 0; from < 4; ++from) {
-        for (long to = 0; to <= 4; ++to) {
+    for (long from = 0; from < 4; ++from)
+    {
+        for (long to = 0; to <= 4; ++to)
+        {
             if (to == from || to == from + 1)
                 continue;
             TypeParam moved;

@@ -21,7 +21,8 @@ inline std::string Show(const QuorUiCtr::List<long>& list)
 template <class Object> std::string ShowObjects(const QuorUiCtr::List<Object*>& list)
 {
     std::ostringstream text;
-    for (const Object* object : list) {
+    for (const Object* object : list)
+    {
         if (object != nullptr)
             text << object->number << ' ';
         else

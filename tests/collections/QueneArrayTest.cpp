@@ -77,7 +77,8 @@ TEST(ListQuene, BreadthFirstWalk_GrowsWhileItIsEmptied)
     ListQuene<long> queue;
     queue.Push(1);
     long visited = 0;
-    for (; !queue.IsEmpty(); ++visited) {
+    for (; !queue.IsEmpty(); ++visited)
+    {
         const long number = queue.Pop();
         EXPECT_EQ(number, visited + 1);
         for (long child = 2 * number; child <= 2 * number + 1; ++child)

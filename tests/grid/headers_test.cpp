@@ -179,8 +179,9 @@ TEST_F(GridHeaders, CaptionOfTwoLines_ShowsBoth)
 {
     // A font whose lines are not higher than what the header reserves for each.
     CFont font;
-    ASSERT_TRUE(font.CreateFont(-11, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET, OUT_DEFAULT_PRECIS,
-                                CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH, L"Tahoma"));
+    ASSERT_TRUE(font.CreateFont(-11, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                                OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH,
+                                L"Tahoma"));
     grid.SetFont(&font);
     grid.GetCol(0).SetName(L"HH\nHH");
     grid.RecalcLayout(1);

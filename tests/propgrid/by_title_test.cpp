@@ -196,10 +196,18 @@ TEST_F(ByTitle, NumbersAreReadUpToTheFirstBlank)
         const wchar_t* text;
         double number;
     } readings[] = {
-        {L"12.5 kg", 12.5}, {L"12.5", 12.5}, {L"1 000", 1}, {L" 12.5 kg", 12.5}, // a blank in front does not
-                                                                                 // cut
-        {L"  7", 7},        {L"3kg", 3},     {L"kg 3", 0},  {L"-2e3 m", -2000},  {L"1\t2", 1},
-        {L"", 0},           {L" ", 0},
+        {L"12.5 kg", 12.5},
+        {L"12.5", 12.5},
+        {L"1 000", 1},
+        {L" 12.5 kg", 12.5}, // a blank in front does not
+                             // cut
+        {L"  7", 7},
+        {L"3kg", 3},
+        {L"kg 3", 0},
+        {L"-2e3 m", -2000},
+        {L"1\t2", 1},
+        {L"", 0},
+        {L" ", 0},
     };
     Property* const item = AddTo(AddGroup(L"Group"), L"Item", _variant_t(L""));
     for (const auto& reading : readings)

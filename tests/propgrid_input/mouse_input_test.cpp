@@ -179,15 +179,15 @@ TEST_F(PropertyMouse, ATipShowsACutText)
     grid.UpdateWindow();
     MoveMouse(grid, ValuePoint(title));
     MoveMouse(grid, ValuePoint(title) + CPoint(2, 0));
-    const auto tipText = []() -> std::wstring
-    {
+    const auto tipText = []() -> std::wstring {
         for (HWND tip = NULL; (tip = ::FindWindowEx(NULL, tip, TOOLTIPS_CLASS, NULL)) != NULL;)
         {
             wchar_t text[256] = L"";
             TOOLINFO tool = {};
             tool.cbSize = sizeof(tool);
             tool.lpszText = text;
-            if (::IsWindowVisible(tip) && ::SendMessage(tip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&tool)))
+            if (::IsWindowVisible(tip) &&
+                ::SendMessage(tip, TTM_ENUMTOOLS, 0, reinterpret_cast<LPARAM>(&tool)))
             {
                 tool.lpszText = text;
                 ::SendMessage(tip, TTM_GETTEXT, 256, reinterpret_cast<LPARAM>(&tool));

@@ -300,7 +300,10 @@ public:
 
 private:
     CGdiObject* Select(CGdiObject* pObject);
-    HGDIOBJ Current(UINT nType) const { return ::GetCurrentObject(m_hAttribDC, nType); }
+    HGDIOBJ Current(UINT nType) const
+    {
+        return ::GetCurrentObject(m_hAttribDC, nType);
+    }
 };
 
 #include "fx/dc_derived.h"

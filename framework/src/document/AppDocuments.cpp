@@ -76,7 +76,8 @@ void ShowDocument(CDocument* document)
         return;
     frame->ActivateFrame();
     CWnd* main = AfxGetMainWnd();
-    if (frame->GetParent() != NULL && main != frame && main != NULL && main->IsKindOf(RUNTIME_CLASS(CFrameWnd)))
+    if (frame->GetParent() != NULL && main != frame && main != NULL &&
+        main->IsKindOf(RUNTIME_CLASS(CFrameWnd)))
         static_cast<CFrameWnd*>(main)->ActivateFrame();
 }
 

@@ -48,6 +48,7 @@ void CTreeCtrlDrag::OnDestroy()
         TidyUpEndOfDrag();
     dragItem = dropTarget = firstVisibleItem = lastVisibleItem = itemToReopen = nullptr;
     endedEdit = nullptr;
+    innermostMove = nullptr;
     TreeWatch::NoteTreeGone(newestWatch);
     CTreeCtrl::OnDestroy();
 }

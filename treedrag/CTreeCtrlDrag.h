@@ -10,13 +10,16 @@ namespace QuorUiCtr
 {
 
 class TreeWatch;
+struct TreeMove;
 
 // The messages that a CTreeCtrlDrag sends to its parent window. Items are HTREEITEM.
 //
 // An item was copied to a new place by a move; the original is deleted next. wParam: the copy; lParam: the
 // item that it was inserted after, or its parent item when it became the first child (TVI_ROOT at root
 // level). Moving down sends it again after the original is gone, with wParam: the handle that the original
-// had; lParam: the copy.
+// had; lParam: the copy. While the original is still there, the owner may move other items, but not these
+// two, what is below the original, a folder around one of them, nor anything into the original: such a move
+// does nothing.
 constexpr UINT TDM_ITEM_INSERTED = WM_USER + 6;
 // An item is about to be deleted by DeleteSelected; children are told before their parents. wParam: the item.
 constexpr UINT TDM_ITEM_DELETED = WM_USER + 7;
@@ -226,6 +229,8 @@ private:
     HTREEITEM InsertAfterUnder(HTREEITEM parent) const;
     HTREEITEM InsertPlaceholder(const wchar_t* text, HTREEITEM parent, HTREEITEM after);
     HTREEITEM ReplaceDragItem(HTREEITEM newParent);
+    // Whether moving the item to under `newParent` would break a move that is amid its report to the owner.
+    bool IsHeldByMove(HTREEITEM item, HTREEITEM newParent) const;
     bool BeginCommandMove();
     void CarryOutCommandMove(HTREEITEM newParent, bool tellAgain);
     bool IsMoveAllowed(HTREEITEM newParent);
@@ -251,6 +256,7 @@ private:
     HWND endedEdit = nullptr;         // the label edit whose end was handled last
     HTREEITEM itemToReopen = nullptr; // its label was refused and is to be edited again
     TreeWatch* newestWatch = nullptr;
+    TreeMove* innermostMove = nullptr;
 };
 
 } // namespace QuorUiCtr

@@ -9,6 +9,32 @@
 namespace QuorUiCtr
 {
 
+// A move, from before its copy until its original is deleted. The owner, who is told of the copy, may begin
+// another one inside. A local variable, which ends before its watch.
+struct TreeMove
+{
+    TreeMove(const TreeWatch& watchOfMove, HTREEITEM movedItem, TreeMove*& innermost)
+        : watch(watchOfMove), original(movedItem), innermostOfTree(innermost), outer(innermost)
+    {
+        innermost = this;
+    }
+    ~TreeMove()
+    {
+        if (!watch.IsTreeGone())
+            innermostOfTree = outer;
+    }
+    TreeMove(const TreeMove&) = delete;
+    TreeMove& operator=(const TreeMove&) = delete;
+
+    bool HasBoth() const { return !watch.IsGone(original) && !watch.IsGone(copy); }
+
+    const TreeWatch& watch;
+    HTREEITEM original;
+    HTREEITEM copy = nullptr;
+    TreeMove*& innermostOfTree;
+    TreeMove* outer;
+};
+
 namespace
 {
 
@@ -85,6 +111,8 @@ HTREEITEM CTreeCtrlDrag::InsertItemAndSubtree(HTREEITEM parent)
     const HTREEITEM copy = InsertPlaceholder(L"dummy", parent, after);
     if (copy == nullptr)
         return nullptr;
+    if (innermostMove != nullptr && innermostMove->original == dragItem)
+        innermostMove->copy = copy;
     if (!CopySubtree(copy, dragItem))
     {
         DeleteItem(copy);
@@ -160,14 +188,32 @@ void CTreeCtrlDrag::CopyItem(HTREEITEM destination, HTREEITEM source)
 HTREEITEM CTreeCtrlDrag::ReplaceDragItem(HTREEITEM newParent)
 {
     const HTREEITEM original = dragItem;
-    TreeWatch watch(newestWatch);
-    const HTREEITEM copy = InsertItemAndSubtree(newParent);
-    if (watch.IsGone(copy))
+    if (IsHeldByMove(original, newParent))
         return nullptr;
-    SelectItem(copy);
-    if (!watch.IsGone(original))
-        DeleteItem(original);
+    TreeWatch watch(newestWatch);
+    TreeMove move(watch, original, innermostMove);
+    const HTREEITEM copy = InsertItemAndSubtree(newParent);
+    if (!watch.IsGone(copy))
+    {
+        SelectItem(copy);
+        if (!watch.IsGone(original))
+            DeleteItem(original);
+    }
     return watch.IsGone(copy) ? nullptr : copy;
+}
+
+bool CTreeCtrlDrag::IsHeldByMove(HTREEITEM item, HTREEITEM newParent) const
+{
+    for (const TreeMove* move = innermostMove; move != nullptr; move = move->outer)
+    {
+        if (!move->HasBoth())
+            continue;
+        const bool holdsItem = IsSelfOrBelow(item, move->original) || IsSelfOrBelow(move->original, item) ||
+                               IsSelfOrBelow(move->copy, item);
+        if (holdsItem || IsSelfOrBelow(newParent, move->original))
+            return true;
+    }
+    return false;
 }
 
 void CTreeCtrlDrag::EndMove()

@@ -3,6 +3,9 @@
 
 #include "tests/support/MessageBoxProbe.h"
 
+#include <functional>
+#include <utility>
+
 namespace
 {
 
@@ -181,6 +184,65 @@ TEST_F(OwnerActs, OtherMoveWhenInserted_BothAreCarriedOut)
     tree->MoveItemDown();
     EXPECT_EQ(tree->GetCount(), 4u);
     EXPECT_EQ(Outline(), "b a d c");
+}
+
+// While copy and original are both there, the outer move goes on alone: the inner one would have left both of
+// them, or deleted what it put into the original.
+TEST_F(OwnerActs, MoveOfWhatIsBeingMoved_IsRefused)
+{
+    const auto moveWithin = [this](const char* outline, const char* moved, void (DragTree::*outer)(),
+                                   std::function<void(const OwnerMessage&)> inner) {
+        tree->DeleteAllItems();
+        Fill(outline);
+        On(TDM_ITEM_INSERTED, std::move(inner));
+        Select(moved);
+        (tree.get()->*outer)();
+        return Outline();
+    };
+    const auto moveDown = [this](const char* name) {
+        return [this, name](const OwnerMessage&) {
+            Select(name);
+            tree->MoveItemDown();
+        };
+    };
+    const auto original = [this](const OwnerMessage&) { tree->MoveItemDown(); };
+    const auto copy = [this](const OwnerMessage& message) {
+        tree->SelectItem(message.item);
+        tree->MoveItemDown();
+    };
+    const auto aroundTheOriginal = [this](const OwnerMessage&) {
+        Select("f");
+        tree->MoveItemUp();
+    };
+    EXPECT_EQ(moveWithin("a b c", "a", &DragTree::MoveItemDown, original), "b a c");
+    EXPECT_EQ(moveWithin("a b c", "a", &DragTree::MoveItemDown, copy), "b a c");
+    EXPECT_EQ(moveWithin("f+[p] b", "f", &DragTree::MoveItemDown, moveDown("p")), "b f+[p]");
+    EXPECT_EQ(moveWithin("x f+[a] b", "x", &DragTree::MoveItemDown, moveDown("f")), "f+[x a] b");
+    EXPECT_EQ(moveWithin("g f+[x y]", "x", &DragTree::MoveItemUp, aroundTheOriginal), "g x f+[y]");
+    EXPECT_EQ(moveWithin("x f+[p] b", "f", &DragTree::MoveItemDown, moveDown("x")), "x b f+[p]");
+}
+
+TEST_F(OwnerActs, DropOfWhatIsBeingMoved_IsRefused)
+{
+    Fill("a b c");
+    On(TDM_ITEM_INSERTED, [this](const OwnerMessage&) { DragTo("a", "b", Half::Lower); });
+    DragTo("a", "c", Half::Lower);
+    EXPECT_EQ(Outline(), "b c a");
+}
+
+// Once the owner has deleted one of the two, the other is an item like any other.
+TEST_F(OwnerActs, OriginalDeletedAndCopyMovedWhenInserted_LeavesOneItem)
+{
+    Fill("a b c d");
+    const HTREEITEM original = At("a");
+    On(TDM_ITEM_INSERTED, [this, original](const OwnerMessage& message) {
+        tree->DeleteItem(original);
+        tree->SelectItem(message.item);
+        tree->MoveItemDown();
+    });
+    Select("a");
+    tree->MoveItemDown();
+    EXPECT_EQ(Outline(), "b c a d");
 }
 
 TEST_F(OwnerActs, TreeDestroyedWhenInserted)

@@ -4,8 +4,12 @@
 namespace QuorUiCtr
 {
 
-// Elements are taken out in the order in which they were put in. T must be default constructible and
-// copyable.
+// Elements leave in the order in which they came. The only implementation here is ListQuene; the interface
+// stands apart so that code which fills or drains a queue need not know how it keeps its elements.
+//
+// A queue of pointers does not own the objects. T must be default constructible and copyable. Asking an empty
+// queue for an element is allowed and gives a default one (0, null), so a loop may also end on that where the
+// queue holds no such element.
 template <class T> class Quene
 {
 public:
@@ -18,6 +22,7 @@ public:
     // such call. The reference is valid until that element is taken out.
     virtual T& Front() = 0;
     virtual T& Back() = 0;
+    // How many elements wait.
     virtual long GetNum() const = 0;
     virtual bool IsEmpty() const = 0;
     // Takes all elements out.

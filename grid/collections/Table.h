@@ -16,7 +16,9 @@ namespace QuorUiCtr
 //
 // Lists belong to one thread. T must be default constructible, copyable and comparable with ==.
 //
-// The virtual operations keep this order; the numbers are their places in it.
+// The virtual operations keep this order; the numbers are their places in it. Hosts are handed lists of the
+// grid and hand in their own, and a compiled host calls each operation by its place: a new one goes behind
+// the last.
 template <class T> class Table
 {
 public:

@@ -9,6 +9,7 @@
 namespace QuorUiCtr
 {
 
+class HeaderDrag;
 class TGGrid;
 class TGGridCol;
 
@@ -51,17 +52,16 @@ private:
     void PrepareContext(CDC& context) const;
     void DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const;
 
-    // Mouse (TGColSelectorMouse.cpp).
+    // Mouse.
     long LogicalX(CPoint point) const;
     long ColWithEdgeAt(long x) const;
     void ClickCol(long col);
     void ExtendSelection(long col);
-    bool ScrollAtEdge(CPoint point);
+    void BeginMove();
+    // The mark of the drag, and scrolling.
+    HeaderDrag Drag();
     long CutColumnWidth(CPoint point) const;
     void MarkMoveTarget(long col);
-    CRect MarkRect() const;
-    void InvertMark();
-    void MoveMark(long x);
     void ResizeTo(long x);
     void DropAt(long to);
     void CancelDrag();

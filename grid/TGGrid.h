@@ -18,6 +18,7 @@ namespace QuorUiCtr
 {
 
 class CellWatch;
+class HeaderDrag;
 class TGActiveQuad;
 class TGCellCtrl;
 class TGColSelector;
@@ -383,6 +384,7 @@ protected:
 protected:
     friend class CellWatch;
     friend class GridKeyMap;
+    friend class HeaderDrag;
     friend class RowWatch;
     friend class TGActiveQuad;
     friend class TGCellButton;

@@ -10,6 +10,7 @@
 namespace QuorUiCtr
 {
 
+class HeaderDrag;
 class TGGrid;
 
 // Draws one box per row, as wide as one row is high, with icons in the current row and in the new-row line.
@@ -59,16 +60,14 @@ private:
     // Draws a row's box over what stands there; nothing for an index outside the rows.
     void RedrawRow(CDC& context, long row);
 
-    // Mouse (TGRowSelectorMouse.cpp).
+    // Mouse.
     void ClickNewRowBox();
     void ClickRow(long row);
     void ExtendSelection(long row);
     void BeginDrag(long row);
-    bool ScrollAtEdge(CPoint point);
+    // The mark of the drag, and scrolling.
+    HeaderDrag Drag();
     void DragTo(long row);
-    CRect DropMarkRect() const;
-    void InvertDropMark();
-    void MoveDropMark(long y);
     void Drop(long to);
     void CancelDrag();
 

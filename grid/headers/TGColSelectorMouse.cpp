@@ -1,8 +1,9 @@
 // The column header's mouse work: selecting, resizing and moving columns.
 #include "grid/TGColSelector.h"
 
-#include "grid/headers/HeaderDrag.h"
 #include "grid/TGGrid.h"
+#include "grid/headers/HeaderClick.h"
+#include "grid/headers/HeaderDrag.h"
 
 namespace QuorUiCtr
 {
@@ -11,9 +12,13 @@ namespace
 
 constexpr long MoveMarkWidth = 3;
 constexpr long ResizeMarkWidth = 1;
-constexpr long FarDown = 10000;
 
 } // namespace
+
+HeaderDrag TGColSelector::Drag()
+{
+    return HeaderDrag(*grid, HeaderDrag::Axis::Cols, markX, moving ? MoveMarkWidth : ResizeMarkWidth);
+}
 
 // The logical x of a point in client coordinates.
 long TGColSelector::LogicalX(CPoint point) const
@@ -73,38 +78,31 @@ void TGColSelector::OnLButtonDown(UINT flags, CPoint point)
 
 void TGColSelector::ClickCol(long col)
 {
-    const bool control = IsKeyHeld(VK_CONTROL);
-    if (grid->IsColSelected(col))
+    switch (HeaderClickOn(grid->IsColSelected(col), IsKeyHeld(VK_CONTROL), IsKeyHeld(VK_SHIFT)))
     {
-        if (control)
-            grid->SelectCol(col, false);
-        else if (!grid->IsColPosFix())
-        {
-            // The hook may take the capture or the window away.
-            moving = grid->IsSelConnect() && grid->OnBeginMoveCol() && GetCapture() == this;
-            markX = -1;
-        }
-    }
-    else if (IsKeyHeld(VK_SHIFT))
+    case HeaderClick::TakeOut:
+        grid->SelectCol(col, false);
+        break;
+    case HeaderClick::Drag:
+        BeginMove();
+        break;
+    case HeaderClick::Extend:
         ExtendSelection(col);
-    else
-    {
-        if (!control)
-            grid->UnSelect();
+        break;
+    case HeaderClick::SelectOnly:
+        grid->UnSelect();
+        [[fallthrough]];
+    case HeaderClick::Add:
         grid->SelectCol(col, true);
+        break;
     }
 }
 
-// Selects the columns between the one selected column and `col`.
+// Only a single selected column is extended.
 void TGColSelector::ExtendSelection(long col)
 {
-    if (grid->GetColSelNum() != 1)
-        return;
-    const long selected = grid->colSel[0];
-    for (long i = selected + 1; i <= col; ++i)
-        grid->SelectCol(i, true);
-    for (long i = selected - 1; i >= col; --i)
-        grid->SelectCol(i, true);
+    if (grid->GetColSelNum() == 1)
+        ExtendRun(grid->colSel[0], grid->colSel[0], col, [this](long i) { grid->SelectCol(i, true); });
 }
 
 void TGColSelector::OnLButtonUp(UINT flags, CPoint point)
@@ -144,31 +142,25 @@ void TGColSelector::OnRButtonUp(UINT flags, CPoint point)
 
 // ---- Dragging
 
+void TGColSelector::BeginMove()
+{
+    if (grid->IsColPosFix())
+        return;
+    // The hook may take the capture or the window away.
+    moving = grid->IsSelConnect() && grid->OnBeginMoveCol() && GetCapture() == this;
+    markX = -1;
+}
+
 void TGColSelector::OnMouseMove(UINT flags, CPoint point)
 {
-    if ((moving || resizing) && ScrollAtEdge(point))
+    if ((moving || resizing) && Drag().ScrollAtEdge(*this, point, CutColumnWidth(point)))
         return;
     if (moving)
         MarkMoveTarget(PtToCol(point));
     else if (resizing)
-        MoveMark(LogicalX(point));
+        Drag().MoveMark(LogicalX(point));
     if (m_hWnd != nullptr)
         CWnd::OnMouseMove(flags, point);
-}
-
-// Scrolls when the mouse is at the left or right edge of the data area; returns whether it is.
-bool TGColSelector::ScrollAtEdge(CPoint point)
-{
-    if (!grid->hScrollShown)
-        return false;
-    CRect area;
-    grid->GetClientRect(area);
-    grid->MapWindowPoints(this, area);
-    if (point.x < area.right && point.x > area.left + CutColumnWidth(point))
-        return false;
-    grid->MoveView(point.x >= area.right ? AutoScrollStep : -AutoScrollStep, 0);
-    grid->UpdateWindow();
-    return true;
 }
 
 // The width of the column under the point when it is scrolled partly out of the view, else 0.
@@ -186,48 +178,23 @@ void TGColSelector::MarkMoveTarget(long col)
     ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
     if (col < 0 || col > grid->GetColNum() || !grid->OnMovingCol(col) || !moving)
         return;
-    MoveMark(grid->IsValidCol(col) ? grid->GetCol(col).GetLeft() : grid->GetRight());
-}
-
-void TGColSelector::MoveMark(long x)
-{
-    if (x == markX)
-        return;
-    InvertMark();
-    markX = x;
-    InvertMark();
-}
-
-// Empty when no mark is shown.
-CRect TGColSelector::MarkRect() const
-{
-    const long width = moving ? MoveMarkWidth : ResizeMarkWidth;
-    return markX == -1 ? CRect() : CRect(markX, 0, markX + width, FarDown);
-}
-
-void TGColSelector::InvertMark()
-{
-    RestoreMark(MarkRect());
+    Drag().MoveMark(grid->IsValidCol(col) ? grid->GetCol(col).GetLeft() : grid->GetRight());
 }
 
 void TGColSelector::RestoreMark()
 {
-    grid->ClearOutsideCells(MarkRect());
-    InvertMark();
+    Drag().RestoreMark();
 }
 
 void TGColSelector::RestoreMark(const CRect& drawn)
 {
-    CRect part;
-    CDC* context = grid->GetDC();
-    if (part.IntersectRect(MarkRect(), drawn) && context != nullptr)
-        context->InvertRect(part);
+    Drag().RestoreMark(drawn);
 }
 
 // Takes the mark off the screen and leaves the dragging states.
 void TGColSelector::CancelDrag()
 {
-    MoveMark(-1);
+    Drag().MoveMark(-1);
     moving = false;
     resizing = false;
 }

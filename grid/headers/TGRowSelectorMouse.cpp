@@ -1,8 +1,9 @@
 // The row header's mouse work: selecting rows, the new-row box, moving rows by dragging.
 #include "grid/TGRowSelector.h"
 
-#include "grid/headers/HeaderDrag.h"
 #include "grid/TGGrid.h"
+#include "grid/headers/HeaderClick.h"
+#include "grid/headers/HeaderDrag.h"
 
 namespace QuorUiCtr
 {
@@ -10,9 +11,13 @@ namespace
 {
 
 constexpr long DropMarkHeight = 3;
-constexpr long FarRight = 10000;
 
 } // namespace
+
+HeaderDrag TGRowSelector::Drag()
+{
+    return HeaderDrag(*grid, HeaderDrag::Axis::Rows, dropMarkY, DropMarkHeight);
+}
 
 // ---- Buttons
 
@@ -52,34 +57,32 @@ void TGRowSelector::ClickRow(long row)
 {
     const bool control = !grid->IsSingleSelRow() && IsKeyHeld(VK_CONTROL);
     const bool shift = !grid->IsSingleSelRow() && IsKeyHeld(VK_SHIFT);
-    if (grid->IsRowSelected(row))
+    switch (HeaderClickOn(grid->IsRowSelected(row), control, shift))
     {
-        if (control)
-            grid->SelectRow(row, false);
-        else
-            BeginDrag(row);
-    }
-    else if (shift)
+    case HeaderClick::TakeOut:
+        grid->SelectRow(row, false);
+        break;
+    case HeaderClick::Drag:
+        BeginDrag(row);
+        break;
+    case HeaderClick::Extend:
         ExtendSelection(row);
-    else
-    {
-        if (!control)
-            grid->UnSelect();
+        break;
+    case HeaderClick::SelectOnly:
+        grid->UnSelect();
+        [[fallthrough]];
+    case HeaderClick::Add:
         grid->SelectRow(row, true);
+        break;
     }
 }
 
-// Selects the rows between the selection and `row`, which lies outside of it.
+// Only a selection without gaps is extended.
 void TGRowSelector::ExtendSelection(long row)
 {
-    if (!grid->IsRowSelected() || !grid->IsSelConnect())
-        return;
-    const long first = grid->rowSel[0];
-    const long last = grid->rowSel[grid->GetRowSelNum() - 1];
-    for (long i = last + 1; i <= row; ++i)
-        grid->SelectRow(i, true);
-    for (long i = first - 1; i >= row; --i)
-        grid->SelectRow(i, true);
+    if (grid->IsRowSelected() && grid->IsSelConnect())
+        ExtendRun(grid->rowSel[0], grid->rowSel[grid->GetRowSelNum() - 1], row,
+                  [this](long i) { grid->SelectRow(i, true); });
 }
 
 void TGRowSelector::OnLButtonUp(UINT flags, CPoint point)
@@ -137,7 +140,8 @@ void TGRowSelector::OnMouseMove(UINT flags, CPoint point)
 {
     if (dragging)
     {
-        if (ScrollAtEdge(point))
+        const long margin = grid->GetScrollPos(SB_VERT) != 0 ? grid->GetRowHeight() : 0;
+        if (Drag().ScrollAtEdge(*this, point, margin))
             return;
         DragTo(PtToRow(point));
     }
@@ -145,69 +149,28 @@ void TGRowSelector::OnMouseMove(UINT flags, CPoint point)
         CWnd::OnMouseMove(flags, point);
 }
 
-// Scrolls when the mouse is at the upper or lower edge of the data area; returns whether it is.
-bool TGRowSelector::ScrollAtEdge(CPoint point)
-{
-    if (!grid->vScrollShown)
-        return false;
-    CRect area;
-    grid->GetClientRect(area);
-    grid->MapWindowPoints(this, area);
-    const long position = grid->GetScrollPos(SB_VERT);
-    const long upperEdge = area.top + (position != 0 ? grid->GetRowHeight() : 0);
-    if (point.y < area.bottom && point.y > upperEdge)
-        return false;
-    grid->MoveView(0, point.y >= area.bottom ? AutoScrollStep : -AutoScrollStep);
-    grid->UpdateWindow();
-    return true;
-}
-
 void TGRowSelector::DragTo(long row)
 {
     ::SetCursor(::LoadCursor(nullptr, IDC_SIZENS));
     if (row == dragRow || row < 0 || row > grid->GetRowNum() || !grid->OnMovingRow(row) || !dragging)
         return;
-    MoveDropMark(row * grid->GetRowHeight());
-}
-
-void TGRowSelector::MoveDropMark(long y)
-{
-    if (y == dropMarkY)
-        return;
-    InvertDropMark();
-    dropMarkY = y;
-    InvertDropMark();
-}
-
-// Empty when no mark is shown.
-CRect TGRowSelector::DropMarkRect() const
-{
-    return dropMarkY == -1 ? CRect() : CRect(0, dropMarkY, FarRight, dropMarkY + DropMarkHeight);
-}
-
-void TGRowSelector::InvertDropMark()
-{
-    RestoreDropMark(DropMarkRect());
+    Drag().MoveMark(row * grid->GetRowHeight());
 }
 
 void TGRowSelector::RestoreDropMark()
 {
-    grid->ClearOutsideCells(DropMarkRect());
-    InvertDropMark();
+    Drag().RestoreMark();
 }
 
 void TGRowSelector::RestoreDropMark(const CRect& drawn)
 {
-    CRect part;
-    CDC* context = grid->GetDC();
-    if (part.IntersectRect(DropMarkRect(), drawn) && context != nullptr)
-        context->InvertRect(part);
+    Drag().RestoreMark(drawn);
 }
 
 // Takes the mark off the screen and leaves the dragging state.
 void TGRowSelector::CancelDrag()
 {
-    MoveDropMark(-1);
+    Drag().MoveMark(-1);
     dragging = false;
 }
 

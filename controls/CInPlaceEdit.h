@@ -46,12 +46,13 @@ protected:
 
     DECLARE_MESSAGE_MAP()
 
-    // The row and the column index of the edited cell.
+    // The row and the column index of the edited cell, zero-based, as the notification reports them. They are
+    // not followed when rows or columns come and go meanwhile.
     int item;
     int subItem;
-    // What the window shows at first.
+    // What the window shows at first; later texts are in the window only.
     CString initText;
-    // Whether the user pressed Esc.
+    // Whether the user pressed Esc: the notification then carries no text.
     BOOL escPressed;
 
 private:

@@ -18,15 +18,28 @@ class CPropertyGridComboProperty;
 // found and 0 otherwise; nothing is reported to a user. Writing does not convert: a value whose type is not
 // that of the property changes nothing, although the property counts as found. Writing does not notify the
 // owner.
+//
+//     grid.AddProperty(group);                                   // groups and plain properties as ever
+//     grid.AddComboSubItem(group, L"Unit", L"mm,<mm,inch>[Unit of lengths]");
+//     grid.SetItemValue(L"Width", 12.5);
+//     double width = 0;
+//     grid.GetItemValue(L"Width", width);
+//
+// The grid owns its properties, as the base class does. A look-up walks the groups each time, so nothing has
+// to be told when properties come and go. Titles and texts are passed by value: callers may pass the text of
+// the property that is about to change.
 class QUOR_EXT_CLASS CMFCPropertyGridCtrlEx : public CMFCPropertyGridCtrl
 {
     DECLARE_DYNAMIC(CMFCPropertyGridCtrlEx)
 
 public:
+    // Without a window and without properties.
     CMFCPropertyGridCtrlEx();
+    // Parts from a combo property that may outlive it, for that is deleted by the base class or by a host.
     ~CMFCPropertyGridCtrlEx() override;
 
-    // The property with that title, which the grid owns; NULL when there is none.
+    // The property with that title, which the grid owns; NULL when there is none. `property` is set in either
+    // case.
     int GetItemByTitle(CMFCPropertyGridProperty*& property, CString title);
 
     // The value as it is; `value` stays as it is when the title is not found.
@@ -45,8 +58,9 @@ public:
     int SetItemValue(CString title, CString value);
     int SetItemValue(CString title, double value);
 
-    // Adds a text property with a drop-down list to `parent`; equal options appear once. Without a parent
-    // nothing is added.
+    // Adds a text property with a drop-down list to `parent`, which owns it from then on; equal options
+    // appear once. `value` need not be one of them. `description` is what the grid shows at its lower edge.
+    // Without a parent nothing is added.
     void AddComboStringSubItem(CMFCPropertyGridProperty* parent, CString name, CString value,
                                CArray<CString, const CString&>& options, CString description);
     // The same from "value,<option,option,...>[description]". A text that lacks the first comma, a bracket
@@ -63,5 +77,6 @@ protected:
     CMFCPropertyGridProperty* lastComboProperty;
 
 private:
+    // Keeps lastComboProperty right when the property is deleted.
     friend class CPropertyGridComboProperty;
 };

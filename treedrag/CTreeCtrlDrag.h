@@ -12,24 +12,29 @@ namespace QuorUiCtr
 class TreeWatch;
 struct TreeMove;
 
-// The messages that a CTreeCtrlDrag sends to its parent window. Items are HTREEITEM.
+// The messages that a CTreeCtrlDrag sends to its parent window, which waits for the owner's answer. Items are
+// HTREEITEM. Compiled owners know them by these numbers, which therefore stay; messages that the owner
+// defines for itself begin above WM_USER + 10.
 //
-// An item was copied to a new place by a move; the original is deleted next. wParam: the copy; lParam: the
-// item that it was inserted after, or its parent item when it became the first child (TVI_ROOT at root
-// level). Moving down sends it again after the original is gone, with wParam: the handle that the original
-// had; lParam: the copy. While the original is still there, the owner may move other items, but not these
-// two, what is below the original, a folder around one of them, nor anything into the original: such a move
-// does nothing.
+// A place is one item: the sibling in front of it, or, for a place before all siblings, the folder that holds
+// them (TVI_ROOT at root level). Once the item is there, its GetParentItem tells the two apart.
+//
+// A move has made its copy and is about to delete the original. wParam: the copy; lParam: its place. The
+// owner that keeps handles takes the new ones from here: item data has been copied already. Moving down sends
+// it again after the original is gone, with wParam: the handle that the original had; lParam: the copy. While
+// the original is still there, the owner may move other items, but not these two, what is below the original,
+// a folder around one of them, nor anything into the original: such a move does nothing.
 constexpr UINT TDM_ITEM_INSERTED = WM_USER + 6;
 // An item is about to be deleted by DeleteSelected; children are told before their parents. wParam: the item.
 constexpr UINT TDM_ITEM_DELETED = WM_USER + 7;
-// A label edit is about to begin. wParam: its NMTVDISPINFO*; lParam: LRESULT*, where TRUE refuses the edit.
+// A label edit is about to begin. wParam: the platform's NMTVDISPINFO*, which names the item; lParam:
+// LRESULT*, where TRUE refuses the edit. The answer to the message itself does not count.
 constexpr UINT TDM_BEGIN_LABEL_EDIT = WM_USER + 8;
-// The user gave an item a new label. wParam: the item.
+// The user gave an item a new label, which it has by now, without blanks around it. wParam: the item.
 constexpr UINT TDM_ITEM_RENAMED = WM_USER + 9;
-// An item was dropped and is about to be moved. wParam: the item; lParam: the item that it would be inserted
-// after, or its new parent when it would become the first child (TVI_ROOT at root level). A result other than
-// 0 means that the owner has handled or refuses the drop: nothing is moved.
+// An item was dropped and is about to be moved. wParam: the item; lParam: the place where it would go. With
+// a result other than 0 the tree leaves the item where it is: the owner does not want the move, or has done
+// something of its own instead. A drop that would change nothing asks nobody.
 constexpr UINT TDM_DROP_QUERY = WM_USER + 10;
 
 // A tree whose items can be rearranged with the mouse or by commands, which a dialog usually binds to
@@ -50,19 +55,28 @@ constexpr UINT TDM_DROP_QUERY = WM_USER + 10;
 //
 // Item handles are given and returned as they are: null means none. Points and rectangles are client pixels.
 // Commands need the window; with an empty tree they do nothing but CreateNewFolder.
+//
+// A host binds it to the tree of a dialog template (DDX_Control, SubclassDlgItem) or creates it like any
+// tree, gives it an image list whose image 0 is a folder, fills it with InsertItem, and connects its buttons
+// to the commands. The style TVS_EDITLABELS lets the user rename items; TVS_DISABLEDRAGDROP switches drags
+// off. What a drag and a move are made of is protected, not private, so that a derived tree can carry out
+// moves of its own with it: set dragItem, dropTarget and dropAbove, then call SuccessfulDrag. The fields keep
+// their order, which derived classes were compiled with.
 class QUOR_EXT_CLASS CTreeCtrlDrag : public CTreeCtrl
 {
 public:
+    // Without a window, not dragging, equal names allowed.
     CTreeCtrlDrag();
     // Ends what is going on and destroys the window.
     ~CTreeCtrlDrag() override;
 
     // Dragging.
 
-    // Whether a drag with the mouse is in progress.
+    // Whether a drag with the mouse is in progress; the moves of the commands do not count.
     BOOL IsDragging() const { return isDragging; }
     // Ends the drag from outside. `success` carries the drop out when there is a drop target, as letting the
-    // mouse button go does; FALSE cancels and shows the dragged item.
+    // mouse button go does; FALSE cancels and shows the dragged item. For owners that have a key of their own
+    // for it; they ask IsDragging first, for without a drag it works on what the last one left behind.
     void CompleteDrag(BOOL success);
     // The item data of the item that is, or was last, dragged or moved; 0 when there is none any more.
     DWORD_PTR GetDragItemData();
@@ -104,6 +118,7 @@ public:
 
     // Walking the whole tree, whether expanded or not.
 
+    // The platform's walk, by TVGN_ codes, stays in reach beside the one below.
     using CTreeCtrl::GetNextItem;
     // The next item: the first child, else the next sibling, else that of the nearest ancestor that has one.
     // Null after the last item and for null.
@@ -165,31 +180,57 @@ protected:
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 
     DECLARE_MESSAGE_MAP()
+    // Selects the item and begins the drag, if the platform can make an image of the item.
     afx_msg void OnBeginDrag(NMHDR* header, LRESULT* result);
+    // Asks the owner with TDM_BEGIN_LABEL_EDIT.
     afx_msg void OnBeginLabelEdit(NMHDR* header, LRESULT* result);
+    // Stores the text without blanks around it and sends TDM_ITEM_RENAMED. An empty text keeps the label; one
+    // that must be unique and is not is refused with a message, and the edit begins anew.
     afx_msg void OnEndLabelEdit(NMHDR* header, LRESULT* result);
+    // The two timers of a drag; all others are the platform's.
     afx_msg void OnTimer(UINT_PTR id);
+    // Moves the drag image and the drop target; the hover timer starts again.
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    // Scrolls as the platform does, without smearing the drag image.
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
+    // Ends a drag with the drop.
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    // Leaves the background to OnPaint, which paints it in its buffer.
     afx_msg BOOL OnEraseBkgnd(CDC* context);
+    // Copies the platform's picture, and during a drag the insertion line, to the screen in one go.
     afx_msg void OnPaint();
+    // Cancels a drag; selects the item under the mouse, or nothing beside the items.
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
+    // Another window took the mouse: cancels the drag.
     afx_msg void OnCaptureChanged(CWnd* newOwner);
+    // Gives back what a drag holds; no item is known from then on.
     afx_msg void OnDestroy();
+    // Edits a refused label again, now that its first edit is closed.
     afx_msg LRESULT OnReopenLabelEdit(WPARAM wParam, LPARAM lParam);
 
-    UINT scrollTimerId = 0; // 0: not running
-    UINT hoverTimerId = 0;  // 0: not running
-    CPoint hoverPoint;      // where the mouse rests
+    // The timer that scrolls during a drag, every 25 milliseconds; 0 while it is off.
+    UINT scrollTimerId = 0;
+    // The timer that opens or closes a folder when the mouse rests for a second; 0 while it is off.
+    UINT hoverTimerId = 0;
+    // Where the mouse was when that timer was started.
+    CPoint hoverPoint;
+    // From the first movement with the button held to the drop or its cancelling.
     BOOL isDragging = FALSE;
-    CImageList* dragImage = nullptr; // owned
-    HTREEITEM dragItem = nullptr;    // the item that is dragged or moved; null once it is deleted
-    BOOL dropAbove = FALSE; // before dropTarget; else after it, or into it when it is an empty folder
+    // The picture under the mouse, owned; null without a drag.
+    CImageList* dragImage = nullptr;
+    // What is dragged or moved, and still known afterwards; null once it is deleted.
+    HTREEITEM dragItem = nullptr;
+    // The side of dropTarget: TRUE puts the item in front of it. FALSE puts it behind, unless that is a
+    // folder with nothing in it, which then receives the item.
+    BOOL dropAbove = FALSE;
+    // The item beside which the drop goes; null as long as the mouse has touched none.
     HTREEITEM dropTarget = nullptr;
-    BOOL labelEditTemporary = FALSE; // TVS_EDITLABELS is on for one label edit only
+    // The tree lacks TVS_EDITLABELS and borrows it while a new folder gets its name.
+    BOOL labelEditTemporary = FALSE;
+    // As set by SetNoDuplicates.
     BOOL noDuplicates = FALSE;
-    HTREEITEM firstVisibleItem = nullptr; // as stored by SaveFirstAndLastVisibleItems
+    // What SaveFirstAndLastVisibleItems found; null once deleted, except for an item that was moved.
+    HTREEITEM firstVisibleItem = nullptr;
     HTREEITEM lastVisibleItem = nullptr;
 
 private:

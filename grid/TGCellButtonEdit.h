@@ -8,10 +8,22 @@
 namespace QuorUiCtr
 {
 
-// The button calls the grid's OnCellButtonDown, which may supply a new text.
+// A text field as TGCellEdit for values that can be typed and also looked up: a file, a date, an entry of a
+// catalogue. The button calls the grid's OnCellButtonDown, which may supply a new text; it does nothing by
+// itself. Made by the default OnGetCellEdit for columns with TGGridCol::SetRightButton.
+//
+//     bool FileGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
+//     {
+//         CFileDialog dialog(TRUE, nullptr, text);
+//         const bool chosen = dialog.DoModal() == IDOK;
+//         if (chosen)
+//             text = dialog.GetPathName();
+//         return chosen;
+//     }
 class QUOR_EXT_CLASS TGCellButtonEdit : public TGCellEdit
 {
 public:
+    // Without windows, which Create makes.
     explicit TGCellButtonEdit(TGGridCell& editedCell);
     ~TGCellButtonEdit() override;
 
@@ -19,6 +31,7 @@ public:
     void Create(CRect& rect) override;
 
 private:
+    // Its window goes with the editor's.
     TGCellButton button;
 };
 

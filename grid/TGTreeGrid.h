@@ -18,13 +18,22 @@ class RowWatch;
 // rows, a group that has lost its last child becomes an item with a valid identifier; pasted items whose
 // identifier is in use get new ones.
 //
-// Changes set a flag of the tree grid's own and send the parent window nothing.
+// Changes set a flag of the tree grid's own and send the parent window nothing: a host asks IsModified() when
+// it closes a file, or overrides OnDataChanged(). It builds the tree with the operations of TGGrid and
+// TGGridTreeRow, which touch no identifier; identifiers are looked after in what the user does.
+//
+//     TGTreeGrid grid(true);
+//     grid.Create(parent, IDC_TREE, WS_CHILD | WS_VISIBLE);
+//     grid.AppendCol(L"Label", 150);
+//     grid.AppendCol(L"Id", 60);                          // column 1: the identifiers
+//     grid.SetModified(false);                            // after filling it
 class QUOR_EXT_CLASS TGTreeGrid : public TGGrid
 {
     DECLARE_DYNAMIC(TGTreeGrid)
 
 public:
-    // With `tree` set, rows that the grid creates itself are tree rows. Creates no window.
+    // With `tree` set, rows that the grid creates itself are tree rows; the rows that its hooks supply are in
+    // any case. New columns are 100 pixels wide by default. Creates no window.
     explicit TGTreeGrid(bool tree);
     ~TGTreeGrid() override;
 
@@ -41,10 +50,13 @@ public:
 
     // ---- State ------------------------------------------------------------------------------------------
 
-    // The tree grid's own flag, which OnDataChanged() sets; TGGrid's flag stays as it is.
+    // The tree grid's own flag, which OnDataChanged() sets and only the host clears. There are two flags:
+    // these two functions hide TGGrid::IsModified() and stand beside TGGrid::SetModify(), and none of them is
+    // virtual, so code that holds the grid as a TGGrid& reads the other one, which a tree grid never sets.
     bool IsModified() const { return treeModified; }
     void SetModified(bool on) { treeModified = on; }
-    // The selected row when exactly one row is selected, else null.
+    // The selected row when exactly one row is selected, else null. The form of TGGrid that counts the
+    // selected rows stays in reach.
     TGGridRow* GetSelRow();
     using TGGrid::GetSelRow;
 
@@ -81,13 +93,15 @@ protected:
     void OnEndPaste() override;
 
     // ---- Hooks of the tree grid, behind those of the grid -----------------------------------------------
+    // In this order: compiled hosts call them by their place behind the last hook of TGGrid.
 
 public:
     // A rule that hosts may call from their OnBeforeEdit(TGGridCell&, bool&), which does not call it itself:
     // of a group only the label may be edited.
     virtual bool OnBeforeEdit(TGGridCell& cell);
     using TGGrid::OnBeforeEdit;
-    // For hosts that keep the tree in files; they do nothing here.
+    // For hosts that keep the tree in files, so that their frame can drive any of their tree grids; they do
+    // nothing here and nothing here calls them.
     virtual void New(const wchar_t* name);
     virtual void Open(const wchar_t* name);
     virtual void OnSave();
@@ -113,7 +127,9 @@ private:
     // The parents that a running cut, delete or move may leave without children; not owned. An entry whose
     // watch has seen the row die counts as null.
     List<TGGridRow*> touchedParents;
+    // As IsModified() says.
     bool treeModified = false;
+    // One for each of touchedParents, in the same order.
     std::vector<std::unique_ptr<RowWatch>> parentWatches;
 };
 

@@ -530,6 +530,8 @@ private:
         long last; // inclusive, and maybe behind the last row
     };
     RowRange VisibleRows();
+    // The cells cover the data area, so that nothing of it needs to be erased.
+    bool CoversArea();
     void DrawRows(long first, long last);
     void InvertSelectedCols();
     void InvertSelectedRows();

@@ -158,12 +158,24 @@ void TGGrid::ClearOutsideCells(const CRect& area)
             dc->FillRect(part, &backBrush);
 }
 
+// With both bars shown the cells cover the area, but not until a resize that takes a bar away has been laid
+// out: what the bars covered comes into the client area before.
+bool TGGrid::CoversArea()
+{
+    CRect area;
+    GetClientRect(&area);
+    return hScrollShown && vScrollShown && GetRight() >= area.Width() && GetBottom() >= area.Height();
+}
+
 BOOL TGGrid::OnEraseBkgnd(CDC* context)
 {
-    // With both bars shown the cells cover the area; between BeginUpdate and EndUpdate the old picture stays.
-    if ((hScrollShown && vScrollShown) || IsUpdating())
+    // Between BeginUpdate and EndUpdate the old picture stays.
+    if (IsUpdating())
+    {
+        redrawPending = true;
         return TRUE;
-    return CWnd::OnEraseBkgnd(context);
+    }
+    return CoversArea() ? TRUE : CWnd::OnEraseBkgnd(context);
 }
 
 HBRUSH TGGrid::OnCtlColor(CDC* context, CWnd* wnd, UINT kind)

@@ -15,11 +15,12 @@ class TGGrid;
 class QUOR_EXT_CLASS TGActiveQuad : public CWnd
 {
 public:
-    // Creates the window as a child of `grid`.
+    // Creates the window as a child of the grid's; a grid without a window gets none, until MakeWindow. The
+    // grid must outlive the object.
     explicit TGActiveQuad(TGGrid& grid);
     ~TGActiveQuad() override;
 
-    // Creates the window as a child of the grid's window, inactive.
+    // Creates the window, inactive, when it is not there and the grid has its own.
     void MakeWindow();
 
     bool IsActive() const { return active; }

@@ -20,10 +20,13 @@ class TGGrid;
 class QUOR_EXT_CLASS TGRowSelector : public CWnd
 {
 public:
+    // Creates the window as a child of the grid's; a grid without a window gets none, until MakeWindow. The
+    // grid must outlive the object.
     explicit TGRowSelector(TGGrid& grid);
     ~TGRowSelector() override;
 
-    // Creates the window as a child of the grid's window; nothing of a drag in an earlier window stays.
+    // Creates the window when it is not there and the grid has its own; nothing of a drag in an earlier
+    // window stays.
     void MakeWindow();
 
     // Shows the drop mark of a running drag again, on the grid's drawing context, after the grid has drawn

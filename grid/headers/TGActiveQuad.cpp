@@ -15,10 +15,15 @@ BEGIN_MESSAGE_MAP(TGActiveQuad, CWnd)
     ON_WM_RBUTTONUP()
 END_MESSAGE_MAP()
 
-TGActiveQuad::TGActiveQuad(TGGrid& owner) : grid(&owner) {}
+TGActiveQuad::TGActiveQuad(TGGrid& owner) : grid(&owner)
+{
+    MakeWindow();
+}
 
 void TGActiveQuad::MakeWindow()
 {
+    if (m_hWnd != nullptr || grid->GetSafeHwnd() == nullptr)
+        return;
     active = false;
     const CRect place(0, 0, grid->GetRowHeight(), grid->GetColHeaderHeight());
     if (Create(nullptr, nullptr, WS_CHILD | WS_VISIBLE, place, grid, QuadId))

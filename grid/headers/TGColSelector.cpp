@@ -21,10 +21,13 @@ END_MESSAGE_MAP()
 TGColSelector::TGColSelector(TGGrid& owner) : grid(&owner)
 {
     bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
+    MakeWindow();
 }
 
 void TGColSelector::MakeWindow()
 {
+    if (m_hWnd != nullptr || grid->GetSafeHwnd() == nullptr)
+        return;
     moving = false;
     resizing = false;
     resizeCol = -1;

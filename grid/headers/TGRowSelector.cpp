@@ -32,10 +32,13 @@ TGRowSelector::TGRowSelector(TGGrid& owner)
     : grid(&owner), currentRowIcon(currentRowIconId), newRowIcon(newRowIconId)
 {
     bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
+    MakeWindow();
 }
 
 void TGRowSelector::MakeWindow()
 {
+    if (m_hWnd != nullptr || grid->GetSafeHwnd() == nullptr)
+        return;
     dragging = false;
     dropMarkY = -1;
     dragRow = -1;

@@ -36,7 +36,8 @@ template <class Header> void MakeHeader(Header*& header, bool shown, TGGrid& gri
         return;
     if (header == nullptr)
         header = new Header(grid);
-    header->MakeWindow();
+    else
+        header->MakeWindow();
 }
 
 } // namespace

@@ -97,6 +97,59 @@ TEST_F(GridHeaders, RowBoxes_StandBesideTheirRows)
     EXPECT_EQ(face, picture.At(10, 30));
 }
 
+TEST_F(GridHeaders, Constructors_MakeTheWindows)
+{
+    const TGActiveQuad quad(grid);
+    const TGColSelector colHeader(grid);
+    const TGRowSelector rowHeader(grid);
+    const CWnd* headers[] = {&quad, &colHeader, &rowHeader};
+    const char* places[] = {"0,0-20,20", "20,0-10000,20", "0,20-20,10000"};
+    for (int i = 0; i < 3; ++i)
+    {
+        ASSERT_NE(nullptr, headers[i]->m_hWnd) << i;
+        EXPECT_EQ(grid.m_hWnd, ::GetParent(headers[i]->m_hWnd));
+        EXPECT_EQ(102 + i, headers[i]->GetDlgCtrlID());
+        EXPECT_TRUE(headers[i]->IsWindowVisible());
+        EXPECT_EQ(places[i], Text(PlaceOf(*headers[i])));
+    }
+    EXPECT_FALSE(quad.IsActive());
+}
+
+TEST_F(GridHeaders, ConstructedForAGridWithoutAWindow_WaitForOne)
+{
+    WindowGrid later;
+    TGActiveQuad quad(later);
+    TGColSelector colHeader(later);
+    TGRowSelector rowHeader(later);
+    quad.ShowActive(true);
+    rowHeader.OnCurRowChanged();
+    colHeader.RestoreMark();
+    quad.MakeWindow();
+    EXPECT_EQ(nullptr, quad.m_hWnd);
+    EXPECT_EQ(nullptr, colHeader.m_hWnd);
+    EXPECT_EQ(nullptr, rowHeader.m_hWnd);
+    later.SetRowSel(false);
+    later.SetColSel(false);
+    Create(later);
+    EXPECT_EQ(nullptr, later.GetDlgItem(102));
+    quad.MakeWindow();
+    colHeader.MakeWindow();
+    rowHeader.MakeWindow();
+    EXPECT_EQ(&quad, later.GetDlgItem(102));
+    EXPECT_EQ(&colHeader, later.GetDlgItem(103));
+    EXPECT_EQ(&rowHeader, later.GetDlgItem(104));
+}
+
+TEST_F(GridHeaders, MakeWindow_KeepsAWindowThatIsThere)
+{
+    TGActiveQuad quad(grid);
+    const HWND window = quad.m_hWnd;
+    quad.ShowActive(true);
+    quad.MakeWindow();
+    EXPECT_EQ(window, quad.m_hWnd);
+    EXPECT_TRUE(quad.IsActive());
+}
+
 TEST_F(GridHeaders, RowBoxes_ScrollWithTheGrid)
 {
     grid.MoveView(0, 30);

@@ -56,8 +56,8 @@ public:
     // Creates the window in `rect` (client coordinates of `parent`) with the window style `windowStyle` and
     // control id 0. Returns FALSE on failure.
     BOOL Create(const RECT& rect, DWORD windowStyle, CWnd* parent);
-    // Replaces the child `id` of `parent`: takes its place and id and destroys it. Returns 0 and creates
-    // nothing when there is no such child.
+    // Replaces the child `id` of `parent`: takes its place, its place in the tab order and its id, and
+    // destroys it. Returns 0 and creates nothing when there is no such child.
     BOOL Create(CWnd* parent, UINT id, DWORD windowStyle);
 
     // Lays out scroll bars, drawing context and new-row line and ends an open cell edit; repaints everything

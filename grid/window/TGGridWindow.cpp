@@ -28,6 +28,13 @@ HFONT FontOfParent(const CWnd& window)
     return parent == nullptr ? nullptr : reinterpret_cast<HFONT>(::SendMessage(parent, WM_GETFONT, 0, 0));
 }
 
+// New windows come last among their siblings, whose order is the one of the Tab key.
+void PlaceBehind(HWND window, HWND sibling)
+{
+    ::SetWindowPos(window, ::IsWindow(sibling) ? sibling : HWND_TOP, 0, 0, 0, 0,
+                   SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+}
+
 // A grid whose window is made a second time has the object already, and code of it may be running: a hook of
 // it can make the grid's window anew.
 template <class Header> void MakeHeader(Header*& header, bool shown, TGGrid& grid)
@@ -81,8 +88,12 @@ BOOL TGGrid::Create(CWnd* parent, UINT id, DWORD windowStyle)
     CRect rect;
     placeholder->GetWindowRect(&rect);
     parent->ScreenToClient(&rect);
+    const HWND before = ::GetWindow(placeholder->m_hWnd, GW_HWNDPREV);
     placeholder->DestroyWindow();
-    return CreateEx(0, windowClass.Register(backBrush), nullptr, windowStyle, rect, parent, id);
+    if (!CreateEx(0, windowClass.Register(backBrush), nullptr, windowStyle, rect, parent, id))
+        return FALSE;
+    PlaceBehind(m_hWnd, before);
+    return TRUE;
 }
 
 int TGGrid::OnCreate(LPCREATESTRUCT create)

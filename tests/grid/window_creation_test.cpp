@@ -71,6 +71,34 @@ TEST_F(GridWindow, CreateOverAPlaceholder_TakesItsPlaceAndId)
     EXPECT_EQ(grid.m_hWnd, ::GetDlgItem(host, 77));
 }
 
+TEST_F(GridWindow, CreateOverAPlaceholder_TakesItsPlaceInTheTabOrder)
+{
+    constexpr UINT FirstId = 77;
+    for (int replaced = 0; replaced < 3; ++replaced)
+    {
+        CButton controls[3];
+        for (int i = 0; i < 3; ++i)
+            ASSERT_TRUE(controls[i].Create(L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP,
+                                           CRect(30 * i, 0, 30 * i + 30, 20), &host,
+                                           FirstId + static_cast<UINT>(i)));
+        WindowGrid grid;
+        ASSERT_TRUE(
+            grid.Create(&host, FirstId + static_cast<UINT>(replaced), WS_CHILD | WS_VISIBLE | WS_TABSTOP));
+        std::string order;
+        for (HWND child = ::GetWindow(host, GW_CHILD); child; child = ::GetWindow(child, GW_HWNDNEXT))
+            order += std::to_string(::GetDlgCtrlID(child) - static_cast<int>(FirstId));
+        EXPECT_EQ("012", order) << "replaced " << replaced;
+        HWND stop = nullptr;
+        std::string tabs;
+        for (int i = 0; i < 3; ++i)
+        {
+            stop = ::GetNextDlgTabItem(host, stop, FALSE);
+            tabs += std::to_string(::GetDlgCtrlID(stop) - static_cast<int>(FirstId));
+        }
+        EXPECT_EQ("012", tabs) << "replaced " << replaced;
+    }
+}
+
 TEST_F(GridWindow, CreateOverAMissingPlaceholder_CreatesNothing)
 {
     WindowGrid grid;

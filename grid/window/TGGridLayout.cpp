@@ -81,6 +81,8 @@ void TGGrid::GetUpCorner(CPoint& corner)
 
 void TGGrid::SetRowSpace(int pixels)
 {
+    if (pixels < 1 - textHeight)
+        return;
     rowSpace = pixels;
     RecalcLayout(1);
 }

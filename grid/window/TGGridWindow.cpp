@@ -5,6 +5,7 @@
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 
+#include <algorithm>
 #include <cstdlib>
 
 namespace QuorUiCtr
@@ -132,6 +133,8 @@ void TGGrid::Layout::AdoptFont(HFONT source, BYTE quality)
     grid.font.DeleteObject();
     grid.font.CreateFontIndirect(&description);
     grid.textHeight = std::abs(description.lfHeight) + 1;
+    // Positions are divided by the row height.
+    grid.rowSpace = (std::max)(grid.rowSpace, 1 - grid.textHeight);
 }
 
 LRESULT TGGrid::OnSetFont(WPARAM newFont, LPARAM)

@@ -53,6 +53,43 @@ TEST_F(GridLayout, Bottom_CountsTheNewRowLineWhileItIsShown)
     EXPECT_EQ(60, grid.GetBottom());
 }
 
+TEST_F(GridLayout, RowSpace_ThatWouldLeaveRowsWithoutAPixelIsRefused)
+{
+    Fill(grid, 3, 1);
+    grid.SetRowSpace(-16);
+    EXPECT_EQ(1, grid.GetRowHeight());
+    for (const int refused : {-17, -18, -1000})
+    {
+        grid.SetRowSpace(refused);
+        EXPECT_EQ(-16, grid.GetRowSpace());
+        EXPECT_EQ(1, grid.GetRowHeight());
+    }
+    ::SendMessage(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(50, 21));
+    EXPECT_FALSE(grid.GetSafeHwnd() == nullptr);
+}
+
+TEST_F(GridLayout, RowSpace_IsRefusedBeforeTheWindowIsThereToo)
+{
+    WindowGrid later;
+    later.SetRowSpace(-1);
+    EXPECT_EQ(3, later.GetRowSpace());
+    later.SetRowSpace(0);
+    EXPECT_EQ(0, later.GetRowSpace());
+}
+
+TEST_F(GridLayout, SmallerFont_LeavesRowsAPixel)
+{
+    grid.SetRowSpace(-12);
+    EXPECT_EQ(5, grid.GetRowHeight());
+    CFont small;
+    ASSERT_TRUE(small.CreateFont(-6, 0, 0, 0, FW_NORMAL, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                                 OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, DEFAULT_QUALITY, DEFAULT_PITCH,
+                                 L"Tahoma"));
+    grid.SetFont(&small);
+    EXPECT_EQ(1, grid.GetRowHeight());
+    EXPECT_EQ(-6, grid.GetRowSpace());
+}
+
 TEST_F(GridLayout, Right_IsTheLastColumnsEdge)
 {
     EXPECT_EQ(0, grid.GetRight());

@@ -337,7 +337,8 @@ protected:
     virtual void OnCmbSelchange(TGGridCell& cell, CComboBox* combo);
     // The text of a combo editor was changed.
     virtual void OnCmbEditchange(TGGridCell& cell, CComboBox* combo);
-    // Sets the colours of the drawing context for a cell. Default: the column's colours.
+    // Sets the colours of the drawing context for a cell. Default: the column's colours; nothing without a
+    // context.
     virtual void OnBeforeRefresh(TGGridCell& cell);
     // Draw this cell; draw the cells of this row.
     virtual bool OnRefresh(TGGridCell& cell);

@@ -195,6 +195,8 @@ void TGGrid::OnCmbSelchange(TGGridCell& cell, CComboBox* combo)
 
 void TGGrid::OnBeforeRefresh(TGGridCell& cell)
 {
+    if (dc == nullptr)
+        return;
     const TGGridCol& col = cell.GetCol();
     dc->SetBkColor(col.GetBackColor());
     dc->SetTextColor(col.GetTextColor());

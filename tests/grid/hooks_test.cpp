@@ -30,6 +30,7 @@ public:
     using TGGrid::OnBeforeInsertRow;
     using TGGrid::OnBeforePaste;
     using TGGrid::OnBeforePasteChild;
+    using TGGrid::OnBeforeRefresh;
     using TGGrid::OnBeginMoveCol;
     using TGGrid::OnBeginMoveRow;
     using TGGrid::OnCellButtonDown;
@@ -213,6 +214,15 @@ TEST_F(GridHooks, ChoosingAnItemStoresItsTextAndChoosingNothingStoresNothing)
 // ---- Notification of the parent ---------------------------------------------------------------------------
 
 using Log = std::vector<std::string>;
+
+TEST_F(GridHooks, ColoursWithoutADrawingContextAreSetNowhere)
+{
+    OpenHooks bare;
+    AddCols(bare, 1);
+    AddRows(bare, "a");
+    bare.OnBeforeRefresh(bare.GetCell(0, 0));
+    EXPECT_EQ(bare.GetSafeHwnd(), nullptr);
+}
 
 TEST_F(GridHooks, AGridWithoutAWindowNotifiesNobody)
 {

@@ -291,7 +291,8 @@ public:
     bool DoPaste();
     // Moves the row buffer below the last child of the one selected row.
     bool DoPasteChild();
-    // Sorts the rows, and the children of every row, by the row order; selected rows stay selected.
+    // Sorts the rows, and the children of every row, by the row order; selected rows stay selected, and the
+    // current row stays the current one.
     void Arrange(bool ascending);
 
     BOOL PreTranslateMessage(MSG* message) override;

@@ -1,5 +1,6 @@
 // Sorting the rows by the row order, tree rows with their offspring.
 #include "grid/model/GridStructure.h"
+#include "grid/model/RowWatch.h"
 
 #include <algorithm>
 #include <vector>
@@ -41,6 +42,9 @@ void TGGrid::Arrange(bool ascending)
     EndEditCell();
     {
         TGGridUpdate update(*this);
+        // Folding and unfolding run hooks, which may choose another current row or delete this one.
+        TGGridRow* const current = RowAt(curRowIndex);
+        const RowWatch currentWatch(*this, current);
         std::vector<TGGridRow*> selected;
         for (long i : rowSel)
             selected.push_back(rows[i]);
@@ -53,6 +57,8 @@ void TGGrid::Arrange(bool ascending)
         std::sort(moved.begin(), moved.end());
         for (long i : moved)
             rowSel.Append(i);
+        if (current != nullptr)
+            SetCurRowIndex(currentWatch.IsAlive() ? current->GetIndex() : -1);
         RecalcLayout(1);
     }
     OnDataChanged();

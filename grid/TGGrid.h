@@ -240,7 +240,8 @@ public:
 
     // ---- Cell editing -----------------------------------------------------------------------------------
 
-    // A cell editor is open.
+    // A cell editor is open. An editor whose window somebody else destroys takes the session with it: what it
+    // has not committed by then, as an edit does that loses the focus, is dropped.
     bool IsEditing() const { return editCell != nullptr; }
     // A cell waits for its editor to be opened by the timer.
     bool IsCellLocking() const { return cellLock != nullptr; }

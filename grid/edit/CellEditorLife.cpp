@@ -16,6 +16,7 @@ struct Record
 {
     TGCellCtrl* editor; // null when the object is deleted while the record is still in use
     TGCellCtrl** slot;
+    TGGridCell** cellSlot;
     HWND window = nullptr;
     // Messages of the editor's windows being handled, its creation, its uses and its destruction.
     int running = 0;
@@ -47,12 +48,15 @@ void DropRecord(Record* record)
     delete record;
 }
 
-// The window is gone, and the object with it soon: nobody finds the editor in its slot any more.
+// The window is gone, and the object with it soon: nobody finds the editor in its slot any more, and a
+// session that was open with it is over.
 void EmptySlot(Record* record)
 {
     TGCellCtrl** slot = std::exchange(record->slot, nullptr);
-    if (slot && *slot == record->editor)
-        *slot = nullptr;
+    if (!slot || *slot != record->editor)
+        return;
+    *slot = nullptr;
+    *record->cellSlot = nullptr;
 }
 
 // Destroys the window of a retired editor, or the object itself when it never got one.
@@ -137,7 +141,7 @@ void WatchWindows(Record* record)
 
 } // namespace
 
-Creation::Creation(TGCellCtrl*& slot) : record(new Record{slot, &slot})
+Creation::Creation(TGCellCtrl*& slot, TGGridCell*& cellSlot) : record(new Record{slot, &slot, &cellSlot})
 {
     Records().push_back(record);
     ++record->running;

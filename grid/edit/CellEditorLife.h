@@ -7,6 +7,7 @@ namespace QuorUiCtr
 {
 
 class TGCellCtrl;
+class TGGridCell;
 
 // Hooks that an editor's handlers call may end the session, start another one or destroy the grid's window.
 // An editor whose code is on the stack then must stay in memory until it has returned. The editor's windows
@@ -17,12 +18,12 @@ namespace CellEditorLife
 struct Record;
 
 // Covers the making of an editor: keeps it in memory during Create and watches its windows afterwards. The
-// editor is the one in `slot`, which becomes null when the editor's window is destroyed while it is there;
-// the slot must exist until then.
+// editor is the one in `slot`. When the editor's window is destroyed while it is there, by whomever, `slot`
+// and `cellSlot`, the cell under edit, become null; both must exist until then.
 class Creation
 {
 public:
-    explicit Creation(TGCellCtrl*& slot);
+    Creation(TGCellCtrl*& slot, TGGridCell*& cellSlot);
     ~Creation();
     Creation(const Creation&) = delete;
     Creation& operator=(const Creation&) = delete;

@@ -128,7 +128,7 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
     }
     grid.cellCtrl = editor;
     {
-        CellEditorLife::Creation creation(grid.cellCtrl);
+        CellEditorLife::Creation creation(grid.cellCtrl, grid.editCell);
         editor->Create(rect);
     }
     grid.OnCurChanged();

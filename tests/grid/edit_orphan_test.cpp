@@ -1,0 +1,110 @@
+// Sessions and editors end together: no editor stays for a cell that goes, no session without its editor.
+#include "tests/grid/EditGrid.h"
+
+using namespace QuorUiCtr;
+
+namespace quor::test
+{
+namespace
+{
+
+class EditOrphan : public EditTest
+{
+protected:
+    static bool ShowsEditor(EditGrid& grid)
+    {
+        const CWnd* editor = grid.EditorWindow();
+        return editor && editor->IsWindowVisible();
+    }
+};
+
+// ---- The editor goes --------------------------------------------------------------------------------------
+
+enum class Kind
+{
+    Edit,
+    Button,
+    Spin,
+    Combo,
+    List
+};
+
+class EditorDestroyedFromOutside : public EditOrphan, public testing::WithParamInterface<Kind>
+{
+protected:
+    static void Choose(TGGridCol& col, Kind kind)
+    {
+        col.SetRightButton(kind == Kind::Button);
+        col.SetRightSpin(kind == Kind::Spin);
+        col.SetComboEdit(kind == Kind::Combo);
+        col.SetComboSel(kind == Kind::List);
+    }
+};
+
+TEST_P(EditorDestroyedFromOutside, TakesTheSessionAlong)
+{
+    EditGrid grid;
+    Make(grid);
+    Choose(grid.GetCol(1), GetParam());
+    grid.BeginEditCell(1, 1);
+    ASSERT_TRUE(grid.IsEditing());
+    ::DestroyWindow(grid.EditorWindow()->m_hWnd);
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(L"1,1", TextOf(grid, 1, 1));
+    grid.BeginEditCell(2, 1);
+    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_TRUE(ShowsEditor(grid));
+}
+
+TEST_P(EditorDestroyedFromOutside, TakesTheSessionAlongInADisabledGridToo)
+{
+    EditGrid grid;
+    Make(grid);
+    Choose(grid.GetCol(1), GetParam());
+    grid.EnableWindow(FALSE);
+    grid.BeginEditCell(1, 1);
+    ASSERT_TRUE(grid.IsEditing());
+    ::DestroyWindow(grid.EditorWindow()->m_hWnd);
+    EXPECT_FALSE(grid.IsEditing());
+    grid.EndEditCell();
+    grid.EnableWindow(TRUE);
+    grid.BeginEditCell(2, 1);
+    EXPECT_TRUE(ShowsEditor(grid));
+}
+
+TEST_P(EditorDestroyedFromOutside, LeavesKeysToTheGrid)
+{
+    EditGrid grid;
+    Make(grid);
+    Choose(grid.GetCol(1), GetParam());
+    grid.EnableWindow(FALSE);
+    grid.BeginEditCell(1, 1);
+    ::DestroyWindow(grid.EditorWindow()->m_hWnd);
+    grid.EnableWindow(TRUE);
+    grid.SelectRow(2, true);
+    MSG tab = {grid.m_hWnd, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+    grid.SetFocus();
+    EXPECT_TRUE(grid.PreTranslateMessage(&tab));
+    EXPECT_EQ(&host, CWnd::GetFocus());
+}
+
+INSTANTIATE_TEST_SUITE_P(AllKinds, EditorDestroyedFromOutside,
+                         testing::Values(Kind::Edit, Kind::Button, Kind::Spin, Kind::Combo, Kind::List));
+
+TEST_F(EditOrphan, EditorDestroyedByAHookOfItsCommit_StillHasItsTextStored)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.modifiedText = [&](TGGridCell&, CString&) {
+        ::DestroyWindow(grid.EditorWindow()->m_hWnd);
+        return true;
+    };
+    grid.BeginEditCell(1, 1);
+    grid.Enter(L"typed");
+    grid.EndEditCell();
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(L"typed", TextOf(grid, 1, 1));
+}
+
+} // namespace
+} // namespace quor::test

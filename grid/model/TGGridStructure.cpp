@@ -49,6 +49,8 @@ void TGGrid::DelRow(long i)
     TGGridRow* row = RowAt(i);
     const RowWatch watch(*this, row);
     SelectRow(i, false);
+    // What a hook has opened may stand on the row.
+    CancelEditCell();
     if (watch.IsAlive())
         i = row->GetIndex();
     if (!IsValidRow(i) || RowAt(i) != row)
@@ -302,6 +304,8 @@ void TGGrid::DelCol(long i)
     if (!IsValidCol(i))
         return;
     SelectCol(i, false);
+    // What a hook has opened may stand in the column.
+    CancelEditCell();
     if (!IsValidCol(i))
         return;
     const std::unique_ptr<TGGridCol> col(ColAtIndex(i));

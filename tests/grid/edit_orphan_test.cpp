@@ -1,6 +1,8 @@
 // Sessions and editors end together: no editor stays for a cell that goes, no session without its editor.
 #include "tests/grid/EditGrid.h"
 
+#include <utility>
+
 using namespace QuorUiCtr;
 
 namespace quor::test
@@ -16,7 +18,92 @@ protected:
         const CWnd* editor = grid.EditorWindow();
         return editor && editor->IsWindowVisible();
     }
+    // Edits a cell at the next OnCurChanged.
+    static void EditAtNextChange(EditGrid& grid, long row, long col)
+    {
+        grid.curChanged = [&grid, row, col] {
+            grid.curChanged = nullptr;
+            grid.BeginEditCell(row, col);
+        };
+    }
+    static void ExpectNoEditor(EditGrid& grid)
+    {
+        EXPECT_FALSE(grid.IsEditing());
+        EXPECT_FALSE(ShowsEditor(grid));
+        const CWnd* focus = CWnd::GetFocus();
+        EXPECT_TRUE(focus == nullptr || focus != grid.EditorWindow());
+    }
 };
+
+// ---- The cell goes ----------------------------------------------------------------------------------------
+
+TEST_F(EditOrphan, RowDeletedThatAHookBeginsToEdit_TakesTheEditorAlong)
+{
+    EditGrid grid;
+    Make(grid);
+    EditAtNextChange(grid, 1, 1);
+    grid.DelRow(1);
+    EXPECT_EQ(2, grid.GetRowNum());
+    ExpectNoEditor(grid);
+}
+
+TEST_F(EditOrphan, RowDeletedWhileAnotherGridEndsItsEdit_TakesTheEditorAlong)
+{
+    EditGrid first;
+    Make(first);
+    EditGrid grid;
+    Make(grid);
+    first.modifiedText = [&](TGGridCell&, CString&) {
+        EditAtNextChange(grid, 1, 1);
+        grid.DelRow(1);
+        return true;
+    };
+    first.BeginEditCell(0, 0);
+    first.Enter(L"typed");
+    first.EndEditCell();
+    EXPECT_EQ(2, grid.GetRowNum());
+    ExpectNoEditor(grid);
+}
+
+TEST_F(EditOrphan, ColumnDeletedThatAHookBeginsToEdit_TakesTheEditorAlong)
+{
+    EditGrid grid;
+    Make(grid);
+    EditAtNextChange(grid, 1, 1);
+    grid.DelCol(1);
+    EXPECT_EQ(2, grid.GetColNum());
+    ExpectNoEditor(grid);
+}
+
+TEST_F(EditOrphan, ParentThatTheHiddenEditorTells_MayDeleteTheRowItself)
+{
+    class Parent : public HostWindow
+    {
+    public:
+        EditGrid* grid = nullptr;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_COMMAND && HIWORD(wParam) == EN_KILLFOCUS && grid)
+                std::exchange(grid, nullptr)->DelRow(1);
+            return HostWindow::WindowProc(message, wParam, lParam);
+        }
+    };
+    Parent parent;
+    EditGrid inner;
+    ASSERT_TRUE(inner.Create(CRect(10, 10, 410, 310), WS_CHILD | WS_VISIBLE, &parent));
+    Fill(inner, 4, 3);
+    inner.curChanged = [&] {
+        inner.curChanged = nullptr;
+        inner.BeginEditCell(1, 1);
+        parent.grid = &inner;
+    };
+    inner.DelRow(1);
+    EXPECT_EQ(3, inner.GetRowNum());
+    EXPECT_EQ(L"2,0", inner.GetCell(1, 0).GetText());
+    ExpectNoEditor(inner);
+}
 
 // ---- The editor goes --------------------------------------------------------------------------------------
 

@@ -184,7 +184,10 @@ public:
     // Deletes a row of a tree with its offspring: a child through its parent, a parent folded first.
     void DelRowEx(long i);
     // Places the row at `from` before the row that stands at `to`; nothing when `to` is `from` or `from` + 1.
-    // The selection keeps its numbers.
+    // The selection keeps its numbers. A row of a tree takes its shown offspring along and changes its place
+    // in the tree, too: it moves among its siblings, to a `to` in front of one of them or behind the last
+    // one's offspring. Any other place would give it another parent and is refused, which changes nothing;
+    // a row that is not in a tree moves among the root rows.
     void MoveRow(long from, long to);
     // Inserts before the column at `i`; width 0 means the default width. Pixels.
     void InsertCol(long i, TGGridCol* col, long width);

@@ -44,10 +44,17 @@ public:
     // Calls `change` for every row whose cells follow the columns, but for child rows, which their parents
     // tell.
     template <class Change> void ChangeRows(Change change);
+    // Moves a row to before the row at `to`: a plain row by itself, a tree row among its siblings with its
+    // shown offspring. Numbers nothing. False when the row stands there already or may not go there.
+    bool PlaceMovingRow(long from, long to);
     // Gives a column that is about to move and the columns that it passes their edges.
     void PlaceMovingCol(long from, long to);
 
 private:
+    // The index behind the last shown row of the offspring of the row at `i`, which is shown.
+    long EndOfTree(long i);
+    // The parent of a tree row; null for a root row, a plain row and no row.
+    static TGGridTreeRow* ParentOf(TGGridRow* row);
     void DetachFromParents(std::span<TGGridRow* const> taken);
     // Takes the slots of hidden rows out of the rows from `first` on and numbers the rows.
     void CloseGaps(long first);

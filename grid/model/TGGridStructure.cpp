@@ -92,7 +92,7 @@ void TGGrid::MoveRow(long from, long to)
     if (to == from || to == from + 1)
         return;
     ASSERT(IsValidRow(from) && to >= 0 && to <= GetRowNum());
-    if (!rows.Move(from, to))
+    if (!Structure(*this).PlaceMovingRow(from, to))
         return;
     Structure(*this).NumberRows(0);
     Invalidate(1);

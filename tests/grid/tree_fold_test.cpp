@@ -251,16 +251,6 @@ TEST_F(TreeFold, AChildAddedToARowMarkedUnfoldedWithHiddenChildrenCanBeFoldedAnd
     EXPECT_EQ(Texts(grid), "a f");
 }
 
-TEST_F(TreeFold, FoldFindsOffspringThatTheHostHasMovedAway)
-{
-    a->UnFold();
-    grid.MoveRow(1, 4);
-    EXPECT_EQ(Texts(grid), "a e f b");
-    a->Fold();
-    EXPECT_EQ(Texts(grid), "a f");
-    EXPECT_FALSE(b->IsVisible());
-}
-
 // ---- Sorting children -------------------------------------------------------------------------------------
 
 TEST_F(TreeFold, ArrangeChildSortsEveryLevelAndLeavesTheGridUntilItIsShownAgain)

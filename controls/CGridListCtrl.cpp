@@ -139,15 +139,20 @@ void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
         RequestEdit(hit.iItem, hit.iSubItem);
 }
 
-// Where full rows can be selected, platforms differ in what they report of a hit on the blank rest of the
-// cell: every part of the item, or the label.
+// Where full rows can be selected, platforms differ in what they report besides the label of a hit on the
+// label, on the icon or on the blank rest of the cell: nothing, or every part of the item. It differs with
+// the place of the column, too, so that the rectangles decide.
 bool CGridListCtrl::IsOnLabel(const LVHITTESTINFO& hit)
 {
     constexpr int LabelPadding = 6;
     CRect label;
-    if ((hit.flags & LVHT_ONITEM) != LVHT_ONITEMLABEL || !GetItemRect(hit.iItem, label, LVIR_LABEL))
+    CRect icon;
+    if ((hit.flags & LVHT_ONITEMLABEL) == 0 || !GetItemRect(hit.iItem, label, LVIR_LABEL))
         return false;
-    return hit.pt.x < label.left + GetStringWidth(GetItemText(hit.iItem, 0)) + LabelPadding;
+    if (GetItemRect(hit.iItem, icon, LVIR_ICON) && icon.PtInRect(hit.pt))
+        return false;
+    return hit.pt.x >= label.left &&
+           hit.pt.x < label.left + GetStringWidth(GetItemText(hit.iItem, 0)) + LabelPadding;
 }
 
 BOOL CGridListCtrl::PreTranslateMessage(MSG* message)

@@ -60,8 +60,8 @@ protected:
     // sunken button face with the text in the colour of button texts. Not connected by this class.
     afx_msg void OnCustomDraw(NMHDR* header, LRESULT* result);
 
-    // Sets the current column; on a second click on the current cell sends LVN_BEGINLABELEDIT. In column 0
-    // that click must be on the text of the label.
+    // Sets the current column; on a second click on the current cell sends LVN_BEGINLABELEDIT. In column 0,
+    // wherever it is shown, that click must be on the text of the label, not on the icon or beside the text.
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
     // Scrolling takes the focus, which ends an open editor.
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* scrollBar);

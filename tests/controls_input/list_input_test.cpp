@@ -7,6 +7,29 @@ using namespace quor::test;
 namespace
 {
 
+// Gives all rows a blank icon for its life.
+class RowImages
+{
+public:
+    explicit RowImages(TestList& owningList) : list(owningList)
+    {
+        images.Create(16, 16, ILC_COLOR24, 1, 1);
+        CClientDC screen(nullptr);
+        CBitmap image;
+        image.CreateCompatibleBitmap(&screen, 16, 16);
+        images.Add(&image, static_cast<CBitmap*>(nullptr));
+        list.ModifyStyle(0, LVS_SHAREIMAGELISTS);
+        list.SetImageList(&images, LVSIL_SMALL);
+    }
+    ~RowImages() { list.SetImageList(nullptr, LVSIL_SMALL); }
+    RowImages(const RowImages&) = delete;
+    RowImages& operator=(const RowImages&) = delete;
+
+private:
+    TestList& list;
+    CImageList images;
+};
+
 class ListInput : public ListTest
 {
 protected:
@@ -87,21 +110,22 @@ TEST_F(ListInput, ClickOnALabel_BeginsTheEdit)
 
 TEST_F(ListInput, ClickOnTheIcon_BeginsNoEdit)
 {
-    CImageList images;
-    images.Create(16, 16, ILC_COLOR24, 1, 1);
-    CClientDC screen(nullptr);
-    CBitmap image;
-    image.CreateCompatibleBitmap(&screen, 16, 16);
-    images.Add(&image, static_cast<CBitmap*>(nullptr));
-    list.ModifyStyle(0, LVS_SHAREIMAGELISTS);
-    list.SetImageList(&images, LVSIL_SMALL);
+    const RowImages images(list);
     CRect icon;
     list.GetItemRect(1, icon, LVIR_ICON);
     ASSERT_GT(icon.Width(), 4);
     ClickTwice(icon.CenterPoint());
     EXPECT_EQ(Current(), "1,0");
     EXPECT_EQ(owner.TakeEdits(), Lines{});
-    list.SetImageList(nullptr, LVSIL_SMALL);
+}
+
+TEST_F(ListInput, ClickOnALabelBesideAnIcon_BeginsTheEdit)
+{
+    const RowImages images(list);
+    CRect label;
+    list.GetItemRect(1, label, LVIR_LABEL);
+    ClickTwice(CPoint(label.left + 4, label.CenterPoint().y));
+    EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,0 [r1c0]"});
 }
 
 TEST_F(ListInput, ClickOnTheBlankBesideALabel_BeginsNoEdit)
@@ -118,6 +142,37 @@ TEST_F(ListInput, SecondClickInAMovedColumn_NamesTheColumnByItsIndex)
     ClickTwice(list.Middle(1, 2));
     EXPECT_EQ(Current(), "1,0");
     EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,2 [r1c2]"});
+}
+
+TEST_F(ListInput, ClickOnALabelOfTheMovedFirstColumn_BeginsTheEdit)
+{
+    list.Order({1, 0, 2, 3, 4, 5, 6, 7});
+    ClickTwice(CPoint(list.Cell(1, 0).left + 8, list.Cell(1, 0).CenterPoint().y));
+    EXPECT_EQ(Current(), "1,1");
+    EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,0 [r1c0]"});
+}
+
+TEST_F(ListInput, ClickOnTheBlankOfTheMovedFirstColumn_BeginsNoEdit)
+{
+    list.Order({1, 2, 0, 3, 4, 5, 6, 7});
+    ClickTwice(CPoint(list.Cell(1, 0).right - 30, list.Cell(1, 0).CenterPoint().y));
+    EXPECT_EQ(Current(), "1,2");
+    EXPECT_EQ(owner.TakeEdits(), Lines{});
+}
+
+TEST_F(ListInput, ClickOnTheIconOfTheMovedFirstColumn_BeginsNoEdit)
+{
+    const RowImages images(list);
+    list.Order({1, 0, 2, 3, 4, 5, 6, 7});
+    CRect icon;
+    list.GetItemRect(1, icon, LVIR_ICON);
+    ASSERT_GE(icon.left, list.Cell(1, 0).left);
+    ASSERT_GT(icon.Width(), 4);
+    ClickTwice(icon.CenterPoint());
+    EXPECT_EQ(Current(), "1,1");
+    EXPECT_EQ(owner.TakeEdits(), Lines{});
+    ClickTwice(CPoint(icon.right + 4, icon.CenterPoint().y));
+    EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,0 [r1c0]"});
 }
 
 TEST_F(ListInput, ClickBelowTheRows_BeginsNoEdit)

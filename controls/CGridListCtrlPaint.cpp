@@ -42,10 +42,11 @@ CRect CGridListCtrl::CellRectangle(const NMLVCUSTOMDRAW& draw)
     CRect bounds;
     GetItemRect(row, bounds, LVIR_BOUNDS);
     CRect cell(draw.nmcd.rc);
-    if (draw.iSubItem > 0)
-        cell.OffsetRect(bounds.left, 0);
-    else
+    if (draw.iSubItem == 0)
         GetItemRect(row, cell, LVIR_LABEL);
+    // Platforms differ in whether the rectangle counts from the edge of the row or of the window.
+    else if (cell.left != bounds.left + ColumnOffset(draw.iSubItem))
+        cell.OffsetRect(bounds.left, 0);
     cell.top = bounds.top;
     cell.bottom = bounds.bottom;
     return cell;

@@ -140,6 +140,46 @@ TEST_F(ListPaint, FocusedRow_ShowsTheCurrentCell)
     EXPECT_NE(picture.At(list.Cell(1, 2).left + 3, list.Cell(1, 2).top + 3), ::GetSysColor(COLOR_3DFACE));
 }
 
+TEST_F(ListPaint, ScrolledList_ShowsTheCurrentCellWhereItIs)
+{
+    const COLORREF dark = ::GetSysColor(COLOR_3DDKSHADOW);
+    const COLORREF light = ::GetSysColor(COLOR_3DHIGHLIGHT);
+    const COLORREF face = ::GetSysColor(COLOR_3DFACE);
+    list.SetColumnWidth(2, 400);
+    for (const std::vector<int>& order : {std::vector<int>{0, 1, 2}, {1, 0, 2}})
+    {
+        list.Order(order);
+        for (int position = 0; position < 3; ++position)
+        {
+            const int column = order[static_cast<size_t>(position)];
+            list.Scroll(CSize(-1000, 0));
+            SetCurrent(1, position);
+            list.Scroll(CSize(50, 0));
+            list.Invalidate();
+            CRect cell = list.Cell(1, column);
+            if (column == 0)
+            {
+                CRect label;
+                list.GetItemRect(1, label, LVIR_LABEL);
+                EXPECT_GE(label.left, cell.left);
+                EXPECT_LE(label.right, cell.right);
+                cell.left = label.left;
+                cell.right = label.right;
+            }
+            SCOPED_TRACE("column " + std::to_string(column) + " at " + std::to_string(position));
+            const Snapshot picture(list.m_hWnd);
+            // The edges that the scrolling leaves in sight.
+            const bool leftShown = cell.left >= 0;
+            const bool rightShown = cell.right <= picture.Width();
+            EXPECT_TRUE(leftShown || rightShown);
+            EXPECT_TRUE(!leftShown || picture.At(cell.left + 1, cell.top + 1) == dark);
+            EXPECT_TRUE(!rightShown || picture.At(cell.right - 2, cell.bottom - 2) == light);
+            // Nothing of the frame stands beside the cell.
+            EXPECT_TRUE(cell.left < 10 || picture.At(cell.left - 3, cell.top + 3) != face);
+        }
+    }
+}
+
 TEST_F(ListPaint, FocusedRow_ShowsTheLabelAsTheCurrentCell)
 {
     SetCurrent(1, 0);

@@ -2,6 +2,9 @@
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
 
+#include <algorithm>
+#include <iterator>
+
 namespace QuorUiCtr
 {
 namespace
@@ -25,20 +28,29 @@ struct MenuEntry
 {
     CommandId id;
     const wchar_t* caption;
+    void (*run)(TGGrid& grid);
 };
 
-constexpr MenuEntry InsertRowEntry{InsertRowCommand, L"插入行(Ins)"};
-constexpr MenuEntry DeleteRowsEntry{DeleteRowsCommand, L"删除(Del)"};
-constexpr MenuEntry DeleteRowEntry{DeleteRowsCommand, L"删除行(Del)"};
-constexpr MenuEntry AppendRowEntry{AppendRowCommand, L"新建行(N)"};
-constexpr MenuEntry SelectAllEntry{SelectAllCommand, L"全选(A)"};
-constexpr MenuEntry CopyEntry{CopyCommand, L"复制(C)"};
-constexpr MenuEntry CutEntry{CutCommand, L"剪切(X)"};
-constexpr MenuEntry PasteEntry{PasteCommand, L"粘贴(V)"};
-constexpr MenuEntry InsertColEntry{InsertColCommand, L"插入列(Ins)"};
-constexpr MenuEntry DeleteColsEntry{DeleteColsCommand, L"删除(Del)"};
-constexpr MenuEntry DeleteColEntry{DeleteColsCommand, L"删除列(Del)"};
-constexpr MenuEntry AppendColEntry{AppendColCommand, L"新建列(N)"};
+constexpr MenuEntry InsertRowEntry{InsertRowCommand, L"插入行(Ins)",
+                                   [](TGGrid& grid) { grid.DoInsertRow(); }};
+constexpr MenuEntry DeleteRowsEntry{DeleteRowsCommand, L"删除(Del)", [](TGGrid& grid) { grid.DoDelete(); }};
+constexpr MenuEntry DeleteRowEntry{DeleteRowsCommand, L"删除行(Del)", DeleteRowsEntry.run};
+constexpr MenuEntry AppendRowEntry{AppendRowCommand, L"新建行(N)",
+                                   [](TGGrid& grid) { grid.DoAppendRow(true); }};
+constexpr MenuEntry SelectAllEntry{SelectAllCommand, L"全选(A)", [](TGGrid& grid) { grid.SelectAll(); }};
+constexpr MenuEntry CopyEntry{CopyCommand, L"复制(C)", [](TGGrid& grid) { grid.DoCopy(); }};
+constexpr MenuEntry CutEntry{CutCommand, L"剪切(X)", [](TGGrid& grid) { grid.DoClip(); }};
+constexpr MenuEntry PasteEntry{PasteCommand, L"粘贴(V)", [](TGGrid& grid) { grid.DoPaste(); }};
+constexpr MenuEntry InsertColEntry{InsertColCommand, L"插入列(Ins)",
+                                   [](TGGrid& grid) { grid.DoInsertCol(); }};
+constexpr MenuEntry DeleteColsEntry{DeleteColsCommand, L"删除(Del)", DeleteRowsEntry.run};
+constexpr MenuEntry DeleteColEntry{DeleteColsCommand, L"删除列(Del)", DeleteRowsEntry.run};
+constexpr MenuEntry AppendColEntry{AppendColCommand, L"新建列(N)", [](TGGrid& grid) { grid.DoAppendCol(); }};
+
+// One entry for each command.
+constexpr MenuEntry MenuCommands[] = {InsertRowEntry,  DeleteRowsEntry, AppendRowEntry, SelectAllEntry,
+                                      CopyEntry,       CutEntry,        PasteEntry,     InsertColEntry,
+                                      DeleteColsEntry, AppendColEntry};
 
 // A popup menu that is filled, shown once and destroyed.
 class ContextMenu
@@ -142,39 +154,12 @@ void TGGrid::OnRClickQuad(CPoint point)
 
 bool TGGrid::RunMenuCommand(UINT id)
 {
-    switch (id)
-    {
-    case InsertRowCommand:
-        DoInsertRow();
-        return true;
-    case DeleteRowsCommand:
-    case DeleteColsCommand:
-        DoDelete();
-        return true;
-    case AppendRowCommand:
-        DoAppendRow(true);
-        return true;
-    case SelectAllCommand:
-        SelectAll();
-        return true;
-    case CopyCommand:
-        DoCopy();
-        return true;
-    case CutCommand:
-        DoClip();
-        return true;
-    case PasteCommand:
-        DoPaste();
-        return true;
-    case InsertColCommand:
-        DoInsertCol();
-        return true;
-    case AppendColCommand:
-        DoAppendCol();
-        return true;
-    default:
+    const auto chosen = std::find_if(std::begin(MenuCommands), std::end(MenuCommands),
+                                     [id](const MenuEntry& entry) { return entry.id == id; });
+    if (chosen == std::end(MenuCommands))
         return false;
-    }
+    chosen->run(*this);
+    return true;
 }
 
 } // namespace QuorUiCtr

@@ -9,17 +9,28 @@
 namespace QuorUiCtr
 {
 
+// What a key does, alone and with Ctrl.
 const GridKeyMap::Entry GridKeyMap::Entries[] = {
-    {VK_TAB, &GridKeyMap::OnTabKey},       {VK_RETURN, &GridKeyMap::OnReturnKey},
-    {VK_ESCAPE, &GridKeyMap::OnEscapeKey}, {VK_PRIOR, &GridKeyMap::OnPageUpKey},
-    {VK_NEXT, &GridKeyMap::OnPageDownKey}, {VK_HOME, &GridKeyMap::OnHomeKey},
-    {VK_LEFT, &GridKeyMap::OnLeftKey},     {VK_RIGHT, &GridKeyMap::OnRightKey},
-    {VK_UP, &GridKeyMap::OnUpKey},         {VK_DOWN, &GridKeyMap::OnDownKey},
-    {VK_INSERT, &GridKeyMap::OnInsertKey}, {VK_DELETE, &GridKeyMap::OnDeleteKey},
-    {'A', &GridKeyMap::OnSelectAllKey},    {'C', &GridKeyMap::OnCopyKey},
-    {'N', &GridKeyMap::OnNewKey},          {'R', &GridKeyMap::OnSortUpKey},
-    {'T', &GridKeyMap::OnChildKey},        {'U', &GridKeyMap::OnSortDownKey},
-    {'V', &GridKeyMap::OnPasteKey},        {'X', &GridKeyMap::OnCutKey},
+    {VK_TAB, &GridKeyMap::EditNextCell, &GridKeyMap::EditNextCell},
+    {VK_RETURN, &GridKeyMap::EditOrGoDown, &GridKeyMap::EditOrGoDown},
+    {VK_ESCAPE, &GridKeyMap::Cancel, &GridKeyMap::Cancel},
+    {VK_PRIOR, &GridKeyMap::ScrollPageUp, &GridKeyMap::ScrollPageUp},
+    {VK_NEXT, &GridKeyMap::ScrollPageDown, &GridKeyMap::ScrollPageDown},
+    {VK_HOME, &GridKeyMap::ScrollHome, &GridKeyMap::ScrollHome},
+    {VK_LEFT, &GridKeyMap::GoLeft, &GridKeyMap::GoLeft},
+    {VK_RIGHT, &GridKeyMap::GoRight, &GridKeyMap::GoRight},
+    {VK_UP, &GridKeyMap::GoUp, &GridKeyMap::GoUp},
+    {VK_DOWN, &GridKeyMap::GoDown, &GridKeyMap::GoDown},
+    {VK_INSERT, &GridKeyMap::Insert, &GridKeyMap::InsertTree},
+    {VK_DELETE, &GridKeyMap::Delete, &GridKeyMap::Delete},
+    {'A', &GridKeyMap::SelectAll, &GridKeyMap::SelectAll},
+    {'C', &GridKeyMap::Copy, &GridKeyMap::Copy},
+    {'N', &GridKeyMap::New, &GridKeyMap::NewTree},
+    {'R', &GridKeyMap::SortUp, &GridKeyMap::SortUp},
+    {'T', &GridKeyMap::AppendChild, &GridKeyMap::AppendChild},
+    {'U', &GridKeyMap::SortDown, &GridKeyMap::SortDown},
+    {'V', &GridKeyMap::Paste, &GridKeyMap::PasteChild},
+    {'X', &GridKeyMap::Cut, &GridKeyMap::Cut},
 };
 
 void GridKeyMap::Run(UINT key)
@@ -28,13 +39,12 @@ void GridKeyMap::Run(UINT key)
     const auto entry = std::find_if(std::begin(Entries), std::end(Entries),
                                     [key](const Entry& candidate) { return candidate.key == key; });
     if (entry != std::end(Entries))
-        (this->*entry->handler)(control);
+        (this->*(control ? entry->withControl : entry->plain))();
 }
 
 // ---- Moving the edit and the selection
-// ----------------------------------------------------------------------
 
-void GridKeyMap::OnTabKey(bool)
+void GridKeyMap::EditNextCell()
 {
     if (!grid.editCell)
         return;
@@ -45,7 +55,7 @@ void GridKeyMap::OnTabKey(bool)
         grid.EndEditCell();
 }
 
-void GridKeyMap::OnReturnKey(bool control)
+void GridKeyMap::EditOrGoDown()
 {
     if (!grid.editCell)
     {
@@ -53,7 +63,7 @@ void GridKeyMap::OnReturnKey(bool control)
             grid.BeginEditCell(grid.rowSel[0], 0);
     }
     else if (grid.IsAppendRowShown())
-        OnDownKey(control);
+        GoDown();
     else if (grid.GetRowNum() <= 1)
         grid.EndEditCell();
     else
@@ -61,7 +71,7 @@ void GridKeyMap::OnReturnKey(bool control)
                            grid.editCell->GetColIndex());
 }
 
-void GridKeyMap::OnEscapeKey(bool)
+void GridKeyMap::Cancel()
 {
     if (!grid.editCell)
     {
@@ -105,7 +115,7 @@ void GridKeyMap::MoveRowSelection(long step, UINT scrollCode)
         grid.OnVScroll(scrollCode, 0, nullptr);
 }
 
-void GridKeyMap::OnLeftKey(bool)
+void GridKeyMap::GoLeft()
 {
     if (grid.editCell && grid.GetColNum() > 1)
         MoveEditSideways(-1);
@@ -113,7 +123,7 @@ void GridKeyMap::OnLeftKey(bool)
         MoveColSelection(-1, SB_LINEUP);
 }
 
-void GridKeyMap::OnRightKey(bool)
+void GridKeyMap::GoRight()
 {
     if (grid.editCell && grid.GetColNum() > 1)
         MoveEditSideways(1);
@@ -121,7 +131,7 @@ void GridKeyMap::OnRightKey(bool)
         MoveColSelection(1, SB_LINEDOWN);
 }
 
-void GridKeyMap::OnUpKey(bool)
+void GridKeyMap::GoUp()
 {
     if (!grid.editCell)
     {
@@ -140,7 +150,7 @@ void GridKeyMap::OnUpKey(bool)
         grid.BeginEditCell((row - 1 + count) % count, col);
 }
 
-void GridKeyMap::OnDownKey(bool)
+void GridKeyMap::GoDown()
 {
     if (!grid.editCell)
     {
@@ -172,88 +182,111 @@ void GridKeyMap::GoOnBelowNewRow(long col)
 }
 
 // ---- Scrolling
-// ----------------------------------------------------------------------------------------------
 
-void GridKeyMap::OnPageUpKey(bool)
+void GridKeyMap::ScrollPageUp()
 {
     if (grid.vScrollShown)
         grid.OnVScroll(SB_PAGEUP, 0, nullptr);
 }
 
-void GridKeyMap::OnPageDownKey(bool)
+void GridKeyMap::ScrollPageDown()
 {
     if (grid.vScrollShown)
         grid.OnVScroll(SB_PAGEDOWN, 0, nullptr);
 }
 
-void GridKeyMap::OnHomeKey(bool)
+void GridKeyMap::ScrollHome()
 {
     grid.MoveView(grid.hScrollShown ? -grid.GetScrollPos(SB_HORZ) : 0,
                   grid.vScrollShown ? -grid.GetScrollPos(SB_VERT) : 0);
 }
 
 // ---- Commands
-// -----------------------------------------------------------------------------------------------
 
-void GridKeyMap::OnInsertKey(bool control)
+// Before the selected row or column; a tree only before a row.
+void GridKeyMap::Insert()
 {
     if (grid.IsRowSelected())
-        control ? grid.DoInsertTree() : grid.DoInsertRow();
+        grid.DoInsertRow();
     else if (grid.IsColSelected())
         grid.DoInsertCol();
 }
 
-void GridKeyMap::OnDeleteKey(bool)
+void GridKeyMap::InsertTree()
+{
+    if (grid.IsRowSelected())
+        grid.DoInsertTree();
+    else
+        Insert();
+}
+
+// Behind what is selected, else at the end.
+void GridKeyMap::New()
+{
+    if (grid.IsColSelected())
+        grid.DoInsertColAfter();
+    else if (grid.IsRowSelected())
+        grid.DoInsertRowAfter();
+    else
+        grid.DoAppendRow(true);
+}
+
+void GridKeyMap::NewTree()
+{
+    if (grid.IsColSelected())
+        New();
+    else if (grid.IsRowSelected())
+        grid.DoInsertTreeAfter();
+    else
+        grid.DoAppendTree();
+}
+
+void GridKeyMap::AppendChild()
+{
+    grid.DoAppendChild();
+}
+
+void GridKeyMap::Delete()
 {
     grid.DoDelete();
 }
 
-void GridKeyMap::OnSelectAllKey(bool)
+void GridKeyMap::SelectAll()
 {
     if (!grid.IsSingleSelRow() || grid.GetRowNum() == 1)
         grid.SelectAll();
 }
 
-void GridKeyMap::OnCopyKey(bool)
+void GridKeyMap::Copy()
 {
     grid.DoCopy();
 }
 
-void GridKeyMap::OnNewKey(bool control)
+void GridKeyMap::Cut()
 {
-    if (grid.IsColSelected())
-        grid.DoInsertColAfter();
-    else if (grid.IsRowSelected())
-        control ? grid.DoInsertTreeAfter() : grid.DoInsertRowAfter();
-    else
-        control ? grid.DoAppendTree() : grid.DoAppendRow(true);
+    grid.DoClip();
 }
 
-void GridKeyMap::OnSortUpKey(bool)
+void GridKeyMap::Paste()
+{
+    grid.DoPaste();
+}
+
+void GridKeyMap::PasteChild()
+{
+    grid.DoPasteChild();
+}
+
+void GridKeyMap::SortUp()
 {
     if (grid.IsSortEnable())
         grid.Arrange(true);
 }
 
-void GridKeyMap::OnSortDownKey(bool)
+void GridKeyMap::SortDown()
 {
     if (grid.IsSortEnable())
         grid.Arrange(false);
-}
-
-void GridKeyMap::OnChildKey(bool)
-{
-    grid.DoAppendChild();
-}
-
-void GridKeyMap::OnPasteKey(bool control)
-{
-    control ? grid.DoPasteChild() : grid.DoPaste();
-}
-
-void GridKeyMap::OnCutKey(bool)
-{
-    grid.DoClip();
 }
 
 } // namespace QuorUiCtr

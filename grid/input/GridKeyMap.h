@@ -8,8 +8,8 @@ namespace QuorUiCtr
 
 class TGGrid;
 
-// The key map as a table of keys and handlers. Letters act without Ctrl, which only chooses the tree variant
-// of a command where there is one.
+// The key map as a table of keys and what they do. Letters act without Ctrl, which only chooses the tree
+// variant of a command where there is one.
 class GridKeyMap
 {
 public:
@@ -19,37 +19,42 @@ public:
     void Run(UINT key);
 
 private:
+    using Action = void (GridKeyMap::*)();
     struct Entry
     {
         UINT key;
-        void (GridKeyMap::*handler)(bool control);
+        Action plain;
+        Action withControl;
     };
     static const Entry Entries[];
 
+    void EditNextCell();
+    void EditOrGoDown();
+    void Cancel();
+    void GoLeft();
+    void GoRight();
+    void GoUp();
+    void GoDown();
     void MoveEditSideways(long step);
     void MoveColSelection(long step, UINT scrollCode);
     void MoveRowSelection(long step, UINT scrollCode);
     void GoOnBelowNewRow(long col);
-    void OnTabKey(bool control);
-    void OnReturnKey(bool control);
-    void OnEscapeKey(bool control);
-    void OnPageUpKey(bool control);
-    void OnPageDownKey(bool control);
-    void OnHomeKey(bool control);
-    void OnLeftKey(bool control);
-    void OnRightKey(bool control);
-    void OnUpKey(bool control);
-    void OnDownKey(bool control);
-    void OnInsertKey(bool control);
-    void OnDeleteKey(bool control);
-    void OnSelectAllKey(bool control);
-    void OnCopyKey(bool control);
-    void OnNewKey(bool control);
-    void OnSortUpKey(bool control);
-    void OnChildKey(bool control);
-    void OnSortDownKey(bool control);
-    void OnPasteKey(bool control);
-    void OnCutKey(bool control);
+    void ScrollPageUp();
+    void ScrollPageDown();
+    void ScrollHome();
+    void Insert();
+    void InsertTree();
+    void New();
+    void NewTree();
+    void AppendChild();
+    void Delete();
+    void SelectAll();
+    void Copy();
+    void Cut();
+    void Paste();
+    void PasteChild();
+    void SortUp();
+    void SortDown();
 
     TGGrid& grid;
 };

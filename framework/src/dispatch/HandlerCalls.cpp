@@ -143,69 +143,102 @@ LRESULT CallMdiActivate(const Call& call)
     return call.As<void, BOOL, CWnd*, CWnd*>(isActivated, call.LongWindow(), call.WordWindow());
 }
 
-// Indexed by AfxSig; the order is that of the enumeration.
-constexpr Decoder Decoders[] = {
-    nullptr,
-    [](const Call& c) { return c.As<void>(); },
-    [](const Call& c) { return c.As<BOOL>(); },
-    [](const Call& c) { return c.As<UINT>(); },
-    [](const Call& c) { return c.As<HCURSOR>(); },
-    [](const Call& c) { return c.As<LRESULT, WPARAM, LPARAM>(c.wParam, c.lParam); },
-    [](const Call& c) { return c.As<BOOL, CDC*>(CDC::FromHandle(c.WordPointer<HDC>())); },
-    CallWindowHit,
-    CallMouseActivate,
-    [](const Call& c) { return c.As<int, LPCREATESTRUCT>(c.LongPointer<LPCREATESTRUCT>()); },
-    [](const Call& c) { return c.As<BOOL, LPCREATESTRUCT>(c.LongPointer<LPCREATESTRUCT>()); },
-    CallSize,
-    [](const Call& c) { return c.As<void, int, int>(c.Point().x, c.Point().y); },
-    [](const Call& c) { return c.As<void, UINT, LPRECT>(c.Word(), c.LongPointer<LPRECT>()); },
-    CallCtlColor,
-    [](const Call& c) { return c.As<void, CWnd*>(c.WordWindow()); },
-    [](const Call& c) { return c.As<void, CWnd*>(c.LongWindow()); },
-    [](const Call& c) { return c.As<void, BOOL>(c.Flag()); },
-    [](const Call& c) { return c.As<BOOL, BOOL>(c.Flag()); },
-    [](const Call& c) { return c.As<void, BOOL, UINT>(c.Flag(), static_cast<UINT>(c.lParam)); },
-    [](const Call& c) { return c.As<void, UINT, CPoint>(c.Word(), c.Point()); },
-    CallWheel,
-    CallHorizontalWheel,
-    [](const Call& c) { return c.As<void, UINT, UINT, CPoint>(c.LowWord(), c.HighWord(), c.Point()); },
-    [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); },
-    [](const Call& c) { return c.As<void, UINT, LPARAM>(c.Word(), c.lParam); },
-    [](const Call& c) { return c.As<void, UINT_PTR>(c.wParam); },
-    CallScroll,
-    [](const Call& c) { return c.As<void, CWnd*, CPoint>(c.WordWindow(), c.Point()); },
-    [](const Call& c) { return c.As<void, CMenu*>(c.WordMenu()); },
-    CallMenuPopup,
-    [](const Call& c) { return c.As<void, CMenu*, UINT>(c.WordMenu(), static_cast<UINT>(c.lParam)); },
-    CallMenuSelect,
-    CallMenuChar,
-    [](const Call& c) { return c.As<LRESULT, CPoint>(c.Point()); },
-    [](const Call& c) {
-        return c.As<void, BOOL, NCCALCSIZE_PARAMS*>(c.Flag(), c.LongPointer<NCCALCSIZE_PARAMS*>());
-    },
-    CallActivate,
-    [](const Call& c) { return c.As<void, BOOL, DWORD>(c.Flag(), static_cast<DWORD>(c.lParam)); },
-    [](const Call& c) { return c.As<void, int, void*>(static_cast<int>(c.wParam), c.LongPointer<void*>()); },
-    [](const Call& c) { return c.As<int, int, void*>(static_cast<int>(c.wParam), c.LongPointer<void*>()); },
-    [](const Call& c) { return c.As<void, void*>(c.LongPointer<void*>()); },
-    [](const Call& c) { return c.As<void, UINT, LPCTSTR>(c.Word(), c.LongPointer<LPCTSTR>()); },
-    [](const Call& c) { return c.As<BOOL, UINT, DWORD_PTR>(c.Word(), static_cast<DWORD_PTR>(c.lParam)); },
-    [](const Call& c) { return c.As<BOOL, void*>(c.LongPointer<void*>()); },
-    CallListChar,
-    [](const Call& c) { return c.As<void, UINT, CWnd*>(c.Word(), c.LongWindow()); },
-    [](const Call& c) {
-        return c.As<BOOL, CWnd*, COPYDATASTRUCT*>(c.WordWindow(), c.LongPointer<COPYDATASTRUCT*>());
-    },
-    [](const Call& c) { return c.As<void, HDROP>(c.WordPointer<HDROP>()); },
-    [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); },
-    [](const Call& c) { return c.As<void, UINT, UINT>(c.Word(), static_cast<UINT>(c.lParam)); },
-    CallMdiActivate,
-    CallReflectedCtlColor,
-    [](const Call& c) { return c.As<void, UINT, UINT>(c.LowWord(), c.HighWord()); },
-    [](const Call& c) { return c.As<int, void*>(c.LongPointer<void*>()); },
-    [](const Call& c) { return c.As<int, UINT, UINT>(c.LowWord(), c.HighWord()); },
+// A signature and the call of a handler that has it.
+struct Signature
+{
+    AfxSig kind;
+    Decoder call;
 };
-static_assert(std::size(Decoders) == AfxSig_windowCount, "one decoder per signature kind");
+
+// Found by index.
+constexpr Signature Signatures[] = {
+    {AfxSig_end, nullptr},
+    {AfxSig_none, [](const Call& c) { return c.As<void>(); }},
+    {AfxSig_bool, [](const Call& c) { return c.As<BOOL>(); }},
+    {AfxSig_uint, [](const Call& c) { return c.As<UINT>(); }},
+    {AfxSig_cursor, [](const Call& c) { return c.As<HCURSOR>(); }},
+    {AfxSig_message, [](const Call& c) { return c.As<LRESULT, WPARAM, LPARAM>(c.wParam, c.lParam); }},
+    {AfxSig_eraseDc, [](const Call& c) { return c.As<BOOL, CDC*>(CDC::FromHandle(c.WordPointer<HDC>())); }},
+    {AfxSig_wndHitMessage, CallWindowHit},
+    {AfxSig_mouseActivate, CallMouseActivate},
+    {AfxSig_create, [](const Call& c) { return c.As<int, LPCREATESTRUCT>(c.LongPointer<LPCREATESTRUCT>()); }},
+    {AfxSig_ncCreate,
+     [](const Call& c) { return c.As<BOOL, LPCREATESTRUCT>(c.LongPointer<LPCREATESTRUCT>()); }},
+    {AfxSig_size, CallSize},
+    {AfxSig_move, [](const Call& c) { return c.As<void, int, int>(c.Point().x, c.Point().y); }},
+    {AfxSig_sideRect,
+     [](const Call& c) { return c.As<void, UINT, LPRECT>(c.Word(), c.LongPointer<LPRECT>()); }},
+    {AfxSig_ctlColor, CallCtlColor},
+    {AfxSig_wndW, [](const Call& c) { return c.As<void, CWnd*>(c.WordWindow()); }},
+    {AfxSig_wndL, [](const Call& c) { return c.As<void, CWnd*>(c.LongWindow()); }},
+    {AfxSig_flag, [](const Call& c) { return c.As<void, BOOL>(c.Flag()); }},
+    {AfxSig_boolFlag, [](const Call& c) { return c.As<BOOL, BOOL>(c.Flag()); }},
+    {AfxSig_flagUint,
+     [](const Call& c) { return c.As<void, BOOL, UINT>(c.Flag(), static_cast<UINT>(c.lParam)); }},
+    {AfxSig_mouse, [](const Call& c) { return c.As<void, UINT, CPoint>(c.Word(), c.Point()); }},
+    {AfxSig_wheel, CallWheel},
+    {AfxSig_horizontalWheel, CallHorizontalWheel},
+    {AfxSig_xButton,
+     [](const Call& c) { return c.As<void, UINT, UINT, CPoint>(c.LowWord(), c.HighWord(), c.Point()); }},
+    {AfxSig_key,
+     [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); }},
+    {AfxSig_uintLparam, [](const Call& c) { return c.As<void, UINT, LPARAM>(c.Word(), c.lParam); }},
+    {AfxSig_timer, [](const Call& c) { return c.As<void, UINT_PTR>(c.wParam); }},
+    {AfxSig_scroll, CallScroll},
+    {AfxSig_wndPoint, [](const Call& c) { return c.As<void, CWnd*, CPoint>(c.WordWindow(), c.Point()); }},
+    {AfxSig_menu, [](const Call& c) { return c.As<void, CMenu*>(c.WordMenu()); }},
+    {AfxSig_menuPopup, CallMenuPopup},
+    {AfxSig_menuUint,
+     [](const Call& c) { return c.As<void, CMenu*, UINT>(c.WordMenu(), static_cast<UINT>(c.lParam)); }},
+    {AfxSig_menuSelect, CallMenuSelect},
+    {AfxSig_menuChar, CallMenuChar},
+    {AfxSig_ncHitTest, [](const Call& c) { return c.As<LRESULT, CPoint>(c.Point()); }},
+    {AfxSig_ncCalcSize,
+     [](const Call& c) {
+         return c.As<void, BOOL, NCCALCSIZE_PARAMS*>(c.Flag(), c.LongPointer<NCCALCSIZE_PARAMS*>());
+     }},
+    {AfxSig_activate, CallActivate},
+    {AfxSig_activateApp,
+     [](const Call& c) { return c.As<void, BOOL, DWORD>(c.Flag(), static_cast<DWORD>(c.lParam)); }},
+    {AfxSig_intPointer,
+     [](const Call& c) {
+         return c.As<void, int, void*>(static_cast<int>(c.wParam), c.LongPointer<void*>());
+     }},
+    {AfxSig_intPointerResult,
+     [](const Call& c) { return c.As<int, int, void*>(static_cast<int>(c.wParam), c.LongPointer<void*>()); }},
+    {AfxSig_pointer, [](const Call& c) { return c.As<void, void*>(c.LongPointer<void*>()); }},
+    {AfxSig_uintText,
+     [](const Call& c) { return c.As<void, UINT, LPCTSTR>(c.Word(), c.LongPointer<LPCTSTR>()); }},
+    {AfxSig_device,
+     [](const Call& c) { return c.As<BOOL, UINT, DWORD_PTR>(c.Word(), static_cast<DWORD_PTR>(c.lParam)); }},
+    {AfxSig_boolPointer, [](const Call& c) { return c.As<BOOL, void*>(c.LongPointer<void*>()); }},
+    {AfxSig_listChar, CallListChar},
+    {AfxSig_enterIdle, [](const Call& c) { return c.As<void, UINT, CWnd*>(c.Word(), c.LongWindow()); }},
+    {AfxSig_copyData,
+     [](const Call& c) {
+         return c.As<BOOL, CWnd*, COPYDATASTRUCT*>(c.WordWindow(), c.LongPointer<COPYDATASTRUCT*>());
+     }},
+    {AfxSig_dropFiles, [](const Call& c) { return c.As<void, HDROP>(c.WordPointer<HDROP>()); }},
+    {AfxSig_hotKey,
+     [](const Call& c) { return c.As<void, UINT, UINT, UINT>(c.Word(), c.LowLong(), c.HighLong()); }},
+    {AfxSig_uintUint,
+     [](const Call& c) { return c.As<void, UINT, UINT>(c.Word(), static_cast<UINT>(c.lParam)); }},
+    {AfxSig_mdiActivate, CallMdiActivate},
+    {AfxSig_reflectCtlColor, CallReflectedCtlColor},
+    {AfxSig_reflectScroll, [](const Call& c) { return c.As<void, UINT, UINT>(c.LowWord(), c.HighWord()); }},
+    {AfxSig_reflectPointerInt, [](const Call& c) { return c.As<int, void*>(c.LongPointer<void*>()); }},
+    {AfxSig_reflectListChar, [](const Call& c) { return c.As<int, UINT, UINT>(c.LowWord(), c.HighWord()); }},
+};
+
+constexpr bool AreInOrder()
+{
+    for (std::size_t i = 0; i < std::size(Signatures); ++i)
+        if (static_cast<std::size_t>(Signatures[i].kind) != i)
+            return false;
+    return true;
+}
+static_assert(std::size(Signatures) == AfxSig_windowCount && AreInOrder(),
+              "one entry per signature, in order");
 
 // A wheel message that the handler declines goes to default processing, which offers it to the parent; once
 // only, and only while the object still exists.
@@ -227,6 +260,6 @@ BOOL CallMessageHandler(CWnd& window, const AFX_MSGMAP_ENTRY& entry, UINT messag
     const UINT_PTR kind = isRegistered ? static_cast<UINT_PTR>(AfxSig_message) : entry.nSig;
     if (kind == AfxSig_end || kind >= AfxSig_windowCount)
         return FALSE;
-    result = Decoders[kind]({window, entry.pfn, message, wParam, lParam});
+    result = Signatures[kind].call({window, entry.pfn, message, wParam, lParam});
     return !IsDeclinedWheel(entry, result, &window);
 }

@@ -423,7 +423,8 @@ protected:
     // The row and column under a point in client coordinates. The row is the logical y divided by the row
     // height, so it may lie outside the rows; the column is the column count when none contains the point.
     void PtToCell(CPoint point, long& row, long& col) const;
-    // Scrolls as little as possible so that `rect` (logical coordinates) becomes visible.
+    // Scrolls as little as possible so that `rect` (logical coordinates) becomes visible. When anything
+    // moves, an open cell edit ends, which may run hooks.
     void ShowRect(CRect rect);
     // The data area in client coordinates: the client rectangle without the headers.
     void GetClientRect(RECT* rect);
@@ -432,7 +433,8 @@ protected:
     CPoint ClientToLogical(CPoint point) const;
     // The first column whose left <= `logicalX` < right, the column count when there is none.
     long ColAt(long logicalX) const;
-    // Does a layout that is postponed between BeginUpdate and EndUpdate now; the repaint stays postponed.
+    // Does a layout that is postponed between BeginUpdate and EndUpdate now; the repaint stays postponed. The
+    // layout ends an open cell edit, which may run hooks.
     void FlushLayout();
 
     // The prepared drawing context: null makes and keeps a client context when there is none, another context
@@ -528,6 +530,8 @@ private:
 
     // Scrolling (TGGridScroll.cpp).
     CRect ViewRect();
+    // MoveView with the layout up to date; may run hooks.
+    void ScrollView(int dx, int dy);
     int BarPosition(int bar) const;
     void SetBarPosition(int bar, int position);
 
@@ -549,8 +553,14 @@ private:
     void InvertSelectionIn(const CRect& drawn);
 
     // Mouse (TGGridMouse.cpp).
+    // What a click does where it hits the grid, and the column of the tree; both run hooks.
     void PressCell(CPoint point);
     void PressTreeCell(long row, CPoint point);
+
+    // Editing (TGGridEdit.cpp).
+    // What a click and an edit begin with, and go on with after a hook: ends an edit that is open and does a
+    // layout that is postponed. Runs the hooks of these, none when there is nothing to do.
+    void Settle();
 
     // The row or column in a slot; null outside and for an empty slot.
     TGGridRow* RowAt(long i);

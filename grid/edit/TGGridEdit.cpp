@@ -22,8 +22,11 @@ public:
     explicit EditSession(TGGrid& servedGrid) : grid(servedGrid) {}
 
     TGGridCell* FindCell(long row, long col);
-    void OpenEditor(TGGridCell& cell);
     void SkipTreeQuad(TGGridCell& cell, CRect& rect);
+
+    // All others run hooks, or hide or destroy an editor, of which its parents hear: whoever goes on
+    // afterwards with a cell or a row watches it.
+    void OpenEditor(TGGridCell& cell);
     void AcceptNewRow();
     TGGridRow* AppendNewRow();
     void DropNewRow();
@@ -82,8 +85,7 @@ void TGGrid::BeginEditCell(long row, long col)
     if (!m_hWnd)
         return;
     UnSelect();
-    EndEditCell();
-    FlushLayout();
+    Settle();
     TGGridCell* cell = EditSession(*this).FindCell(row, col);
     if (!m_hWnd || !cell || cell->IsReadOnly())
         return;
@@ -93,7 +95,7 @@ void TGGrid::BeginEditCell(long row, long col)
     if (OnBeforeEdit(*cell, commitNewRow))
     {
         // A hook that edits on its own account has its edit committed first.
-        EndEditCell();
+        Settle();
         if (m_hWnd && watch.Cell())
             EditSession(*this).OpenEditor(*watch.Cell());
     }
@@ -195,6 +197,14 @@ void TGGrid::EditSession::DropNewRow()
     grid.newRow = nullptr;
 }
 
+void TGGrid::Settle()
+{
+    if (editCell)
+        EndEditCell();
+    if (layoutPending)
+        FlushLayout();
+}
+
 void TGGrid::EndEditCell()
 {
     if (endingEdit || !editCell)
@@ -205,6 +215,7 @@ void TGGrid::EndEditCell()
     // Also what a hook has opened meanwhile.
     editCell = nullptr;
     EditSession(*this).HideEditor();
+    // The commit used the new-row line up, as a row or not at all: the layout makes another one.
     if (!newRow)
         RecalcLayout(1);
 }
@@ -258,9 +269,9 @@ void TGGrid::EditSession::HideEditor()
 
 void TGGrid::EditSession::RetireEditor()
 {
-    TGCellCtrl* finished = grid.cellCtrl;
+    TGCellCtrl* last = grid.cellCtrl;
     grid.cellCtrl = nullptr;
-    CellEditorLife::Retire(finished);
+    CellEditorLife::Retire(last);
 }
 
 void TGGrid::AutoEditCell(TGGridCell* cell)

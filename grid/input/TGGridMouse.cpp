@@ -55,8 +55,7 @@ INT_PTR TGGrid::OnToolHitTest(CPoint point, TOOLINFO* info) const
 void TGGrid::OnLButtonDown(UINT flags, CPoint point)
 {
     SetFocus();
-    EndEditCell();
-    FlushLayout();
+    Settle();
     PressCell(point);
     CWnd::OnLButtonDown(flags, point);
 }

@@ -122,7 +122,8 @@ void TGGrid::Layout::PerformLayout(int redraw)
 {
     const LayoutGuard guard;
     grid.layoutPending = false;
-    grid.EndEditCell();
+    if (grid.IsEditing())
+        grid.EndEditCell();
     // The hooks of the edit may have closed the window.
     if (grid.GetSafeHwnd() == nullptr)
         return;

@@ -12,6 +12,11 @@ void TGGrid::MoveView(int dx, int dy)
     if (GetSafeHwnd() == nullptr)
         return;
     FlushLayout();
+    ScrollView(dx, dy);
+}
+
+void TGGrid::ScrollView(int dx, int dy)
+{
     const int hPosition = BarPosition(SB_HORZ);
     const int vPosition = BarPosition(SB_VERT);
     CRect area;
@@ -28,7 +33,8 @@ void TGGrid::MoveView(int dx, int dy)
     PrepareDC(nullptr);
     // What the end of an edit draws stands where it is to be after the scrolling already.
     const bool drawn = IsEditing();
-    EndEditCell();
+    if (drawn)
+        EndEditCell();
     Layout(*this).ScrollContents(dx, dy);
     if (drawn)
         Invalidate(0);
@@ -61,7 +67,8 @@ void TGGrid::ShowRect(CRect rect)
     const CRect view = ViewRect();
     const int dx = LeastScroll(rect.left, rect.right, view.left, view.right, BarPosition(SB_HORZ));
     const int dy = LeastScroll(rect.top, rect.bottom, view.top, view.bottom, BarPosition(SB_VERT));
-    MoveView(dx, dy);
+    if (dx != 0 || dy != 0)
+        ScrollView(dx, dy);
 }
 
 void TGGrid::ShowAppendRow()

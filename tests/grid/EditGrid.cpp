@@ -89,8 +89,9 @@ void EditGrid::OnCurChanged()
     WindowGrid::OnCurChanged();
     if (recording)
         log.push_back("cur " + std::to_string(GetCurRowIndex()) + "," + std::to_string(GetCurColIndex()));
-    if (curChanged)
-        curChanged();
+    // A copy, because the action may replace itself.
+    if (const auto act = curChanged)
+        act();
 }
 
 bool EditGrid::OnBeforeInsertRow(long position, TGGridRow*& row)

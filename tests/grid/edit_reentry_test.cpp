@@ -75,6 +75,41 @@ TEST_F(EditReentryTest, OnCurChanged_EndsTheEdit)
     EXPECT_FALSE(grid.IsEditing());
 }
 
+TEST_F(EditReentryTest, DeselectionOfAClick_EditsAnotherCell)
+{
+    EditGrid grid;
+    Make(grid);
+    int commits = 0;
+    grid.modifiedText = [&](TGGridCell&, CString&) { return ++commits != 0; };
+    grid.curChanged = [&] {
+        grid.curChanged = nullptr;
+        grid.BeginEditCell(3, 0);
+        grid.Enter(L"by the hook");
+    };
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 50));
+    EXPECT_EQ(1, commits);
+    EXPECT_EQ(grid.GetCell(3, 0).GetText(), L"by the hook");
+    long row = -1;
+    long col = -1;
+    EXPECT_TRUE(grid.GetCurCell(row, col));
+    EXPECT_EQ("1,1", std::to_string(row) + "," + std::to_string(col));
+}
+
+TEST_F(EditReentryTest, DeselectionOfAClick_AddsColumnsInsideAnUpdate)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.curChanged = [&] {
+        grid.curChanged = nullptr;
+        grid.BeginUpdate();
+        grid.SetColNum(9);
+    };
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(150, 50));
+    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_EQ("H 520@0", grid.Bars());
+    grid.EndUpdate();
+}
+
 TEST_F(EditReentryTest, OnBeforeEdit_DeletesTheRow)
 {
     EditGrid grid;

@@ -488,6 +488,7 @@ private:
     TGActiveQuad* quad = nullptr;
     TGRowSelector* rowHeader = nullptr;
     TGColSelector* colHeader = nullptr;
+    // The editor of the session; after its end hidden and disabled, until the next session begins.
     TGCellCtrl* cellCtrl = nullptr;
     bool vScrollShown = false;
     bool hScrollShown = false;

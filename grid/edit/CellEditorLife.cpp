@@ -20,7 +20,7 @@ struct Record
     HWND window = nullptr;
     // Messages of the editor's windows being handled, its creation, its uses and its destruction.
     int running = 0;
-    bool retired = false;
+    bool destroyWanted = false;
     bool windowGone = false;
     bool deleteWanted = false;
 };
@@ -59,8 +59,8 @@ void EmptySlot(Record* record)
     *record->cellSlot = nullptr;
 }
 
-// Destroys the window of a retired editor, or the object itself when it never got one.
-void DestroyRetired(Record* record)
+// Destroys the editor's window, or has the object deleted when it never got one.
+void DestroyNow(Record* record)
 {
     if (!record->window)
     {
@@ -77,8 +77,8 @@ void Settle(Record* record)
 {
     if (record->running > 0)
         return;
-    if (record->retired && !record->windowGone)
-        DestroyRetired(record);
+    if (record->destroyWanted && !record->windowGone)
+        DestroyNow(record);
     if (!record->windowGone)
         return;
     TGCellCtrl* finished = record->deleteWanted ? record->editor : nullptr;
@@ -149,7 +149,7 @@ Creation::Creation(TGCellCtrl*& slot, TGGridCell*& cellSlot) : record(new Record
 
 Creation::~Creation()
 {
-    // An editor that was deleted meanwhile asked for it through Delete.
+    // An editor that was deleted meanwhile asked for it through DeleteWhenIdle.
     if (record->deleteWanted)
     {
         record->windowGone = true;
@@ -175,19 +175,19 @@ Use::~Use()
     Settle(record);
 }
 
-void Retire(TGCellCtrl* editor)
+void DestroyWhenIdle(TGCellCtrl* editor)
 {
     if (!editor)
         return;
     if (Record* record = FindRecord(editor))
     {
         record->slot = nullptr;
-        record->retired = true;
+        record->destroyWanted = true;
         Settle(record);
     }
 }
 
-void Forget(const TGCellCtrl* editor)
+void NoteDeletion(const TGCellCtrl* editor)
 {
     Record* record = FindRecord(editor);
     if (!record)
@@ -199,7 +199,7 @@ void Forget(const TGCellCtrl* editor)
     Settle(record);
 }
 
-void Delete(TGCellCtrl* editor)
+void DeleteWhenIdle(TGCellCtrl* editor)
 {
     Record* record = FindRecord(editor);
     if (!record)

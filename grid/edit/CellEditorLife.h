@@ -9,9 +9,14 @@ namespace QuorUiCtr
 class TGCellCtrl;
 class TGGridCell;
 
-// Hooks that an editor's handlers call may end the session, start another one or destroy the grid's window.
-// An editor whose code is on the stack then must stay in memory until it has returned. The editor's windows
-// are watched for that: destruction and deletion wait until no message of theirs is being handled.
+// The life of an editor: made and shown at the beginning of a session; hidden and disabled at its end,
+// because that may come from a message of the editor itself; its window destroyed when the next session
+// begins, or with the grid's; its object deleted when the window is gone.
+//
+// Hooks that an editor's handlers call may do each of these in the middle: end the session, start another one
+// or destroy the grid's window. An editor whose code is on the stack then must stay in memory until it has
+// returned. The editor's windows are watched for that: destruction and deletion wait until no message of
+// theirs is being handled.
 namespace CellEditorLife
 {
 
@@ -45,15 +50,16 @@ private:
     Record* record;
 };
 
-// Destroys the editor of a finished session as soon as none of its code is running; null is ignored.
-void Retire(TGCellCtrl* editor);
-
-// An editor is being deleted, by whomever. For the destructor.
-void Forget(const TGCellCtrl* editor);
+// Destroys the window of the editor of a finished session, at once or as soon as none of its code is running;
+// null is ignored.
+void DestroyWhenIdle(TGCellCtrl* editor);
 
 // Deletes an editor whose window is gone, at once or as soon as none of its code is running. For
 // PostNcDestroy.
-void Delete(TGCellCtrl* editor);
+void DeleteWhenIdle(TGCellCtrl* editor);
+
+// The editor is being deleted, by whomever. For the destructor.
+void NoteDeletion(const TGCellCtrl* editor);
 
 } // namespace CellEditorLife
 

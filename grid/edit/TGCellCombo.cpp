@@ -78,7 +78,7 @@ TGGrid* TGCellCombo::GetGrid() const
 void TGCellCombo::PostNcDestroy()
 {
     CComboBox::PostNcDestroy();
-    CellEditorLife::Delete(this);
+    CellEditorLife::DeleteWhenIdle(this);
 }
 
 void TGCellCombo::OnCbnSetfocus()

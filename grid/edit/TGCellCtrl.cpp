@@ -12,7 +12,7 @@ TGCellCtrl::TGCellCtrl(const TGCellCtrl& other) = default;
 
 TGCellCtrl::~TGCellCtrl()
 {
-    CellEditorLife::Forget(this);
+    CellEditorLife::NoteDeletion(this);
 }
 
 void TGCellCtrl::SetModified(bool) {}

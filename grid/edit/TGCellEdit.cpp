@@ -88,7 +88,7 @@ TGGrid* TGCellEdit::GetGrid() const
 void TGCellEdit::PostNcDestroy()
 {
     CEdit::PostNcDestroy();
-    CellEditorLife::Delete(this);
+    CellEditorLife::DeleteWhenIdle(this);
 }
 
 void TGCellEdit::OnSetFocus(CWnd* oldFocus)

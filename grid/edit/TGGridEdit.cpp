@@ -34,7 +34,7 @@ public:
     void CommitNewRow(const TGGridCell& cell, const CString& text);
     void StoreText(TGGridCell& cell, const CString& text);
     void HideEditor();
-    void RetireEditor();
+    void DestroyLastEditor();
     void OpenLockedCell();
 
 private:
@@ -105,7 +105,7 @@ void TGGrid::BeginEditCell(long row, long col)
 
 void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
 {
-    RetireEditor();
+    DestroyLastEditor();
     CRect rect;
     cell.GetRect(rect);
     grid.ShowRect(rect);
@@ -267,11 +267,11 @@ void TGGrid::EditSession::HideEditor()
         grid.cellCtrl->Hide();
 }
 
-void TGGrid::EditSession::RetireEditor()
+void TGGrid::EditSession::DestroyLastEditor()
 {
     TGCellCtrl* last = grid.cellCtrl;
     grid.cellCtrl = nullptr;
-    CellEditorLife::Retire(last);
+    CellEditorLife::DestroyWhenIdle(last);
 }
 
 void TGGrid::AutoEditCell(TGGridCell* cell)

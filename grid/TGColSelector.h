@@ -14,15 +14,23 @@ class TGGrid;
 class TGGridCol;
 
 // Draws one caption box per column. The grid makes one (control id 103) when the column header is enabled and
-// owns it. It scrolls horizontally with the grid. Clicks select columns, with Ctrl and Shift several;
-// dragging a right edge resizes a column, dragging a selected column moves the selection; a drag ends without
-// effect when the mouse capture is lost.
+// owns it. It scrolls horizontally with the grid.
+//
+// Clicks select columns: one; with Ctrl one more or one less; with Shift all from the one that is selected.
+// Dragging a right edge, seen by the cursor, resizes a column and asks nobody. Dragging a selected column
+// moves the selection when it is one run of columns: OnBeginMoveCol is asked first, OnMovingCol at each
+// place passed over, OnMoveCol at the drop; then the columns move, and OnEndMoveCol and OnDataChanged follow.
+// A drag at the left or right end of the view scrolls the grid. It ends without effect when the mouse capture
+// is lost. The style word forbids either kind: SetColFixWidth, SetColPosFix.
+//
+// Hosts reach it through hooks only: OnColTip gives a column a tip, OnRClickCol a menu.
 class QUOR_EXT_CLASS TGColSelector : public CWnd
 {
 public:
     // Creates the window as a child of the grid's; a grid without a window gets none, until MakeWindow. The
     // grid must outlive the object.
     explicit TGColSelector(TGGrid& grid);
+    // Destroys the window.
     ~TGColSelector() override;
 
     // Creates the window when it is not there and the grid has its own; nothing of a drag in an earlier
@@ -34,6 +42,7 @@ public:
     void RestoreMark();
     void RestoreMark(const CRect& drawn);
 
+    // Asks the grid's OnColTip for the column under `point`; -1 beside the columns and without a tip.
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
 protected:
@@ -42,17 +51,25 @@ protected:
     long PtToCol(CPoint point) const;
 
     DECLARE_MESSAGE_MAP()
+    // The boxes in the clip box, with captions of several lines.
     afx_msg void OnPaint();
+    // Takes the focus, which ends an edit, and the capture; selects a column or begins a drag.
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
+    // Carries a drag on.
     afx_msg void OnMouseMove(UINT flags, CPoint point);
+    // The two-headed arrow at an edge that can be dragged.
     afx_msg BOOL OnSetCursor(CWnd* wnd, UINT hitTest, UINT message);
+    // Carries a drag out and gives the focus back to the grid.
     afx_msg void OnLButtonUp(UINT flags, CPoint point);
+    // Selects the column under the point, unless it is selected, and calls OnRClickCol.
     afx_msg void OnRButtonUp(UINT flags, CPoint point);
+    // Takes the mark off and forgets the drag.
     afx_msg void OnCaptureChanged(CWnd* newCapture);
 
 private:
     // Moves the origin of `context` to the grid's horizontal scroll position.
     void PrepareContext(CDC& context) const;
+    // The box of a column and its caption, in the column's alignment.
     void DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const;
 
     // Mouse.
@@ -69,12 +86,19 @@ private:
     void DropAt(long to);
     void CancelDrag();
 
+    // The fields up to markX keep this order, for hosts that were compiled with it.
+    // The grid that owns the window; never null.
     TGGrid* grid;
+    // The background, in the colour of buttons.
     CBrush bkBrush;
+    // The selected columns are dragged; an edge is dragged. Never both.
     bool moving = false;
     bool resizing = false;
+    // The column whose right edge is, or was last, dragged.
     long resizeCol = -1;
+    // The logical x of the mark that is inverted across the cells, -1 while there is none.
     long markX = -1;
+    // The window class with that background.
     BrushWindowClass windowClass;
 };
 

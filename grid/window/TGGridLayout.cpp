@@ -6,6 +6,7 @@
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
+#include "grid/model/ScopedValue.h"
 
 #include <algorithm>
 
@@ -17,15 +18,6 @@ namespace
 
 // Set while any grid of the process is laid out: showing a scroll bar sends WM_SIZE, which asks for a layout.
 bool layingOut = false;
-
-class LayoutGuard
-{
-public:
-    LayoutGuard() { layingOut = true; }
-    ~LayoutGuard() { layingOut = false; }
-    LayoutGuard(const LayoutGuard&) = delete;
-    LayoutGuard& operator=(const LayoutGuard&) = delete;
-};
 
 void PlaceChild(CWnd* child, const CRect& place)
 {
@@ -120,7 +112,7 @@ void TGGrid::RecalcLayout(int redraw)
 
 void TGGrid::Layout::PerformLayout(int redraw)
 {
-    const LayoutGuard guard;
+    const ScopedValue guard(layingOut, true);
     grid.layoutPending = false;
     if (grid.IsEditing())
         grid.EndEditCell();

@@ -5,30 +5,12 @@
 #include "grid/TGCellCtrl.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
+#include "grid/model/ScopedValue.h"
 
 #include <algorithm>
 
 namespace QuorUiCtr
 {
-
-namespace
-{
-
-// Sets a flag for the length of a scope, also when a hook throws.
-class FlagGuard
-{
-public:
-    explicit FlagGuard(bool& guarded) : flag(guarded), before(guarded) { flag = true; }
-    ~FlagGuard() { flag = before; }
-    FlagGuard(const FlagGuard&) = delete;
-    FlagGuard& operator=(const FlagGuard&) = delete;
-
-private:
-    bool& flag;
-    bool before;
-};
-
-} // namespace
 
 void TGGrid::OnPaint()
 {
@@ -59,7 +41,7 @@ void TGGrid::Refresh()
         return;
     }
     {
-        const FlagGuard guard(refreshing);
+        const ScopedValue guard(refreshing, true);
         const RowRange visible = VisibleRows();
         DrawRows(visible.first, visible.last);
         if (GetRowNum() <= visible.last && IsAppendRowShown() && newRow != nullptr)

@@ -1,8 +1,8 @@
 // The report list's columns, mouse, keys and requests to edit; painting is in CGridListCtrlPaint.cpp.
 #include "controls/CGridListCtrl.h"
 
-#include "controls/ListGeometry.h"
 #include "controls/WindowLife.h"
+#include "rules/ListGeometry.h"
 
 using namespace QuorUiCtr;
 

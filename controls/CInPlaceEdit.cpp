@@ -1,8 +1,8 @@
 // The editor of one cell: creation, keys, growth and the report to the owner.
 #include "controls/CInPlaceEdit.h"
 
-#include "controls/ListGeometry.h"
 #include "controls/WindowLife.h"
+#include "rules/ListGeometry.h"
 
 using namespace QuorUiCtr;
 
@@ -158,7 +158,7 @@ void CInPlaceEdit::CalculateSize()
         ShowScrollBar(SB_VERT, TRUE);
     if (!grown.needsRoom)
         return;
-    MoveWindow(grown.rectangle, TRUE);
+    MoveWindow(grown.rectangle.As<CRect>(), TRUE);
     if (grown.rectangle.right > place.right && !IsMultiLine() && IsStillWindow(this, window))
         ScrollBack();
 }

@@ -2,9 +2,10 @@
 #include "propgrid/CMFCPropertyGridCtrlEx.h"
 
 #include "propgrid/ComboProperty.h"
-#include "propgrid/ComboSpecification.h"
+#include "rules/ComboSpecification.h"
 
 #include <cstdlib>
+#include <string>
 
 IMPLEMENT_DYNAMIC(CMFCPropertyGridCtrlEx, CMFCPropertyGridCtrl)
 
@@ -139,9 +140,13 @@ void CMFCPropertyGridCtrlEx::AddComboStringSubItem(CMFCPropertyGridProperty* par
 void CMFCPropertyGridCtrlEx::AddComboSubItem(CMFCPropertyGridProperty* parent, CString name,
                                              CString specification)
 {
-    ComboSpecification parts;
-    if (ParseComboSpecification(specification, parts))
-        AddComboStringSubItem(parent, name, parts.value, parts.options, parts.description);
+    const auto parts = QuorUiCtr::ParseComboSpecification(specification.GetString());
+    if (!parts)
+        return;
+    CArray<CString, const CString&> options;
+    for (const std::wstring& option : parts->options)
+        options.Add(option.c_str());
+    AddComboStringSubItem(parent, name, parts->value.c_str(), options, parts->description.c_str());
 }
 
 int CMFCPropertyGridCtrlEx::GetOptionItemCurSel(CString title)

@@ -50,7 +50,7 @@ check_content() {
         share/licenses/QuorUiCtrl/LICENSE $package_dir/{QuorUiCtrlConfig,mingw-w64}.cmake; do
         [[ -s $prefix/$file ]] || die "the package lacks $file"
     done
-    for file in grid/window/GridGeometry.h grid/model/GridStructure.h controls/ListGeometry.h treedrag/TreeDragRules.h; do
+    for file in grid/window/GridLayout.h grid/model/GridStructure.h rules/ListGeometry.h treedrag/TreeWatch.h; do
         [[ ! -e $prefix/include/QuorUiCtrl/$file ]] || die "the package has the private header $file"
     done
     ! grep -rlF "$quor_root" "$prefix" || die "these files name a path of this machine"

@@ -1,9 +1,10 @@
 // Commands on the selected item, names and the editing of labels.
 #include "treedrag/CTreeCtrlDrag.h"
 
-#include "treedrag/TreeDragRules.h"
 #include "treedrag/TreeWatch.h"
+#include "rules/TreeDragRules.h"
 
+#include <string>
 #include <vector>
 
 namespace QuorUiCtr
@@ -58,7 +59,7 @@ BOOL CTreeCtrlDrag::IsUniqueNameOnThisLevel(const CString& name, HTREEITEM exclu
     const bool isRootLevel = parent == nullptr || parent == TVI_ROOT;
     HTREEITEM sibling = isRootLevel ? GetRootItem() : GetChildItem(parent);
     for (; sibling != nullptr; sibling = GetNextSiblingItem(sibling))
-        if (sibling != exclude && IsSameName(GetItemText(sibling), name))
+        if (sibling != exclude && GetItemText(sibling).CompareNoCase(name) == 0)
             return FALSE;
     return TRUE;
 }
@@ -114,10 +115,11 @@ HTREEITEM CTreeCtrlDrag::InsertFolder()
         parent = ParentOrRoot(selected);
         after = selected;
     }
-    const CString name = FreeFolderName(NewFolderName, [&](const CString& candidate) {
-        return !noDuplicates || IsUniqueNameOnThisLevel(candidate, nullptr, parent);
+    const std::wstring name = FreeFolderName(NewFolderName, [&](const std::wstring& candidate) {
+        return !noDuplicates || IsUniqueNameOnThisLevel(candidate.c_str(), nullptr, parent);
     });
-    return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, name, 0, 0, 0, 0, 0, parent, after);
+    return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, name.c_str(), 0, 0, 0, 0, 0, parent,
+                      after);
 }
 
 void CTreeCtrlDrag::RenameSelected()

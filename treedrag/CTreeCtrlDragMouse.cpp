@@ -1,8 +1,8 @@
 // Dragging with the mouse: begin, tracking, automatic scrolling and opening of folders, end.
 #include "treedrag/CTreeCtrlDrag.h"
 
-#include "treedrag/TreeDragRules.h"
 #include "treedrag/TreeWatch.h"
+#include "rules/TreeDragRules.h"
 
 namespace QuorUiCtr
 {

@@ -1,7 +1,6 @@
 // Painting: the tree's own picture through a buffer, and the labels and the insertion line of a drag.
 #include "treedrag/CTreeCtrlDrag.h"
-
-#include "treedrag/TreeDragRules.h"
+#include "rules/TreeDragRules.h"
 
 #include <algorithm>
 
@@ -101,8 +100,8 @@ void CTreeCtrlDrag::DrawDropTargetLine(CRect rect, CDC* context)
     CPen* previousPen = context->SelectObject(&pen);
     for (const LineStroke& stroke : InsertionLine(rect, client.right, dropAbove != FALSE))
     {
-        context->MoveTo(stroke.from);
-        context->LineTo(stroke.to);
+        context->MoveTo(stroke.from.As<CPoint>());
+        context->LineTo(stroke.to.As<CPoint>());
     }
     context->SelectObject(previousPen);
 }

@@ -7,7 +7,7 @@
 #include "grid/TGGrid.h"
 
 #include "grid/model/RowWatch.h"
-#include "grid/input/SelectedIndices.h"
+#include "rules/SelectedIndices.h"
 
 namespace QuorUiCtr
 {

@@ -1,6 +1,6 @@
 // Taking many rows out of the grid as one change.
 #include "grid/model/GridStructure.h"
-#include "grid/input/SelectedIndices.h"
+#include "rules/SelectedIndices.h"
 
 #include <algorithm>
 #include <unordered_set>

@@ -5,7 +5,7 @@
 #include "grid/model/GridStructure.h"
 
 #include "grid/model/RowWatch.h"
-#include "grid/input/SelectedIndices.h"
+#include "rules/SelectedIndices.h"
 
 #include <algorithm>
 #include <memory>

@@ -2,9 +2,9 @@
 // the tree is in TGGridTreeStructure.cpp.
 #include "grid/TGGridTreeRow.h"
 
-#include "grid/window/GridGeometry.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
+#include "rules/GridGeometry.h"
 
 namespace QuorUiCtr
 {
@@ -208,7 +208,7 @@ void TGGridTreeRow::GetTreeQuad(CRect& rect)
     TGGrid& owner = GetGrid();
     const auto first = owner.cols.begin();
     const long left = first != owner.cols.end() && *first != nullptr ? (*first)->GetLeft() : 0;
-    rect = TreeQuadRect(left, GetIndex(), GetParentNum(), owner.GetRowHeight());
+    rect = TreeQuadRect(left, GetIndex(), GetParentNum(), owner.GetRowHeight()).As<CRect>();
 }
 
 bool TGGridTreeRow::IsPtInTreeQuad(CPoint& point)

@@ -2,8 +2,8 @@
 #include "grid/TGGridCell.h"
 
 #include "grid/edit/CellWatch.h"
-#include "grid/window/GridGeometry.h"
 #include "grid/TGGrid.h"
+#include "rules/GridGeometry.h"
 
 namespace QuorUiCtr
 {
@@ -55,20 +55,20 @@ void TGGridCell::Refresh()
     Draw(*owner.GetDC());
     CRect cell;
     GetRect(cell);
-    owner.InvertSelectionIn(CellOutlineRect(cell));
+    owner.InvertSelectionIn(CellOutlineRect(cell).As<CRect>());
 }
 
 void TGGridCell::Draw(CDC& context) const
 {
     CRect cell;
     GetRect(cell);
-    const CRect outline = CellOutlineRect(cell);
+    const CRect outline = CellOutlineRect(cell).As<CRect>();
     if (!context.RectVisible(&outline))
         return;
     context.Rectangle(&outline);
-    const CRect inside = CellInsideRect(cell);
+    const CRect inside = CellInsideRect(cell).As<CRect>();
     context.FillSolidRect(&inside, context.GetBkColor());
-    CRect textRect = CellTextRect(cell, grid->GetRowSpace());
+    CRect textRect = CellTextRect(cell, grid->GetRowSpace()).As<CRect>();
     if (col->GetIndex() == 0 && row->IsTreeRow())
         textRect.left += DrawTreeDecoration(context, cell) - inside.left;
     DrawCellText(context, textRect);

@@ -1,12 +1,12 @@
 // TGGrid's layout: measures, scroll bars, header placement, the new-row line, the prepared drawing context
 // and the bracket that makes many changes as one.
-#include "grid/window/GridGeometry.h"
 #include "grid/window/GridLayout.h"
 #include "grid/headers/HeaderBox.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 #include "grid/model/ScopedValue.h"
+#include "rules/GridGeometry.h"
 
 #include <algorithm>
 
@@ -51,7 +51,7 @@ long TGGrid::GetColHeaderHeight()
 {
     long lines = 1;
     for (const TGGridCol* col : cols)
-        lines = (std::max)(lines, CaptionLineCount(col->GetName()));
+        lines = (std::max)(lines, static_cast<long>(CaptionLineCount(col->GetName().GetString())));
     return GetRowHeight() * lines;
 }
 
@@ -143,8 +143,8 @@ void TGGrid::Layout::LayOutScrollBars()
     const ScrollBarPlan plan = PlanScrollBars(content, area.Size(), barWidth, barHeight);
     const int hPosition = grid.BarPosition(SB_HORZ);
     const int vPosition = grid.BarPosition(SB_VERT);
-    LayOutBar(SB_HORZ, plan.horizontal, hPosition, content.cx - plan.area.cx);
-    LayOutBar(SB_VERT, plan.vertical, vPosition, content.cy - plan.area.cy);
+    LayOutBar(SB_HORZ, plan.horizontal, hPosition, content.cx - plan.area.width);
+    LayOutBar(SB_VERT, plan.vertical, vPosition, content.cy - plan.area.height);
     grid.hScrollShown = plan.horizontal;
     grid.vScrollShown = plan.vertical;
 }

@@ -1,11 +1,11 @@
 // TGGrid's painting: the visible rows, the new-row line, the selection, and the colours of an open editor.
 #include "grid/TGGrid.h"
 
-#include "grid/input/SelectedIndices.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 #include "grid/model/ScopedValue.h"
+#include "rules/SelectedIndices.h"
 
 #include <algorithm>
 

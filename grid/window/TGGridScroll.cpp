@@ -1,11 +1,28 @@
 // TGGrid's scrolling: moving the view, bringing rectangles into view, scroll bar and wheel messages.
-#include "grid/window/GridGeometry.h"
 #include "grid/window/GridLayout.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
+#include "rules/GridGeometry.h"
 
 namespace QuorUiCtr
 {
+
+namespace
+{
+
+constexpr bool IsNumbered(ScrollCode code, int number)
+{
+    return static_cast<int>(code) == number;
+}
+
+static_assert(IsNumbered(ScrollCode::LineBack, SB_LINEUP) &&
+              IsNumbered(ScrollCode::LineForward, SB_LINEDOWN));
+static_assert(IsNumbered(ScrollCode::PageBack, SB_PAGEUP) &&
+              IsNumbered(ScrollCode::PageForward, SB_PAGEDOWN));
+static_assert(IsNumbered(ScrollCode::First, SB_TOP) && IsNumbered(ScrollCode::Last, SB_BOTTOM));
+static_assert(IsNumbered(ScrollCode::Track, SB_THUMBTRACK));
+
+} // namespace
 
 void TGGrid::MoveView(int dx, int dy)
 {
@@ -95,7 +112,7 @@ void TGGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar)
     GetClientRect(&area);
     request.line = GetRowHeight();
     request.page = area.Height();
-    MoveView(0, VerticalScrollTarget(code, request) - request.position);
+    MoveView(0, VerticalScrollTarget(static_cast<ScrollCode>(code), request) - request.position);
     CWnd::OnVScroll(code, position, bar);
     SetFocus();
 }
@@ -107,7 +124,7 @@ void TGGrid::OnHScroll(UINT code, UINT position, CScrollBar* bar)
     GetClientRect(&area);
     request.line = GetDefaultWidth();
     request.page = area.Width();
-    MoveView(HorizontalScrollTarget(code, request) - request.position, 0);
+    MoveView(HorizontalScrollTarget(static_cast<ScrollCode>(code), request) - request.position, 0);
     CWnd::OnHScroll(code, position, bar);
     SetFocus();
 }

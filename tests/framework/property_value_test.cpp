@@ -1,22 +1,12 @@
-// Property values as text and back; typing into a mask.
-#include "propertygrid/EditMask.h"
-#include "propertygrid/PropertyValueText.h"
-
-#include <afxcontrolbars.h>
-
-#include <gtest/gtest.h>
+// Property values as text and back.
+#include "tests/support/PropertySheet.h"
 
 #include <string>
 
+using namespace quor::test;
+
 namespace
 {
-
-const quorfx::FlagLabels Labels = {L"Yes", L"No"};
-
-std::wstring Format(const _variant_t& value)
-{
-    return quorfx::FormatValue(value, Labels).GetString();
-}
 
 _variant_t OfType(VARTYPE type)
 {
@@ -25,7 +15,36 @@ _variant_t OfType(VARTYPE type)
     return value;
 }
 
-TEST(PropertyValueText, EachTypeHasItsFormat)
+class PropertyValueText : public PropertySheetTest
+{
+protected:
+    void SetUp() override
+    {
+        PropertySheetTest::SetUp();
+        grid.SetBoolLabels(L"Yes", L"No");
+    }
+
+    // A property in the grid.
+    Property* Added(const _variant_t& value, const wchar_t* name = L"Value")
+    {
+        return Add(texts, new Property(name, value));
+    }
+    std::wstring Format(const _variant_t& value) { return Text(Added(value)); }
+    // Gives the text to a property through the editor of a list that it is the only part of, because not
+    // every type has an editor of its own for any text.
+    void EnterIntoListOf(Property* part, const wchar_t* text)
+    {
+        auto* const list = new Property(L"List", 0, TRUE);
+        list->AddSubItem(part);
+        grid.AddProperty(list);
+        ASSERT_TRUE(grid.EditItem(list));
+        ASSERT_NE(Editor(), nullptr);
+        Editor()->SetWindowText(text);
+        grid.EndEditItem();
+    }
+};
+
+TEST_F(PropertyValueText, EachTypeHasItsFormat)
 {
     EXPECT_EQ(Format(_variant_t(L"plain, with 100%")), L"plain, with 100%");
     EXPECT_EQ(Format(_variant_t(static_cast<short>(-3))), L"-3");
@@ -44,15 +63,15 @@ TEST(PropertyValueText, EachTypeHasItsFormat)
     EXPECT_EQ(Format(_variant_t(12345678901LL)), L"12345678901") << "other types as the system writes them";
 }
 
-TEST(PropertyValueText, AnUnusualTypeHasNoTextAndIsNotEdited)
+TEST_F(PropertyValueText, OfAnUnusualType_HasNoTextAndIsNotEdited)
 {
     _variant_t array;
     array.vt = VT_ARRAY | VT_UI1;
     array.parray = ::SafeArrayCreateVector(VT_UI1, 0, 4);
-    EXPECT_EQ(Format(array), L"");
-    EXPECT_FALSE(quorfx::IsEditableType(array.vt));
-    EXPECT_FALSE(quorfx::IsEditableType(VT_I8));
-    EXPECT_FALSE(quorfx::ParseValue(L"1", Labels, array));
+    Property* const property = Added(array);
+    EXPECT_EQ(Text(property), L"");
+    EXPECT_FALSE(grid.EditItem(property));
+    EXPECT_FALSE(grid.EditItem(Added(_variant_t(12LL))));
 }
 
 struct Reading
@@ -94,106 +113,31 @@ constexpr Reading Readings[] = {
     {VT_BOOL, L"true", NULL},
 };
 
-TEST(PropertyValueText, TextIsReadByTheType)
+TEST_F(PropertyValueText, IsReadByItsType)
 {
     for (const Reading& reading : Readings)
     {
         SCOPED_TRACE(testing::Message()
                      << reading.type << " \"" << CStringA(reading.text).GetString() << '"');
-        _variant_t value = OfType(reading.type);
-        const std::wstring before = Format(value);
-        const bool read = quorfx::ParseValue(reading.text, Labels, value);
-        EXPECT_EQ(read, reading.result != NULL);
-        EXPECT_EQ(Format(value), reading.result != NULL ? reading.result : before);
-        EXPECT_EQ(value.vt, reading.type);
+        auto* const part = new Property(L"Part", OfType(reading.type));
+        const std::wstring before = Text(part);
+        EnterIntoListOf(part, reading.text);
+        const bool isFlag = reading.type == VT_BOOL;
+        EXPECT_EQ(Text(part), reading.result != NULL ? reading.result : isFlag ? L"No" : before);
+        EXPECT_EQ(part->GetValue().vt, reading.type);
     }
 }
 
-TEST(PropertyValueText, ATextReplacesATextAndFreesIt)
+TEST_F(PropertyValueText, ATextReplacesATextAndFreesIt)
 {
-    _variant_t value(L"old");
-    EXPECT_TRUE(quorfx::ParseValue(L"", Labels, value));
-    EXPECT_EQ(Format(value), L"");
-    EXPECT_TRUE(quorfx::ParseValue(L"new", Labels, value));
-    EXPECT_EQ(Format(value), L"new");
-}
-
-// ---- Masks.
-
-const quorfx::EditMask Phone(L" ddd  ddd", L"(___) ___", L"");
-
-std::wstring Typed(const quorfx::EditMask& mask, const wchar_t* start, const wchar_t* characters)
-{
-    CString text = mask.Complete(start);
-    int caret = 0;
-    for (; *characters != 0; ++characters)
-        mask.Type(text, caret, *characters);
-    return text.GetString();
-}
-
-TEST(EditMask, CompletesATextToItsTemplate)
-{
-    EXPECT_EQ(Phone.Complete(L""), L"(___) ___");
-    EXPECT_EQ(Phone.Complete(L"(12x) 4"), L"(12_) 4__");
-    EXPECT_EQ(Phone.Complete(L"(123) 456 and more"), L"(123) 456");
-}
-
-TEST(EditMask, TypesOverTheFixedCharacters)
-{
-    EXPECT_EQ(Typed(Phone, L"", L"123456"), L"(123) 456");
-    EXPECT_EQ(Typed(Phone, L"", L"1a2b3"), L"(123) ___");
-    EXPECT_EQ(Typed(Phone, L"(999) 999", L"1234567"), L"(123) 456");
-}
-
-TEST(EditMask, EachMaskCharacterHasItsKind)
-{
-    const struct
-    {
-        wchar_t kind;
-        const wchar_t* fits;
-        const wchar_t* doesNot;
-    } kinds[] = {
-        {L'D', L"09", L" a-"}, {L'd', L"0 ", L"a+"}, {L'+', L"5 +-", L"a."}, {L'C', L"aZ", L"1 "},
-        {L'c', L"a ", L"1"},   {L'A', L"a1", L" -"}, {L'a', L"a1 ", L"-"},   {L'*', L"a1 -~", L"\t"},
-    };
-    for (const auto& kind : kinds)
-    {
-        const quorfx::EditMask mask(CString(kind.kind), L"_", L"");
-        for (const wchar_t* c = kind.fits; *c != 0; ++c)
-            EXPECT_EQ(Typed(mask, L"", CString(*c)), std::wstring(1, *c))
-                << static_cast<int>(kind.kind) << " " << static_cast<int>(*c);
-        for (const wchar_t* c = kind.doesNot; *c != 0; ++c)
-            EXPECT_EQ(Typed(mask, L"", CString(*c)), L"_")
-                << static_cast<int>(kind.kind) << " " << static_cast<int>(*c);
-    }
-}
-
-TEST(EditMask, ValidCharactersNarrowTheMaskAndWorkAlone)
-{
-    EXPECT_EQ(Typed(quorfx::EditMask(L"DD", L"__", L"01"), L"", L"201"), L"01");
-    const quorfx::EditMask alone(L"", L"", L"abc");
-    EXPECT_FALSE(alone.HasMask());
-    EXPECT_TRUE(alone.IsValid(L'b'));
-    EXPECT_FALSE(alone.IsValid(L'd'));
-}
-
-TEST(EditMask, ErasesToTheTemplateAndFindsFreePositions)
-{
-    CString text = L"(123) 456";
-    Phone.Erase(text, 2, 7);
-    EXPECT_EQ(text, L"(1__) _56");
-    Phone.Erase(text, -5, 100);
-    EXPECT_EQ(text, L"(___) ___");
-    EXPECT_EQ(Phone.FreeFrom(0), 1);
-    EXPECT_EQ(Phone.FreeFrom(4), 6);
-    EXPECT_EQ(Phone.FreeFrom(50), 9);
-    EXPECT_EQ(Phone.FreeBefore(6), 3);
-    EXPECT_EQ(Phone.FreeBefore(1), -1);
-}
-
-TEST(EditMask, AMaskOfAnotherLengthThanItsTemplateIsNone)
-{
-    EXPECT_FALSE(quorfx::EditMask(L"DD", L"___", L"").HasMask());
+    ASSERT_TRUE(grid.EditItem(title));
+    Editor()->SetWindowText(L"");
+    grid.EndEditItem();
+    EXPECT_EQ(Text(title), L"");
+    ASSERT_TRUE(grid.EditItem(title));
+    Editor()->SetWindowText(L"new");
+    grid.EndEditItem();
+    EXPECT_EQ(Text(title), L"new");
 }
 
 } // namespace

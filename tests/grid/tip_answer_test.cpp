@@ -1,51 +1,54 @@
-// The text of tool tips: formatted with itself, fitted into its buffer, safe for every text.
-#include "grid/window/TipAnswer.h"
-
-#include <gtest/gtest.h>
+// The tips of the grid's windows, as the platform formats them: with themselves, safe for every text.
+#include "tests/grid/WindowGrid.h"
 
 #include <cstdlib>
-#include <cstring>
-#include <memory>
 #include <random>
 #include <string>
 
 using namespace QuorUiCtr;
+using namespace quor::test;
 
 namespace
 {
 
-struct FreeMemory
+// Every cell has the tip.
+class OneTipGrid : public WindowGrid
 {
-    void operator()(wchar_t* memory) const { std::free(memory); }
+public:
+    CString tip;
+
+protected:
+    bool OnCellTip(long, long, CString& text) const override
+    {
+        text = tip;
+        return true;
+    }
 };
 
-std::wstring TipText(const CString& tip)
+class TipAnswer : public GridWindowTest
 {
-    const std::unique_ptr<wchar_t, FreeMemory> text(MakeTipText(tip));
-    return text.get();
-}
+protected:
+    void SetUp() override
+    {
+        Create(grid);
+        Fill(grid, 2, 2);
+    }
 
-TEST(TipAnswer, PlainText_IsKept)
-{
-    EXPECT_EQ(L"", TipText(L""));
-    EXPECT_EQ(L"A tip", TipText(L"A tip"));
-    EXPECT_EQ(L"\u884C 1", TipText(L"\u884C 1"));
-}
+    std::wstring TipText(const CString& tip)
+    {
+        grid.tip = tip;
+        TOOLINFO info = {};
+        info.cbSize = sizeof info;
+        EXPECT_EQ(0, grid.OnToolHitTest(grid.ToClient(50, 10), &info));
+        const std::wstring text = info.lpszText;
+        std::free(info.lpszText);
+        return text;
+    }
 
-TEST(TipAnswer, TextOfNineteenUnits_IsKept_AndALongerOneIsCut)
-{
-    EXPECT_EQ(L"1234567890123456789", TipText(L"1234567890123456789"));
-    EXPECT_EQ(L"1234567890123456789", TipText(L"12345678901234567890"));
-    EXPECT_EQ(std::wstring(19, L'x'), TipText(CString(L'x', 100000)));
-}
+    OneTipGrid grid;
+};
 
-TEST(TipAnswer, Cut_DoesNotSplitASurrogatePair)
-{
-    EXPECT_EQ(L"123456789012345678", TipText(L"123456789012345678\U0001F600"));
-    EXPECT_EQ(L"12345678901234567\U0001F600", TipText(L"12345678901234567\U0001F600x"));
-}
-
-TEST(TipAnswer, Text_IsItsOwnFormat)
+TEST_F(TipAnswer, Text_IsItsOwnFormat)
 {
     EXPECT_EQ(L"100% sure", TipText(L"100%% sure"));
     EXPECT_EQ(L"0 of 0", TipText(L"%d of %u"));
@@ -54,7 +57,7 @@ TEST(TipAnswer, Text_IsItsOwnFormat)
     EXPECT_EQ(L"0   |", TipText(L"%-4d|"));
 }
 
-TEST(TipAnswer, Strings_ReadNothing)
+TEST_F(TipAnswer, Strings_ReadNothing)
 {
     EXPECT_EQ(L"(null)", TipText(L"%s"));
     EXPECT_EQ(L"(null)", TipText(L"%hs"));
@@ -63,20 +66,20 @@ TEST(TipAnswer, Strings_ReadNothing)
     EXPECT_EQ(L"(null)(null)(null)(", TipText(L"%s%s%s%s%s%s%s%s%s%s%s%s"));
 }
 
-TEST(TipAnswer, ZeroCharacter_EndsTheText)
+TEST_F(TipAnswer, ZeroCharacter_EndsTheText)
 {
     EXPECT_EQ(L"x", TipText(L"x%cy"));
     EXPECT_EQ(L"x", TipText(L"x%cy%d"));
     EXPECT_EQ(L"", TipText(L"%lc"));
 }
 
-TEST(TipAnswer, LonePercentAtTheEnd_IsDropped)
+TEST_F(TipAnswer, LonePercentAtTheEnd_IsDropped)
 {
     EXPECT_EQ(L"100", TipText(L"100%"));
     EXPECT_EQ(L"", TipText(L"%"));
 }
 
-TEST(TipAnswer, LargeWidths_FillTheTipAndNoMore)
+TEST_F(TipAnswer, LargeWidths_FillTheTipAndNoMore)
 {
     EXPECT_EQ(std::wstring(19, L' '), TipText(L"%2000d"));
     EXPECT_EQ(std::wstring(19, L'0'), TipText(L"%.2000d"));
@@ -85,7 +88,7 @@ TEST(TipAnswer, LargeWidths_FillTheTipAndNoMore)
     EXPECT_EQ(19u, TipText(L"%#5000.5000X%#5000X%s").length());
 }
 
-TEST(TipAnswer, ThousandsOfConversions_AreSafe)
+TEST_F(TipAnswer, ThousandsOfConversions_AreSafe)
 {
     CString tip;
     for (int i = 0; i < 5000; ++i)
@@ -93,7 +96,7 @@ TEST(TipAnswer, ThousandsOfConversions_AreSafe)
     EXPECT_EQ(L"", TipText(tip));
 }
 
-TEST(TipAnswer, AnyText_FitsItsBuffer)
+TEST_F(TipAnswer, AnyText_FitsItsBuffer)
 {
     const unsigned seed = 20;
     SCOPED_TRACE("seed " + std::to_string(seed));
@@ -108,25 +111,24 @@ TEST(TipAnswer, AnyText_FitsItsBuffer)
     }
 }
 
-TEST(TipAnswer, Answer_NamesTheWindowAndAddsItsFlags)
+TEST_F(TipAnswer, NamesTheWindowAndAddsItsFlags)
 {
-    CWnd window;
-    ASSERT_TRUE(window.CreateEx(0, L"STATIC", L"", WS_POPUP, CRect(0, 0, 10, 10), nullptr, 0));
+    grid.tip = L"Tip";
     TOOLINFO info = {};
+    info.cbSize = sizeof info;
     info.uFlags = TTF_SUBCLASS;
-    EXPECT_EQ(37, AnswerTip(window, L"Tip", 37, TTF_CENTERTIP, &info));
-    const std::unique_ptr<wchar_t, FreeMemory> text(info.lpszText);
-    EXPECT_STREQ(L"Tip", text.get());
-    EXPECT_EQ(window.m_hWnd, info.hwnd);
-    EXPECT_EQ(reinterpret_cast<UINT_PTR>(window.m_hWnd), info.uId);
-    EXPECT_EQ(TTF_SUBCLASS | TTF_IDISHWND | TTF_CENTERTIP | 0x80000000u | 0x40000000u, info.uFlags);
-    window.DestroyWindow();
+    EXPECT_EQ(11, grid.OnToolHitTest(grid.ToClient(150, 30), &info));
+    EXPECT_STREQ(L"Tip", info.lpszText);
+    EXPECT_EQ(grid.m_hWnd, info.hwnd);
+    EXPECT_EQ(reinterpret_cast<UINT_PTR>(grid.m_hWnd), info.uId);
+    EXPECT_EQ(TTF_SUBCLASS | TTF_IDISHWND | 0x80000000u | 0x40000000u, info.uFlags);
+    std::free(info.lpszText);
 }
 
-TEST(TipAnswer, Answer_WithoutAPlaceForIt_IsTheNumber)
+TEST_F(TipAnswer, WithoutAPlaceForIt_IsTheNumber)
 {
-    const CWnd window;
-    EXPECT_EQ(4, AnswerTip(window, L"Tip", 4, 0, nullptr));
+    grid.tip = L"Tip";
+    EXPECT_EQ(11, grid.OnToolHitTest(grid.ToClient(150, 30), nullptr));
 }
 
 } // namespace

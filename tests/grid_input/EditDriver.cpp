@@ -1,7 +1,6 @@
 // A user who edits cells with mouse and keyboard.
 #include "EditDriver.h"
-
-#include "grid/window/GridGeometry.h"
+#include "rules/GridGeometry.h"
 
 #include <stdexcept>
 
@@ -89,7 +88,7 @@ void EditDriver::ChooseItem(int item)
 
 void EditDriver::ClickFoldBox(long row, long depth)
 {
-    const CRect box = QuorUiCtr::TreeQuadRect(0, row, depth, grid.GetRowHeight());
+    const CRect box = QuorUiCtr::TreeQuadRect(0, row, depth, grid.GetRowHeight()).As<CRect>();
     Click(grid, grid.ToClient(box.CenterPoint().x, box.CenterPoint().y));
 }
 

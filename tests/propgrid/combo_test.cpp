@@ -1,14 +1,11 @@
 // CMFCPropertyGridCtrlEx: combo properties, their compact text and their current option.
 #include "propgrid/CMFCPropertyGridCtrlEx.h"
-#include "propgrid/ComboSpecification.h"
 
 #include "tests/support/PropertyHost.h"
 
 #include <gtest/gtest.h>
 
 #include <memory>
-#include <optional>
-#include <random>
 
 using namespace quor::test;
 
@@ -194,74 +191,6 @@ TEST_F(Combos, AnOptionOfANumberMatchesItsText)
     EXPECT_EQ(grid.GetOptionItemCurSel(L"Number"), 1);
     grid.SetOptionItemCurSel(L"Number", 0);
     EXPECT_EQ(number->GetValue().lVal, 10) << "a text is no number";
-}
-
-// ---- Random compact texts against a parser that goes character by character.
-
-struct Reference
-{
-    std::wstring value;
-    std::vector<std::wstring> options;
-    std::wstring description;
-};
-
-std::optional<Reference> ReadSlowly(const std::wstring& text)
-{
-    Reference result;
-    size_t at = 0;
-    const auto takeUntil = [&](wchar_t end, std::wstring& taken) {
-        taken.clear();
-        while (at < text.size() && text[at] != end)
-            taken += text[at++];
-        return at < text.size() && text[at++] == end;
-    };
-    std::wstring skipped;
-    std::wstring list;
-    if (!takeUntil(L',', result.value))
-        return std::nullopt;
-    if (!takeUntil(L'<', skipped) || skipped.find(L'>') != std::wstring::npos || !takeUntil(L'>', list))
-        return std::nullopt;
-    if (!takeUntil(L'[', skipped) || skipped.find(L']') != std::wstring::npos ||
-        !takeUntil(L']', result.description))
-        return std::nullopt;
-    result.options.emplace_back();
-    for (const wchar_t c : list)
-    {
-        if (c == L',')
-            result.options.emplace_back();
-        else
-            result.options.back() += c;
-    }
-    return result;
-}
-
-TEST(ComboSpecificationFuzz, RandomTextsReadLikeTheReference)
-{
-    constexpr unsigned Seed = 20261121;
-    std::mt19937 random(Seed);
-    constexpr wchar_t Characters[] = L",,,<<>>[]ab \x4E2D";
-    std::uniform_int_distribution<size_t> character(0, std::size(Characters) - 2);
-    std::uniform_int_distribution<int> length(0, 24);
-    int accepted = 0;
-    for (int i = 0; i < 30000; ++i)
-    {
-        std::wstring text;
-        for (int n = length(random); n > 0; --n)
-            text += Characters[character(random)];
-        const std::optional<Reference> expected = ReadSlowly(text);
-        ComboSpecification parts;
-        const bool read = ParseComboSpecification(text.c_str(), parts);
-        ASSERT_EQ(read, expected.has_value()) << "seed " << Seed << " round " << i;
-        if (!read)
-            continue;
-        ++accepted;
-        ASSERT_EQ(Wide(parts.value), expected->value) << i;
-        ASSERT_EQ(Wide(parts.description), expected->description) << i;
-        ASSERT_EQ(parts.options.GetCount(), static_cast<INT_PTR>(expected->options.size())) << i;
-        for (INT_PTR option = 0; option < parts.options.GetCount(); ++option)
-            ASSERT_EQ(Wide(parts.options[option]), expected->options[static_cast<size_t>(option)]) << i;
-    }
-    EXPECT_GT(accepted, 200) << "enough of them are good to mean something";
 }
 
 } // namespace

@@ -1,6 +1,6 @@
 // CMFCPropertyGridProperty: the in-place editor, its spin button and its drop-down list.
 #include "afxpropertygridctrl.h"
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 #include "propertygrid/PropertyGridWatch.h"
 #include "propertygrid/PropertyInPlaceEdit.h"
 #include "propertygrid/PropertyValueText.h"
@@ -84,7 +84,7 @@ CWnd* CMFCPropertyGridProperty::CreateInPlaceEdit(CRect rectEdit, BOOL& bDefault
     if (!IsEditable())
         return NULL;
     auto edit = std::make_unique<PropertyInPlaceEdit>(
-        quorfx::EditMask(m_strEditMask, m_strEditTempl, m_strValidChars));
+        quorfx::EditMask(m_strEditMask.GetString(), m_strEditTempl.GetString(), m_strValidChars.GetString()));
     const DWORD readOnly = IsTypingAllowed() ? 0 : ES_READONLY;
     if (!edit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | readOnly, rectEdit, m_pWndList,
                       AFX_PROPLIST_ID_INPLACE))
@@ -130,10 +130,10 @@ void CMFCPropertyGridProperty::AdjustInPlaceEditRect(CRect& rectEdit, CRect& rec
         rectEdit.right = m_rectButton.left;
     if (m_bHasSpin && IsTypingAllowed())
     {
-        rectSpin = quorfx::ButtonRectangle(rectEdit);
+        rectSpin = quorfx::ButtonRectangle(rectEdit).As<CRect>();
         rectEdit.right = rectSpin.left;
     }
-    rectEdit = quorfx::EditorRectangle(rectEdit, m_pWndList->GetRowHeight() - 4);
+    rectEdit = quorfx::EditorRectangle(rectEdit, m_pWndList->GetRowHeight() - 4).As<CRect>();
 }
 
 void CMFCPropertyGridProperty::PlaceEditors()

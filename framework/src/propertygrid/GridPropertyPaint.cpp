@@ -1,6 +1,6 @@
 // CMFCPropertyGridProperty: drawing the parts of a row, hit test and tool tips.
 #include "afxpropertygridctrl.h"
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 
 namespace
 {
@@ -10,7 +10,7 @@ constexpr UINT OneLine = DT_SINGLELINE | DT_VCENTER | DT_NOPREFIX | DT_END_ELLIP
 // Draws one line of text in a cell and returns whether it was cut.
 BOOL DrawCellText(CDC& dc, const CString& text, const CRect& cell)
 {
-    CRect rect = quorfx::TextRectangle(cell);
+    CRect rect = quorfx::TextRectangle(cell).As<CRect>();
     if (rect.Width() <= 0)
         return !text.IsEmpty();
     // A text that needs more than the cell has is measured only as far as it is drawn.
@@ -37,7 +37,7 @@ CMFCPropertyGridProperty::ClickArea CMFCPropertyGridProperty::AreaAt(CPoint poin
     const CRect row = GetRect();
     const int indent = m_pWndList->IndentOf(*this);
     const int column = m_pWndList->GetLeftColumnWidth();
-    const CRect name = quorfx::NameRectangle(row, m_pWndList->GetRowHeight(), indent, column);
+    const quorfx::Box name = quorfx::NameRectangle(row, m_pWndList->GetRowHeight(), indent, column);
     const bool isBox = point.x < name.left && point.x >= name.left - m_pWndList->GetRowHeight();
     if (isBox && !m_lstSubItems.IsEmpty())
         return ClickExpandBox;
@@ -46,12 +46,13 @@ CMFCPropertyGridProperty::ClickArea CMFCPropertyGridProperty::AreaAt(CPoint poin
 
 CRect CMFCPropertyGridProperty::ValueRect() const
 {
-    return quorfx::ValueRectangle(GetRect(), m_pWndList->GetLeftColumnWidth());
+    return quorfx::ValueRectangle(GetRect(), m_pWndList->GetLeftColumnWidth()).As<CRect>();
 }
 
 void CMFCPropertyGridProperty::AdjustButtonRect()
 {
-    m_rectButton = m_pWndList != NULL && HasButton() ? quorfx::ButtonRectangle(ValueRect()) : CRect();
+    m_rectButton =
+        m_pWndList != NULL && HasButton() ? quorfx::ButtonRectangle(ValueRect()).As<CRect>() : CRect();
 }
 
 void CMFCPropertyGridProperty::OnDrawName(CDC* pDC, CRect rect)

@@ -1,9 +1,25 @@
 // CMFCPropertyGridCtrl: the keyboard, in the list and in the editors.
 #include "afxpropertygridctrl.h"
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 #include "propertygrid/PropertyGridWatch.h"
 
 #include <cwctype>
+
+using quorfx::NavigationKey;
+
+namespace
+{
+
+constexpr bool IsNumbered(NavigationKey key, int number)
+{
+    return static_cast<int>(key) == number;
+}
+
+static_assert(IsNumbered(NavigationKey::PageUp, VK_PRIOR) && IsNumbered(NavigationKey::PageDown, VK_NEXT));
+static_assert(IsNumbered(NavigationKey::Home, VK_HOME) && IsNumbered(NavigationKey::End, VK_END));
+static_assert(IsNumbered(NavigationKey::Up, VK_UP) && IsNumbered(NavigationKey::Down, VK_DOWN));
+
+} // namespace
 
 UINT CMFCPropertyGridCtrl::OnGetDlgCode()
 {
@@ -49,7 +65,8 @@ void CMFCPropertyGridCtrl::OnSysKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
 
 BOOL CMFCPropertyGridCtrl::OnNavigationKey(UINT nChar)
 {
-    const int row = quorfx::RowAfterKey(nChar, RowOf(m_pSel), RowCount(), VisibleRows());
+    const int row =
+        quorfx::RowAfterKey(static_cast<NavigationKey>(nChar), RowOf(m_pSel), RowCount(), VisibleRows());
     if (row < 0)
         return FALSE;
     SelectRow(row);

@@ -1,6 +1,6 @@
 // CMFCPropertyGridCtrl: rows, areas, columns, fonts and scrolling.
 #include "afxpropertygridctrl.h"
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 #include "propertygrid/PropertyGridWatch.h"
 
 #include <algorithm>
@@ -178,7 +178,7 @@ PropertyGridAreas AreasOf(const CMFCPropertyGridCtrl& grid, int rowCount, int de
     grid.GetClientRect(client);
     const PropertyGridMetrics metrics = {grid.GetRowHeight(), grid.GetHeaderHeight(), descriptionRows,
                                          ::GetSystemMetrics(SM_CXVSCROLL)};
-    return quorfx::ComputeAreas(client.Size(), metrics, rowCount);
+    return quorfx::ComputeAreas(client.Width(), client.Height(), metrics, rowCount);
 }
 
 } // namespace
@@ -195,9 +195,9 @@ void CMFCPropertyGridCtrl::PlaceChildren()
         m_nLayoutWidth = areas.list.Width();
         m_nLeftColumnWidth = quorfx::ClampColumn(m_nLeftColumnWidth, m_nLayoutWidth, m_nRowHeight);
     }
-    PlaceHeader(areas.header);
+    PlaceHeader(areas.header.As<CRect>());
     m_nFirstRow = quorfx::ClampFirstRow(m_nFirstRow, RowCount(), quorfx::FullRows(areas.list, m_nRowHeight));
-    PlaceScrollBar(areas.scrollBar);
+    PlaceScrollBar(areas.scrollBar.As<CRect>());
 }
 
 void CMFCPropertyGridCtrl::PlaceHeader(const CRect& rect)
@@ -235,7 +235,9 @@ void CMFCPropertyGridCtrl::PlaceScrollBar(const CRect& rect)
 CRect CMFCPropertyGridCtrl::GetListRect() const
 {
     PrepareLayout();
-    return m_hWnd == NULL ? CRect() : AreasOf(*this, RowCount(), m_bDescriptionArea ? m_nDescrRows : 0).list;
+    return m_hWnd == NULL
+               ? CRect()
+               : AreasOf(*this, RowCount(), m_bDescriptionArea ? m_nDescrRows : 0).list.As<CRect>();
 }
 
 int CMFCPropertyGridCtrl::GetDescriptionHeight() const
@@ -261,7 +263,7 @@ CRect CMFCPropertyGridCtrl::RowRect(int row) const
 {
     // Asking for the list may move the first row.
     const CRect list = GetListRect();
-    return quorfx::RowRectangle(list, m_nRowHeight, m_nFirstRow, row);
+    return quorfx::RowRectangle(list, m_nRowHeight, m_nFirstRow, row).As<CRect>();
 }
 
 void CMFCPropertyGridCtrl::RedrawRow(int row)

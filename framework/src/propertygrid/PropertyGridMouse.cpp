@@ -1,6 +1,6 @@
 // CMFCPropertyGridCtrl: the mouse, the two lines that can be dragged, hit test and tool tips.
 #include "afxpropertygridctrl.h"
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 #include "propertygrid/PropertyGridWatch.h"
 
 #include <cstdlib>
@@ -250,8 +250,10 @@ INT_PTR CMFCPropertyGridCtrl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const
     if (pTI != NULL)
     {
         pTI->hwnd = m_hWnd;
-        pTI->rect = isValue ? quorfx::ValueRectangle(row, m_nLeftColumnWidth)
-                            : quorfx::NameRectangle(row, m_nRowHeight, IndentOf(*prop), m_nLeftColumnWidth);
+        const quorfx::Box place =
+            isValue ? quorfx::ValueRectangle(row, m_nLeftColumnWidth)
+                    : quorfx::NameRectangle(row, m_nRowHeight, IndentOf(*prop), m_nLeftColumnWidth);
+        pTI->rect = place.As<CRect>();
         pTI->uId = static_cast<UINT_PTR>(RowOf(prop)) * 2 + (isValue ? 1 : 0);
         pTI->lpszText = _wcsdup(text);
     }

@@ -1,7 +1,7 @@
 // CMFCPropertyGridCtrl: painting. Only the rows in the clip box are looked at.
 #include "afxpropertygridctrl.h"
 #include "propertygrid/CustomColor.h"
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 
 namespace
 {
@@ -108,7 +108,7 @@ void CMFCPropertyGridCtrl::DrawRowBackground(CDC& dc, CMFCPropertyGridProperty& 
 
 void CMFCPropertyGridCtrl::DrawName(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& row) const
 {
-    CRect name = quorfx::NameRectangle(row, m_nRowHeight, IndentOf(prop), m_nLeftColumnWidth);
+    CRect name = quorfx::NameRectangle(row, m_nRowHeight, IndentOf(prop), m_nLeftColumnWidth).As<CRect>();
     if (IsWide(prop))
         name.right = row.right;
     const bool isFocused = HasFocusInside(::GetFocus());
@@ -131,7 +131,7 @@ void CMFCPropertyGridCtrl::DrawName(CDC& dc, CMFCPropertyGridProperty& prop, con
 
 void CMFCPropertyGridCtrl::DrawValue(CDC& dc, CMFCPropertyGridProperty& prop, const CRect& row) const
 {
-    CRect value = quorfx::ValueRectangle(row, m_nLeftColumnWidth);
+    CRect value = quorfx::ValueRectangle(row, m_nLeftColumnWidth).As<CRect>();
     prop.AdjustButtonRect();
     const bool hasButton = &prop == m_pSel && prop.HasButton();
     if (hasButton)
@@ -152,7 +152,8 @@ int CMFCPropertyGridCtrl::OnDrawProperty(CDC* pDC, CMFCPropertyGridProperty* pPr
     DrawRowBackground(*pDC, *pProp, row);
     if (!pProp->m_lstSubItems.IsEmpty())
         pProp->OnDrawExpandBox(
-            pDC, quorfx::FoldBoxRectangle(row, m_nRowHeight, IndentOf(*pProp), m_nLeftColumnWidth));
+            pDC,
+            quorfx::FoldBoxRectangle(row, m_nRowHeight, IndentOf(*pProp), m_nLeftColumnWidth).As<CRect>());
     DrawName(*pDC, *pProp, row);
     if (pProp->HasValueField())
         DrawValue(*pDC, *pProp, row);

@@ -94,8 +94,7 @@ void PropertyInPlaceEdit::TypeMasked(wchar_t character)
     int first = 0;
     int last = 0;
     GetSel(first, last);
-    CString text;
-    GetWindowText(text);
+    std::wstring text = Text();
     m_mask.Erase(text, first, last);
     int caret = first;
     if (m_mask.Type(text, caret, character))
@@ -122,15 +121,21 @@ void PropertyInPlaceEdit::EraseSelection()
 
 void PropertyInPlaceEdit::EraseMasked(int first, int last)
 {
-    CString text;
-    GetWindowText(text);
+    std::wstring text = Text();
     m_mask.Erase(text, first, last);
     ShowMasked(text, first);
 }
 
-void PropertyInPlaceEdit::ShowMasked(const CString& text, int caret)
+std::wstring PropertyInPlaceEdit::Text() const
 {
-    SetWindowText(text);
+    CString text;
+    GetWindowText(text);
+    return text.GetString();
+}
+
+void PropertyInPlaceEdit::ShowMasked(const std::wstring& text, int caret)
+{
+    SetWindowText(text.c_str());
     SetSel(caret, caret);
 }
 
@@ -168,8 +173,7 @@ LRESULT PropertyInPlaceEdit::OnPaste(WPARAM, LPARAM)
     int first = 0;
     int last = 0;
     GetSel(first, last);
-    CString text;
-    GetWindowText(text);
+    std::wstring text = Text();
     m_mask.Erase(text, first, last);
     for (int i = 0; i < pasted.GetLength(); ++i)
         m_mask.Type(text, first, pasted[i]);
@@ -200,6 +204,8 @@ LRESULT PropertyInPlaceEdit::OnSetText(WPARAM wParam, LPARAM lParam)
 {
     if (!m_mask.HasMask())
         return Default();
-    const CString complete = m_mask.Complete(reinterpret_cast<LPCWSTR>(lParam));
-    return DefWindowProc(WM_SETTEXT, wParam, reinterpret_cast<LPARAM>(complete.GetString()));
+    // The text may be null.
+    const CString text(reinterpret_cast<LPCWSTR>(lParam));
+    const std::wstring complete = m_mask.Complete(text.GetString());
+    return DefWindowProc(WM_SETTEXT, wParam, reinterpret_cast<LPARAM>(complete.c_str()));
 }

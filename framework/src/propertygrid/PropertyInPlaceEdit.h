@@ -2,7 +2,9 @@
 #pragma once
 
 #include "afxpropertygridctrl.h"
-#include "propertygrid/EditMask.h"
+#include "propertyrules/EditMask.h"
+
+#include <string>
 
 // A child of the grid, to which it gives its keys and the loss of the focus. Characters that the mask refuses
 // are not taken. The property deletes it.
@@ -32,7 +34,8 @@ private:
     void TypeMasked(wchar_t character);
     void EraseMasked(int first, int last);
     void EraseSelection();
-    void ShowMasked(const CString& text, int caret);
+    std::wstring Text() const;
+    void ShowMasked(const std::wstring& text, int caret);
     CString ClipboardText();
 
     quorfx::EditMask m_mask;

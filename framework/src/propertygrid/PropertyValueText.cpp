@@ -2,9 +2,10 @@
 #include "propertygrid/PropertyValueText.h"
 
 #include "afxpropertygridctrl.h"
+#include "propertyrules/NumberText.h"
 
-#include <cerrno>
 #include <cmath>
+#include <optional>
 
 namespace quorfx
 {
@@ -75,25 +76,21 @@ bool ParseFlag(const CString& text, const FlagLabels& labels, VARIANT& value)
 bool ParseInteger(const CString& text, VARIANT& value)
 {
     const IntegerRange& range = *RangeOf(value.vt);
-    wchar_t* end = nullptr;
-    errno = 0;
-    const long long number = std::wcstoll(text, &end, 10);
-    if (end == text.GetString() || errno == ERANGE || number < range.least || number > range.most)
-        return false;
-    SetInteger(value, number);
-    return true;
+    const std::optional<long long> number = ReadInteger(text.GetString(), range.least, range.most);
+    if (number)
+        SetInteger(value, *number);
+    return number.has_value();
 }
 
 bool ParseReal(const CString& text, VARIANT& value)
 {
-    wchar_t* end = nullptr;
-    const double number = std::wcstod(text, &end);
-    if (end == text.GetString() || !std::isfinite(number))
+    const std::optional<double> number = ReadReal(text.GetString());
+    if (!number)
         return false;
     if (value.vt == VT_R8)
-        value.dblVal = number;
-    else if (std::isfinite(static_cast<float>(number)))
-        value.fltVal = static_cast<float>(number);
+        value.dblVal = *number;
+    else if (std::isfinite(static_cast<float>(*number)))
+        value.fltVal = static_cast<float>(*number);
     else
         return false;
     return true;

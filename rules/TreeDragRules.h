@@ -1,11 +1,11 @@
-// The rules of dragging items in a tree that need no window: drop places, the insertion line, scroll
-// directions, names.
+// The rules of dragging items in a tree: drop places, the insertion line, scroll directions, names.
 #pragma once
 
-#include <afxwin.h>
+#include "rules/Shapes.h"
 
 #include <array>
 #include <functional>
+#include <string>
 
 namespace QuorUiCtr
 {
@@ -20,19 +20,19 @@ enum class DropPlace
 
 // The place for a point at height `y` in an item's row; `row` is in the same coordinates. The exact middle
 // belongs to the lower half.
-DropPlace DropPlaceAt(const RECT& row, int y, bool isOpenFolder);
+DropPlace DropPlaceAt(const Box& row, int y, bool isOpenFolder);
 
 // A stroke of a pen of one pixel, without its last point.
 struct LineStroke
 {
-    POINT from;
-    POINT to;
+    Spot from;
+    Spot to;
 };
 
 // The insertion line at the top (`above`) or the bottom edge of an item: a bar of two pixels, which begins at
 // the left edge of `item` and ends two pixels before `clientRight`, between end caps that narrow towards it
 // and are six pixels high.
-std::array<LineStroke, 6> InsertionLine(const RECT& item, int clientRight, bool above);
+std::array<LineStroke, 6> InsertionLine(const Box& item, int clientRight, bool above);
 
 // The steps of one automatic scroll, along an axis.
 enum class ScrollStep
@@ -51,10 +51,7 @@ ScrollStep ScrollStepFor(int coordinate, int low, int high, int margin, int posi
 constexpr int VerticalScrollMargin = 5;
 constexpr int HorizontalScrollMargin = 0;
 
-// Whether two items may not be siblings where names are unique: names that differ only in case are the same.
-bool IsSameName(const CString& left, const CString& right);
-
 // The name of a new folder: `base`, or when that is taken the first free one of "base 1", "base 2" ...
-CString FreeFolderName(const CString& base, const std::function<bool(const CString&)>& isFree);
+std::wstring FreeFolderName(const std::wstring& base, const std::function<bool(const std::wstring&)>& isFree);
 
 } // namespace QuorUiCtr

@@ -1,8 +1,7 @@
-// The geometry of a property grid: pure functions over rectangles and row numbers. Pixels, client
-// coordinates.
+// The geometry of a property grid: rectangles and row numbers. Pixels, client coordinates.
 #pragma once
 
-#include "afxwin.h"
+#include "propertyrules/Box.h"
 
 namespace quorfx
 {
@@ -18,32 +17,43 @@ struct PropertyGridMetrics
 // The parts of the client area; parts that are not there are empty.
 struct PropertyGridAreas
 {
-    CRect header;
-    CRect list;
-    CRect scrollBar;
-    CRect description;
+    Box header;
+    Box list;
+    Box scrollBar;
+    Box description;
 };
 
 // The height of the bar above the description, by which it is dragged.
 constexpr int DescriptionBarHeight = 4;
 
-PropertyGridAreas ComputeAreas(CSize client, const PropertyGridMetrics& metrics, int rowCount);
+PropertyGridAreas ComputeAreas(int clientWidth, int clientHeight, const PropertyGridMetrics& metrics,
+                               int rowCount);
 
 // How many lines of text the description gets when its upper edge is dragged to `y`.
 int DescriptionRowsAt(int y, int clientHeight, const PropertyGridMetrics& metrics);
 
 // How many rows fit whole, at least 1.
-int FullRows(const CRect& list, int rowHeight);
+int FullRows(const Box& list, int rowHeight);
 // The row's rectangle, also for rows outside the list.
-CRect RowRectangle(const CRect& list, int rowHeight, int firstRow, int row);
+Box RowRectangle(const Box& list, int rowHeight, int firstRow, int row);
 // The row at `y`, or -1.
-int RowAt(const CRect& list, int rowHeight, int firstRow, int rowCount, int y);
+int RowAt(const Box& list, int rowHeight, int firstRow, int rowCount, int y);
 // The nearest first row that leaves no room below the last one.
 int ClampFirstRow(int firstRow, int rowCount, int fullRows);
 // The first row after the least scroll that shows `row`.
 int FirstRowShowing(int row, int firstRow, int fullRows);
+// The keys that lead from row to row, numbered as the platform does (VK_PRIOR and its siblings).
+enum class NavigationKey : unsigned
+{
+    PageUp = 0x21,
+    PageDown = 0x22,
+    End = 0x23,
+    Home = 0x24,
+    Up = 0x26,
+    Down = 0x28
+};
 // The row that a navigation key leads to from `row` (-1 for none selected); -1 for other keys.
-int RowAfterKey(UINT key, int row, int rowCount, int fullRows);
+int RowAfterKey(NavigationKey key, int row, int rowCount, int fullRows);
 
 // The width of the names, kept so that both columns can be grasped.
 int ClampColumn(int width, int listWidth, int gutter);
@@ -52,14 +62,14 @@ int ScaleColumn(int width, int oldListWidth, int newListWidth);
 
 // The parts of a row. `gutter` is the width of the column of fold boxes, `indent` how many such columns the
 // row is moved to the right, `column` the width of the names.
-CRect NameRectangle(const CRect& row, int gutter, int indent, int column);
-CRect ValueRectangle(const CRect& row, int column);
-CRect FoldBoxRectangle(const CRect& row, int gutter, int indent, int column);
+Box NameRectangle(const Box& row, int gutter, int indent, int column);
+Box ValueRectangle(const Box& row, int column);
+Box FoldBoxRectangle(const Box& row, int gutter, int indent, int column);
 // The button at the right end of a value.
-CRect ButtonRectangle(const CRect& value);
+Box ButtonRectangle(const Box& value);
 // Where text stands in a cell.
-CRect TextRectangle(const CRect& cell);
+Box TextRectangle(const Box& cell);
 // Where an editor with text of that height stands, so that the text does not move when it opens.
-CRect EditorRectangle(const CRect& value, int textHeight);
+Box EditorRectangle(const Box& value, int textHeight);
 
 } // namespace quorfx

@@ -1,5 +1,5 @@
-// The rules of where columns and editors go, without windows.
-#include "controls/ListGeometry.h"
+// The rules of where columns and editors go.
+#include "rules/ListGeometry.h"
 
 #include <gtest/gtest.h>
 
@@ -34,31 +34,31 @@ TEST(ListGeometry, EditorSpan_LeavesRoomAndEndsWithTheClientArea)
 
 struct Growth
 {
-    CSize needed;
-    CRect expected;
+    Extent needed;
+    Box expected;
     bool needsRoom;
     bool needsScrollBar;
 };
 
 TEST(ListGeometry, GrowEditor_GrowsOnlyAndStopsTwoPixelsBeforeTheEdges)
 {
-    const CRect editor(104, 20, 164, 36);
-    const CRect list(0, 0, 300, 200);
+    const Box editor(104, 20, 164, 36);
+    const Box list(0, 0, 300, 200);
     const Growth cases[] = {
-        {CSize(60, 16), editor, false, false},
-        {CSize(10, 5), editor, false, false},
-        {CSize(61, 16), CRect(104, 20, 165, 36), true, false},
-        {CSize(194, 16), CRect(104, 20, 298, 36), true, false},
-        {CSize(900, 16), CRect(104, 20, 298, 36), true, false},
-        {CSize(60, 17), CRect(104, 20, 164, 37), true, false},
-        {CSize(60, 177), CRect(104, 20, 164, 197), true, false},
-        {CSize(60, 178), CRect(104, 20, 164, 198), true, true},
-        {CSize(60, 900), CRect(104, 20, 164, 198), true, true},
-        {CSize(90, 50), CRect(104, 20, 194, 70), true, false},
+        {Extent(60, 16), editor, false, false},
+        {Extent(10, 5), editor, false, false},
+        {Extent(61, 16), Box(104, 20, 165, 36), true, false},
+        {Extent(194, 16), Box(104, 20, 298, 36), true, false},
+        {Extent(900, 16), Box(104, 20, 298, 36), true, false},
+        {Extent(60, 17), Box(104, 20, 164, 37), true, false},
+        {Extent(60, 177), Box(104, 20, 164, 197), true, false},
+        {Extent(60, 178), Box(104, 20, 164, 198), true, true},
+        {Extent(60, 900), Box(104, 20, 164, 198), true, true},
+        {Extent(90, 50), Box(104, 20, 194, 70), true, false},
     };
     for (const Growth& growth : cases)
     {
-        SCOPED_TRACE(testing::Message() << growth.needed.cx << " x " << growth.needed.cy);
+        SCOPED_TRACE(testing::Message() << growth.needed.width << " x " << growth.needed.height);
         const GrownEditor grown = GrowEditor(editor, growth.needed, list);
         EXPECT_EQ(grown.rectangle, growth.expected);
         EXPECT_EQ(grown.needsRoom, growth.needsRoom);
@@ -68,9 +68,9 @@ TEST(ListGeometry, GrowEditor_GrowsOnlyAndStopsTwoPixelsBeforeTheEdges)
 
 TEST(ListGeometry, GrowEditor_DrawsAnEdgeBackThatLayBeyond)
 {
-    const CRect list(0, 0, 300, 200);
-    EXPECT_EQ(GrowEditor(CRect(104, 20, 300, 36), CSize(900, 16), list).rectangle, CRect(104, 20, 298, 36));
-    EXPECT_EQ(GrowEditor(CRect(104, 20, 164, 200), CSize(60, 900), list).rectangle, CRect(104, 20, 164, 198));
+    const Box list(0, 0, 300, 200);
+    EXPECT_EQ(GrowEditor(Box(104, 20, 300, 36), Extent(900, 16), list).rectangle, Box(104, 20, 298, 36));
+    EXPECT_EQ(GrowEditor(Box(104, 20, 164, 200), Extent(60, 900), list).rectangle, Box(104, 20, 164, 198));
 }
 
 } // namespace

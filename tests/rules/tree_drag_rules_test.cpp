@@ -1,16 +1,19 @@
-// The rules that need no window.
-#include "treedrag/TreeDragRules.h"
+// The rules of dragging items in a tree.
+#include "rules/TreeDragRules.h"
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <set>
+#include <string>
+#include <utility>
 
 namespace
 {
 
 using namespace QuorUiCtr;
 
-constexpr RECT Row = {0, 40, 200, 57};
+const Box Row(0, 40, 200, 57);
 
 TEST(DropPlaceAt, TheUpperHalfMeansBeforeTheItem)
 {
@@ -30,25 +33,25 @@ TEST(DropPlaceAt, TheLowerHalfOfAnOpenFolderMeansItsFirstChild)
     EXPECT_EQ(DropPlaceAt(Row, 48, true), DropPlace::BeforeFirstChild);
 }
 
-std::set<std::pair<LONG, LONG>> PixelsOf(const std::array<LineStroke, 6>& strokes)
+std::set<std::pair<int, int>> PixelsOf(const std::array<LineStroke, 6>& strokes)
 {
-    std::set<std::pair<LONG, LONG>> pixels;
-    const auto sign = [](LONG value) { return value > 0 ? 1 : value < 0 ? -1 : 0; };
+    std::set<std::pair<int, int>> pixels;
+    const auto sign = [](int value) { return value > 0 ? 1 : value < 0 ? -1 : 0; };
     for (const LineStroke& stroke : strokes)
-        for (POINT at = stroke.from; at.x != stroke.to.x || at.y != stroke.to.y;
+        for (Spot at = stroke.from; at.x != stroke.to.x || at.y != stroke.to.y;
              at.x += sign(stroke.to.x - at.x), at.y += sign(stroke.to.y - at.y))
             pixels.insert({at.x, at.y});
     return pixels;
 }
 
 // Pictures have a row of text for each row of pixels around the line, from y - 3 on.
-std::string PictureOf(const std::array<LineStroke, 6>& strokes, LONG left, LONG right, LONG y)
+std::string PictureOf(const std::array<LineStroke, 6>& strokes, int left, int right, int y)
 {
     const auto pixels = PixelsOf(strokes);
     std::string picture;
-    for (LONG row = y - 3; row <= y + 3; ++row)
+    for (int row = y - 3; row <= y + 3; ++row)
     {
-        for (LONG x = left; x < right; ++x)
+        for (int x = left; x < right; ++x)
             picture += pixels.count({x, row}) ? '#' : '.';
         picture += '\n';
     }
@@ -57,7 +60,7 @@ std::string PictureOf(const std::array<LineStroke, 6>& strokes, LONG left, LONG 
 
 TEST(InsertionLine, IsABarOfTwoPixelsBetweenEndCaps)
 {
-    const RECT item = {10, 40, 15, 57};
+    const Box item(10, 40, 15, 57);
     const std::string expected = ".............\n"
                                  "#..........#.\n"
                                  "##........##.\n"
@@ -99,17 +102,10 @@ TEST(ScrollStepFor, StopsAtBothEnds)
     EXPECT_EQ(ScrollStepFor(160, 0, 100, 5, 8, 9), ScrollStep::Forward);
 }
 
-TEST(IsSameName, LeavesCaseAside)
-{
-    EXPECT_TRUE(IsSameName(L"Albatross", L"aLBATROSS"));
-    EXPECT_FALSE(IsSameName(L"Albatross", L"Albatros"));
-    EXPECT_TRUE(IsSameName(L"", L""));
-}
-
 TEST(FreeFolderName, CountsFromOne)
 {
     const auto freeExcept = [](std::set<std::wstring> taken) {
-        return [taken](const CString& name) { return taken.count(name.GetString()) == 0; };
+        return [taken](const std::wstring& name) { return taken.count(name) == 0; };
     };
     EXPECT_EQ(FreeFolderName(L"Box", freeExcept({})), L"Box");
     EXPECT_EQ(FreeFolderName(L"Box", freeExcept({L"Box"})), L"Box 1");

@@ -1,7 +1,7 @@
-// Typing into a text with fixed characters: pure functions for the masked in-place editor.
+// Typing into a text with fixed characters: the rules of the masked in-place editor.
 #pragma once
 
-#include "afxwin.h"
+#include <string>
 
 namespace quorfx
 {
@@ -12,31 +12,35 @@ class EditMask
 public:
     // See CMFCPropertyGridProperty for the characters of a mask. A mask that is not as long as its template
     // is no mask.
-    EditMask(const CString& mask, const CString& editTemplate, const CString& validCharacters);
+    EditMask(const std::wstring& mask, const std::wstring& editTemplate, const std::wstring& validCharacters);
 
-    bool HasMask() const { return !m_mask.IsEmpty(); }
+    bool HasMask() const { return !m_mask.empty(); }
     // Whether the character is among the valid ones.
     bool IsValid(wchar_t character) const;
 
     // The text as it is edited: as long as the mask, with the template's characters where it has none that
     // fit.
-    CString Complete(const CString& text) const;
+    std::wstring Complete(const std::wstring& text) const;
     // Types a character at the caret or the next free position: changes the text, which is complete, and
     // moves the caret to the next free position. Returns false when it does not fit.
-    bool Type(CString& text, int& caret, wchar_t character) const;
+    bool Type(std::wstring& text, int& caret, wchar_t character) const;
     // Puts the template back into the positions first to last - 1.
-    void Erase(CString& text, int first, int last) const;
+    void Erase(std::wstring& text, int first, int last) const;
     // The free position before the caret, or -1.
     int FreeBefore(int caret) const;
     // The free position at or after the caret, or the end.
     int FreeFrom(int caret) const;
 
 private:
+    int Length() const { return static_cast<int>(m_mask.length()); }
+    // How many positions of the mask the text has.
+    int LengthIn(const std::wstring& text) const;
+    bool IsFixed(int position) const;
     bool Fits(int position, wchar_t character) const;
 
-    CString m_mask;
-    CString m_template;
-    CString m_valid;
+    std::wstring m_mask;
+    std::wstring m_template;
+    std::wstring m_valid;
 };
 
 } // namespace quorfx

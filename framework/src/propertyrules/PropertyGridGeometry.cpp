@@ -1,5 +1,7 @@
 // The geometry of a property grid.
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
+
+#include <algorithm>
 
 namespace quorfx
 {
@@ -26,18 +28,19 @@ int DescriptionHeight(int clientHeight, const PropertyGridMetrics& metrics)
 
 } // namespace
 
-PropertyGridAreas ComputeAreas(CSize client, const PropertyGridMetrics& metrics, int rowCount)
+PropertyGridAreas ComputeAreas(int clientWidth, int clientHeight, const PropertyGridMetrics& metrics,
+                               int rowCount)
 {
     PropertyGridAreas areas;
-    const int headerBottom = std::min<int>(metrics.headerHeight, client.cy);
-    const int listBottom = std::max<int>(headerBottom, client.cy - DescriptionHeight(client.cy, metrics));
-    const bool scrolls = rowCount * metrics.rowHeight > listBottom - headerBottom;
-    const int listRight = std::max<int>(0, client.cx - (scrolls ? metrics.scrollBarWidth : 0));
-    areas.header.SetRect(0, 0, client.cx, headerBottom);
-    areas.list.SetRect(0, headerBottom, listRight, listBottom);
+    const int headerBottom = (std::min)(metrics.headerHeight, clientHeight);
+    const int listBottom = (std::max)(headerBottom, clientHeight - DescriptionHeight(clientHeight, metrics));
+    const bool scrolls = static_cast<long long>(rowCount) * metrics.rowHeight > listBottom - headerBottom;
+    const int listRight = (std::max)(0, clientWidth - (scrolls ? metrics.scrollBarWidth : 0));
+    areas.header = {0, 0, clientWidth, headerBottom};
+    areas.list = {0, headerBottom, listRight, listBottom};
     if (scrolls)
-        areas.scrollBar.SetRect(listRight, headerBottom, client.cx, listBottom);
-    areas.description.SetRect(0, listBottom, client.cx, client.cy);
+        areas.scrollBar = {listRight, headerBottom, clientWidth, listBottom};
+    areas.description = {0, listBottom, clientWidth, clientHeight};
     return areas;
 }
 
@@ -51,18 +54,18 @@ int DescriptionRowsAt(int y, int clientHeight, const PropertyGridMetrics& metric
     return std::clamp(wanted, 1, (std::max)(1, most));
 }
 
-int FullRows(const CRect& list, int rowHeight)
+int FullRows(const Box& list, int rowHeight)
 {
     return rowHeight <= 0 ? 1 : (std::max)(1, list.Height() / rowHeight);
 }
 
-CRect RowRectangle(const CRect& list, int rowHeight, int firstRow, int row)
+Box RowRectangle(const Box& list, int rowHeight, int firstRow, int row)
 {
     const int top = list.top + (row - firstRow) * rowHeight;
-    return CRect(list.left, top, list.right, top + rowHeight);
+    return Box(list.left, top, list.right, top + rowHeight);
 }
 
-int RowAt(const CRect& list, int rowHeight, int firstRow, int rowCount, int y)
+int RowAt(const Box& list, int rowHeight, int firstRow, int rowCount, int y)
 {
     if (rowHeight <= 0 || y < list.top || y >= list.bottom)
         return -1;
@@ -82,26 +85,26 @@ int FirstRowShowing(int row, int firstRow, int fullRows)
     return (std::max)(firstRow, row - fullRows + 1);
 }
 
-int RowAfterKey(UINT key, int row, int rowCount, int fullRows)
+int RowAfterKey(NavigationKey key, int row, int rowCount, int fullRows)
 {
     int wanted = 0;
     switch (key)
     {
-    case VK_UP:
+    case NavigationKey::Up:
         wanted = row - 1;
         break;
-    case VK_DOWN:
+    case NavigationKey::Down:
         wanted = row + 1;
         break;
-    case VK_PRIOR:
+    case NavigationKey::PageUp:
         wanted = row - fullRows;
         break;
-    case VK_NEXT:
+    case NavigationKey::PageDown:
         wanted = row + fullRows;
         break;
-    case VK_HOME:
+    case NavigationKey::Home:
         break;
-    case VK_END:
+    case NavigationKey::End:
         wanted = rowCount - 1;
         break;
     default:
@@ -118,49 +121,53 @@ int ClampColumn(int width, int listWidth, int gutter)
 
 int ScaleColumn(int width, int oldListWidth, int newListWidth)
 {
-    return oldListWidth <= 0 ? newListWidth / 2 : ::MulDiv(width, newListWidth, oldListWidth);
+    if (oldListWidth <= 0)
+        return newListWidth / 2;
+    const long long product = static_cast<long long>(width) * newListWidth;
+    const int half = product < 0 ? -oldListWidth / 2 : oldListWidth / 2;
+    return static_cast<int>((product + half) / oldListWidth);
 }
 
-CRect NameRectangle(const CRect& row, int gutter, int indent, int column)
+Box NameRectangle(const Box& row, int gutter, int indent, int column)
 {
     const int right = row.left + column;
-    const int left = (std::min)(static_cast<int>(row.left) + gutter * (indent + 1), right);
-    return CRect(left, row.top, right, row.bottom - 1);
+    const int left = (std::min)(row.left + gutter * (indent + 1), right);
+    return Box(left, row.top, right, row.bottom - 1);
 }
 
-CRect ValueRectangle(const CRect& row, int column)
+Box ValueRectangle(const Box& row, int column)
 {
-    const int left = std::min<int>(row.left + column + 1, row.right);
-    return CRect(left, row.top, row.right, row.bottom - 1);
+    const int left = (std::min)(row.left + column + 1, row.right);
+    return Box(left, row.top, row.right, row.bottom - 1);
 }
 
-CRect FoldBoxRectangle(const CRect& row, int gutter, int indent, int column)
+Box FoldBoxRectangle(const Box& row, int gutter, int indent, int column)
 {
-    const CRect name = NameRectangle(row, gutter, indent, column);
+    const Box name = NameRectangle(row, gutter, indent, column);
     // Odd, so that the plus sign has a middle.
     const int side = (std::max)(SmallestBox, gutter / 2) | 1;
     const int left = name.left - gutter + (gutter - side) / 2;
     const int top = row.top + (row.Height() - 1 - side) / 2;
-    return CRect(left, top, left + side, top + side);
+    return Box(left, top, left + side, top + side);
 }
 
-CRect ButtonRectangle(const CRect& value)
+Box ButtonRectangle(const Box& value)
 {
-    CRect button = value;
-    button.left = std::max<int>(value.left, value.right - value.Height());
+    Box button = value;
+    button.left = (std::max)(value.left, value.right - value.Height());
     return button;
 }
 
-CRect TextRectangle(const CRect& cell)
+Box TextRectangle(const Box& cell)
 {
-    CRect text = cell;
-    text.left = std::min<int>(cell.left + TextMargin, cell.right);
+    Box text = cell;
+    text.left = (std::min)(cell.left + TextMargin, cell.right);
     return text;
 }
 
-CRect EditorRectangle(const CRect& value, int textHeight)
+Box EditorRectangle(const Box& value, int textHeight)
 {
-    CRect editor = TextRectangle(value);
+    Box editor = TextRectangle(value);
     editor.top += (std::max)(0, (value.Height() - textHeight) / 2);
     return editor;
 }

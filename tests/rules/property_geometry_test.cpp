@@ -1,5 +1,5 @@
 // The geometry of a property grid.
-#include "propertygrid/PropertyGridGeometry.h"
+#include "propertyrules/PropertyGridGeometry.h"
 
 #include <gtest/gtest.h>
 
@@ -10,48 +10,48 @@ using namespace quorfx;
 namespace
 {
 
-std::string Text(const CRect& rect)
+std::string Text(const Box& rect)
 {
     return std::to_string(rect.left) + "," + std::to_string(rect.top) + "-" + std::to_string(rect.right) +
            "," + std::to_string(rect.bottom);
 }
 
-const CRect List(0, 20, 200, 120);
+const Box List(0, 20, 200, 120);
 
 TEST(PropertyGridGeometry, TheListTakesAllThatTheOthersLeave)
 {
-    const PropertyGridAreas areas = ComputeAreas(CSize(200, 300), {20, 24, 0, 16}, 5);
+    const PropertyGridAreas areas = ComputeAreas(200, 300, {20, 24, 0, 16}, 5);
     EXPECT_EQ(Text(areas.header), "0,0-200,24");
     EXPECT_EQ(Text(areas.list), "0,24-200,300");
-    EXPECT_TRUE(areas.scrollBar.IsRectEmpty());
-    EXPECT_TRUE(areas.description.IsRectEmpty());
+    EXPECT_TRUE(areas.scrollBar.IsEmpty());
+    EXPECT_TRUE(areas.description.IsEmpty());
 }
 
 TEST(PropertyGridGeometry, TheScrollBarStandsBesideTheListOnlyWhenRowsDoNotFit)
 {
-    EXPECT_EQ(Text(ComputeAreas(CSize(200, 100), {20, 0, 0, 16}, 5).list), "0,0-200,100");
-    const PropertyGridAreas areas = ComputeAreas(CSize(200, 100), {20, 0, 0, 16}, 6);
+    EXPECT_EQ(Text(ComputeAreas(200, 100, {20, 0, 0, 16}, 5).list), "0,0-200,100");
+    const PropertyGridAreas areas = ComputeAreas(200, 100, {20, 0, 0, 16}, 6);
     EXPECT_EQ(Text(areas.list), "0,0-184,100");
     EXPECT_EQ(Text(areas.scrollBar), "184,0-200,100");
 }
 
 TEST(PropertyGridGeometry, TheDescriptionGivesWayToTheFirstRow)
 {
-    const PropertyGridAreas roomy = ComputeAreas(CSize(200, 300), {20, 24, 3, 16}, 5);
+    const PropertyGridAreas roomy = ComputeAreas(200, 300, {20, 24, 3, 16}, 5);
     EXPECT_EQ(roomy.description.Height(), 3 * 20 + 12);
     EXPECT_EQ(roomy.list.bottom, roomy.description.top);
-    const PropertyGridAreas narrow = ComputeAreas(CSize(200, 60), {20, 24, 3, 16}, 5);
+    const PropertyGridAreas narrow = ComputeAreas(200, 60, {20, 24, 3, 16}, 5);
     EXPECT_EQ(narrow.list.Height(), 20);
     EXPECT_EQ(narrow.description.Height(), 16);
 }
 
 TEST(PropertyGridGeometry, AClientAreaOfNothingGivesEmptyParts)
 {
-    const PropertyGridAreas areas = ComputeAreas(CSize(0, 0), {20, 24, 3, 16}, 5);
-    EXPECT_TRUE(areas.header.IsRectEmpty());
-    EXPECT_TRUE(areas.list.IsRectEmpty());
-    EXPECT_TRUE(areas.scrollBar.IsRectEmpty());
-    EXPECT_TRUE(areas.description.IsRectEmpty());
+    const PropertyGridAreas areas = ComputeAreas(0, 0, {20, 24, 3, 16}, 5);
+    EXPECT_TRUE(areas.header.IsEmpty());
+    EXPECT_TRUE(areas.list.IsEmpty());
+    EXPECT_TRUE(areas.scrollBar.IsEmpty());
+    EXPECT_TRUE(areas.description.IsEmpty());
 }
 
 TEST(PropertyGridGeometry, RowsAndPointsFitTogether)
@@ -60,7 +60,7 @@ TEST(PropertyGridGeometry, RowsAndPointsFitTogether)
     EXPECT_EQ(Text(RowRectangle(List, 20, 3, 1)), "0,-20-200,0");
     for (int row = 3; row < 8; ++row)
     {
-        const CRect rect = RowRectangle(List, 20, 3, row);
+        const Box rect = RowRectangle(List, 20, 3, row);
         EXPECT_EQ(RowAt(List, 20, 3, 100, rect.top), row);
         EXPECT_EQ(RowAt(List, 20, 3, 100, rect.bottom - 1), row);
     }
@@ -90,17 +90,17 @@ TEST(PropertyGridGeometry, ShowingARowScrollsTheLeast)
 
 TEST(PropertyGridGeometry, NavigationKeys)
 {
-    EXPECT_EQ(RowAfterKey(VK_DOWN, -1, 10, 4), 0);
-    EXPECT_EQ(RowAfterKey(VK_UP, -1, 10, 4), 0);
-    EXPECT_EQ(RowAfterKey(VK_UP, 0, 10, 4), 0);
-    EXPECT_EQ(RowAfterKey(VK_DOWN, 9, 10, 4), 9);
-    EXPECT_EQ(RowAfterKey(VK_NEXT, 3, 10, 4), 7);
-    EXPECT_EQ(RowAfterKey(VK_NEXT, 7, 10, 4), 9);
-    EXPECT_EQ(RowAfterKey(VK_PRIOR, 3, 10, 4), 0);
-    EXPECT_EQ(RowAfterKey(VK_HOME, 3, 10, 4), 0);
-    EXPECT_EQ(RowAfterKey(VK_END, 3, 10, 4), 9);
-    EXPECT_EQ(RowAfterKey(VK_TAB, 3, 10, 4), -1);
-    EXPECT_EQ(RowAfterKey(VK_DOWN, -1, 0, 4), -1) << "an empty grid";
+    EXPECT_EQ(RowAfterKey(NavigationKey::Down, -1, 10, 4), 0);
+    EXPECT_EQ(RowAfterKey(NavigationKey::Up, -1, 10, 4), 0);
+    EXPECT_EQ(RowAfterKey(NavigationKey::Up, 0, 10, 4), 0);
+    EXPECT_EQ(RowAfterKey(NavigationKey::Down, 9, 10, 4), 9);
+    EXPECT_EQ(RowAfterKey(NavigationKey::PageDown, 3, 10, 4), 7);
+    EXPECT_EQ(RowAfterKey(NavigationKey::PageDown, 7, 10, 4), 9);
+    EXPECT_EQ(RowAfterKey(NavigationKey::PageUp, 3, 10, 4), 0);
+    EXPECT_EQ(RowAfterKey(NavigationKey::Home, 3, 10, 4), 0);
+    EXPECT_EQ(RowAfterKey(NavigationKey::End, 3, 10, 4), 9);
+    EXPECT_EQ(RowAfterKey(NavigationKey{9}, 3, 10, 4), -1);
+    EXPECT_EQ(RowAfterKey(NavigationKey::Down, -1, 0, 4), -1) << "an empty grid";
 }
 
 TEST(PropertyGridGeometry, BothColumnsKeepSomeWidth)
@@ -111,25 +111,28 @@ TEST(PropertyGridGeometry, BothColumnsKeepSomeWidth)
     EXPECT_EQ(ClampColumn(90, 30, 20), 15) << "a list that has no room for both";
     EXPECT_EQ(ScaleColumn(50, 200, 400), 100);
     EXPECT_EQ(ScaleColumn(50, 0, 400), 200);
+    EXPECT_EQ(ScaleColumn(5, 10, 13), 7) << "halves are rounded up";
+    EXPECT_EQ(ScaleColumn(-5, 10, 13), -7);
+    EXPECT_EQ(ScaleColumn(1, 3, 4), 1);
 }
 
 TEST(PropertyGridGeometry, TheCellsOfARowLieSideBySide)
 {
-    const CRect row(0, 20, 200, 40);
+    const Box row(0, 20, 200, 40);
     EXPECT_EQ(Text(NameRectangle(row, 20, 0, 90)), "20,20-90,39");
     EXPECT_EQ(Text(NameRectangle(row, 20, 2, 90)), "60,20-90,39");
     EXPECT_EQ(NameRectangle(row, 20, 9, 90).Width(), 0);
     EXPECT_EQ(Text(ValueRectangle(row, 90)), "91,20-200,39");
-    EXPECT_EQ(Text(ButtonRectangle(CRect(91, 20, 200, 39))), "181,20-200,39");
-    EXPECT_EQ(Text(ButtonRectangle(CRect(191, 20, 200, 39))), "191,20-200,39") << "no wider than the value";
-    const CRect box = FoldBoxRectangle(row, 20, 1, 90);
+    EXPECT_EQ(Text(ButtonRectangle(Box(91, 20, 200, 39))), "181,20-200,39");
+    EXPECT_EQ(Text(ButtonRectangle(Box(191, 20, 200, 39))), "191,20-200,39") << "no wider than the value";
+    const Box box = FoldBoxRectangle(row, 20, 1, 90);
     EXPECT_EQ(Text(box), "24,24-35,35");
     EXPECT_EQ(box.Width() % 2, 1) << "the plus has a middle";
 }
 
 TEST(PropertyGridGeometry, AnEditorStandsWhereTheTextStood)
 {
-    const CRect value(91, 20, 200, 39);
+    const Box value(91, 20, 200, 39);
     EXPECT_EQ(Text(TextRectangle(value)), "95,20-200,39");
     EXPECT_EQ(Text(EditorRectangle(value, 15)), "95,22-200,39");
 }

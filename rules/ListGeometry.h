@@ -1,7 +1,7 @@
-// Where the columns of a report list and the editor of a cell go: rules over plain values, without windows.
+// Where the columns of a report list and the editor of a cell go: rules over plain values.
 #pragma once
 
-#include <afxwin.h>
+#include "rules/Shapes.h"
 
 #include <vector>
 
@@ -32,13 +32,13 @@ HorizontalSpan EditorSpan(int left, int width, int clientRight);
 // What an editor of the client rectangle `current` becomes.
 struct GrownEditor
 {
-    CRect rectangle;
+    Box rectangle;
     bool needsRoom;      // whether more room is needed, also when there is none left
     bool needsScrollBar; // the text does not fit between the editor's top and the end of the list
 };
 
 // Makes room for `needed` within `list`. All rectangles are in client pixels of the list. Two pixels are left
 // free at the right and bottom edges of the list. A rectangle that is large enough stays.
-GrownEditor GrowEditor(const CRect& current, CSize needed, const CRect& list);
+GrownEditor GrowEditor(const Box& current, Extent needed, const Box& list);
 
 } // namespace QuorUiCtr

@@ -1,5 +1,5 @@
 // The pure rules of the grid's geometry.
-#include "grid/window/GridGeometry.h"
+#include "rules/GridGeometry.h"
 
 #include <gtest/gtest.h>
 
@@ -11,7 +11,7 @@ using namespace QuorUiCtr;
 namespace
 {
 
-std::string Text(const CRect& rect)
+std::string Text(const Box& rect)
 {
     return std::to_string(rect.left) + "," + std::to_string(rect.top) + "-" + std::to_string(rect.right) +
            "," + std::to_string(rect.bottom);
@@ -20,13 +20,13 @@ std::string Text(const CRect& rect)
 std::string Text(const ScrollBarPlan& plan)
 {
     return std::string(plan.horizontal ? "H" : "-") + (plan.vertical ? "V" : "-") + " " +
-           std::to_string(plan.area.cx) + "x" + std::to_string(plan.area.cy);
+           std::to_string(plan.area.width) + "x" + std::to_string(plan.area.height);
 }
 
 struct CaptionCase
 {
     const wchar_t* caption;
-    long lines;
+    int lines;
 };
 
 class CaptionLines : public testing::TestWithParam<CaptionCase>
@@ -56,13 +56,13 @@ INSTANTIATE_TEST_SUITE_P(GridGeometry, CaptionLines,
 
 TEST(GridGeometry, CaptionOfBreaksOnly_EndsTheCount)
 {
-    EXPECT_EQ(1, CaptionLineCount(CString(L'\n', 100)));
+    EXPECT_EQ(1, CaptionLineCount(std::wstring(100, L'\n')));
 }
 
 struct BarCase
 {
-    CSize content;
-    CSize area;
+    Extent content;
+    Extent area;
     const char* plan;
 };
 
@@ -102,8 +102,8 @@ TEST(GridGeometry, ClampScroll_StaysInsideTheRange)
 
 TEST(GridGeometry, ClampScroll_OfTheLargestNumbers_DoesNotOverflow)
 {
-    EXPECT_EQ(90, ClampScroll(10, LONG_MAX, 100));
-    EXPECT_EQ(-10, ClampScroll(10, LONG_MIN, 100));
+    EXPECT_EQ(90, ClampScroll(10, INT_MAX, 100));
+    EXPECT_EQ(-10, ClampScroll(10, INT_MIN, 100));
 }
 
 // The view of an unscrolled area 100 high begins at logical 1.
@@ -145,9 +145,9 @@ TEST(GridGeometry, LeastScroll_OfAnEmptyRangeInside_IsNothing)
 
 struct ScrollCase
 {
-    UINT code;
-    long vertical;
-    long horizontal;
+    ScrollCode code;
+    int vertical;
+    int horizontal;
 };
 
 class ScrollTarget : public testing::TestWithParam<ScrollCase>
@@ -161,30 +161,32 @@ TEST_P(ScrollTarget, FollowsTheCode)
     EXPECT_EQ(GetParam().horizontal, HorizontalScrollTarget(GetParam().code, request));
 }
 
-INSTANTIATE_TEST_SUITE_P(GridGeometry, ScrollTarget,
-                         testing::Values(ScrollCase{SB_LINEUP, 80, 80}, ScrollCase{SB_LINEDOWN, 120, 120},
-                                         ScrollCase{SB_PAGEUP, 10, 10}, ScrollCase{SB_PAGEDOWN, 250, 250},
-                                         ScrollCase{SB_THUMBPOSITION, 100, 100},
-                                         ScrollCase{SB_THUMBTRACK, 333, 333}, ScrollCase{SB_TOP, 10, 10},
-                                         ScrollCase{SB_BOTTOM, 400, 400},
-                                         ScrollCase{SB_ENDSCROLL, 100, 100}));
+INSTANTIATE_TEST_SUITE_P(
+    GridGeometry, ScrollTarget,
+    testing::Values(ScrollCase{ScrollCode::LineBack, 80, 80}, ScrollCase{ScrollCode::LineForward, 120, 120},
+                    ScrollCase{ScrollCode::PageBack, 10, 10}, ScrollCase{ScrollCode::PageForward, 250, 250},
+                    ScrollCase{ScrollCode::Track, 333, 333}, ScrollCase{ScrollCode::First, 10, 10},
+                    ScrollCase{ScrollCode::Last, 400, 400},
+                    // The end of tracking and of scrolling, and a number that means nothing.
+                    ScrollCase{ScrollCode{4}, 100, 100}, ScrollCase{ScrollCode{8}, 100, 100},
+                    ScrollCase{ScrollCode{99}, 100, 100}));
 
 TEST(GridGeometry, ScrollTargets_StayInsideTheRange)
 {
     const ScrollRequest nearEnd{390, 0, 400, 20, 150, 4000};
-    EXPECT_EQ(400, VerticalScrollTarget(SB_LINEDOWN, nearEnd));
-    EXPECT_EQ(400, HorizontalScrollTarget(SB_PAGEDOWN, nearEnd));
-    EXPECT_EQ(400, VerticalScrollTarget(SB_THUMBTRACK, nearEnd));
+    EXPECT_EQ(400, VerticalScrollTarget(ScrollCode::LineForward, nearEnd));
+    EXPECT_EQ(400, HorizontalScrollTarget(ScrollCode::PageForward, nearEnd));
+    EXPECT_EQ(400, VerticalScrollTarget(ScrollCode::Track, nearEnd));
     const ScrollRequest nearBegin{10, 0, 400, 20, 150, -7};
-    EXPECT_EQ(0, VerticalScrollTarget(SB_LINEUP, nearBegin));
-    EXPECT_EQ(0, HorizontalScrollTarget(SB_THUMBTRACK, nearBegin));
+    EXPECT_EQ(0, VerticalScrollTarget(ScrollCode::LineBack, nearBegin));
+    EXPECT_EQ(0, HorizontalScrollTarget(ScrollCode::Track, nearBegin));
 }
 
 TEST(GridGeometry, HorizontalTop_IsTheSmallerEndOfTheRange)
 {
     const ScrollRequest turned{0, 50, 20, 1, 1, 0};
-    EXPECT_EQ(20, HorizontalScrollTarget(SB_TOP, turned));
-    EXPECT_EQ(50, VerticalScrollTarget(SB_TOP, turned));
+    EXPECT_EQ(20, HorizontalScrollTarget(ScrollCode::First, turned));
+    EXPECT_EQ(50, VerticalScrollTarget(ScrollCode::First, turned));
 }
 
 TEST(GridGeometry, WheelPosition_OfANotch_IsOneRow)
@@ -204,7 +206,7 @@ TEST(GridGeometry, WheelPosition_OfLessThanANotch_TruncatesTowardZero)
 
 TEST(GridGeometry, CellRectangles_ShareTheBorderWithTheNeighbours)
 {
-    const CRect cell(100, 40, 180, 60);
+    const Box cell(100, 40, 180, 60);
     EXPECT_EQ("100,40-181,61", Text(CellOutlineRect(cell)));
     EXPECT_EQ("101,41-180,60", Text(CellInsideRect(cell)));
     EXPECT_EQ("103,44-180,60", Text(CellTextRect(cell, 3)));

@@ -1,23 +1,23 @@
-// The rules of dragging items in a tree that need no window.
-#include "treedrag/TreeDragRules.h"
+// The rules of dragging items in a tree.
+#include "rules/TreeDragRules.h"
 
 namespace QuorUiCtr
 {
 
-DropPlace DropPlaceAt(const RECT& row, int y, bool isOpenFolder)
+DropPlace DropPlaceAt(const Box& row, int y, bool isOpenFolder)
 {
     if (y < (row.top + row.bottom) / 2)
         return DropPlace::BeforeItem;
     return isOpenFolder ? DropPlace::BeforeFirstChild : DropPlace::AfterItem;
 }
 
-std::array<LineStroke, 6> InsertionLine(const RECT& item, int clientRight, bool above)
+std::array<LineStroke, 6> InsertionLine(const Box& item, int clientRight, bool above)
 {
-    const LONG middle = above ? item.top : item.bottom;
-    const LONG left = item.left;
-    const LONG right = clientRight - 2;
-    const LONG top = middle - 3;
-    const LONG bottom = middle + 3;
+    const int middle = above ? item.top : item.bottom;
+    const int left = item.left;
+    const int right = clientRight - 2;
+    const int top = middle - 3;
+    const int bottom = middle + 3;
     return {{
         {{left, bottom}, {left, top}},
         {{left + 1, bottom - 1}, {left + 1, top + 1}},
@@ -37,16 +37,11 @@ ScrollStep ScrollStepFor(int coordinate, int low, int high, int margin, int posi
     return ScrollStep::None;
 }
 
-bool IsSameName(const CString& left, const CString& right)
+std::wstring FreeFolderName(const std::wstring& base, const std::function<bool(const std::wstring&)>& isFree)
 {
-    return left.CompareNoCase(right) == 0;
-}
-
-CString FreeFolderName(const CString& base, const std::function<bool(const CString&)>& isFree)
-{
-    CString name = base;
+    std::wstring name = base;
     for (int number = 1; !isFree(name); ++number)
-        name.Format(L"%s %d", static_cast<LPCTSTR>(base), number);
+        name = base + L' ' + std::to_wstring(number);
     return name;
 }
 

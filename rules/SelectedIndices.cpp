@@ -1,5 +1,5 @@
 // Ordered index lists.
-#include "grid/input/SelectedIndices.h"
+#include "rules/SelectedIndices.h"
 
 namespace QuorUiCtr::SelectedIndices
 {

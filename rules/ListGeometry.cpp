@@ -1,5 +1,5 @@
 // Where the columns of a report list and the editor of a cell go.
-#include "controls/ListGeometry.h"
+#include "rules/ListGeometry.h"
 
 #include <algorithm>
 
@@ -32,18 +32,18 @@ HorizontalSpan EditorSpan(int left, int width, int clientRight)
     return {editorLeft, (std::min)(editorLeft + width - EditorShortening, clientRight)};
 }
 
-GrownEditor GrowEditor(const CRect& current, CSize needed, const CRect& list)
+GrownEditor GrowEditor(const Box& current, Extent needed, const Box& list)
 {
     GrownEditor grown{current, false, false};
-    if (needed.cx > current.Width())
+    if (needed.width > current.Width())
     {
         grown.needsRoom = true;
-        grown.rectangle.right = (std::min)(current.left + needed.cx, list.right - FreeEdge);
+        grown.rectangle.right = (std::min)(current.left + needed.width, list.right - FreeEdge);
     }
-    if (needed.cy > current.Height())
+    if (needed.height > current.Height())
     {
         grown.needsRoom = true;
-        grown.rectangle.bottom = current.top + needed.cy;
+        grown.rectangle.bottom = current.top + needed.height;
         grown.needsScrollBar = grown.rectangle.bottom >= list.bottom - FreeEdge;
         if (grown.needsScrollBar)
             grown.rectangle.bottom = list.bottom - FreeEdge;

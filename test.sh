@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Builds the tests and runs them; ends with the summary of the test runner.
 #
-#   ./test.sh            all tests of the plain variant
+#   ./test.sh            all tests of the plain variant, and those that are built for this machine
 #   ./test.sh --all      all tests, in the checked variant too: assertions, checked containers, traps, guarded memory
 #   ./test.sh NAME       those whose name matches the regular expression NAME, for example grid
 #   ./test.sh --all NAME likewise in both variants, for example checked.framework
@@ -17,7 +17,7 @@ write_test_list() {
 }
 
 main() {
-    local preset presets=(mingw-release)
+    local preset presets=(native mingw-release)
     if [[ ${1:-} == --all ]]; then
         presets+=(mingw-checked)
         shift

@@ -3,6 +3,8 @@
 #
 #   tools/build.sh PRESET [TARGETS...]      for example: tools/build.sh mingw-release gallery
 #
+# PRESET is mingw-release, mingw-checked, or native: the tests of tests/native, for this machine.
+#
 # QUOR_WERROR=1 makes warnings errors. A compiler cache (ccache) is used where there is one, unless CCACHE_DISABLE is set;
 # what is compiled is the same with it and without.
 set -euo pipefail
@@ -26,7 +28,9 @@ configure() {
     say "configuring $preset"
     # What a failed attempt has found, or not found, does not count.
     rm -f "$tree/CMakeCache.txt"
-    cmake --preset "$preset" -B "$tree" ${QUOR_WERROR:+-D "QUOR_WERROR=$QUOR_WERROR"} >"$tree/configure.log" 2>&1 || {
+    local what=(--preset "$preset")
+    [[ $preset != native ]] || what=(-G Ninja -S tests/native)
+    cmake "${what[@]}" -B "$tree" ${QUOR_WERROR:+-D "QUOR_WERROR=$QUOR_WERROR"} >"$tree/configure.log" 2>&1 || {
         cat "$tree/configure.log" >&2
         die "configuring $preset failed"
     }
@@ -49,7 +53,7 @@ build() {
 main() {
     refuse_options "$@"
     local preset=${1:-} tree
-    [[ $preset == mingw-release || $preset == mingw-checked ]] || die "which preset? mingw-release or mingw-checked"
+    [[ $preset =~ ^(mingw-release|mingw-checked|native)$ ]] || die "which preset? mingw-release, mingw-checked or native"
     shift
     tree=$quor_build/$preset
     cd "$quor_root"

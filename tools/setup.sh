@@ -10,6 +10,7 @@ source "$(dirname "$0")/lib.sh"
 # Each line: the Debian package, then the commands or files of which any shows that it is there.
 requirements() {
     cat <<'LIST'
+g++ g++
 g++-mingw-w64-x86-64-posix x86_64-w64-mingw32-g++-posix
 wine wineserver
 wine64 /usr/lib/wine/wine64 /usr/lib/x86_64-linux-gnu/wine/wine64 wine64

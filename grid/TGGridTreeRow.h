@@ -15,92 +15,124 @@ namespace QuorUiCtr
 // descendants. Folded descendants live only in their parent's child list and have the index -1. A row owns
 // its children; the grid's row list refers to the shown ones. The unfold flag is remembered while a row is
 // hidden.
+//
+//     grid.AppendRow(new TGGridTreeRow(grid));            // a root row, the grid's from now on
+//     TGGridTreeRow& root = grid.GetTreeRow(grid.GetRowNum() - 1);
+//     root[0].SetText(L"Bearings");
+//     TGGridTreeRow* child = new TGGridTreeRow(grid);
+//     (*child)[0].SetText(L"6204");
+//     root.AppendChild(child);                            // root's from now on
+//     root.UnFold();                                      // shows it
+//     for (root.MoveToFirst(); !root.IsOut(); root.MoveToNext())
+//         Use(root.CurChild());
+//
+// Operations that change what is shown end an open edit of a cell, take rows that vanish out of the
+// selection, with OnCurChanged() for each, and lay the grid out; between BeginUpdate and EndUpdate that
+// layout comes once, at the end. They ask no confirmation and notify nobody. Hooks that run meanwhile may
+// delete the row: the operation then stops there.
 class QUOR_EXT_CLASS TGGridTreeRow : public TGGridRow
 {
 public:
-    // A root row of `grid`, not entered into it.
+    // A root row of `grid`, folded and not entered into it: for AppendRow, InsertRow, InsertChild or a hook.
     explicit TGGridTreeRow(TGGrid& grid);
-    // A row of the parent's grid that refers to `parent`; it is not entered into the parent's child list.
+    // A row of the parent's grid that refers to `parent` (not null); it is not entered into the parent's
+    // child list.
     explicit TGGridTreeRow(TGGridTreeRow* parent);
+    // A copy would own the children a second time; operator= copies them.
     TGGridTreeRow(const TGGridTreeRow&) = delete;
 
     // Row assignment, then a copy of every child of `source` is added behind this row's children,
-    // recursively.
+    // recursively. The row stays where it stands; as `source` is folded or not, so is this row then.
     TGGridTreeRow& operator=(TGGridTreeRow& source);
-    // Like operator=, but the host data moves from `source` and its offspring to this row and the copies.
+    // Like operator=, but the host data moves from `source` and its offspring to this row and the copies: for
+    // a source that is deleted afterwards.
     TGGridTreeRow& operator<<(TGGridTreeRow& source);
 
-    // The parent, null for a root row.
+    // The parent, null for a root row. Two forms: the second is for rows known to be children.
     TGGridTreeRow* Parent() const { return parent; }
-    // The parent of a child row.
+    // The parent of a child row, which the caller makes sure it is (asserted).
     TGGridTreeRow& GetParent() const;
-    // Stores the pointer and does nothing else.
+    // Stores the pointer and does nothing else: neither list of children knows of it. For hosts that have
+    // made a row for a place they know; InsertChild sets it anyway.
     void SetParent(TGGridTreeRow* newParent) { parent = newParent; }
     // The topmost row above this one, which is the row itself for a root row.
     TGGridTreeRow& RootRow();
+    // Has no parent, whether it stands in the grid or not.
     bool IsRootRow() { return !IsChildRow(); }
 
+    // Direct children, folded or not.
     long GetChildNum() const { return children.GetNum(); }
-    // The child cursor: a position in the child list.
+    // The child cursor: a position in the child list, which GetChild and the operations on children move.
+    // From the last child it moves out, and from there to the first one again.
     void MoveToFirst() { children.MoveToFirst(); }
     void MoveToNext() { children.MoveToNext(); }
     void MoveToPre() { children.MoveToPre(); }
     // The cursor stands on no child.
     bool IsOut() const;
-    // The child under the cursor.
+    // The child under the cursor; asserted that there is one.
     TGGridTreeRow& CurChild();
-    // The child at the zero-based position `position`; moves the child cursor there.
+    // The child at the zero-based position `position`, which exists (asserted); moves the child cursor there.
     TGGridTreeRow& GetChild(long position);
-    // The last child; moves the child cursor there.
+    // The last child of a parent row; moves the child cursor there.
     TGGridTreeRow& GetLastChild();
 
-    // The row is folded: its unfold flag is clear.
+    // The row is folded: its unfold flag is clear. True for a new row, also while it has no children.
     bool IsFold() const { return !HasFlag(UnfoldFlag); }
-    // Sets or clears the unfold flag and shows or hides nothing.
+    // Sets or clears the unfold flag and shows or hides nothing: for rows that are not entered yet, so that
+    // they come unfolded. On a shown parent row, view and flag differ until UnFold or Fold.
     void SetUnFoldFlag(bool on) { SetFlag(UnfoldFlag, on); }
-    // The row stands in the grid's row list.
+    // The row stands in the grid's row list; it may still be scrolled out of the view.
     bool IsVisible() const { return GetIndex() != -1; }
     // The first child stands in the grid's row list; false without children.
     bool IsChildVisible() const;
     // The row is a child row and its parent has none behind it.
     bool IsLastChild() const;
-    // Depth: 0 for a root row.
+    // Depth, the number of its ancestors: 0 for a root row.
     long GetParentNum();
     // Number of all descendants, folded or not.
     long GetOffspringNum();
     // Number of grid rows that this row takes up when it is shown: 1 when folded.
     long GetRowNum();
 
-    // Inserts `child` (null makes an empty one) before the child at `position`; this row owns it from now on.
+    // Inserts `child` (null makes an empty one) before the child at `position`, GetChildNum() for behind the
+    // last (asserted; others are brought into the range); this row owns it from now on.
     // It is shown at once, with its unfolded offspring, when this row is shown and unfolded.
     void InsertChild(long position, TGGridTreeRow* child);
     // InsertChild behind the last child.
     void AppendChild(TGGridTreeRow* child);
-    // Removes the child at `position` from the grid and deletes it with its offspring.
+    // Removes the child at `position` (asserted; ignored when there is none) from the grid and deletes it
+    // with its offspring. Without its last child the row is no parent any more and loses its box.
     void DelChild(long position);
-    // Folds the row and deletes all children.
+    // Folds the row and deletes all children with their offspring.
     void ClearChild();
 
-    // Hides the offspring and clears the unfold flag; descendants keep their own flags.
+    // Hides the offspring and clears the unfold flag; descendants keep their own flags, so that unfolding
+    // brings back the same picture.
     void Fold();
-    // Shows the children and, below each unfolded one, its offspring, when this row is shown; sets the flag.
+    // Shows the children and, below each unfolded one, its offspring, when this row is shown; sets the flag
+    // in any case.
     void UnFold();
     // Folds or unfolds this row and all descendants.
     void FoldAll();
     void UnFoldAll();
-    // Sorts the children of this row and of every descendant by the row order; the grid's rows stay where
-    // they are until the tree is shown again.
+    // Sorts the children of this row and of every descendant by the row order, see TGGridRow::operator<; the
+    // grid's rows stay where they are until the tree is shown again. TGGrid::Arrange does both.
     void ArrangeChild(bool ascending);
 
     // Depth-first search of the descendants for the first whose cell in column `col` equals `text` exactly.
-    // Shows it, makes it the only selected row and returns true; returns false and changes nothing otherwise.
+    // Shows it, unfolding its ancestors, makes it the only selected row and returns true; returns false and
+    // changes nothing otherwise. A null `text` finds an empty cell.
     bool FindAndSel(const wchar_t* text, long col);
 
-    // Whether a point in logical coordinates lies in the plus or minus box; false without children.
+    // Whether a point in logical coordinates lies in the plus or minus box; false without children. The point
+    // is not changed.
     bool IsPtInTreeQuad(CPoint& point);
 
+    // Has children, folded or not.
     bool IsParentRow() override;
+    // Has a parent.
     bool IsChildRow() override;
+    // Always: tells hosts that hold a TGGridRow that the cast to this class is right.
     bool IsTreeRow() override;
 
     // Deletes the children, then what TGGridRow deletes.
@@ -111,6 +143,7 @@ protected:
     friend class TGGridCell;
     friend class TGTreeGrid;
 
+    // The cells of this row and of all its offspring follow the columns; the grid calls its root rows only.
     void InsertCol(long position, TGGridCol& col) override;
     void AppendCol(TGGridCol& col) override;
     void DelCol(long position) override;
@@ -118,9 +151,10 @@ protected:
 
     // Position of `child` in the child list, -1 when it is not there.
     long GetChildIndex(TGGridTreeRow* child);
-    // The grid row index at which the child at `position` is or would be shown.
+    // The grid row index at which the child at `position` is or would be shown, counted by the unfold flags.
     long GetGlobalChildIndex(long position);
-    // The plus or minus box in logical coordinates; leaves `rect` untouched without children.
+    // The plus or minus box in logical coordinates: a square three pixels smaller than the row is high, one
+    // step further right for each ancestor. Leaves `rect` untouched without children.
     void GetTreeQuad(CRect& rect);
 
 private:
@@ -161,7 +195,9 @@ private:
     void CollectOffspring(std::vector<TGGridRow*>& shown);
     void CollectShown(std::vector<TGGridRow*>& shown);
 
+    // Owned, in their order. The two fields keep this order, for hosts that were compiled with it.
     PDList<TGGridTreeRow> children;
+    // Not owned; null for a root row.
     TGGridTreeRow* parent = nullptr;
 };
 

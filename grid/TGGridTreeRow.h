@@ -95,8 +95,8 @@ public:
     long GetRowNum();
 
     // Inserts `child` (null makes an empty one) before the child at `position`, GetChildNum() for behind the
-    // last (asserted; others are brought into the range); this row owns it from now on.
-    // It is shown at once, with its unfolded offspring, when this row is shown and unfolded.
+    // last (asserted; others are brought into the range); this row owns it from now on. It is shown at once,
+    // with its unfolded offspring, when this row is shown and unfolded.
     void InsertChild(long position, TGGridTreeRow* child);
     // InsertChild behind the last child.
     void AppendChild(TGGridTreeRow* child);

@@ -1,19 +1,8 @@
-// The chain of a tree's watches.
+// What a tree's watches are told.
 #include "treedrag/TreeWatch.h"
 
 namespace QuorUiCtr
 {
-
-TreeWatch::TreeWatch(TreeWatch*& newest) : newestOfTree(&newest), older(newest)
-{
-    newest = this;
-}
-
-TreeWatch::~TreeWatch()
-{
-    if (newestOfTree != nullptr)
-        *newestOfTree = older;
-}
 
 bool TreeWatch::IsGone(HTREEITEM item) const
 {
@@ -22,15 +11,7 @@ bool TreeWatch::IsGone(HTREEITEM item) const
 
 void TreeWatch::NoteDeletedItem(TreeWatch* newest, HTREEITEM item)
 {
-    for (TreeWatch* watch = newest; watch != nullptr; watch = watch->older)
-        watch->deleted.insert(item);
-}
-
-void TreeWatch::NoteTreeGone(TreeWatch*& newest)
-{
-    for (TreeWatch* watch = newest; watch != nullptr; watch = watch->older)
-        watch->newestOfTree = nullptr;
-    newest = nullptr;
+    TellAll(newest, [item](TreeWatch& watch) { watch.deleted.insert(item); });
 }
 
 } // namespace QuorUiCtr

@@ -6,15 +6,8 @@
 namespace QuorUiCtr
 {
 
-CellWatch::CellWatch(TGGrid& watchingGrid, TGGridCell* watchedCell)
-    : grid(watchingGrid), cell(watchedCell), next(watchingGrid.cellWatches)
+CellWatch::CellWatch(TGGrid& grid, TGGridCell* watchedCell) : ListedWatch(grid.cellWatches), cell(watchedCell)
 {
-    grid.cellWatches = this;
-}
-
-CellWatch::~CellWatch()
-{
-    grid.cellWatches = next;
 }
 
 void TGGrid::ForgetCell(const TGGridCell* cell)
@@ -23,9 +16,10 @@ void TGGrid::ForgetCell(const TGGridCell* cell)
         editCell = nullptr;
     if (cellLock == cell)
         cellLock = nullptr;
-    for (CellWatch* watch = cellWatches; watch; watch = watch->next)
-        if (watch->cell == cell)
-            watch->cell = nullptr;
+    CellWatch::TellAll(cellWatches, [cell](CellWatch& watch) {
+        if (watch.cell == cell)
+            watch.cell = nullptr;
+    });
 }
 
 } // namespace QuorUiCtr

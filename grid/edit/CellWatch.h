@@ -1,6 +1,8 @@
 // CellWatch: a reference to a cell that becomes null when the cell is deleted.
 #pragma once
 
+#include "rules/ListedWatch.h"
+
 namespace QuorUiCtr
 {
 
@@ -8,24 +10,21 @@ class TGGrid;
 class TGGridCell;
 
 // Hooks may delete the cell that an operation is working on; the operation watches it and asks again after
-// the hook. Lives on the stack, inside an operation of the grid.
-class CellWatch
+// the hook. Must not outlive the grid.
+class CellWatch : private ListedWatch<CellWatch>
 {
 public:
-    CellWatch(TGGrid& watchingGrid, TGGridCell* watchedCell);
-    ~CellWatch();
-    CellWatch(const CellWatch&) = delete;
-    CellWatch& operator=(const CellWatch&) = delete;
+    // `watchedCell` may be null.
+    CellWatch(TGGrid& grid, TGGridCell* watchedCell);
 
     // The cell, null once it was deleted.
     TGGridCell* Cell() const { return cell; }
 
 private:
+    friend class ListedWatch<CellWatch>;
     friend class TGGrid;
 
-    TGGrid& grid;
     TGGridCell* cell;
-    CellWatch* next;
 };
 
 } // namespace QuorUiCtr

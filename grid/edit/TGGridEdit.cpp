@@ -4,6 +4,7 @@
 #include "grid/edit/CellEditorLife.h"
 #include "grid/edit/CellWatch.h"
 #include "grid/model/RowWatch.h"
+#include "grid/model/ScopedValue.h"
 #include "grid/TGCellButtonEdit.h"
 #include "grid/TGCellCombo.h"
 #include "grid/TGCellCtrlIds.h"
@@ -48,15 +49,6 @@ constexpr UINT_PTR CloseTimer = 1;
 
 // Ending an edit runs hooks that may end edits again, of any grid.
 bool endingEdit = false;
-
-class EndingEdit
-{
-public:
-    EndingEdit() { endingEdit = true; }
-    ~EndingEdit() { endingEdit = false; }
-    EndingEdit(const EndingEdit&) = delete;
-    EndingEdit& operator=(const EndingEdit&) = delete;
-};
 
 } // namespace
 
@@ -209,7 +201,7 @@ void TGGrid::EndEditCell()
 {
     if (endingEdit || !editCell)
         return;
-    EndingEdit guard;
+    const ScopedValue guard(endingEdit, true);
     if (cellCtrl && cellCtrl->IsModified())
         EditSession(*this).CommitEdit(*cellCtrl);
     // Also what a hook has opened meanwhile.

@@ -6,26 +6,16 @@
 namespace QuorUiCtr
 {
 
-RowWatch::RowWatch(TGGrid& watchingGrid, const TGGridRow* watchedRow)
-    : grid(watchingGrid), row(watchedRow), next(watchingGrid.rowWatches)
+RowWatch::RowWatch(TGGrid& grid, const TGGridRow* watchedRow) : ListedWatch(grid.rowWatches), row(watchedRow)
 {
-    if (next != nullptr)
-        next->previous = this;
-    grid.rowWatches = this;
-}
-
-RowWatch::~RowWatch()
-{
-    (previous != nullptr ? previous->next : grid.rowWatches) = next;
-    if (next != nullptr)
-        next->previous = previous;
 }
 
 void TGGrid::ForgetRow(const TGGridRow* row)
 {
-    for (RowWatch* watch = rowWatches; watch != nullptr; watch = watch->next)
-        if (watch->row == row)
-            watch->row = nullptr;
+    RowWatch::TellAll(rowWatches, [row](RowWatch& watch) {
+        if (watch.row == row)
+            watch.row = nullptr;
+    });
 }
 
 } // namespace QuorUiCtr

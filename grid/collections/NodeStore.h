@@ -13,7 +13,8 @@ namespace QuorUiCtr::Detail
 // Hands out equally sized slots for the nodes of one list. An empty store owns no memory; blocks grow with
 // the list from 4 to 512 slots, slots given back are used again, and all blocks go at once with Release().
 //
-// With _DEBUG defined every slot is an allocation of its own, so that a guarding allocator sees each node.
+// With _DEBUG defined every slot is an allocation of its own, so that a guarding allocator sees each node;
+// slots that are reserved wait in a list.
 // All modules of a process that share lists must agree on _DEBUG. One thread only, like the lists themselves.
 class NodeStore
 {
@@ -36,7 +37,7 @@ public:
     void* Take(std::size_t slotSize)
     {
         if constexpr (!usesBlocks)
-            return ::operator new(slotSize);
+            return TakeSingle(slotSize);
         if (newest == nullptr || (newest->freeSlots == nullptr && newest->used == newest->capacity))
             AddBlock(NextCapacity(), slotSize);
         if (FreeSlot* slot = newest->freeSlots)
@@ -51,7 +52,11 @@ public:
     void Give(void* slot) noexcept
     {
         if constexpr (!usesBlocks)
+        {
+            --newest->used;
+            --newest->total;
             ::operator delete(slot);
+        }
         else
             newest->freeSlots = new (slot) FreeSlot{newest->freeSlots};
     }
@@ -59,14 +64,22 @@ public:
     // Makes room for `slots` slots in all, those in use included.
     void Reserve(std::size_t slots, std::size_t slotSize)
     {
+        if constexpr (!usesBlocks)
+        {
+            while (newest == nullptr || newest->total < slots)
+                AddSpare(slotSize);
+            return;
+        }
         const std::size_t present = newest == nullptr ? 0 : newest->total;
-        if (usesBlocks && slots > present)
+        if (slots > present)
             AddBlock(present == 0 ? slots : (std::max)(slots - present, NextCapacity()), slotSize);
     }
 
     // Frees every block. Every node must have been destroyed, or need no destruction.
     void Release() noexcept
     {
+        while (!usesBlocks && newest != nullptr && newest->freeSlots != nullptr)
+            ::operator delete(std::exchange(newest->freeSlots, newest->freeSlots->next));
         while (newest != nullptr)
         {
             Block* block = std::exchange(newest, newest->older);
@@ -94,6 +107,32 @@ private:
         std::uint32_t capacity;
         std::uint32_t total; // slots of this and all older blocks
     };
+
+    // Without blocks a head without slots keeps the slots that are reserved, one allocation each.
+    void* TakeSingle(std::size_t slotSize)
+    {
+        if (newest == nullptr || newest->freeSlots == nullptr)
+            AddSpare(slotSize);
+        ++newest->used;
+        return std::exchange(newest->freeSlots, newest->freeSlots->next);
+    }
+
+    void AddSpare(std::size_t slotSize)
+    {
+        void* slot = ::operator new(slotSize);
+        try
+        {
+            if (newest == nullptr)
+                newest = new (::operator new(sizeof(Block))) Block{nullptr, nullptr, 0, 0, 0};
+        }
+        catch (...)
+        {
+            ::operator delete(slot);
+            throw;
+        }
+        newest->freeSlots = new (slot) FreeSlot{newest->freeSlots};
+        ++newest->total;
+    }
 
     std::size_t NextCapacity() const
     {

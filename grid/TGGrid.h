@@ -93,7 +93,7 @@ public:
     // without columns. It is not done again by itself when the window is resized.
     bool FitLastCol();
     // Scrolls by a distance in pixels, as far as the shown scroll bars allow; ends an open cell edit when
-    // anything moves.
+    // anything moves. Any distance will do; in a direction without a bar at most 2^24 pixels count.
     void MoveView(int dx, int dy);
     // Scrolls vertically so that the new-row line is visible.
     void ShowAppendRow();
@@ -120,9 +120,10 @@ public:
     // smaller font takes back as much of a negative space as rows need for their one pixel.
     long GetRowSpace() const { return rowSpace; }
     void SetRowSpace(int pixels);
-    // Width of columns added with width 0 and step of horizontal line scrolling, in pixels.
+    // Width of columns added with width 0 and step of horizontal line scrolling: 0 to 65535 pixels, as for
+    // the columns.
     long GetDefaultWidth() const { return defaultWidth; }
-    void SetDefaultWidth(long pixels) { defaultWidth = pixels; }
+    void SetDefaultWidth(long pixels);
     // Row height times the largest caption line count.
     long GetColHeaderHeight();
     // Content height and width in pixels: below the last row (the new-row line included when it is shown) and
@@ -160,6 +161,7 @@ public:
     bool IsValidCol(long i) const { return i >= 0 && i < GetColNum(); }
     // `i` names the new-row line.
     bool IsNewRow(long i) const { return i == GetRowNum(); }
+    // Where there is no such row (asserted), the row of the new-row line.
     TGGridRow& GetRow(long i);
     TGGridRow& operator[](long i) { return GetRow(i); }
     // The same row seen as a tree row; only for rows that are.
@@ -217,7 +219,11 @@ public:
 
     // ---- Structure --------------------------------------------------------------------------------------
     // These end an open cell edit and lay out anew; they call no confirmation hook and notify nobody. A null
-    // row or column makes the grid create a plain one. The grid owns what it is given.
+    // row or column makes the grid create a plain one. The grid owns what it is given, and deletes it when
+    // there is no memory to take it in; then the grid is as it was and the exception goes on to the caller. A
+    // row that was made before the columns changed gets cells for the columns of now.
+    // Rows leave one by one: each is deselected, which calls OnCurChanged(), and then goes; the current row
+    // follows its row.
 
     // Inserts before the row at `i`; selected rows at `i` and below move on by one. GetRowNum() appends. In a
     // tree the new row is a root row, which belongs between two trees.
@@ -229,13 +235,15 @@ public:
     void DelRow(long i);
     // Deletes a row of a tree with its offspring: a child through its parent, a parent folded first.
     void DelRowEx(long i);
-    // Places the row at `from` before the row that stands at `to`; nothing when `to` is `from` or `from` + 1.
+    // Places the row at `from` before the row that stands at `to`; nothing when `to` is `from` or `from` + 1,
+    // and when there is no such row or place (asserted).
     // The selection keeps its numbers. A row of a tree takes its shown offspring along and changes its place
     // in the tree, too: it moves among its siblings, to a `to` in front of one of them or behind the last
     // one's offspring. Any other place would give it another parent and is refused, which changes nothing;
     // a row that is not in a tree moves among the root rows.
     void MoveRow(long from, long to);
-    // Inserts before the column at `i`; width 0 means the default width. Pixels.
+    // Inserts before the column at `i`; width 0 means the default width. Widths are 0 to 65535 pixels
+    // (asserted; others are brought into the range).
     void InsertCol(long i, TGGridCol* col, long width);
     void InsertCol(long i, const wchar_t* name, long width);
     // The same behind the last column.
@@ -324,7 +332,9 @@ public:
     // ---- Commands ---------------------------------------------------------------------------------------
     // What the user does: these check the style word and the selection, ask the OnBefore... hooks and report
     // the change. They return false, changing nothing, when refused. A row that a tree command hands to a
-    // hook prepared stays the grid's also when the hook replaces it.
+    // hook prepared stays the grid's also when the hook replaces it, and a row, child or column that a hook
+    // has put into its reference argument is the grid's from then on: the grid deletes it when the hook
+    // refuses or the command cannot go on.
 
     // At the one selected column: before it, behind it; at the end. The new column is selected.
     bool DoInsertCol();
@@ -345,7 +355,8 @@ public:
     bool DoDelete();
     // Copies the selected rows to the row buffer, also in a read-only grid.
     bool DoCopy();
-    // Moves the selected rows to the row buffer.
+    // Moves the selected rows to the row buffer, from the last to the first; OnCurChanged() sees the rows and
+    // the buffer of each moment. Without memory a cut may stop between two rows: none is lost.
     bool DoClip();
     // Moves the row buffer in front of the one selected row, or to the end in reverse order.
     bool DoPaste();
@@ -426,7 +437,8 @@ protected:
     // itself on GetDC() or wants it to stay as it is. Default: true.
     virtual bool OnRefresh(TGGridCell& cell);
     virtual bool OnRefresh(TGGridRow& row);
-    // A column is about to be inserted at `position`; the hook may supply the column object.
+    // A column is about to be inserted at `position`; the hook may supply the column object, which is the
+    // grid's from then on, also when the hook returns false.
     virtual bool OnBeforeInsertCol(long position, TGGridCol*& col);
     // The column is in place. Default: OnDataChanged().
     virtual void OnInsertCol(TGGridCol& col);
@@ -439,9 +451,10 @@ protected:
     // Default: the answer of OnMovingCol.
     virtual bool OnMoveCol(long position);
     virtual void OnEndMoveCol();
-    // A row is about to be inserted at `position`; the hook may supply the row object.
+    // A row is about to be inserted at `position`; the hook may supply the row object, which is the grid's
+    // from then on, also when the hook returns false. The columns may change before it comes in.
     virtual bool OnBeforeInsertRow(long position, TGGridRow*& row);
-    // A child is about to be inserted under `parent`; the hook may supply the row object.
+    // A child is about to be inserted under `parent`; the hook may supply the row object, likewise.
     virtual bool OnBeforeInsertChild(TGGridTreeRow& parent, long position, TGGridTreeRow*& child);
     // The row is in place. Default: OnDataChanged(). `row` is the row object that came in, at its index,
     // selected if the command selects it.
@@ -631,6 +644,7 @@ private:
     class Commands;
     class EditSession;
     class Keyboard;
+    class LateNumbers;
     class Layout;
     class RowBuffer;
     class Structure;
@@ -723,6 +737,12 @@ private:
     void ForgetCell(const TGGridCell* cell);
     void ForgetRow(const TGGridRow* row);
 
+    // The serial number of the column that was made last.
+    unsigned lastColSerial = 0;
+
+    // Knows the indices of the rows while others leave one by one; null else.
+    LateNumbers* lateNumbers = nullptr;
+
     // The cells and rows that operations on the stack are working on.
     CellWatch* cellWatches = nullptr;
     RowWatch* rowWatches = nullptr;
@@ -740,7 +760,21 @@ class TGGridUpdate
 public:
     // The grid must outlive the scope; its window need not.
     explicit TGGridUpdate(TGGrid& updatedGrid) : grid(updatedGrid) { grid.BeginUpdate(); }
-    ~TGGridUpdate() { grid.EndUpdate(); }
+    ~TGGridUpdate()
+    {
+        // A layout that gets no memory is made up for by the next one.
+        try
+        {
+            grid.EndUpdate();
+        }
+        catch (CException* exception)
+        {
+            exception->Delete();
+        }
+        catch (...)
+        {
+        }
+    }
     TGGridUpdate(const TGGridUpdate&) = delete;
     TGGridUpdate& operator=(const TGGridUpdate&) = delete;
 

@@ -135,6 +135,8 @@ private:
     CBrush brush;
     // The grid that owns the column; never null.
     TGGrid* grid;
+    // Counts up from column to column of the grid: tells a column from a deleted one at the same address.
+    unsigned serial;
 };
 
 } // namespace QuorUiCtr

@@ -43,7 +43,7 @@ public:
     // (asserted).
     TGGridCell& operator[](long col);
     // Zero-based position in the grid; -1 while the row is not shown (a child of a folded row).
-    long GetIndex() const { return index; }
+    long GetIndex() const;
 
     // The host data, owned by the row; null when there is none. The row never looks into it.
     TGRowData* GetExtendData() const { return extendData; }
@@ -110,7 +110,7 @@ protected:
     // Gives the host data away: the caller owns it, the row has none.
     TGRowData* ReleaseExtendData();
 
-    void SetIndex(long newIndex) { index = newIndex; }
+    void SetIndex(long newIndex);
     // The row's band in logical coordinates, in pixels; rows that are not shown lie above the first one.
     long GetLeft() const { return 0; }
     long GetTop() const;
@@ -139,6 +139,10 @@ private:
     int CompareByKeys(TGGridRow& other);
     // Appends an empty cell; an empty slot for a null column.
     void AddCell(TGGridCol* col);
+    bool FitsCols() const;
+    // Gives the row one cell for each column of the grid, in their order: the cells that it has for them, and
+    // empty ones. For a row that was made before the columns changed. Changes nothing when it throws.
+    void FitToCols();
 
     // The fields down to `grid` keep this order: hosts that derive were compiled with it.
     // Owned, unless the row is a second view.
@@ -150,6 +154,8 @@ private:
     PDList<TGGridCell> cells;
     // Never null.
     TGGrid* grid;
+    // The serial number of the youngest column that there was when the cells were last in step.
+    unsigned colsSeen;
 };
 
 } // namespace QuorUiCtr

@@ -5,6 +5,7 @@
 #include "module/QuorExport.h"
 
 #include <memory>
+#include <span>
 #include <vector>
 
 namespace QuorUiCtr
@@ -95,8 +96,9 @@ public:
     long GetRowNum();
 
     // Inserts `child` (null makes an empty one) before the child at `position`, GetChildNum() for behind the
-    // last (asserted; others are brought into the range); this row owns it from now on. It is shown at once,
-    // with its unfolded offspring, when this row is shown and unfolded.
+    // last (asserted; others are brought into the range); this row owns it from now on, and deletes it when
+    // there is no memory to take it in. It is shown at once, with its unfolded offspring, when this row is
+    // shown and unfolded. This row and those above it are refused (asserted).
     void InsertChild(long position, TGGridTreeRow* child);
     // InsertChild behind the last child.
     void AppendChild(TGGridTreeRow* child);
@@ -172,13 +174,19 @@ private:
         bool IsRun() const { return last - first + 1 == number; }
     };
 
+    template <class Add> void AddToChildren(Add add, long position);
     bool IsBelow(const TGGridTreeRow* ancestor) const;
     TGGridTreeRow* FindOffspring(const wchar_t* text, long col);
 
-    // Copies of the children of `source`; with `moveData` the host data of `source` and its offspring moves.
-    OwnedRows CopyChildren(const TGGridTreeRow& source, bool moveData);
+    OwnedRows CopyChildren(const TGGridTreeRow& source);
+    // Moves the host data of the children of `source` and of their offspring to their copies, or back.
+    static void MoveData(const TGGridTreeRow& source, const OwnedRows& copies, bool back);
+    static void MoveData(TGGridTreeRow& from, TGGridTreeRow& to);
     void AssignRow(TGGridTreeRow& source);
+    // Ends an edit where rows get shown, and takes the rows over, unless that has deleted this row.
     void InsertChildren(long position, OwnedRows& added);
+    // Runs no hooks. The rows are this row's from then on; nothing has changed when it throws.
+    void AddChildren(long position, std::span<TGGridTreeRow* const> added);
     // The grid row index behind the last shown row among the children up to `position` and their offspring.
     long PlaceBehind(long position);
 
@@ -189,6 +197,8 @@ private:
     long CountShownOffspring() const;
     // Sets the index of all offspring to -1 and adds the indices that they had to `hidden`.
     void MarkHidden(IndexRange& hidden);
+    // This row and its offspring, as far as they are folded.
+    void CollectFolded(std::vector<TGGridTreeRow*>& folded);
     // Sets or clears the unfold flag of this row and all offspring.
     void MarkAll(bool unfolded);
     // The rows below this one that the unfold flags show, in grid order; the second form begins with the row.

@@ -38,6 +38,37 @@ bool Contains(DualList<long>& entries, long index)
     return entry != entries.end() && *entry == index;
 }
 
+void Assign(DualList<long>& entries, const std::vector<long>& indices)
+{
+    const long number = static_cast<long>(indices.size());
+    entries.Grow(number);
+    entries.Release(number, entries.GetNum() - number);
+    auto next = indices.begin();
+    for (long& entry : entries)
+        entry = *next++;
+}
+
+// One run of indices, as after selecting all, moves as a whole: what leaves it at the end comes in at the
+// front.
+void CloseGap(DualList<long>& entries, long first, long number)
+{
+    entries.MoveToLast();
+    if (entries.IsOut() || entries.Cur() < first + number)
+        return;
+    const long last = entries.Cur();
+    const long position = LowerBound(entries, first + number);
+    const long moving = entries.GetNum() - position;
+    const bool isRun = last - entries.Cur() + 1 == moving;
+    if (isRun && number == 1)
+    {
+        entries.Insert(entries.Cur() - 1);
+        entries.MoveToLast();
+        entries.Del();
+        return;
+    }
+    Shift(entries, entries, first + number, -number);
+}
+
 bool Add(DualList<long>& entries, long index)
 {
     if (MoveTo(entries, index))

@@ -3,6 +3,8 @@
 
 #include "grid/collections/DualList.h"
 
+#include <vector>
+
 namespace QuorUiCtr::SelectedIndices
 {
 
@@ -15,6 +17,12 @@ bool Contains(DualList<long>& entries, long index);
 bool Add(DualList<long>& entries, long index);
 // False when the index is not there.
 bool Remove(DualList<long>& entries, long index);
+
+// Makes the entries these, which ascend. Nothing has changed when it throws.
+void Assign(DualList<long>& entries, const std::vector<long>& indices);
+
+// Takes `number` from the entries from `first` + `number` on; there are none between the two.
+void CloseGap(DualList<long>& entries, long first, long number);
 
 // Adds `step` to the entries from the last one back to the first one that is below `first`. The walk ends
 // when the cursor of `bound`, which goes back with it, is out; entries are reached through their own cursor,

@@ -1,7 +1,10 @@
 // The user's row and column commands: insert, append, delete.
 #include "grid/model/GridStructure.h"
+#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
+#include "rules/SelectedIndices.h"
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
@@ -16,6 +19,22 @@ enum class CommandPlace
     Before,
     After
 };
+
+// Runs a hook that may put an object in the place of the prepared one, which is deleted when the hook throws.
+template <class Object, class Hook> bool AskHook(Object*& object, Hook hook)
+{
+    const Object* const prepared = object;
+    try
+    {
+        return hook();
+    }
+    catch (...)
+    {
+        if (object != prepared)
+            delete object;
+        throw;
+    }
+}
 
 } // namespace
 
@@ -85,13 +104,12 @@ bool TGGrid::DoAppendCol()
     return Commands(*this).ReportInsertedCol(appended);
 }
 
-// Asks OnBeforeInsertCol. A hook may have removed columns meanwhile; a position that no longer exists refuses
-// like a veto.
+// Asks OnBeforeInsertCol; a column that the hook supplies is the grid's from then on. A hook may have removed
+// columns meanwhile; a position that no longer exists refuses like a veto.
 bool TGGrid::Commands::AskForCol(long position, TGGridCol*& col)
 {
-    if (!grid.OnBeforeInsertCol(position, col))
-        return false;
-    if (position <= grid.GetColNum())
+    const bool agreed = AskHook(col, [&] { return grid.OnBeforeInsertCol(position, col); });
+    if (agreed && position <= grid.GetColNum())
         return true;
     delete col;
     return false;
@@ -159,7 +177,7 @@ bool TGGrid::Commands::InsertRootRow(long selected, CommandPlace place, bool asT
         return false;
     if (place == CommandPlace::After)
         FoldRowAt(selected);
-    grid.InsertRow(position, row);
+    grid.InsertRow((std::min)(position, grid.GetRowNum()), row);
     return true;
 }
 
@@ -179,9 +197,15 @@ bool TGGrid::Commands::InsertSibling(long selected, CommandPlace place, bool asT
         delete child;
         return false;
     }
+    const RowWatch watch(grid, parent);
     if (place == CommandPlace::After)
         FoldRowAt(selected);
-    parent->InsertChild(position, child);
+    if (!watch.IsAlive())
+    {
+        delete child;
+        return false;
+    }
+    parent->InsertChild((std::min)(position, parent->GetChildNum()), child);
     return true;
 }
 
@@ -191,17 +215,16 @@ void TGGrid::Commands::FoldRowAt(long i)
         grid.GetTreeRow(i).Fold();
 }
 
-// Asks OnBeforeInsertRow, handing it a prepared tree when `asTree` is set. The grid keeps owning the prepared
-// tree when the hook refuses or replaces it.
+// Asks OnBeforeInsertRow, handing it a prepared tree when `asTree` is set. The grid owns the prepared tree,
+// also when the hook replaces it, and what the hook supplies, also when it refuses then.
 bool TGGrid::Commands::AskForRow(long position, bool asTree, TGGridRow*& row)
 {
     std::unique_ptr<TGGridTreeRow> prepared = asTree ? MakeTree() : nullptr;
     row = prepared.get();
-    if (!grid.OnBeforeInsertRow(position, row))
-        return false;
+    const bool agreed = AskHook(row, [&] { return grid.OnBeforeInsertRow(position, row); });
     if (row == prepared.get())
         prepared.release();
-    if (position <= grid.GetRowNum())
+    if (agreed && position <= grid.GetRowNum())
         return true;
     delete row;
     return false;
@@ -211,11 +234,13 @@ bool TGGrid::Commands::AskForChild(TGGridTreeRow& parent, long position, bool as
 {
     std::unique_ptr<TGGridTreeRow> prepared = asTree ? MakeTree() : nullptr;
     child = prepared.get();
-    if (!grid.OnBeforeInsertChild(parent, position, child))
-        return false;
+    const bool agreed = AskHook(child, [&] { return grid.OnBeforeInsertChild(parent, position, child); });
     if (child == prepared.get())
         prepared.release();
-    return true;
+    if (agreed)
+        return true;
+    delete child;
+    return false;
 }
 
 bool TGGrid::Commands::ReportInsertedRow(long position)
@@ -298,17 +323,16 @@ bool TGGrid::Commands::DeleteSelectedRows()
     return true;
 }
 
-// All rows leave as one change, each parent with its offspring.
+// From the last to the first, each parent with its offspring. What hooks have put elsewhere stays.
 void TGGrid::Commands::DeleteRows(const std::vector<long>& indices)
 {
     const TGGridUpdate update(grid);
+    const LateNumbers late(grid);
+    const std::vector<const TGGridRow*> doomed = Structure(grid).RowsAt(indices);
     grid.ClearSel();
-    const long tellings = static_cast<long>(indices.size());
-    const std::vector<TGGridRow*> doomed = Structure(grid).AnnounceRemoval(indices, tellings);
-    Structure(grid).TakeOut(doomed);
-    for (TGGridRow* row : doomed)
-        delete row;
-    grid.RecalcLayout(1);
+    for (std::size_t k = indices.size(); k-- > 0;)
+        if (doomed[k] != nullptr && grid.RowAt(indices[k]) == doomed[k])
+            grid.DelRowEx(indices[k]);
 }
 
 bool TGGrid::Commands::DeleteSelectedCols()
@@ -334,12 +358,7 @@ void TGGrid::FilterDelUnable()
     for (long i : rowSel)
         if (!GetRow(i).IsDelUnable())
             kept.push_back(i);
-    if (static_cast<long>(kept.size()) != rowSel.GetNum())
-    {
-        rowSel.Clear();
-        for (long i : kept)
-            rowSel.Append(i);
-    }
+    SelectedIndices::Assign(rowSel, kept);
     Invalidate(TRUE);
 }
 

@@ -1,9 +1,12 @@
 // Copy, cut and paste through the grid's row buffer.
 #include "grid/model/GridStructure.h"
+#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
+#include "rules/SelectedIndices.h"
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace QuorUiCtr
@@ -13,49 +16,73 @@ namespace QuorUiCtr
 class TGGrid::RowBuffer
 {
 public:
+    using Rows = std::vector<std::unique_ptr<TGGridRow>>;
+
     explicit RowBuffer(TGGrid& servedGrid) : grid(servedGrid) {}
 
-    TGGridRow* CopyOfRow(TGGridRow& row);
-    // Folds the selected rows, empties the selection and runs the hooks of the removal, with `moreTellings`
-    // of the changed selection behind them; returns the rows to cut, in grid order.
-    std::vector<TGGridRow*> BeginCut(long moreTellings);
-    // Moves rows of the grid to the empty row buffer, tree rows as copies that take over the host data.
-    void Fill(std::span<TGGridRow* const> cut);
+    // Puts copies of the selected rows into the row buffer instead of what is there.
+    void CopySelection();
+    // Folds the selected rows, empties the selection and moves the rows to the row buffer, tree rows as
+    // copies that take over the host data.
+    void CutSelection();
     // Moves the row buffer in front of `row`, or below `parent` in front of its child at `position`.
     void PlaceAll(long row);
     void InsertAsChildren(TGGridTreeRow& parent, long position);
     void SelectPasted(long first, long number);
-    std::vector<TGGridRow*> TakeAll();
+    Rows TakeAll();
+    // The way back.
+    void PutBack(Rows taken);
 
 private:
+    std::unique_ptr<TGGridRow> CopyOfRow(TGGridRow& row);
     void FoldSelectedRows();
-    std::unique_ptr<TGGridTreeRow> AsTreeRow(TGGridRow* row);
+    void CutTree(TGGridTreeRow& row);
+    void CutRow(TGGridRow& row);
 
     TGGrid& grid;
+    // What stands in the grid for a row that is being cut.
+    std::unique_ptr<TGGridRow> substitute;
 };
 
 bool TGGrid::DoCopy()
 {
     if (!OnBeforeCopy())
         return false;
-    rowPaste.Clear();
-    for (long i : rowSel)
-        rowPaste.Append(RowBuffer(*this).CopyOfRow(GetRow(i)));
+    RowBuffer(*this).CopySelection();
     OnEndCopy();
     return true;
 }
 
+// The old content goes when the copies have been made.
+void TGGrid::RowBuffer::CopySelection()
+{
+    std::vector<std::unique_ptr<TGGridRow>> copies;
+    std::vector<TGGridRow*> added;
+    for (const long i : grid.rowSel)
+        if (TGGridRow* row = grid.RowAt(i))
+        {
+            copies.push_back(CopyOfRow(*row));
+            added.push_back(copies.back().get());
+        }
+    const long before = grid.rowPaste.GetNum();
+    grid.rowPaste.SpliceInsert(before, added);
+    for (std::unique_ptr<TGGridRow>& copy : copies)
+        static_cast<void>(copy.release());
+    while (grid.rowPaste.GetNum() > static_cast<long>(added.size()))
+        delete grid.rowPaste.Detach(0);
+}
+
 // A folded tree row is copied with its offspring; the children of an unfolded one are rows of their own.
-TGGridRow* TGGrid::RowBuffer::CopyOfRow(TGGridRow& row)
+std::unique_ptr<TGGridRow> TGGrid::RowBuffer::CopyOfRow(TGGridRow& row)
 {
     if (!row.IsTreeRow())
     {
-        TGGridRow* copy = new TGGridRow(grid);
+        auto copy = std::make_unique<TGGridRow>(grid);
         *copy = row;
         return copy;
     }
     TGGridTreeRow& source = static_cast<TGGridTreeRow&>(row);
-    TGGridTreeRow* copy = new TGGridTreeRow(grid);
+    auto copy = std::make_unique<TGGridTreeRow>(grid);
     if (source.IsFold())
     {
         *copy = source;
@@ -79,20 +106,32 @@ bool TGGrid::DoClip()
 void TGGrid::ClipSelect()
 {
     rowPaste.Clear();
-    const TGGridUpdate update(*this);
-    const std::vector<TGGridRow*> cut = RowBuffer(*this).BeginCut(0);
-    rowPaste.Clear();
-    RowBuffer(*this).Fill(cut);
+    RowBuffer(*this).CutSelection();
 }
 
-std::vector<TGGridRow*> TGGrid::RowBuffer::BeginCut(long moreTellings)
+// From the last row to the first, each to the front of the buffer: hooks see the buffer grow and the rows
+// get fewer. What hooks have put elsewhere stays.
+void TGGrid::RowBuffer::CutSelection()
 {
+    const TGGridUpdate update(grid);
     FoldSelectedRows();
+    const LateNumbers late(grid);
     const std::vector<long> indices(grid.rowSel.begin(), grid.rowSel.end());
+    const std::vector<const TGGridRow*> cut = Structure(grid).RowsAt(indices);
+    grid.rowPaste.Reserve(static_cast<long>(indices.size()));
     grid.ClearSel();
-    // A plain row tells twice: when it enters the buffer and when its slot goes.
-    const long tellings = static_cast<long>(indices.size()) * (grid.IsTreeGrid() ? 1 : 2);
-    return Structure(grid).AnnounceRemoval(indices, tellings + moreTellings);
+    for (std::size_t k = indices.size(); k-- > 0;)
+    {
+        grid.EndEditCell();
+        TGGridRow* row = grid.RowAt(indices[k]);
+        if (row == nullptr || row != cut[k])
+            continue;
+        if (row->IsTreeRow())
+            CutTree(static_cast<TGGridTreeRow&>(*row));
+        else
+            CutRow(*row);
+    }
+    grid.RecalcLayout(1);
 }
 
 // Folding takes entries behind the folded row out of the selection, so that each entry is looked up anew.
@@ -106,22 +145,36 @@ void TGGrid::RowBuffer::FoldSelectedRows()
     }
 }
 
-void TGGrid::RowBuffer::Fill(std::span<TGGridRow* const> cut)
+void TGGrid::RowBuffer::CutTree(TGGridTreeRow& row)
 {
-    Structure(grid).TakeOut(cut);
-    for (TGGridRow* row : cut)
-    {
-        TGGridRow* buffered = row;
-        if (row->IsTreeRow())
-        {
-            auto copy = std::make_unique<TGGridTreeRow>(grid);
-            *copy << static_cast<TGGridTreeRow&>(*row);
-            delete row;
-            buffered = copy.release();
-        }
-        grid.rowPaste.Append(buffered);
-    }
-    grid.RecalcLayout(1);
+    auto copy = std::make_unique<TGGridTreeRow>(grid);
+    *copy << row;
+    grid.rowPaste.Insert(0, copy.get());
+    copy.release();
+    grid.DelRowEx(row.GetIndex());
+}
+
+// The row stands in the buffer already when the hooks tell that it goes. A row that looks the same keeps its
+// place in the grid meanwhile, so that whatever a hook does each row has one owner.
+void TGGrid::RowBuffer::CutRow(TGGridRow& row)
+{
+    if (substitute == nullptr)
+        substitute = std::make_unique<TGGridRow>(grid);
+    substitute->FitToCols();
+    *substitute = row;
+    grid.rowPaste.Insert(0, &row);
+    TGGridRow* const left = substitute.release();
+    grid.rows.MoveTo(row.GetIndex());
+    grid.rows.SetCur(left);
+    left->index = std::exchange(row.index, -1);
+
+    const RowWatch watch(grid, left);
+    grid.OnCurChanged();
+    if (!watch.IsAlive() || !Structure(grid).PrepareToGo(*left))
+        return;
+    Structure(grid).RemoveRows(left->GetIndex(), 1);
+    left->SetIndex(-1);
+    substitute.reset(left);
 }
 
 bool TGGrid::DoPaste()
@@ -137,13 +190,16 @@ bool TGGrid::DoPaste()
     return true;
 }
 
+// Whether the rows go to the end is decided before the edit ends, which may add a row there.
 void TGGrid::Paste(long row)
 {
     UnSelect();
-    const long count = rowPaste.GetNum();
+    const bool toEnd = row >= GetRowNum();
     EndEditCell();
-    RowBuffer(*this).PlaceAll(row);
-    RowBuffer(*this).SelectPasted(row, count);
+    const long place = toEnd ? GetRowNum() : std::clamp(row, 0L, GetRowNum());
+    const long count = rowPaste.GetNum();
+    RowBuffer(*this).PlaceAll(place);
+    RowBuffer(*this).SelectPasted(place, count);
 }
 
 // Scrolls to the first row and from there to the last one, as selecting all in turn would.
@@ -157,11 +213,28 @@ void TGGrid::RowBuffer::SelectPasted(long first, long number)
 }
 
 // The rows of the buffer, which gives them up.
-std::vector<TGGridRow*> TGGrid::RowBuffer::TakeAll()
+TGGrid::RowBuffer::Rows TGGrid::RowBuffer::TakeAll()
 {
-    std::vector<TGGridRow*> taken(grid.rowPaste.begin(), grid.rowPaste.end());
+    Rows taken(static_cast<std::size_t>(grid.rowPaste.GetNum()));
+    auto place = taken.begin();
+    for (TGGridRow* row : grid.rowPaste)
+        (place++)->reset(row);
     grid.rowPaste.Release(0, grid.rowPaste.GetNum());
     return taken;
+}
+
+void TGGrid::RowBuffer::PutBack(Rows taken)
+{
+    std::vector<TGGridRow*> rows;
+    for (const std::unique_ptr<TGGridRow>& row : taken)
+    {
+        if (row != nullptr)
+            Structure(grid).FitToCols(*row);
+        rows.push_back(row.get());
+    }
+    grid.rowPaste.SpliceInsert(0, rows);
+    for (std::unique_ptr<TGGridRow>& row : taken)
+        static_cast<void>(row.release());
 }
 
 // All at once, because each insertion numbers the rows behind it. At the end the rows are appended last to
@@ -175,32 +248,48 @@ void TGGrid::RowBuffer::PlaceAll(long row)
         InsertAsChildren(sibling.GetParent(), sibling.GetParent().GetChildIndex(&sibling));
         return;
     }
-    std::vector<TGGridRow*> pasted = TakeAll();
+    std::vector<TGGridRow*> pasted(grid.rowPaste.begin(), grid.rowPaste.end());
+    std::erase(pasted, nullptr);
+    for (TGGridRow* taken : pasted)
+        Structure(grid).FitToCols(*taken);
     if (row >= grid.GetRowNum())
         std::reverse(pasted.begin(), pasted.end());
     Structure(grid).InsertRows(std::clamp(row, 0L, grid.GetRowNum()), pasted);
+    grid.rowPaste.Release(0, grid.rowPaste.GetNum());
     grid.RecalcLayout(1);
 }
 
+// Only tree rows can be children: a plain one hands its texts and, at last, its host data to one. The end of
+// an edit may change the buffer and everything else.
 void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
 {
-    TGGridTreeRow::OwnedRows pasted;
-    for (TGGridRow* row : TakeAll())
-        if (row != nullptr)
-            pasted.push_back(AsTreeRow(row));
-    parent.InsertChildren(position, pasted);
-}
-
-// Only tree rows can be children: a plain one hands its texts and its host data to one.
-std::unique_ptr<TGGridTreeRow> TGGrid::RowBuffer::AsTreeRow(TGGridRow* row)
-{
-    if (row->IsTreeRow())
-        return std::unique_ptr<TGGridTreeRow>(static_cast<TGGridTreeRow*>(row));
-    const std::unique_ptr<TGGridRow> plain(row);
-    auto treeRow = std::make_unique<TGGridTreeRow>(grid);
-    static_cast<TGGridRow&>(*treeRow) = *plain;
-    treeRow->SetExtendData(plain->ReleaseExtendData());
-    return treeRow;
+    const RowWatch watch(grid, &parent);
+    grid.EndEditCell();
+    if (!watch.IsAlive())
+        return;
+    TGGridTreeRow::OwnedRows made;
+    std::vector<TGGridTreeRow*> pasted;
+    std::vector<std::pair<TGGridRow*, TGGridTreeRow*>> replaced;
+    for (TGGridRow* row : grid.rowPaste)
+        if (row != nullptr && row->IsTreeRow())
+            pasted.push_back(static_cast<TGGridTreeRow*>(row));
+        else if (row != nullptr)
+        {
+            row->FitToCols();
+            made.push_back(std::make_unique<TGGridTreeRow>(grid));
+            static_cast<TGGridRow&>(*made.back()) = *row;
+            pasted.push_back(made.back().get());
+            replaced.emplace_back(row, made.back().get());
+        }
+    parent.AddChildren((std::min)(position, parent.GetChildNum()), pasted);
+    for (std::unique_ptr<TGGridTreeRow>& row : made)
+        static_cast<void>(row.release());
+    grid.rowPaste.Release(0, grid.rowPaste.GetNum());
+    for (const auto& [plain, treeRow] : replaced)
+    {
+        treeRow->SetExtendData(plain->ReleaseExtendData());
+        delete plain;
+    }
 }
 
 bool TGGrid::DoPasteChild()
@@ -237,15 +326,15 @@ void TGGrid::MoveSelectedRows(long to)
     long number = 0;
     {
         const TGGridUpdate update(*this);
-        const std::vector<TGGridRow*> cut = RowBuffer(*this).BeginCut(1);
-        const auto isAbove = [to](const TGGridRow* row) { return row->GetIndex() < to; };
-        target = to - static_cast<long>(std::count_if(cut.begin(), cut.end(), isAbove));
-        const std::vector<TGGridRow*> kept = RowBuffer(*this).TakeAll();
-        RowBuffer(*this).Fill(cut);
-        target = std::clamp(target, 0L, GetRowNum());
+        const long above = SelectedIndices::LowerBound(rowSel, to);
+        RowBuffer::Rows kept = RowBuffer(*this).TakeAll();
+        RowBuffer(*this).CutSelection();
+        UnSelect();
+        EndEditCell();
+        target = std::clamp(to - above, 0L, GetRowNum());
         number = rowPaste.GetNum();
         RowBuffer(*this).PlaceAll(target);
-        rowPaste.SpliceInsert(0, kept);
+        RowBuffer(*this).PutBack(std::move(kept));
     }
     RowBuffer(*this).SelectPasted(target, number);
 }

@@ -3,6 +3,7 @@
 
 #include "grid/edit/CellEditorLife.h"
 #include "grid/edit/CellWatch.h"
+#include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 #include "grid/model/ScopedValue.h"
 #include "grid/TGCellButtonEdit.h"
@@ -11,6 +12,7 @@
 #include "grid/TGCellEdit.h"
 #include "grid/TGCellSpinEdit.h"
 
+#include <memory>
 #include <new>
 
 namespace QuorUiCtr
@@ -100,6 +102,9 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
     DestroyLastEditor();
     CRect rect;
     cell.GetRect(rect);
+    grid.PrepareDC(nullptr);
+    if (grid.dc == nullptr)
+        return;
     grid.ShowRect(rect);
     grid.editCell = &cell;
     rect.DeflateRect(1, 1, 0, 0);
@@ -167,16 +172,18 @@ TGGridRow* TGGrid::EditSession::AppendNewRow()
     TGGridRow* const pending = grid.newRow;
     const RowWatch watch(grid, pending);
     TGGridRow* accepted = pending;
-    if (!grid.OnBeforeInsertRow(grid.GetRowNum(), accepted))
-        return nullptr;
+    const bool agreed = grid.OnBeforeInsertRow(grid.GetRowNum(), accepted);
     // A hook that changes the grid may have had the line made anew.
     if (accepted == pending && !watch.IsAlive())
         accepted = grid.newRow;
-    if (!accepted)
+    std::unique_ptr<TGGridRow> supplied(accepted != grid.newRow ? accepted : nullptr);
+    if (!agreed || !accepted)
         return nullptr;
-    if (accepted == grid.newRow)
-        grid.newRow = nullptr;
+    Structure(grid).FitToCols(*accepted);
     accepted->SetIndex(grid.rows.Append(accepted));
+    if (!supplied)
+        grid.newRow = nullptr;
+    supplied.release();
     return accepted;
 }
 

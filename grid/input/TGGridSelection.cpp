@@ -21,11 +21,14 @@ void TGGrid::SelectRow(long row, bool select)
     if (select)
     {
         EndEditCell();
-        UnselectCols();
         if (!IsValidRow(row))
             return;
     }
-    if (select ? SelectedIndices::Add(rowSel, row) : SelectedIndices::Remove(rowSel, row))
+    // Before the columns are unselected: there may be no memory for the entry.
+    const bool changes = select ? SelectedIndices::Add(rowSel, row) : SelectedIndices::Remove(rowSel, row);
+    if (select)
+        UnselectCols();
+    if (changes)
     {
         ChangeRowBand(row, select);
         if (select)
@@ -41,11 +44,13 @@ void TGGrid::SelectCol(long col, bool select)
     if (select)
     {
         EndEditCell();
-        UnselectRows();
         if (!IsValidCol(col))
             return;
     }
-    if (select ? SelectedIndices::Add(colSel, col) : SelectedIndices::Remove(colSel, col))
+    const bool changes = select ? SelectedIndices::Add(colSel, col) : SelectedIndices::Remove(colSel, col);
+    if (select)
+        UnselectRows();
+    if (changes)
     {
         TGGridCol* changed = ColAtIndex(col);
         ChangeColBand(*changed, select);
@@ -58,10 +63,11 @@ void TGGrid::SelectCol(long col, bool select)
 void TGGrid::SelectAll()
 {
     EndEditCell();
-    ClearSel();
-    rowSel.Reserve(GetRowNum());
-    for (long row = 0; row < GetRowNum(); ++row)
-        rowSel.Append(row);
+    rowSel.Grow(GetRowNum());
+    colSel.Clear();
+    long row = 0;
+    for (long& entry : rowSel)
+        entry = row++;
     OnCurChanged();
     Invalidate(1);
 }

@@ -9,14 +9,19 @@
 namespace QuorUiCtr
 {
 
-// Keeps rows, their indices and the selection in step. Lays out nothing and, but for AnnounceRemoval, runs no
-// hooks.
+// Keeps rows, their indices, the current row and the selection in step. Lays out nothing and, but for
+// PrepareToGo and HideRow, runs no hooks.
 class TGGrid::Structure
 {
 public:
     explicit Structure(TGGrid& servedGrid) : grid(servedGrid) {}
 
     TGGridRow* MakeRow();
+    // Fits the cells of a row and of all below it to the columns, which hooks may have changed since the row
+    // was made. Before every insertion of a row that the caller has not made himself a moment ago.
+    void FitToCols(TGGridRow& row);
+    // Makes rows at the end, all or none.
+    void AppendRows(long number);
     // Enters rows before the row at `at`, or takes rows out without deleting them; numbers the rows behind
     // and shifts the selection.
     void InsertRows(long at, std::span<TGGridRow* const> added);
@@ -30,13 +35,13 @@ public:
     void HideTree(TGGridTreeRow& top);
     // Puts the offspring that the unfold flags ask for below a shown row.
     void InsertOffspring(TGGridTreeRow& top);
-    // Takes rows out of the grid and of their parents' children, their shown offspring with them, as one
-    // change. Deletes none; their indices become -1.
-    void TakeOut(std::span<TGGridRow* const> taken);
-    // Runs the hooks of taking the rows at `indices` out one by one: ends an edit and tells `tellings` times
-    // that the selection changed. Returns the rows that still stand where they stood before, in the order of
-    // `indices`.
-    std::vector<TGGridRow*> AnnounceRemoval(std::span<const long> indices, long tellings);
+    // Runs the hooks of a row's going: ends an edit and deselects the row. Returns whether the row stands in
+    // the grid still, which may be at another index.
+    bool PrepareToGo(TGGridRow& row);
+    // Runs these hooks for the row at `i` and takes it out, unless they did; its index becomes -1.
+    void HideRow(long i);
+    // The rows at `indices`, to be compared with what stands there after hooks and for nothing else.
+    std::vector<const TGGridRow*> RowsAt(std::span<const long> indices);
     // Takes a row out of its parent's children and its shown offspring out of the rows.
     void DetachFromTree(TGGridRow& row);
     // Leaves the child rows to their parents: empties their slots.
@@ -47,6 +52,19 @@ public:
     // Moves a row to before the row at `to`: a plain row by itself, a tree row among its siblings with its
     // shown offspring. Numbers nothing. False when the row stands there already or may not go there.
     bool PlaceMovingRow(long from, long to);
+    // The same for a change that may lack memory: it is undone then, and the exception goes on.
+    template <class Change, class Undo> void ChangeAllRowsOrNone(Change change, Undo undo);
+    // Enters a column at `i`, with a cell in each row; leaves the columns' cursor past the end. Nothing has
+    // changed when it throws.
+    void EnterCol(long i, TGGridCol& col);
+    // Enters it at the end; likewise.
+    void AddCol(TGGridCol& col);
+    // Deletes the columns from `first` on; runs no hooks.
+    void DropCols(long first);
+    // The width that a column gets when `width` is asked for.
+    long WidthOfNewCol(long width);
+    // Takes the slot of a column out and closes the gap.
+    void RemoveCol(long i);
     // Gives a column that is about to move and the columns that it passes their edges.
     void PlaceMovingCol(long from, long to);
 
@@ -55,9 +73,6 @@ private:
     long EndOfTree(long i);
     // The parent of a tree row; null for a root row, a plain row and no row.
     static TGGridTreeRow* ParentOf(TGGridRow* row);
-    void DetachFromParents(std::span<TGGridRow* const> taken);
-    // Takes the slots of hidden rows out of the rows from `first` on and numbers the rows.
-    void CloseGaps(long first);
     void RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden);
     // Moves the columns from `first` to before `last` by `distance` pixels.
     void MoveColEdges(long first, long last, long distance);

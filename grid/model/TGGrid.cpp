@@ -61,7 +61,17 @@ void TGGrid::SetTreeLine(bool on)
 TGGridRow& TGGrid::GetRow(long i)
 {
     ASSERT(IsValidRow(i));
-    return *rows[i];
+    if (TGGridRow* row = RowAt(i))
+    {
+        rows.MoveTo(i);
+        return *row;
+    }
+    if (newRow == nullptr)
+    {
+        newRow = Structure(*this).MakeRow();
+        newRow->SetIndex(GetRowNum());
+    }
+    return *newRow;
 }
 
 TGGridTreeRow& TGGrid::GetTreeRow(long i)

@@ -1,6 +1,8 @@
 // Sorting the rows by the row order, tree rows with their offspring.
 #include "grid/model/GridStructure.h"
+#include "grid/model/MakeOrNull.h"
 #include "grid/model/RowWatch.h"
+#include "rules/SelectedIndices.h"
 
 #include <algorithm>
 #include <vector>
@@ -10,7 +12,8 @@ namespace QuorUiCtr
 namespace
 {
 
-// Folds the unfolded root rows of a tree grid for its life and unfolds them again at the end.
+// Folds the unfolded root rows of a tree grid and unfolds them again: when asked to, or, as far as there is
+// memory, at the end of its life.
 class FoldedRoots
 {
 public:
@@ -25,13 +28,30 @@ public:
     }
     ~FoldedRoots()
     {
-        for (TGGridTreeRow* root : roots)
-            root->UnFold();
+        while (!roots.empty())
+            MakeOrNull([this] {
+                UnFoldNext();
+                return static_cast<void*>(nullptr);
+            });
     }
     FoldedRoots(const FoldedRoots&) = delete;
     FoldedRoots& operator=(const FoldedRoots&) = delete;
 
+    void UnFold()
+    {
+        std::reverse(roots.begin(), roots.end());
+        while (!roots.empty())
+            UnFoldNext();
+    }
+
 private:
+    void UnFoldNext()
+    {
+        TGGridTreeRow* root = roots.back();
+        roots.pop_back();
+        root->UnFold();
+    }
+
     std::vector<TGGridTreeRow*> roots;
 };
 
@@ -49,14 +69,12 @@ void TGGrid::Arrange(bool ascending)
         for (long i : rowSel)
             selected.push_back(rows[i]);
         SortRows(ascending);
-        rowSel.Clear();
         std::vector<long> moved;
         for (const TGGridRow* row : selected)
             if (row && row->GetIndex() >= 0)
                 moved.push_back(row->GetIndex());
         std::sort(moved.begin(), moved.end());
-        for (long i : moved)
-            rowSel.Append(i);
+        SelectedIndices::Assign(rowSel, moved);
         if (current != nullptr)
             SetCurRowIndex(currentWatch.IsAlive() ? current->GetIndex() : -1);
         RecalcLayout(1);
@@ -78,6 +96,7 @@ void TGGrid::SortRows(bool ascending)
     for (TGGridRow* row : rows)
         if (row && row->IsParentRow())
             static_cast<TGGridTreeRow*>(row)->ArrangeChild(ascending);
+    folded.UnFold();
 }
 
 } // namespace QuorUiCtr

@@ -6,7 +6,8 @@
 namespace QuorUiCtr
 {
 
-TGGridCol::TGGridCol(const wchar_t* caption, TGGrid& owner) : name(caption), grid(&owner)
+TGGridCol::TGGridCol(const wchar_t* caption, TGGrid& owner)
+    : name(caption), grid(&owner), serial(++owner.lastColSerial)
 {
     brush.CreateSolidBrush(backColor);
 }

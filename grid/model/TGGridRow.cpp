@@ -1,16 +1,20 @@
 // A row's cells, host data, read-only rules, order and geometry.
 #include "grid/TGGridRow.h"
 
+#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
 
+#include <algorithm>
+#include <memory>
 #include <utility>
+#include <vector>
 
 namespace QuorUiCtr
 {
 
 // Walks the columns with their cursor, which ends past the last one as after every walk over all columns.
-TGGridRow::TGGridRow(TGGrid& owner) : grid(&owner)
+TGGridRow::TGGridRow(TGGrid& owner) : grid(&owner), colsSeen(owner.lastColSerial)
 {
     PDList<TGGridCol>& cols = owner.cols;
     cells.Reserve(cols.GetNum());
@@ -38,6 +42,18 @@ TGGridRow& TGGridRow::operator=(TGGridRow& other)
         ++source;
     }
     return *this;
+}
+
+long TGGridRow::GetIndex() const
+{
+    return index < 0 || grid->lateNumbers == nullptr ? index : grid->lateNumbers->TrueIndex(index);
+}
+
+void TGGridRow::SetIndex(long newIndex)
+{
+    if (newIndex >= 0 && grid->lateNumbers != nullptr)
+        grid->lateNumbers->Settle();
+    index = newIndex;
 }
 
 TGGridCell& TGGridRow::operator[](long col)
@@ -107,17 +123,64 @@ bool TGGridRow::operator>(TGGridRow& other)
 
 void TGGridRow::AddCell(TGGridCol* col)
 {
-    cells.Append(col != nullptr ? new TGGridCell(*grid, *this, *col) : nullptr);
+    auto cell = col != nullptr ? std::make_unique<TGGridCell>(*grid, *this, *col) : nullptr;
+    cells.Append(cell.get());
+    cell.release();
+}
+
+bool TGGridRow::FitsCols() const
+{
+    if (cells.GetNum() != grid->cols.GetNum())
+        return false;
+    auto cell = cells.begin();
+    for (const TGGridCol* col : std::as_const(grid->cols))
+        if (const TGGridCell* own = *cell++; own == nullptr || own->col != col || col->serial > colsSeen)
+            return false;
+    return true;
+}
+
+// The column of a cell may be deleted: it is compared and nothing else.
+void TGGridRow::FitToCols()
+{
+    if (FitsCols())
+        return;
+    std::vector<std::unique_ptr<TGGridCell>> added;
+    std::vector<TGGridCell*> fitting;
+    for (TGGridCol* col : grid->cols)
+    {
+        const auto own = std::find_if(cells.begin(), cells.end(), [this, col](const TGGridCell* cell) {
+            return cell != nullptr && cell->col == col && col->serial <= colsSeen;
+        });
+        if (own == cells.end())
+            added.push_back(std::make_unique<TGGridCell>(*grid, *this, *col));
+        fitting.push_back(own != cells.end() ? *own : added.back().get());
+    }
+    const long before = cells.GetNum();
+    cells.SpliceInsert(before, fitting);
+    for (std::unique_ptr<TGGridCell>& cell : added)
+        cell.release();
+    for (TGGridCell*& cell : cells)
+        if (std::find(fitting.begin(), fitting.end(), cell) != fitting.end())
+            cell = nullptr;
+    cells.RemoveRange(0, before);
+    auto next = fitting.begin();
+    for (TGGridCell*& cell : cells)
+        cell = *next++;
+    colsSeen = grid->lastColSerial;
 }
 
 void TGGridRow::InsertCol(long position, TGGridCol& col)
 {
-    cells.Insert(position, new TGGridCell(*grid, *this, col));
+    auto cell = std::make_unique<TGGridCell>(*grid, *this, col);
+    cells.Insert(position, cell.get());
+    cell.release();
+    colsSeen = (std::max)(colsSeen, col.serial);
 }
 
 void TGGridRow::AppendCol(TGGridCol& col)
 {
     AddCell(&col);
+    colsSeen = (std::max)(colsSeen, col.serial);
 }
 
 void TGGridRow::DelCol(long position)
@@ -161,12 +224,12 @@ void TGGridRow::Refresh()
 
 long TGGridRow::GetTop() const
 {
-    return index * grid->GetRowHeight();
+    return GetIndex() * grid->GetRowHeight();
 }
 
 long TGGridRow::GetBottom() const
 {
-    return (index + 1) * grid->GetRowHeight();
+    return (GetIndex() + 1) * grid->GetRowHeight();
 }
 
 long TGGridRow::GetRight() const

@@ -4,6 +4,8 @@
 // indices and pointers are looked up, or their watches asked, again afterwards.
 #include "grid/model/GridStructure.h"
 
+#include "grid/model/GridLimits.h"
+#include "grid/model/MakeOrNull.h"
 #include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
 
@@ -21,22 +23,39 @@ TGGridRow* TGGrid::Structure::MakeRow()
     return grid.treeGrid ? new TGGridTreeRow(grid) : new TGGridRow(grid);
 }
 
+void TGGrid::Structure::FitToCols(TGGridRow& row)
+{
+    row.FitToCols();
+    if (!row.IsTreeRow())
+        return;
+    for (TGGridTreeRow* child : static_cast<TGGridTreeRow&>(row).children)
+        if (child != nullptr)
+            FitToCols(*child);
+}
+
 void TGGrid::InsertRow(long i, TGGridRow* row)
 {
+    std::unique_ptr<TGGridRow> inserted(row);
     EndEditCell();
     ASSERT(i >= 0 && i <= GetRowNum());
-    if (row == nullptr)
-        row = Structure(*this).MakeRow();
-    Structure(*this).InsertRows(std::clamp(i, 0L, GetRowNum()), {&row, 1});
+    if (inserted == nullptr)
+        inserted.reset(Structure(*this).MakeRow());
+    Structure(*this).FitToCols(*inserted);
+    TGGridRow* const entered = inserted.get();
+    Structure(*this).InsertRows(std::clamp(i, 0L, GetRowNum()), {&entered, 1});
+    inserted.release();
     RecalcLayout(1);
 }
 
 void TGGrid::AppendRow(TGGridRow* row)
 {
+    std::unique_ptr<TGGridRow> appended(row);
     EndEditCell();
-    if (row == nullptr)
-        row = Structure(*this).MakeRow();
-    row->SetIndex(rows.Append(row));
+    if (appended == nullptr)
+        appended.reset(Structure(*this).MakeRow());
+    Structure(*this).FitToCols(*appended);
+    appended->SetIndex(rows.Append(appended.get()));
+    appended.release();
     RecalcLayout(1);
 }
 
@@ -47,16 +66,16 @@ void TGGrid::DelRow(long i)
     if (!IsValidRow(i))
         return;
     TGGridRow* row = RowAt(i);
-    const RowWatch watch(*this, row);
-    SelectRow(i, false);
-    // What a hook has opened may stand on the row.
-    CancelEditCell();
-    if (watch.IsAlive())
-        i = row->GetIndex();
-    if (!IsValidRow(i) || RowAt(i) != row)
-        return;
-    if (row != nullptr)
+    if (row == nullptr)
     {
+        SelectRow(i, false);
+        if (!IsValidRow(i) || RowAt(i) != nullptr)
+            return;
+    }
+    else
+    {
+        if (!Structure(*this).PrepareToGo(*row))
+            return;
         Structure(*this).DetachFromTree(*row);
         i = row->GetIndex();
     }
@@ -89,10 +108,9 @@ void TGGrid::DelRowEx(long i)
 
 void TGGrid::MoveRow(long from, long to)
 {
-    if (to == from || to == from + 1)
-        return;
     ASSERT(IsValidRow(from) && to >= 0 && to <= GetRowNum());
-    if (!Structure(*this).PlaceMovingRow(from, to))
+    if (!IsValidRow(from) || to < 0 || to > GetRowNum() || to == from || to == from + 1 ||
+        !Structure(*this).PlaceMovingRow(from, to))
         return;
     Structure(*this).NumberRows(0);
     Invalidate(1);
@@ -103,8 +121,27 @@ void TGGrid::SetRowNum(long n)
     const TGGridUpdate update(*this);
     while (GetRowNum() > (std::max)(n, 0L))
         DelRow(GetRowNum() - 1);
-    while (GetRowNum() < n)
-        AppendRow(nullptr);
+    if (GetRowNum() < n)
+        EndEditCell();
+    Structure(*this).AppendRows(n - GetRowNum());
+}
+
+void TGGrid::Structure::AppendRows(long number)
+{
+    if (number <= 0)
+        return;
+    std::vector<std::unique_ptr<TGGridRow>> made;
+    std::vector<TGGridRow*> added;
+    for (long i = 0; i < number; ++i)
+    {
+        std::unique_ptr<TGGridRow> row(MakeRow());
+        added.push_back(row.get());
+        made.push_back(std::move(row));
+    }
+    InsertRows(grid.GetRowNum(), added);
+    for (std::unique_ptr<TGGridRow>& row : made)
+        static_cast<void>(row.release());
+    grid.RecalcLayout(1);
 }
 
 void TGGrid::Clear()
@@ -119,21 +156,13 @@ void TGGrid::Clear()
 
 void TGGrid::Structure::InsertRows(long at, std::span<TGGridRow* const> added)
 {
+    const long before = grid.GetRowNum();
     grid.rows.SpliceInsert(at, added);
     NumberRows(at);
-    SelectedIndices::Shift(grid.rowSel, grid.rowSel, at, static_cast<long>(added.size()));
-}
-
-void TGGrid::Structure::RemoveRows(long at, long number)
-{
-    if (number <= 0)
-        return;
-    grid.rows.Release(at, number);
-    NumberRows(at);
-    // A hook may have selected one of the rows again.
-    const long first = SelectedIndices::LowerBound(grid.rowSel, at);
-    grid.rowSel.Release(first, SelectedIndices::LowerBound(grid.rowSel, at + number) - first);
-    SelectedIndices::Shift(grid.rowSel, grid.rowSel, at + number, -number);
+    const long number = static_cast<long>(added.size());
+    SelectedIndices::Shift(grid.rowSel, grid.rowSel, at, number);
+    if (number > 0 && grid.curRowIndex >= at && grid.curRowIndex < before)
+        grid.SetCurRowIndex(grid.curRowIndex + number);
 }
 
 void TGGrid::Structure::NumberRows(long first)
@@ -189,22 +218,27 @@ void TGGrid::Structure::HideTree(TGGridTreeRow& top)
 void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
 {
     std::vector<TGGridRow*> selected;
+    std::vector<TGGridRow*> shown;
+    top.CollectOffspring(shown);
     const bool partlyShown = top.HasShownOffspring();
     if (partlyShown)
     {
         for (const long i : grid.rowSel)
             selected.push_back(grid.RowAt(i));
+        grid.rows.Reserve(grid.GetRowNum() + static_cast<long>(shown.size()));
         RemoveOffspring(top);
     }
-    std::vector<TGGridRow*> shown;
-    top.CollectOffspring(shown);
     InsertRows(top.GetIndex() + 1, shown);
     if (!partlyShown)
         return;
+    // The rows stand already: without memory for it the selection is lost.
     grid.rowSel.Clear();
-    for (const TGGridRow* row : selected)
-        if (row != nullptr && row->GetIndex() != -1)
-            SelectedIndices::Add(grid.rowSel, row->GetIndex());
+    MakeOrNull([&] {
+        for (const TGGridRow* row : selected)
+            if (row != nullptr && row->GetIndex() != -1)
+                SelectedIndices::Add(grid.rowSel, row->GetIndex());
+        return static_cast<void*>(nullptr);
+    });
 }
 
 void TGGrid::Structure::DetachFromTree(TGGridRow& row)
@@ -245,31 +279,92 @@ template <class Change> void TGGrid::Structure::ChangeRows(Change change)
         change(*grid.newRow);
 }
 
+template <class Change, class Undo> void TGGrid::Structure::ChangeAllRowsOrNone(Change change, Undo undo)
+{
+    long done = 0;
+    try
+    {
+        ChangeRows([&](TGGridRow& row) {
+            change(row);
+            ++done;
+        });
+    }
+    catch (...)
+    {
+        ChangeRows([&](TGGridRow& row) {
+            if (done-- > 0)
+                undo(row);
+        });
+        throw;
+    }
+}
+
+void TGGrid::SetDefaultWidth(long pixels)
+{
+    ASSERT(pixels == WidthInRange(pixels));
+    defaultWidth = WidthInRange(pixels);
+}
+
 void TGGrid::InsertCol(long i, TGGridCol* col, long width)
 {
+    std::unique_ptr<TGGridCol> inserted(col);
     EndEditCell();
     ASSERT(i >= 0 && i <= GetColNum());
     i = std::clamp(i, 0L, GetColNum());
-    if (width == 0)
-        width = defaultWidth;
-    if (col == nullptr)
-        col = new TGGridCol(nullptr, *this);
+    if (inserted == nullptr)
+        inserted = std::make_unique<TGGridCol>(nullptr, *this);
     const TGGridCol* follower = ColAtIndex(i);
     const long left = follower != nullptr ? follower->GetLeft() : GetRight();
-    col->SetLeft(left);
-    col->SetRight(left + width);
-    col->SetIndex(i);
-    cols.Insert(i, col);
-    for (cols.MoveToNext(); !cols.IsOut(); cols.MoveToNext())
-    {
-        cols.Cur()->Move(width);
-        cols.Cur()->SetIndex(cols.GetCur());
-    }
-    Structure(*this).ChangeRows([i, col](TGGridRow& row) { row.InsertCol(i, *col); });
-    // Bounded by the columns' cursor, which the loop above has left past the end: unless a row moves it, the
-    // selection keeps its numbers.
+    inserted->SetLeft(left);
+    inserted->SetRight(left + Structure(*this).WidthOfNewCol(width));
+    Structure(*this).EnterCol(i, *inserted);
+    inserted.release();
+    // Bounded by the columns' cursor, which is past the end here: the selection keeps its numbers.
     SelectedIndices::Shift(colSel, cols, i, 1);
     RecalcLayout(1);
+}
+
+// The columns together stay below what coordinates can count.
+long TGGrid::Structure::WidthOfNewCol(long width)
+{
+    ASSERT(width == WidthInRange(width));
+    width = WidthInRange(width != 0 ? width : grid.defaultWidth);
+    return (std::min)(width, MaxContentWidth - (std::min)(grid.GetRight(), MaxContentWidth));
+}
+
+void TGGrid::Structure::EnterCol(long i, TGGridCol& col)
+{
+    const long width = col.GetWidth();
+    col.SetIndex(i);
+    grid.cols.Insert(i, &col);
+    for (grid.cols.MoveToNext(); !grid.cols.IsOut(); grid.cols.MoveToNext())
+    {
+        grid.cols.Cur()->Move(width);
+        grid.cols.Cur()->SetIndex(grid.cols.GetCur());
+    }
+    try
+    {
+        ChangeAllRowsOrNone([i, &col](TGGridRow& row) { row.InsertCol(i, col); },
+                            [i](TGGridRow& row) { row.DelCol(i); });
+    }
+    catch (...)
+    {
+        RemoveCol(i);
+        throw;
+    }
+}
+
+void TGGrid::Structure::RemoveCol(long i)
+{
+    const long width = grid.ColAtIndex(i)->GetWidth();
+    grid.cols.MoveTo(i);
+    grid.cols.SetCur(nullptr);
+    grid.cols.Del();
+    for (grid.cols.MoveToNext(); !grid.cols.IsOut(); grid.cols.MoveToNext())
+    {
+        grid.cols.Cur()->Move(-width);
+        grid.cols.Cur()->SetIndex(grid.cols.GetCur());
+    }
 }
 
 void TGGrid::InsertCol(long i, const wchar_t* name, long width)
@@ -279,17 +374,32 @@ void TGGrid::InsertCol(long i, const wchar_t* name, long width)
 
 void TGGrid::AppendCol(TGGridCol* col, long width)
 {
+    std::unique_ptr<TGGridCol> appended(col);
     EndEditCell();
-    if (width == 0)
-        width = defaultWidth;
-    if (col == nullptr)
-        col = new TGGridCol(nullptr, *this);
+    if (appended == nullptr)
+        appended = std::make_unique<TGGridCol>(nullptr, *this);
     const long left = GetRight();
-    col->SetLeft(left);
-    col->SetRight(left + width);
-    col->SetIndex(cols.Append(col));
-    Structure(*this).ChangeRows([col](TGGridRow& row) { row.AppendCol(*col); });
+    appended->SetLeft(left);
+    appended->SetRight(left + Structure(*this).WidthOfNewCol(width));
+    Structure(*this).AddCol(*appended);
+    appended.release();
     RecalcLayout(1);
+}
+
+void TGGrid::Structure::AddCol(TGGridCol& col)
+{
+    const long place = grid.cols.Append(&col);
+    col.SetIndex(place);
+    try
+    {
+        ChangeAllRowsOrNone([&col](TGGridRow& row) { row.AppendCol(col); },
+                            [place](TGGridRow& row) { row.DelCol(place); });
+    }
+    catch (...)
+    {
+        RemoveCol(place);
+        throw;
+    }
 }
 
 void TGGrid::AppendCol(const wchar_t* name, long width)
@@ -309,15 +419,7 @@ void TGGrid::DelCol(long i)
     if (!IsValidCol(i))
         return;
     const std::unique_ptr<TGGridCol> col(ColAtIndex(i));
-    const long width = col->GetWidth();
-    cols.MoveTo(i);
-    cols.SetCur(nullptr);
-    cols.Del();
-    for (cols.MoveToNext(); !cols.IsOut(); cols.MoveToNext())
-    {
-        cols.Cur()->Move(-width);
-        cols.Cur()->SetIndex(cols.GetCur());
-    }
+    Structure(*this).RemoveCol(i);
     Structure(*this).ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
     RecalcLayout(1);
     // As in InsertCol.
@@ -326,10 +428,8 @@ void TGGrid::DelCol(long i)
 
 void TGGrid::MoveCol(long from, long to)
 {
-    if (to == from || to == from + 1)
-        return;
     ASSERT(IsValidCol(from) && to >= 0 && to <= GetColNum());
-    if (!IsValidCol(from) || to < 0 || to > GetColNum())
+    if (!IsValidCol(from) || to < 0 || to > GetColNum() || to == from || to == from + 1)
         return;
     Structure(*this).PlaceMovingCol(from, to);
     Structure(*this).ChangeRows([from, to](TGGridRow& row) { row.MoveCol(from, to); });
@@ -384,8 +484,28 @@ void TGGrid::SetColNum(long n)
     const TGGridUpdate update(*this);
     while (GetColNum() > (std::max)(n, 0L))
         DelCol(GetColNum() - 1);
-    while (GetColNum() < n)
-        AppendCol(static_cast<TGGridCol*>(nullptr), 0);
+    const long before = GetColNum();
+    try
+    {
+        while (GetColNum() < n)
+            AppendCol(static_cast<TGGridCol*>(nullptr), 0);
+    }
+    catch (...)
+    {
+        Structure(*this).DropCols(before);
+        throw;
+    }
+}
+
+void TGGrid::Structure::DropCols(long first)
+{
+    while (grid.GetColNum() > first)
+    {
+        const long last = grid.GetColNum() - 1;
+        const std::unique_ptr<TGGridCol> col(grid.ColAtIndex(last));
+        RemoveCol(last);
+        ChangeRows([last](TGGridRow& row) { row.DelCol(last); });
+    }
 }
 
 } // namespace QuorUiCtr

@@ -20,20 +20,40 @@ TGGridTreeRow::~TGGridTreeRow()
 
 // ---- Columns ----------------------------------------------------------------------------------------------
 
+// Gives the children a cell more by `add`. Takes the cell at `position` away from all of them and from this
+// row when one cannot have it.
+template <class Add> void TGGridTreeRow::AddToChildren(Add add, long position)
+{
+    long done = 0;
+    try
+    {
+        for (TGGridTreeRow* child : children)
+        {
+            if (child != nullptr)
+                add(*child);
+            ++done;
+        }
+    }
+    catch (...)
+    {
+        for (TGGridTreeRow* child : children)
+            if (done-- > 0 && child != nullptr)
+                child->DelCol(position);
+        TGGridRow::DelCol(position);
+        throw;
+    }
+}
+
 void TGGridTreeRow::InsertCol(long position, TGGridCol& col)
 {
     TGGridRow::InsertCol(position, col);
-    for (TGGridTreeRow* child : children)
-        if (child != nullptr)
-            child->InsertCol(position, col);
+    AddToChildren([&](TGGridTreeRow& child) { child.InsertCol(position, col); }, position);
 }
 
 void TGGridTreeRow::AppendCol(TGGridCol& col)
 {
     TGGridRow::AppendCol(col);
-    for (TGGridTreeRow* child : children)
-        if (child != nullptr)
-            child->AppendCol(col);
+    AddToChildren([&](TGGridTreeRow& child) { child.AppendCol(col); }, cells.GetNum() - 1);
 }
 
 void TGGridTreeRow::DelCol(long position)
@@ -133,6 +153,16 @@ bool TGGridTreeRow::IsBelow(const TGGridTreeRow* ancestor) const
 
 long TGGridTreeRow::GetChildIndex(TGGridTreeRow* child)
 {
+    // Shown children stand in the order of their indices, which is the shorter way to one of many.
+    if (child != nullptr && child->IsVisible())
+    {
+        const CursorGuard cursor(children);
+        const long place = child->GetIndex();
+        children.MoveToPartition(
+            [place](const TGGridTreeRow* row) { return row != nullptr && row->GetIndex() < place; });
+        if (!children.IsOut() && children.Cur() == child)
+            return children.GetCur();
+    }
     return children.Find(child);
 }
 

@@ -5,9 +5,11 @@
 #include "grid/TGGridTreeRow.h"
 
 #include "grid/model/GridStructure.h"
+#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace QuorUiCtr
 {
@@ -17,7 +19,7 @@ namespace QuorUiCtr
 
 TGGridTreeRow& TGGridTreeRow::operator=(TGGridTreeRow& source)
 {
-    OwnedRows copies = CopyChildren(source, false);
+    OwnedRows copies = CopyChildren(source);
     const RowWatch self(GetGrid(), this);
     AssignRow(source);
     if (self.IsAlive())
@@ -25,19 +27,36 @@ TGGridTreeRow& TGGridTreeRow::operator=(TGGridTreeRow& source)
     return *this;
 }
 
+// The hooks may delete either row; the host data is in safety meanwhile, and goes back when memory is short.
 TGGridTreeRow& TGGridTreeRow::operator<<(TGGridTreeRow& source)
 {
-    OwnedRows copies = CopyChildren(source, true);
-    if (&source != this)
-        SetExtendData(source.ReleaseExtendData());
+    OwnedRows copies = CopyChildren(source);
+    std::unique_ptr<TGRowData> data(&source != this ? source.ReleaseExtendData() : nullptr);
+    MoveData(source, copies, false);
     const RowWatch self(GetGrid(), this);
-    AssignRow(source);
-    if (self.IsAlive())
-        InsertChildren(GetChildNum(), copies);
+    const RowWatch origin(GetGrid(), &source);
+    try
+    {
+        AssignRow(source);
+        if (self.IsAlive())
+            InsertChildren(GetChildNum(), copies);
+    }
+    catch (...)
+    {
+        if (origin.IsAlive())
+        {
+            MoveData(source, copies, true);
+            if (&source != this)
+                source.extendData = data.release();
+        }
+        throw;
+    }
+    if (self.IsAlive() && &source != this)
+        SetExtendData(data.release());
     return *this;
 }
 
-TGGridTreeRow::OwnedRows TGGridTreeRow::CopyChildren(const TGGridTreeRow& source, bool moveData)
+TGGridTreeRow::OwnedRows TGGridTreeRow::CopyChildren(const TGGridTreeRow& source)
 {
     OwnedRows copies;
     for (TGGridTreeRow* original : source.children)
@@ -45,12 +64,40 @@ TGGridTreeRow::OwnedRows TGGridTreeRow::CopyChildren(const TGGridTreeRow& source
         if (original == nullptr)
             continue;
         copies.push_back(std::make_unique<TGGridTreeRow>(GetGrid()));
-        if (moveData)
-            *copies.back() << *original;
-        else
-            *copies.back() = *original;
+        *copies.back() = *original;
     }
     return copies;
+}
+
+void TGGridTreeRow::MoveData(const TGGridTreeRow& source, const OwnedRows& copies, bool back)
+{
+    auto copy = copies.begin();
+    for (TGGridTreeRow* original : source.children)
+    {
+        if (original == nullptr)
+            continue;
+        // Copies that have been taken over already are not here any more.
+        if (copy == copies.end() || *copy == nullptr)
+            return;
+        back ? MoveData(**copy, *original) : MoveData(*original, **copy);
+        ++copy;
+    }
+}
+
+// Of two rows with the same offspring.
+void TGGridTreeRow::MoveData(TGGridTreeRow& from, TGGridTreeRow& to)
+{
+    to.SetExtendData(from.ReleaseExtendData());
+    auto child = to.children.begin();
+    for (TGGridTreeRow* original : from.children)
+    {
+        while (child != to.children.end() && *child == nullptr)
+            ++child;
+        if (original == nullptr || child == to.children.end())
+            continue;
+        MoveData(*original, **child);
+        ++child;
+    }
 }
 
 // The style word carries the unfold flag, which must go on telling what the grid shows.
@@ -70,8 +117,13 @@ void TGGridTreeRow::AssignRow(TGGridTreeRow& source)
 
 void TGGridTreeRow::InsertChild(long position, TGGridTreeRow* child)
 {
+    ASSERT(child == nullptr || (child != this && !IsBelow(child)));
+    // A tree that contains itself has no end, and would be deleted by itself.
+    if (child != nullptr && (child == this || IsBelow(child)))
+        return;
     OwnedRows added;
-    added.emplace_back(child != nullptr ? child : new TGGridTreeRow(GetGrid()));
+    std::unique_ptr<TGGridTreeRow> owned(child != nullptr ? child : new TGGridTreeRow(GetGrid()));
+    added.push_back(std::move(owned));
     InsertChildren(position, added);
 }
 
@@ -88,32 +140,47 @@ void TGGridTreeRow::InsertChildren(long position, OwnedRows& added)
         owner.EndEditCell();
     if (added.empty() || !self.IsAlive())
         return;
+    std::vector<TGGridTreeRow*> rows;
+    for (const std::unique_ptr<TGGridTreeRow>& row : added)
+        rows.push_back(row.get());
+    AddChildren(position, rows);
+    for (std::unique_ptr<TGGridTreeRow>& row : added)
+        static_cast<void>(row.release());
+}
 
+void TGGridTreeRow::AddChildren(long position, std::span<TGGridTreeRow* const> added)
+{
+    TGGrid& owner = GetGrid();
     ASSERT(position >= 0 && position <= GetChildNum());
     const bool wasParent = IsParentRow();
+    const bool shows = IsVisible() && !IsFold();
     const long first = std::clamp(position, 0L, GetChildNum());
-    const long rowIndex = IsVisible() && !IsFold() ? PlaceBehind(first - 1) : -1;
+    const long rowIndex = shows ? PlaceBehind(first - 1) : -1;
     std::vector<TGGridRow*> shown;
-    long next = first;
-    for (std::unique_ptr<TGGridTreeRow>& row : added)
+    for (TGGridTreeRow* child : added)
     {
-        TGGridTreeRow* child = row.release();
+        TGGrid::Structure(owner).FitToCols(*child);
         child->SetIndex(-1);
-        child->parent = this;
-        children.Insert(next++, child);
-        child->CollectShown(shown);
+        if (shows)
+            child->CollectShown(shown);
     }
-    if (!IsVisible())
-        return;
-    if (!IsFold())
+    children.SpliceInsert(first, added);
+    try
     {
         TGGrid::Structure(owner).InsertRows(rowIndex, shown);
-        owner.RecalcLayout(1);
     }
-    else if (!wasParent)
+    catch (...)
     {
-        Refresh();
+        children.Release(first, static_cast<long>(added.size()));
+        throw;
     }
+    children.MoveTo(first + static_cast<long>(added.size()) - 1);
+    for (TGGridTreeRow* child : added)
+        child->parent = this;
+    if (shows)
+        owner.RecalcLayout(1);
+    else if (IsVisible() && !wasParent)
+        Refresh();
 }
 
 long TGGridTreeRow::PlaceBehind(long position)
@@ -210,14 +277,39 @@ void TGGridTreeRow::FoldAll()
         MarkAll(false);
 }
 
-// The flags are set first, so that the whole sub-tree is shown as one change.
+// The flags are set first, so that the whole sub-tree is shown as one change; and back without memory for it.
 void TGGridTreeRow::UnFoldAll()
 {
+    const RowWatch self(GetGrid(), this);
+    if (IsVisible())
+        GetGrid().EndEditCell();
+    if (!self.IsAlive())
+        return;
+    std::vector<TGGridTreeRow*> folded;
+    CollectFolded(folded);
     MarkAll(true);
-    std::vector<TGGridRow*> all;
-    CollectShown(all);
-    if (IsVisible() && static_cast<long>(all.size()) - 1 != CountShownOffspring())
-        ShowOffspring();
+    try
+    {
+        std::vector<TGGridRow*> all;
+        CollectShown(all);
+        if (IsVisible() && static_cast<long>(all.size()) - 1 != CountShownOffspring())
+            ShowOffspring();
+    }
+    catch (...)
+    {
+        for (TGGridTreeRow* row : folded)
+            row->SetUnFoldFlag(false);
+        throw;
+    }
+}
+
+void TGGridTreeRow::CollectFolded(std::vector<TGGridTreeRow*>& folded)
+{
+    if (IsFold())
+        folded.push_back(this);
+    for (TGGridTreeRow* child : children)
+        if (child != nullptr)
+            child->CollectFolded(folded);
 }
 
 void TGGridTreeRow::MarkAll(bool unfolded)
@@ -234,12 +326,17 @@ void TGGridTreeRow::HideOffspring()
     const RowWatch self(owner, this);
     const TGGridUpdate update(owner);
     const CursorGuard cursor(owner.rows);
+    const TGGrid::LateNumbers late(owner);
+    TGGrid::Structure structure(owner);
     owner.EndEditCell();
-    for (long below = 1; self.IsAlive() && TGGrid::Structure(owner).IsOffspringAt(GetIndex() + below, *this);
-         ++below)
-        owner.SelectRow(GetIndex() + below, false);
-    if (self.IsAlive() && TGGrid::Structure(owner).RemoveOffspring(*this))
-        owner.RecalcLayout(1);
+    // As many as there are at first: hooks may show others.
+    long shown = self.IsAlive() ? CountShownOffspring() : 0;
+    for (; shown > 0 && self.IsAlive() && structure.IsOffspringAt(GetIndex() + 1, *this); --shown)
+        structure.HideRow(GetIndex() + 1);
+    if (!self.IsAlive())
+        return;
+    structure.RemoveOffspring(*this);
+    owner.RecalcLayout(1);
 }
 
 void TGGridTreeRow::ShowOffspring()

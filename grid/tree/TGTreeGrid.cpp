@@ -179,8 +179,10 @@ void TGTreeGrid::NoteParents()
         TGGridRow* parent = static_cast<TGGridTreeRow&>(row).Parent();
         if (!known.insert(parent).second)
             continue;
-        touchedParents.Append(parent);
+        // The two go together, also when memory is short.
+        touchedParents.Reserve(touchedParents.GetNum() + 1);
         parentWatches.push_back(std::make_unique<RowWatch>(*this, parent));
+        touchedParents.Append(parent);
     }
 }
 

@@ -2,6 +2,8 @@
 // and the bracket that makes many changes as one.
 #include "grid/window/GridLayout.h"
 #include "grid/headers/HeaderBox.h"
+#include "grid/model/GridStructure.h"
+#include "grid/model/MakeOrNull.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
@@ -224,9 +226,18 @@ void TGGrid::Layout::RenewNewRow()
     const bool locked =
         grid.newRow != nullptr && grid.cellLock != nullptr && &grid.cellLock->GetRow() == grid.newRow;
     const long lockedCol = locked ? grid.cellLock->GetColIndex() : -1;
-    delete grid.newRow;
-    grid.newRow = nullptr;
-    grid.newRow = grid.treeGrid ? new TGGridTreeRow(grid) : new TGGridRow(grid);
+    // Without memory for a fresh row the old one stays, or none.
+    TGGridRow* fresh = MakeOrNull([this] { return Structure(grid).MakeRow(); });
+    if (fresh != nullptr)
+    {
+        delete grid.newRow;
+        grid.newRow = fresh;
+    }
+    if (grid.newRow == nullptr)
+    {
+        grid.cellLock = locked ? nullptr : grid.cellLock;
+        return;
+    }
     grid.newRow->SetIndex(grid.GetRowNum());
     if (locked)
         grid.cellLock = grid.IsValidCol(lockedCol) ? &(*grid.newRow)[lockedCol] : nullptr;
@@ -296,7 +307,9 @@ void TGGrid::PrepareDC(CDC* context)
     {
         if (GetSafeHwnd() == nullptr)
             return;
-        dc = new CClientDC(this);
+        dc = MakeOrNull([this] { return new CClientDC(this); });
+        if (dc == nullptr)
+            return;
         ownsDC = true;
     }
     dc->SetROP2(R2_COPYPEN);

@@ -1,8 +1,11 @@
 // TGGrid's scrolling: moving the view, bringing rectangles into view, scroll bar and wheel messages.
 #include "grid/window/GridLayout.h"
+#include "grid/model/GridLimits.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 #include "rules/GridGeometry.h"
+
+#include <algorithm>
 
 namespace QuorUiCtr
 {
@@ -38,6 +41,8 @@ void TGGrid::ScrollView(int dx, int dy)
     const int vPosition = BarPosition(SB_VERT);
     CRect area;
     GetClientRect(&area);
+    dx = std::clamp(dx, -MaxScrollDistance, MaxScrollDistance);
+    dy = std::clamp(dy, -MaxScrollDistance, MaxScrollDistance);
     if (hScrollShown)
         dx = ClampScroll(hPosition, dx, GetRight() - area.Width());
     if (vScrollShown)

@@ -57,6 +57,8 @@ public:
     using TGGridRow::TGGridRow;
     using TGGridRow::operator=;
 
+    using TGGridRow::FindCell;
+
     using TGGridRow::GetBottom;
     using TGGridRow::GetLeft;
     using TGGridRow::GetRect;

@@ -51,11 +51,13 @@ void ReferenceGrid::CurChanged()
 
 void ReferenceGrid::InsertRow(long i, ReferenceRow* row)
 {
+    const bool follows = curRow >= i && curRow < static_cast<long>(rows.size());
     rows.insert(rows.begin() + i, row);
     Renumber();
     for (long& entry : rowSel)
         if (entry >= i)
             ++entry;
+    curRow += follows ? 1 : 0;
 }
 
 void ReferenceGrid::RemoveSlot(long i)
@@ -66,6 +68,8 @@ void ReferenceGrid::RemoveSlot(long i)
     for (long& entry : rowSel)
         if (entry > i)
             --entry;
+    if (curRow >= i && curRow <= static_cast<long>(rows.size()))
+        curRow = curRow == i ? -1 : curRow - 1;
 }
 
 void ReferenceGrid::DelRow(long i)
@@ -255,16 +259,17 @@ void ReferenceGrid::DelChild(ReferenceRow* parent, long k)
     parent->children.erase(parent->children.begin() + k);
 }
 
-// All rows are deselected, each with a report, before the first one goes.
+// Row by row, each deselected with a report before it goes.
 void ReferenceGrid::Fold(ReferenceRow* row)
 {
     if (!row->children.empty() && IsShown(row->children[0]))
     {
         const long number = RowNum(row) - 1;
-        for (long k = 1; k <= number; ++k)
-            SelectRow(row->index + k, false);
         for (long k = 0; k < number; ++k)
+        {
+            SelectRow(row->index + 1, false);
             RemoveSlot(row->index + 1);
+        }
     }
     row->unfolded = false;
 }

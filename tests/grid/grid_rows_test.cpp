@@ -80,7 +80,7 @@ TEST_F(GridRows, InsertRowShiftsSelectedRowsAtAndBelowIt)
     EXPECT_EQ(Selection(grid), "rows 3 7 | cur -1,-1");
 }
 
-TEST_F(GridRows, InsertingAndAppendingRowsModifyNothingAndChangeNoCurrentRow)
+TEST_F(GridRows, InsertingAndAppendingRowsModifyNothingAndReportNoCurrentRow)
 {
     AddRows(grid, "ab");
     grid.SelectRow(1, true);
@@ -88,7 +88,7 @@ TEST_F(GridRows, InsertingAndAppendingRowsModifyNothingAndChangeNoCurrentRow)
     grid.InsertRow(0, nullptr);
     grid.AppendRow(nullptr);
     EXPECT_EQ(grid.curChanges, 0);
-    EXPECT_EQ(Selection(grid), "rows 2 | cur 1,-1");
+    EXPECT_EQ(Selection(grid), "rows 2 | cur 2,-1");
     EXPECT_FALSE(grid.IsModified());
 }
 
@@ -127,7 +127,7 @@ TEST_F(GridRows, DelRowDeselectsTheRowAndShiftsTheRowsSelectedBelow)
     EXPECT_EQ(Selection(grid), "rows 1 3 | cur -1,-1");
 }
 
-// The hook runs once, when the row is deselected, before the entries below move up.
+// The hook runs once, when the row is deselected, before the entries below move up; the current row follows.
 TEST_F(GridRows, DelRowReportsTheCurrentRowBeforeTheRowsBelowMoveUp)
 {
     AddRows(grid, "abcd");
@@ -135,7 +135,7 @@ TEST_F(GridRows, DelRowReportsTheCurrentRowBeforeTheRowsBelowMoveUp)
     grid.curChanges = 0;
     grid.DelRow(0);
     EXPECT_EQ(grid.curChanges, 1);
-    EXPECT_EQ(Selection(grid), "rows 2 | cur 3,-1");
+    EXPECT_EQ(Selection(grid), "rows 2 | cur 2,-1");
 }
 
 TEST_F(GridRows, MoveRowPlacesTheRowBeforeTheOneAtTheTarget)

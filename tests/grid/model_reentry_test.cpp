@@ -54,7 +54,7 @@ TEST_F(ModelReentry, ARowThatTheHookSelectsAgainIsNotSelectedAfterItsDeletion)
     grid.SelectRow(2, true);
     Once([this] { grid.SelectRow(2, true); });
     grid.DelRow(2);
-    EXPECT_EQ(Selection(grid), "none | cur 2,-1");
+    EXPECT_EQ(Selection(grid), "none | cur -1,-1");
     EXPECT_EQ(grid.GetRowSelNum(), 0);
 }
 

@@ -210,7 +210,7 @@ TEST_F(TreeFold, DelRowOfAShownParentTakesItsShownOffspringAlong)
     grid.SelectRow(5, true);
     grid.DelRow(0);
     EXPECT_EQ(Texts(grid), "f");
-    EXPECT_EQ(Selection(grid), "rows 0 | cur 5,-1");
+    EXPECT_EQ(Selection(grid), "rows 0 | cur 0,-1");
     EXPECT_EQ(CountedData::alive, 0);
 }
 

@@ -1,0 +1,21 @@
+// The ranges of what hosts may set, in pixels.
+#pragma once
+
+#include <algorithm>
+#include <climits>
+
+namespace QuorUiCtr
+{
+
+constexpr long MaxColWidth = 65535;
+// Beyond, columns have no extent any more; twice as much can still be counted.
+constexpr long MaxContentWidth = LONG_MAX / 2;
+// Farther than any screen reaches, and within what GDI can scroll.
+constexpr int MaxScrollDistance = 1 << 24;
+
+inline long WidthInRange(long width)
+{
+    return std::clamp(width, 0L, MaxColWidth);
+}
+
+} // namespace QuorUiCtr

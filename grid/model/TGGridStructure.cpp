@@ -221,6 +221,7 @@ void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
     std::vector<TGGridRow*> shown;
     top.CollectOffspring(shown);
     const bool partlyShown = top.HasShownOffspring();
+    const TGGridRow* const current = grid.RowAt(grid.curRowIndex);
     if (partlyShown)
     {
         for (const long i : grid.rowSel)
@@ -231,6 +232,8 @@ void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
     InsertRows(top.GetIndex() + 1, shown);
     if (!partlyShown)
         return;
+    if (current != nullptr)
+        grid.SetCurRowIndex(current->GetIndex());
     // The rows stand already: without memory for it the selection is lost.
     grid.rowSel.Clear();
     MakeOrNull([&] {

@@ -108,9 +108,13 @@ void TGGridTreeRow::AssignRow(TGGridTreeRow& source)
     if (IsFold() == wasFold || !IsVisible())
         return;
     if (IsFold())
+    {
         Fold();
-    else
-        UnFold();
+        return;
+    }
+    // Set when the children are shown, which there may be no memory for.
+    SetUnFoldFlag(false);
+    UnFold();
 }
 
 // ---- Children ---------------------------------------------------------------------------------------------

@@ -242,9 +242,13 @@ void ReferenceGrid::InsertChild(ReferenceRow* parent, long k, ReferenceRow* chil
     long i = parent->index + 1;
     for (long before = 0; before < k; ++before)
         i += RowNum(parent->children[static_cast<std::size_t>(before)]);
+    // An index that names no row follows none, also where the rows get as many.
+    const bool namesRow = curRow < static_cast<long>(rows.size());
+    const long before = curRow;
     InsertRow(i, child);
     if (child->unfolded)
         UnFold(child);
+    curRow = namesRow ? curRow : before;
 }
 
 void ReferenceGrid::DelChild(ReferenceRow* parent, long k)
@@ -278,12 +282,16 @@ void ReferenceGrid::UnFold(ReferenceRow* row)
 {
     if (!row->children.empty() && IsShown(row) && !IsShown(row->children[0]))
     {
+        // An index that names no row follows none.
+        const bool namesRow = curRow < static_cast<long>(rows.size());
+        const long before = curRow;
         long k = 0;
         for (ReferenceRow* child : row->children)
             InsertRow(row->index + 1 + k++, child);
         for (ReferenceRow* child : row->children)
             if (child->unfolded)
                 UnFold(child);
+        curRow = namesRow ? curRow : before;
     }
     row->unfolded = true;
 }

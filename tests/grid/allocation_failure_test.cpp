@@ -69,12 +69,10 @@ const Operation treeOperations[] = {
     {"FoldAll", [](TGGrid& grid) { grid.GetTreeRow(0).FoldAll(); }},
     {"UnFold", [](TGGrid& grid) { grid.GetTreeRow(1).UnFold(); }},
     {"UnFoldAll", [](TGGrid& grid) { grid.GetTreeRow(0).UnFoldAll(); }},
-    {"assignment", [](TGGrid& grid) { grid.GetTreeRow(3) = grid.GetTreeRow(0); }},
-    {"transfer", [](TGGrid& grid) { grid.GetTreeRow(3) << grid.GetTreeRow(0); }},
     {"ArrangeChild", [](TGGrid& grid) { grid.GetTreeRow(0).ArrangeChild(false); }},
 };
 
-// Run hooks between their steps and may stop between two of them; nothing is lost.
+// Run hooks between their steps, or assign texts first, and may stop between two of them; nothing is lost.
 const Operation commands[] = {
     {"DoInsertRow", [](TGGrid& grid) { grid.DoInsertRow(); }},
     {"DoInsertRowAfter", [](TGGrid& grid) { grid.DoInsertRowAfter(); }},
@@ -108,6 +106,16 @@ const Operation commands[] = {
      }},
     {"DoPasteChild", [](TGGrid& grid) { grid.DoPasteChild(); }},
     {"Arrange", [](TGGrid& grid) { grid.Arrange(false); }},
+    {"assignment",
+     [](TGGrid& grid) {
+         if (grid.IsTreeGrid())
+             grid.GetTreeRow(3) = grid.GetTreeRow(0);
+     }},
+    {"transfer",
+     [](TGGrid& grid) {
+         if (grid.IsTreeGrid())
+             grid.GetTreeRow(3) << grid.GetTreeRow(0);
+     }},
     {"FindAndSel", [](TGGrid& grid) { grid.FindAndSel(L"d", 0); }},
 };
 

@@ -161,7 +161,8 @@ public:
     bool IsValidCol(long i) const { return i >= 0 && i < GetColNum(); }
     // `i` names the new-row line.
     bool IsNewRow(long i) const { return i == GetRowNum(); }
-    // Where there is no such row (asserted), the row of the new-row line.
+    // Where there is no such row (asserted), the row of the new-row line. Moves the row cursor there. The
+    // second form is grid[i][col].
     TGGridRow& GetRow(long i);
     TGGridRow& operator[](long i) { return GetRow(i); }
     // The same row seen as a tree row; only for rows that are.
@@ -218,12 +219,12 @@ public:
     long GetMainKey();
 
     // ---- Structure --------------------------------------------------------------------------------------
-    // These end an open cell edit and lay out anew; they call no confirmation hook and notify nobody. A null
-    // row or column makes the grid create a plain one. The grid owns what it is given, and deletes it when
-    // there is no memory to take it in; then the grid is as it was and the exception goes on to the caller. A
-    // row that was made before the columns changed gets cells for the columns of now.
-    // Rows leave one by one: each is deselected, which calls OnCurChanged(), and then goes; the current row
-    // follows its row.
+    // But for the moves, these end an open cell edit, and all show the outcome at once; they call no
+    // confirmation hook and notify nobody. A null row or column makes the grid create a plain one. The grid
+    // owns what it is given, and deletes it when there is no memory to take it in; then the grid is as it was
+    // and the exception goes on to the caller. A row that was made before the columns changed gets cells for
+    // the columns of now. Rows leave one by one: each is deselected, which calls OnCurChanged(), and then
+    // goes; the current row follows its row.
 
     // Inserts before the row at `i`; selected rows at `i` and below move on by one. GetRowNum() appends. In a
     // tree the new row is a root row, which belongs between two trees.
@@ -235,15 +236,23 @@ public:
     void DelRow(long i);
     // Deletes a row of a tree with its offspring: a child through its parent, a parent folded first.
     void DelRowEx(long i);
-    // Places the row at `from` before the row that stands at `to`; nothing when `to` is `from` or `from` + 1,
-    // and when there is no such row or place (asserted).
-    // The selection keeps its numbers. A row of a tree takes its shown offspring along and changes its place
-    // in the tree, too: it moves among its siblings, to a `to` in front of one of them or behind the last
-    // one's offspring. Any other place would give it another parent and is refused, which changes nothing;
-    // a row that is not in a tree moves among the root rows.
+    // Places the row at `from` before the row that stands at `to`. `to` counts the rows as they stand before
+    // the move, the moving one included: MoveRow(2, 5) puts row 2 between the former rows 4 and 5, at the
+    // index 4, and a `to` of GetRowNum() puts it last. Nothing when `to` is `from` or `from` + 1, where the
+    // row stands already, and when there is no such row or place (asserted).
+    //
+    // The selection keeps its numbers: afterwards the rows are selected that stand at the selected indices
+    // now. A drag in the row header and Arrange() take the selection along.
+    //
+    // A row of a tree takes its shown offspring along and changes its place in the tree, too: it moves among
+    // its siblings, to a `to` in front of one of them or behind the last one's offspring. Any other place
+    // would give it another parent and is refused, which changes nothing; a row that is not in a tree moves
+    // among the root rows.
     void MoveRow(long from, long to);
     // Inserts before the column at `i`; width 0 means the default width. Widths are 0 to 65535 pixels
-    // (asserted; others are brought into the range).
+    // (asserted; others are brought into the range). The columns behind move to the right. Every row, those
+    // of the paste buffer included, gets an empty cell. The selection of columns keeps its numbers, the sort
+    // keys theirs. A null `name` counts as empty.
     void InsertCol(long i, TGGridCol* col, long width);
     void InsertCol(long i, const wchar_t* name, long width);
     // The same behind the last column.

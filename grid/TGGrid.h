@@ -655,6 +655,7 @@ private:
     class Keyboard;
     class LateNumbers;
     class Layout;
+    class Painting;
     class RowBuffer;
     class Structure;
 
@@ -688,26 +689,6 @@ private:
     // The position of SB_HORZ or SB_VERT in pixels, 0 for a bar that is not shown.
     int BarPosition(int bar) const;
     void SetBarPosition(int bar, int position);
-
-    // Painting (TGGridPaint.cpp).
-    struct RowRange
-    {
-        long first;
-        long last; // inclusive, and maybe behind the last row
-    };
-    // The lines that the data area shows, partly or wholly; all without a drawing context.
-    RowRange VisibleRows();
-    // The cells cover the data area, so that nothing of it needs to be erased.
-    bool CoversArea();
-    // Draws the rows from `first` to `last`, as far as they exist; runs the refresh hooks.
-    void DrawRows(long first, long last);
-    // Invert the selected bands, as far as they are in the view.
-    void InvertSelectedCols();
-    void InvertSelectedRows();
-    // Fills the part of `area` that is neither a cell nor a grid line (logical coordinates).
-    void ClearOutsideCells(const CRect& area);
-    // Inverts again what has been drawn over the selection outside Refresh().
-    void InvertSelectionIn(const CRect& drawn);
 
     // Mouse (TGGridMouse.cpp).
     // What a click does where it hits the grid, and the column of the tree; both run hooks.

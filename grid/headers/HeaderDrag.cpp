@@ -1,6 +1,8 @@
 // The mark of a drag in a header, and scrolling while dragging.
 #include "grid/headers/HeaderDrag.h"
 
+#include "grid/window/GridPainting.h"
+
 namespace QuorUiCtr
 {
 namespace
@@ -38,7 +40,7 @@ void HeaderDrag::InvertMark()
 
 void HeaderDrag::RestoreMark()
 {
-    grid.ClearOutsideCells(MarkRect());
+    TGGrid::Painting(grid).ClearOutsideCells(MarkRect());
     InvertMark();
 }
 

@@ -7,6 +7,7 @@
 #include "grid/TGGrid.h"
 
 #include "grid/model/RowWatch.h"
+#include "grid/window/GridPainting.h"
 #include "rules/SelectedIndices.h"
 
 namespace QuorUiCtr
@@ -105,7 +106,7 @@ void TGGrid::UnselectCols()
 void TGGrid::UnselectRows()
 {
     if (CanInvertNow())
-        InvertSelectedRows();
+        Painting(*this).InvertSelectedRows();
     else if (IsRowSelected())
         Invalidate(0);
     rowSel.Clear();

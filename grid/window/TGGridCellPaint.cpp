@@ -2,7 +2,7 @@
 #include "grid/TGGridCell.h"
 
 #include "grid/edit/CellWatch.h"
-#include "grid/TGGrid.h"
+#include "grid/window/GridPainting.h"
 #include "rules/GridGeometry.h"
 
 namespace QuorUiCtr
@@ -55,7 +55,7 @@ void TGGridCell::Refresh()
     Draw(*owner.GetDC());
     CRect cell;
     GetRect(cell);
-    owner.InvertSelectionIn(CellOutlineRect(cell).As<CRect>());
+    TGGrid::Painting(owner).InvertSelectionIn(CellOutlineRect(cell).As<CRect>());
 }
 
 void TGGridCell::Draw(CDC& context) const

@@ -1,5 +1,5 @@
 // TGGrid's painting: the visible rows, the new-row line, the selection, and the colours of an open editor.
-#include "grid/TGGrid.h"
+#include "grid/window/GridPainting.h"
 
 #include "grid/TGCellCtrl.h"
 #include "grid/TGColSelector.h"
@@ -42,15 +42,12 @@ void TGGrid::Refresh()
     }
     {
         const ScopedValue guard(refreshing, true);
-        const RowRange visible = VisibleRows();
-        DrawRows(visible.first, visible.last);
-        if (GetRowNum() <= visible.last && IsAppendRowShown() && newRow != nullptr)
-            newRow->Refresh();
+        Painting(*this).DrawVisibleRows();
     }
     if (IsColSelected())
-        InvertSelectedCols();
+        Painting(*this).InvertSelectedCols();
     else
-        InvertSelectedRows();
+        Painting(*this).InvertSelectedRows();
     // The marks of a running drag stand on what was just drawn.
     if (rowHeader != nullptr)
         rowHeader->RestoreDropMark();
@@ -58,18 +55,27 @@ void TGGrid::Refresh()
         colHeader->RestoreMark();
 }
 
-// All rows without a drawing context.
-TGGrid::RowRange TGGrid::VisibleRows()
+void TGGrid::Painting::DrawVisibleRows()
 {
-    if (dc == nullptr)
-        return {0, GetRowNum()};
-    const CRect view = ViewRect();
-    return {view.top / GetRowHeight(), view.bottom / GetRowHeight()};
+    const RowRange visible = VisibleRows();
+    DrawRows(visible.first, visible.last);
+    if (grid.GetRowNum() <= visible.last && grid.IsAppendRowShown() && grid.newRow != nullptr)
+        grid.newRow->Refresh();
+}
+
+// All rows without a drawing context.
+TGGrid::Painting::RowRange TGGrid::Painting::VisibleRows()
+{
+    if (grid.dc == nullptr)
+        return {0, grid.GetRowNum()};
+    const CRect view = grid.ViewRect();
+    return {view.top / grid.GetRowHeight(), view.bottom / grid.GetRowHeight()};
 }
 
 // The cursor walks along, so that hooks may change the rows meanwhile, and is brought back for the host.
-void TGGrid::DrawRows(long first, long last)
+void TGGrid::Painting::DrawRows(long first, long last)
 {
+    PDList<TGGridRow>& rows = grid.rows;
     const CursorGuard<TGGridRow*> cursor(rows);
     for (long i = (std::max)(first, 0L); i <= last && rows.MoveTo(i); ++i)
     {
@@ -79,74 +85,69 @@ void TGGrid::DrawRows(long first, long last)
     }
 }
 
-void TGGrid::InvertSelectedCols()
+void TGGrid::Painting::InvertSelectedCols()
 {
-    for (const long index : colSel)
-    {
-        TGGridCol* col = IsValidCol(index) ? *cols.IteratorAt(index) : nullptr;
-        if (col != nullptr)
+    for (const long index : grid.colSel)
+        if (TGGridCol* col = grid.ColAtIndex(index))
             col->Select(true);
-    }
 }
 
 // The bands outside the view need no inverting, so that this costs what is visible, not what is selected.
-void TGGrid::InvertSelectedRows()
+void TGGrid::Painting::InvertSelectedRows()
 {
-    if (!IsRowSelected() || GetSafeHwnd() == nullptr || dc == nullptr)
+    if (!grid.IsRowSelected() || grid.GetSafeHwnd() == nullptr || grid.dc == nullptr)
         return;
     const RowRange visible = VisibleRows();
-    auto entry = SelectedIndices::FindNotBelow(rowSel, visible.first);
-    for (; entry != rowSel.end() && *entry <= visible.last; ++entry)
-    {
-        TGGridRow* row = IsValidRow(*entry) ? *rows.IteratorAt(*entry) : nullptr;
-        if (row != nullptr)
+    auto entry = SelectedIndices::FindNotBelow(grid.rowSel, visible.first);
+    for (; entry != grid.rowSel.end() && *entry <= visible.last; ++entry)
+        if (TGGridRow* row = grid.RowAt(*entry))
             row->Select(true);
-    }
 }
 
 // A cell drawn by itself lies on the bands of its row, of the row below, whose top line it draws, and of the
 // columns that its frame touches.
-void TGGrid::InvertSelectionIn(const CRect& drawn)
+void TGGrid::Painting::InvertSelectionIn(const CRect& drawn)
 {
-    if (refreshing || dc == nullptr)
+    if (grid.refreshing || grid.dc == nullptr)
         return;
     CRect band;
     const auto invertPart = [&](auto& line) {
         line.GetRect(band);
         if (band.IntersectRect(&band, &drawn))
-            InvertBand(band);
+            grid.InvertBand(band);
     };
-    for (const long i : colSel)
-        if (TGGridCol* col = ColAtIndex(i))
+    for (const long i : grid.colSel)
+        if (TGGridCol* col = grid.ColAtIndex(i))
             invertPart(*col);
-    auto entry = SelectedIndices::FindNotBelow(rowSel, drawn.top / GetRowHeight());
-    for (; entry != rowSel.end() && *entry <= drawn.bottom / GetRowHeight(); ++entry)
-        if (TGGridRow* row = RowAt(*entry))
+    auto entry = SelectedIndices::FindNotBelow(grid.rowSel, drawn.top / grid.GetRowHeight());
+    for (; entry != grid.rowSel.end() && *entry <= drawn.bottom / grid.GetRowHeight(); ++entry)
+        if (TGGridRow* row = grid.RowAt(*entry))
             invertPart(*row);
-    if (rowHeader != nullptr)
-        rowHeader->RestoreDropMark(drawn);
-    if (colHeader != nullptr)
-        colHeader->RestoreMark(drawn);
+    if (grid.rowHeader != nullptr)
+        grid.rowHeader->RestoreDropMark(drawn);
+    if (grid.colHeader != nullptr)
+        grid.colHeader->RestoreMark(drawn);
 }
 
 // Painting without erasing leaves what stood right of the columns and below the rows.
-void TGGrid::ClearOutsideCells(const CRect& area)
+void TGGrid::Painting::ClearOutsideCells(const CRect& area)
 {
-    const long right = GetRight() + 1;
-    const long bottom = GetBottom() + 1;
+    const long right = grid.GetRight() + 1;
+    const long bottom = grid.GetBottom() + 1;
     const CRect outside[] = {CRect(right, 0, area.right, area.bottom), CRect(0, bottom, right, area.bottom)};
     for (const CRect& side : outside)
-        if (CRect part; dc != nullptr && part.IntersectRect(side, area))
-            dc->FillRect(part, &backBrush);
+        if (CRect part; grid.dc != nullptr && part.IntersectRect(side, area))
+            grid.dc->FillRect(part, &grid.backBrush);
 }
 
 // With both bars shown the cells cover the area, but not until a resize that takes a bar away has been laid
 // out: what the bars covered comes into the client area before.
-bool TGGrid::CoversArea()
+bool TGGrid::Painting::CoversArea()
 {
     CRect area;
-    GetClientRect(&area);
-    return hScrollShown && vScrollShown && GetRight() >= area.Width() && GetBottom() >= area.Height();
+    grid.GetClientRect(&area);
+    return grid.hScrollShown && grid.vScrollShown && grid.GetRight() >= area.Width() &&
+           grid.GetBottom() >= area.Height();
 }
 
 BOOL TGGrid::OnEraseBkgnd(CDC* context)
@@ -157,7 +158,7 @@ BOOL TGGrid::OnEraseBkgnd(CDC* context)
         redrawPending = true;
         return TRUE;
     }
-    return CoversArea() ? TRUE : CWnd::OnEraseBkgnd(context);
+    return Painting(*this).CoversArea() ? TRUE : CWnd::OnEraseBkgnd(context);
 }
 
 HBRUSH TGGrid::OnCtlColor(CDC* context, CWnd* wnd, UINT kind)

@@ -656,11 +656,11 @@ private:
     class LateNumbers;
     class Layout;
     class Painting;
+    class Pointer;
     class RowBuffer;
+    class Selecting;
     class Structure;
 
-    // Sorts rows and children and numbers them, leaving the selection to Arrange(). Folding runs hooks.
-    void SortRows(bool ascending);
     // Move the selected rows in front of the row `to`, the selected columns, which form the run from `first`
     // to `last`, in front of the column `to`; they stay selected.
     void MoveSelectedRows(long to);
@@ -681,20 +681,6 @@ private:
     bool showPending = false;
     CRect pendingShowRect;
 
-    // Scrolling (TGGridScroll.cpp).
-    // The part of the logical plane that the data area shows.
-    CRect ViewRect();
-    // MoveView with the layout up to date; may run hooks.
-    void ScrollView(int dx, int dy);
-    // The position of SB_HORZ or SB_VERT in pixels, 0 for a bar that is not shown.
-    int BarPosition(int bar) const;
-    void SetBarPosition(int bar, int position);
-
-    // Mouse (TGGridMouse.cpp).
-    // What a click does where it hits the grid, and the column of the tree; both run hooks.
-    void PressCell(CPoint point);
-    void PressTreeCell(long row, CPoint point);
-
     // Editing (TGGridEdit.cpp).
     // What a click and an edit begin with, and go on with after a hook: ends an edit that is open and does a
     // layout that is postponed. Runs the hooks of these, none when there is nothing to do.
@@ -704,20 +690,6 @@ private:
     TGGridRow* RowAt(long i);
     TGGridCol* ColAtIndex(long i);
 
-    // Selection (TGGridSelection.cpp).
-    // Empty one selection and take its bands off the screen, without OnCurChanged().
-    void UnselectCols();
-    void UnselectRows();
-    // The screen shows what the selection was, so that a change can be inverted instead of repainted.
-    bool CanInvertNow() const;
-    // Invert the band of a row or column whose selection has just changed, or have it repainted.
-    void ChangeRowBand(long row, bool select);
-    void ChangeColBand(TGGridCol& col, bool select);
-    // Scroll a selected band into view along its own direction, at the last EndUpdate when painting is
-    // postponed.
-    void ShowBand(const CRect& band);
-    void ShowRowBand(long row);
-    void ShowColBand(const TGGridCol& col);
     // Makes a shown row the only one selected.
     void SelectOnly(TGGridRow& row);
     // Inverts a rectangle in logical coordinates on the drawing context; nothing without one.

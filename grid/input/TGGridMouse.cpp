@@ -8,6 +8,20 @@
 namespace QuorUiCtr
 {
 
+// What a click does where it hits the grid, and the column of the tree; both run hooks.
+class TGGrid::Pointer
+{
+public:
+    explicit Pointer(TGGrid& servedGrid) : grid(servedGrid) {}
+
+    void PressCell(CPoint point);
+
+private:
+    void PressTreeCell(long row, CPoint point);
+
+    TGGrid& grid;
+};
+
 // ---- Hit tests --------------------------------------------------------------------------------------------
 
 CPoint TGGrid::ClientToLogical(CPoint point) const
@@ -56,7 +70,7 @@ void TGGrid::OnLButtonDown(UINT flags, CPoint point)
 {
     SetFocus();
     Settle();
-    PressCell(point);
+    Pointer(*this).PressCell(point);
     CWnd::OnLButtonDown(flags, point);
 }
 
@@ -66,32 +80,32 @@ void TGGrid::OnLButtonDblClk(UINT flags, CPoint point)
     OnLButtonDown(flags, point);
 }
 
-void TGGrid::PressCell(CPoint point)
+void TGGrid::Pointer::PressCell(CPoint point)
 {
     long row = -1;
     long col = -1;
-    PtToCell(point, row, col);
-    if (row < 0 || !IsValidCol(col))
-        UnSelect();
-    else if (IsValidRow(row) && col == 0 && GetRow(row).IsTreeRow())
+    grid.PtToCell(point, row, col);
+    if (row < 0 || !grid.IsValidCol(col))
+        grid.UnSelect();
+    else if (grid.IsValidRow(row) && col == 0 && grid.GetRow(row).IsTreeRow())
         PressTreeCell(row, point);
-    else if (IsValidRow(row) || (IsNewRow(row) && IsAppendRowShown()))
-        BeginEditCell(row, col);
+    else if (grid.IsValidRow(row) || (grid.IsNewRow(row) && grid.IsAppendRowShown()))
+        grid.BeginEditCell(row, col);
     else
-        UnSelect();
+        grid.UnSelect();
 }
 
-void TGGrid::PressTreeCell(long row, CPoint point)
+void TGGrid::Pointer::PressTreeCell(long row, CPoint point)
 {
-    TGGridTreeRow& treeRow = GetTreeRow(row);
-    CPoint logical = ClientToLogical(point);
+    TGGridTreeRow& treeRow = grid.GetTreeRow(row);
+    CPoint logical = grid.ClientToLogical(point);
     if (!treeRow.IsParentRow() || !treeRow.IsPtInTreeQuad(logical))
     {
-        BeginEditCell(row, 0);
+        grid.BeginEditCell(row, 0);
         return;
     }
-    const RowWatch watch(*this, &treeRow);
-    UnSelect();
+    const RowWatch watch(grid, &treeRow);
+    grid.UnSelect();
     if (!watch.IsAlive())
         return;
     if (treeRow.IsFold())

@@ -4,7 +4,7 @@
 // inverts what is selected after drawing, so the screen and the index lists always agree. While painting is
 // postponed or under way a change repaints instead, because nobody knows then which bands are drawn already.
 // Hooks run last in every step, or are followed by a fresh look at what they may have changed.
-#include "grid/TGGrid.h"
+#include "grid/input/GridSelecting.h"
 
 #include "grid/model/RowWatch.h"
 #include "grid/window/GridPainting.h"
@@ -28,12 +28,12 @@ void TGGrid::SelectRow(long row, bool select)
     // Before the columns are unselected: there may be no memory for the entry.
     const bool changes = select ? SelectedIndices::Add(rowSel, row) : SelectedIndices::Remove(rowSel, row);
     if (select)
-        UnselectCols();
+        Selecting(*this).UnselectCols();
     if (changes)
     {
-        ChangeRowBand(row, select);
+        Selecting(*this).ChangeRowBand(row, select);
         if (select)
-            ShowRowBand(row);
+            Selecting(*this).ShowRowBand(row);
     }
     OnCurChanged();
 }
@@ -50,13 +50,13 @@ void TGGrid::SelectCol(long col, bool select)
     }
     const bool changes = select ? SelectedIndices::Add(colSel, col) : SelectedIndices::Remove(colSel, col);
     if (select)
-        UnselectRows();
+        Selecting(*this).UnselectRows();
     if (changes)
     {
         TGGridCol* changed = ColAtIndex(col);
-        ChangeColBand(*changed, select);
+        Selecting(*this).ChangeColBand(*changed, select);
         if (select)
-            ShowColBand(*changed);
+            Selecting(*this).ShowColBand(*changed);
     }
     OnCurChanged();
 }
@@ -75,8 +75,8 @@ void TGGrid::SelectAll()
 
 void TGGrid::UnSelect()
 {
-    UnselectCols();
-    UnselectRows();
+    Selecting(*this).UnselectCols();
+    Selecting(*this).UnselectRows();
     OnCurChanged();
 }
 
@@ -94,46 +94,6 @@ void TGGrid::SelectOnly(TGGridRow& row)
         SelectRow(row.GetIndex(), true);
 }
 
-// Entries may name columns that are gone: deleting columns does not renumber them.
-void TGGrid::UnselectCols()
-{
-    for (const long i : colSel)
-        if (TGGridCol* col = ColAtIndex(i))
-            ChangeColBand(*col, false);
-    colSel.Clear();
-}
-
-void TGGrid::UnselectRows()
-{
-    if (CanInvertNow())
-        Painting(*this).InvertSelectedRows();
-    else if (IsRowSelected())
-        Invalidate(0);
-    rowSel.Clear();
-}
-
-bool TGGrid::CanInvertNow() const
-{
-    return !IsUpdating() && !refreshing;
-}
-
-// Looks for the row only when it is needed: among many rows that costs more than the rest.
-void TGGrid::ChangeRowBand(long row, bool select)
-{
-    if (!CanInvertNow())
-        Invalidate(0);
-    else if (TGGridRow* changed = GetSafeHwnd() != nullptr ? RowAt(row) : nullptr)
-        changed->Select(select);
-}
-
-void TGGrid::ChangeColBand(TGGridCol& col, bool select)
-{
-    if (CanInvertNow())
-        col.Select(select);
-    else
-        Invalidate(0);
-}
-
 void TGGrid::InvertBand(const CRect& band)
 {
     if (IsUpdating())
@@ -142,38 +102,78 @@ void TGGrid::InvertBand(const CRect& band)
         dc->InvertRect(band);
 }
 
-// ---- Scrolling selected bands into view -------------------------------------------------------------------
+// ---- Bands
 
-// The other direction stays where it is: the rectangle has no extent at the centre of the view.
-void TGGrid::ShowRowBand(long row)
+// Entries may name columns that are gone: deleting columns does not renumber them.
+void TGGrid::Selecting::UnselectCols()
 {
-    if (GetSafeHwnd() == nullptr)
-        return;
-    CRect area;
-    GetClientRect(&area);
-    const long x = ClientToLogical(area.CenterPoint()).x;
-    ShowBand(CRect(x, row * GetRowHeight(), x, (row + 1) * GetRowHeight()));
+    for (const long i : grid.colSel)
+        if (TGGridCol* col = grid.ColAtIndex(i))
+            ChangeColBand(*col, false);
+    grid.colSel.Clear();
 }
 
-void TGGrid::ShowColBand(const TGGridCol& col)
+void TGGrid::Selecting::UnselectRows()
 {
-    if (GetSafeHwnd() == nullptr)
+    if (CanInvertNow())
+        Painting(grid).InvertSelectedRows();
+    else if (grid.IsRowSelected())
+        grid.Invalidate(0);
+    grid.rowSel.Clear();
+}
+
+bool TGGrid::Selecting::CanInvertNow() const
+{
+    return !grid.IsUpdating() && !grid.refreshing;
+}
+
+// Looks for the row only when it is needed: among many rows that costs more than the rest.
+void TGGrid::Selecting::ChangeRowBand(long row, bool select)
+{
+    if (!CanInvertNow())
+        grid.Invalidate(0);
+    else if (TGGridRow* changed = grid.GetSafeHwnd() != nullptr ? grid.RowAt(row) : nullptr)
+        changed->Select(select);
+}
+
+void TGGrid::Selecting::ChangeColBand(TGGridCol& col, bool select)
+{
+    if (CanInvertNow())
+        col.Select(select);
+    else
+        grid.Invalidate(0);
+}
+
+// The other direction stays where it is: the rectangle has no extent at the centre of the view.
+void TGGrid::Selecting::ShowRowBand(long row)
+{
+    if (grid.GetSafeHwnd() == nullptr)
         return;
     CRect area;
-    GetClientRect(&area);
-    const long y = ClientToLogical(area.CenterPoint()).y;
+    grid.GetClientRect(&area);
+    const long x = grid.ClientToLogical(area.CenterPoint()).x;
+    ShowBand(CRect(x, row * grid.GetRowHeight(), x, (row + 1) * grid.GetRowHeight()));
+}
+
+void TGGrid::Selecting::ShowColBand(const TGGridCol& col)
+{
+    if (grid.GetSafeHwnd() == nullptr)
+        return;
+    CRect area;
+    grid.GetClientRect(&area);
+    const long y = grid.ClientToLogical(area.CenterPoint()).y;
     ShowBand(CRect(col.GetLeft(), y, col.GetRight(), y));
 }
 
-void TGGrid::ShowBand(const CRect& band)
+void TGGrid::Selecting::ShowBand(const CRect& band)
 {
-    if (!IsUpdating())
+    if (!grid.IsUpdating())
     {
-        ShowRect(band);
+        grid.ShowRect(band);
         return;
     }
-    pendingShowRect = band;
-    showPending = true;
+    grid.pendingShowRect = band;
+    grid.showPending = true;
 }
 
 // ---- Queries ----------------------------------------------------------------------------------------------

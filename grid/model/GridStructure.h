@@ -67,6 +67,8 @@ public:
     void RemoveCol(long i);
     // Gives a column that is about to move and the columns that it passes their edges.
     void PlaceMovingCol(long from, long to);
+    // Sorts the rows and all children; tree rows fold meanwhile, which runs hooks.
+    void SortRows(bool ascending);
 
 private:
     // The index behind the last shown row of the offspring of the row at `i`, which is shown.

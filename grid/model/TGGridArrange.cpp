@@ -68,7 +68,7 @@ void TGGrid::Arrange(bool ascending)
         std::vector<TGGridRow*> selected;
         for (long i : rowSel)
             selected.push_back(rows[i]);
-        SortRows(ascending);
+        Structure(*this).SortRows(ascending);
         std::vector<long> moved;
         for (const TGGridRow* row : selected)
             if (row && row->GetIndex() >= 0)
@@ -82,18 +82,18 @@ void TGGrid::Arrange(bool ascending)
     OnDataChanged();
 }
 
-void TGGrid::SortRows(bool ascending)
+void TGGrid::Structure::SortRows(bool ascending)
 {
-    if (!treeGrid)
+    if (!grid.treeGrid)
     {
-        rows.Sort(ascending);
-        Structure(*this).NumberRows(0);
+        grid.rows.Sort(ascending);
+        NumberRows(0);
         return;
     }
-    FoldedRoots folded(rows);
-    rows.Sort(ascending);
-    Structure(*this).NumberRows(0);
-    for (TGGridRow* row : rows)
+    FoldedRoots folded(grid.rows);
+    grid.rows.Sort(ascending);
+    NumberRows(0);
+    for (TGGridRow* row : grid.rows)
         if (row && row->IsParentRow())
             static_cast<TGGridTreeRow*>(row)->ArrangeChild(ascending);
     folded.UnFold();

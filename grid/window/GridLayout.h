@@ -22,13 +22,20 @@ public:
     // Layout (TGGridLayout.cpp).
     void PerformLayout(int redraw);
     void MapDC();
-    void RepaintBar(int bar);
 
     // Scrolling (TGGridScroll.cpp).
+    // What of the content is in view, in logical coordinates.
+    CRect ViewRect();
+    // MoveView with the layout up to date; may run hooks.
+    void ScrollView(int dx, int dy);
+    // The position of a bar, 0 while it is not shown; setting it leaves the contents where they are.
+    int BarPosition(int bar) const;
+    void SetBarPosition(int bar, int position);
     void ScrollContents(int dx, int dy);
     ScrollRequest ReadScrollRequest(int bar, UINT trackMask);
 
 private:
+    void RepaintBar(int bar);
     void PlaceHeaders();
     void LayOutScrollBars();
     void LayOutBar(int bar, bool needed, int position, int maximum);

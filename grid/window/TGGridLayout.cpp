@@ -70,7 +70,8 @@ void TGGrid::GetUpCorner(CPoint& corner)
 {
     CRect area;
     GetClientRect(&area);
-    corner = CPoint(area.left - BarPosition(SB_HORZ), area.top - BarPosition(SB_VERT));
+    corner =
+        CPoint(area.left - Layout(*this).BarPosition(SB_HORZ), area.top - Layout(*this).BarPosition(SB_VERT));
 }
 
 void TGGrid::SetRowSpace(int pixels)
@@ -143,8 +144,8 @@ void TGGrid::Layout::LayOutScrollBars()
         area.bottom += barHeight;
     const CSize content(grid.GetRight(), grid.GetBottom());
     const ScrollBarPlan plan = PlanScrollBars(content, area.Size(), barWidth, barHeight);
-    const int hPosition = grid.BarPosition(SB_HORZ);
-    const int vPosition = grid.BarPosition(SB_VERT);
+    const int hPosition = BarPosition(SB_HORZ);
+    const int vPosition = BarPosition(SB_VERT);
     LayOutBar(SB_HORZ, plan.horizontal, hPosition, content.cx - plan.area.width);
     LayOutBar(SB_VERT, plan.vertical, vPosition, content.cy - plan.area.height);
     grid.hScrollShown = plan.horizontal;
@@ -167,7 +168,7 @@ void TGGrid::Layout::LayOutBar(int bar, bool needed, int position, int maximum)
         grid.SetScrollRange(bar, 0, maximum, FALSE);
         RepaintBar(bar);
     }
-    grid.SetBarPosition(bar, (std::min)(position, maximum));
+    SetBarPosition(bar, (std::min)(position, maximum));
 }
 
 bool TGGrid::Layout::IsBarShown(int bar) const
@@ -175,17 +176,17 @@ bool TGGrid::Layout::IsBarShown(int bar) const
     return (grid.CWnd::GetStyle() & (bar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL)) != 0;
 }
 
-int TGGrid::BarPosition(int bar) const
+int TGGrid::Layout::BarPosition(int bar) const
 {
-    return (bar == SB_HORZ ? hScrollShown : vScrollShown) ? GetScrollPos(bar) : 0;
+    return IsBarShown(bar) ? grid.GetScrollPos(bar) : 0;
 }
 
-void TGGrid::SetBarPosition(int bar, int position)
+void TGGrid::Layout::SetBarPosition(int bar, int position)
 {
-    if (GetScrollPos(bar) == position)
+    if (grid.GetScrollPos(bar) == position)
         return;
-    SetScrollPos(bar, position, FALSE);
-    Layout(*this).RepaintBar(bar);
+    grid.SetScrollPos(bar, position, FALSE);
+    RepaintBar(bar);
 }
 
 void TGGrid::Layout::RepaintBar(int bar)

@@ -2,6 +2,7 @@
 #include "grid/window/GridPainting.h"
 
 #include "grid/TGCellCtrl.h"
+#include "grid/window/GridLayout.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 #include "grid/model/ScopedValue.h"
@@ -68,7 +69,7 @@ TGGrid::Painting::RowRange TGGrid::Painting::VisibleRows()
 {
     if (grid.dc == nullptr)
         return {0, grid.GetRowNum()};
-    const CRect view = grid.ViewRect();
+    const CRect view = Layout(grid).ViewRect();
     return {view.top / grid.GetRowHeight(), view.bottom / grid.GetRowHeight()};
 }
 

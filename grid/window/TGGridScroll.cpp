@@ -32,34 +32,34 @@ void TGGrid::MoveView(int dx, int dy)
     if (GetSafeHwnd() == nullptr)
         return;
     FlushLayout();
-    ScrollView(dx, dy);
+    Layout(*this).ScrollView(dx, dy);
 }
 
-void TGGrid::ScrollView(int dx, int dy)
+void TGGrid::Layout::ScrollView(int dx, int dy)
 {
     const int hPosition = BarPosition(SB_HORZ);
     const int vPosition = BarPosition(SB_VERT);
     CRect area;
-    GetClientRect(&area);
+    grid.GetClientRect(&area);
     dx = std::clamp(dx, -MaxScrollDistance, MaxScrollDistance);
     dy = std::clamp(dy, -MaxScrollDistance, MaxScrollDistance);
-    if (hScrollShown)
-        dx = ClampScroll(hPosition, dx, GetRight() - area.Width());
-    if (vScrollShown)
-        dy = ClampScroll(vPosition, dy, GetBottom() - area.Height());
+    if (grid.hScrollShown)
+        dx = ClampScroll(hPosition, dx, grid.GetRight() - area.Width());
+    if (grid.vScrollShown)
+        dy = ClampScroll(vPosition, dy, grid.GetBottom() - area.Height());
     if (dx == 0 && dy == 0)
         return;
     SetBarPosition(SB_HORZ, hPosition + dx);
     SetBarPosition(SB_VERT, vPosition + dy);
-    ClearDC();
-    PrepareDC(nullptr);
+    grid.ClearDC();
+    grid.PrepareDC(nullptr);
     // What the end of an edit draws stands where it is to be after the scrolling already.
-    const bool drawn = IsEditing();
+    const bool drawn = grid.IsEditing();
     if (drawn)
-        EndEditCell();
-    Layout(*this).ScrollContents(dx, dy);
+        grid.EndEditCell();
+    ScrollContents(dx, dy);
     if (drawn)
-        Invalidate(0);
+        grid.Invalidate(0);
 }
 
 // The data area scrolls by itself, so that the header windows and an editor stay where they are.
@@ -86,28 +86,29 @@ void TGGrid::ShowRect(CRect rect)
         showPending = true;
         return;
     }
-    const CRect view = ViewRect();
-    const int dx = LeastScroll(rect.left, rect.right, view.left, view.right, BarPosition(SB_HORZ));
-    const int dy = LeastScroll(rect.top, rect.bottom, view.top, view.bottom, BarPosition(SB_VERT));
+    Layout layout(*this);
+    const CRect view = layout.ViewRect();
+    const int dx = LeastScroll(rect.left, rect.right, view.left, view.right, layout.BarPosition(SB_HORZ));
+    const int dy = LeastScroll(rect.top, rect.bottom, view.top, view.bottom, layout.BarPosition(SB_VERT));
     if (dx != 0 || dy != 0)
-        ScrollView(dx, dy);
+        layout.ScrollView(dx, dy);
 }
 
 void TGGrid::ShowAppendRow()
 {
     if (GetSafeHwnd() == nullptr)
         return;
-    const CRect view = ViewRect();
+    const CRect view = Layout(*this).ViewRect();
     const long centre = (view.left + view.right) / 2;
     const long top = GetRowHeight() * GetRowNum();
     ShowRect(CRect(centre, top, centre, top + GetRowHeight()));
 }
 
-CRect TGGrid::ViewRect()
+CRect TGGrid::Layout::ViewRect()
 {
     CRect area;
-    GetClientRect(&area);
-    return CRect(ClientToLogical(area.TopLeft()), ClientToLogical(area.BottomRight()));
+    grid.GetClientRect(&area);
+    return CRect(grid.ClientToLogical(area.TopLeft()), grid.ClientToLogical(area.BottomRight()));
 }
 
 void TGGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar)

@@ -173,6 +173,8 @@ TEST(String, Search)
         {L"missing text", text.Find(L"x"), -1},
         {L"empty text", text.Find(L"", 3), 3},
         {L"start at the end", text.Find(L"a", 6), -1},
+        {L"empty text at the end", text.Find(L"", 6), 6},
+        {L"empty text behind the end", text.Find(L"", 7), -1},
         {L"start behind the end", text.Find(L"a", 7), -1},
         {L"negative start", text.Find(L"a", -1), -1},
         {L"character", text.Find(L'c'), 2},

@@ -6,7 +6,9 @@ int CStringW::Find(PCXSTR pszSub, int iStart) const
 {
     if (pszSub == nullptr || iStart < 0 || iStart > GetLength())
         return -1;
-    const PCXSTR found = std::wcsstr(GetString() + iStart, pszSub);
+    // Not every run time finds an empty text at the end of another.
+    const PCXSTR start = GetString() + iStart;
+    const PCXSTR found = *pszSub == 0 ? start : std::wcsstr(start, pszSub);
     return found == nullptr ? -1 : static_cast<int>(found - GetString());
 }
 

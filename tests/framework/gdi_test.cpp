@@ -1,6 +1,8 @@
 // GDI objects: ownership, handle maps and descriptions.
 #include <afxwin.h>
 
+#include "tests/support/GuiHandles.h"
+
 #include <gtest/gtest.h>
 
 #include <thread>
@@ -28,6 +30,24 @@ TEST(GdiObject, Destructor_DeletesWhatItOwns)
         EXPECT_TRUE(Alive(handle));
     }
     EXPECT_FALSE(Alive(handle));
+}
+
+TEST(GdiObject, FontsMadeByPoints_BorrowTheScreenOnly)
+{
+    LOGFONT description = {};
+    description.lfHeight = 100;
+    const auto makeFonts = [&] {
+        for (int i = 0; i < 20; ++i)
+        {
+            CFont font;
+            EXPECT_TRUE(font.CreatePointFontIndirect(&description));
+            CFont named;
+            EXPECT_TRUE(named.CreatePointFont(90, L"Tahoma"));
+        }
+        return quor::test::CountGuiHandles();
+    };
+    const quor::test::GuiHandles first = makeFonts();
+    EXPECT_EQ("", quor::test::Growth(first, makeFonts()));
 }
 
 TEST(GdiObject, Detach_LeavesTheObjectToTheCaller)

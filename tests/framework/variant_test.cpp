@@ -2,6 +2,8 @@
 #include <afxwin.h>
 #include <afxdisp.h>
 
+#include "tests/support/TaskMemory.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -72,6 +74,36 @@ TEST(Variant, Texts_AreCopied)
     second = static_cast<LPCTSTR>(nullptr);
     EXPECT_EQ(VT_BSTR, second.vt);
     EXPECT_EQ(0u, SysStringLen(second.bstrVal));
+}
+
+TEST(Variant, Texts_AreGivenBack)
+{
+    const auto useTexts = [] {
+        for (int i = 0; i < 20; ++i)
+        {
+            COleVariant value(L"a text that is given back");
+            value = L"a second one, which replaces it";
+            value.SetString(L"a third one", VT_BSTR);
+            value = CString(L"a fourth one");
+            COleVariant other(value);
+            other = 5L;
+            other = value;
+            other = 2.5;
+            value.ChangeType(VT_BSTR);
+            COleVariant moved(std::move(value));
+            moved.Clear();
+        }
+    };
+    quor::test::CountTaskBlocks();
+    useTexts();
+    const int before = quor::test::CountTaskBlocks();
+    useTexts();
+    EXPECT_EQ(quor::test::CountTaskBlocks(), before);
+    // What is counted: a text that is kept counts.
+    const BSTR kept = ::SysAllocString(L"a text that is kept for a while");
+    EXPECT_EQ(quor::test::CountTaskBlocks(), before + 1);
+    ::SysFreeString(kept);
+    EXPECT_EQ(quor::test::CountTaskBlocks(), before);
 }
 
 TEST(Variant, Assignment_ReplacesTypeAndValue)

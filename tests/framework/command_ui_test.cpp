@@ -1,5 +1,7 @@
 // The state of menu items and controls: update handlers, automatic greying, disabled accelerators.
+#include "tests/framework/DialogTemplateBuilder.h"
 #include "tests/framework/WindowLog.h"
+#include "tests/support/HostWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -147,6 +149,28 @@ TEST_F(CommandUI, DialogControlsAreUpdated)
     CString text;
     self.GetWindowText(text);
     EXPECT_STREQ(text, L"Own");
+}
+
+TEST_F(CommandUI, AFocusedControlThatIsDisabledPassesTheFocusOn)
+{
+    HostWindow host;
+    DialogTemplateBuilder layout;
+    layout.AddButton(101).AddButton(102);
+    CDialog dialog;
+    ASSERT_TRUE(dialog.CreateIndirect(layout.Get(), &host));
+    dialog.ShowWindow(SW_SHOW);
+    CWnd& first = *dialog.GetDlgItem(101);
+    CWnd& second = *dialog.GetDlgItem(102);
+    first.SetFocus();
+    ASSERT_EQ(::GetFocus(), first.m_hWnd);
+    CCmdUI state;
+    state.m_pOther = &first;
+    state.Enable(TRUE);
+    EXPECT_EQ(::GetFocus(), first.m_hWnd);
+    state.Enable(FALSE);
+    EXPECT_EQ(::GetFocus(), second.m_hWnd);
+    EXPECT_FALSE(first.IsWindowEnabled());
+    dialog.DestroyWindow();
 }
 
 } // namespace

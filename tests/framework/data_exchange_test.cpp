@@ -156,6 +156,9 @@ TEST_F(DataExchange, Text_RefusesWhatIsNoNumber)
     EXPECT_EQ(number, 7);
     UINT natural = 7;
     EXPECT_EQ(Refusal(L"-1", natural), L"Please enter a positive integer.");
+    // The C library takes a sign for a number without one and counts down from the largest.
+    EXPECT_EQ(Refusal(L"-18446744073709551611", natural), L"Please enter a positive integer.");
+    EXPECT_EQ(natural, 7u);
     BYTE byte = 7;
     EXPECT_EQ(Refusal(L"256", byte), L"Please enter an integer between 0 and 255.");
     double real = 7;

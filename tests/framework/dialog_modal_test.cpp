@@ -158,6 +158,30 @@ TEST_F(DialogModal, Owner_IsDisabledMeanwhileAndActiveAfterwards)
     EXPECT_EQ(::GetActiveWindow(), m_host.m_hWnd);
 }
 
+TEST_F(DialogModal, Owner_IsEnabledAndActiveBeforeTheDialogIsDestroyed)
+{
+    struct WatchedDialog : ScriptedDialog
+    {
+        using ScriptedDialog::ScriptedDialog;
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_DESTROY)
+            {
+                ownerWasEnabled = GetParent()->IsWindowEnabled() != FALSE;
+                ownerWasActive = ::GetActiveWindow() == GetParent()->m_hWnd;
+            }
+            return ScriptedDialog::WindowProc(message, wParam, lParam);
+        }
+        bool ownerWasEnabled = false;
+        bool ownerWasActive = false;
+    };
+    WatchedDialog dialog(m_layout, &m_host);
+    dialog.inLoop = [&] { dialog.EndDialog(1); };
+    EXPECT_EQ(dialog.DoModal(), 1);
+    EXPECT_TRUE(dialog.ownerWasEnabled);
+    EXPECT_TRUE(dialog.ownerWasActive);
+}
+
 TEST_F(DialogModal, OwnerThatWasDisabledBefore_StaysDisabled)
 {
     m_host.EnableWindow(FALSE);

@@ -96,6 +96,12 @@ TEST_F(PreTranslation, EndsAtTheMainWindow)
     EXPECT_EQ(PostKey(), (Log{"inner", "outer", "outer", "inner OnKeyDown"}));
 }
 
+TEST_F(PreTranslation, AMainWindowAtTheEndOfTheChainIsAskedOnce)
+{
+    AfxGetApp()->m_pMainWnd = &m_top;
+    EXPECT_EQ(PostKey(), (Log{"inner", "outer", "top", "inner OnKeyDown"}));
+}
+
 TEST_F(PreTranslation, AMainWindowOutsideTheChainGetsALastChance)
 {
     TranslatingWindow main(m_log, "main");

@@ -121,6 +121,20 @@ TEST(ModuleChain, TheInstanceIsTheProgram)
     EXPECT_EQ(AfxGetModuleState()->m_pCurrentWinApp, AfxGetApp());
 }
 
+TEST(ModuleChain, AManagedStateEndsWithItsScope)
+{
+    AFX_MODULE_STATE* const before = AfxGetModuleState();
+    AFX_MODULE_STATE second = {};
+    second.m_hCurrentInstanceHandle = ::GetModuleHandle(L"user32.dll");
+    {
+        AFX_MANAGE_STATE(&second);
+        EXPECT_EQ(AfxGetModuleState(), &second);
+        EXPECT_EQ(AfxGetInstanceHandle(), second.m_hCurrentInstanceHandle);
+    }
+    EXPECT_EQ(AfxGetModuleState(), before);
+    EXPECT_EQ(AfxGetInstanceHandle(), ::GetModuleHandle(NULL));
+}
+
 TEST(ModuleChain, InitialisingFillsTheRecordOnce)
 {
     AFX_EXTENSION_MODULE state = {};

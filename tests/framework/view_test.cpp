@@ -177,6 +177,15 @@ TEST_F(ScrollViews, Bars_OneBarCanMakeTheOtherNecessary)
     EXPECT_TRUE(vertical);
 }
 
+TEST_F(ScrollViews, Bars_TheVerticalOneCanMakeTheOtherNecessary)
+{
+    m_view->SetWindowPos(NULL, 0, 0, 1000, 799, SWP_NOMOVE | SWP_NOZORDER);
+    BOOL horizontal = FALSE, vertical = FALSE;
+    m_view->CheckScrollBars(horizontal, vertical);
+    EXPECT_TRUE(horizontal);
+    EXPECT_TRUE(vertical);
+}
+
 TEST_F(ScrollViews, ScrollToPosition_StopsAtTheEnds)
 {
     m_view->ScrollToPosition(CPoint(120, 90));

@@ -230,6 +230,17 @@ TEST_F(CommandEdges, AppendChildOfAFoldedRow_StaysHiddenAndUnselected)
     EXPECT_EQ(tree.TakeText(), "insert child? a 0 | inserted row -1 | changed");
 }
 
+TEST_F(CommandEdges, AppendedColumn_ComesAfterTheOldSelectionIsGone)
+{
+    CommandGrid grid;
+    grid.SetColNum(3);
+    grid.SelectCols({1});
+    std::string told;
+    grid.actions["cur"] = [&] { told += std::to_string(grid.GetColNum()) + " "; };
+    grid.DoAppendCol();
+    EXPECT_EQ(told, "3 4 ");
+}
+
 TEST_F(CommandEdges, HooksSupplyTheObjectThatIsInserted)
 {
     TGGridRow* row = nullptr;

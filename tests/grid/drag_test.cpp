@@ -62,6 +62,20 @@ TEST_F(HeaderDrags, DroppedOnTheRowItStartedFrom_ChangesNothing)
     EXPECT_TRUE(ShowsNoTrace(grid));
 }
 
+TEST_F(HeaderDrags, DroppedRows_TellOfTheChangedSelectionOnceMoreThanCutOnes)
+{
+    CommandGrid grid;
+    Make(grid, "abcdef");
+    grid.SelectRows({1, 2});
+    Press(RowHeader(grid), RowBox(grid, 1));
+    Move(RowHeader(grid), RowBox(grid, 5));
+    grid.TakeLog();
+    grid.logsCurrent = true;
+    Release(RowHeader(grid), RowBox(grid, 5));
+    EXPECT_EQ(grid.TakeText(), "drop row 5 | over row 5 | cur -1,-1 | cur -1,-1 | cur -1,-1 | cur -1,-1 | "
+                               "cur -1,-1 | cur 3,-1 | cur -1,-1 | moved row | changed");
+}
+
 TEST_F(HeaderDrags, RowDrag_LeavesTheRowBufferAlone)
 {
     CommandGrid grid;
@@ -501,6 +515,19 @@ TEST_F(HeaderDrags, ColumnDragAtTheEdges_Scrolls)
     Release(ColHeader(grid), CPoint(275, 10));
     EXPECT_EQ(grid.GetCol(4).GetName(), L"B");
     EXPECT_TRUE(ShowsNoTrace(grid));
+}
+
+TEST_F(HeaderDrags, ColumnDragOverAColumnThatBeginsAtTheEdge_DoesNotScroll)
+{
+    CommandGrid grid;
+    Make(grid, "ab", 20, 320, 200);
+    grid.SelectCols({3});
+    grid.MoveView(colWidth, 0);
+    Press(ColHeader(grid), ColBox(grid, 3));
+    Move(ColHeader(grid), CPoint(30, 10));
+    EXPECT_EQ(grid.HScroll(), colWidth);
+    Release(ColHeader(grid), CPoint(30, 10));
+    EXPECT_EQ(grid.Cols().substr(0, 9), "A D* B C ");
 }
 
 TEST_F(HeaderDrags, LostCapture_CancelsColumnDrags)

@@ -3,6 +3,7 @@
 
 #include "tests/support/GuiHandles.h"
 
+#include <commctrl.h>
 #include <utility>
 
 using namespace QuorUiCtr;
@@ -110,6 +111,22 @@ TEST_F(EditReentryTest, DeselectionOfAClick_AddsColumnsInsideAnUpdate)
     grid.EndUpdate();
 }
 
+TEST_F(EditReentryTest, OnCurChanged_EditsARowThatIsBeingCut)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.SelectRow(1, true);
+    grid.SelectRow(2, true);
+    grid.curChanged = [&] {
+        grid.curChanged = nullptr;
+        grid.BeginEditCell(1, 0);
+    };
+    EXPECT_TRUE(grid.DoClip());
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_TRUE(grid.EditorWindow() == nullptr || !grid.EditorWindow()->IsWindowVisible());
+    EXPECT_EQ(grid.GetRowNum(), 2);
+}
+
 TEST_F(EditReentryTest, OnBeforeEdit_DeletesTheRow)
 {
     EditGrid grid;
@@ -155,6 +172,51 @@ TEST_F(EditReentryTest, OnModified_OpensAnotherCell_WhichIsClosedWithTheCommit)
     EXPECT_EQ(grid.GetCell(1, 1).GetText(), L"typed");
     EXPECT_FALSE(grid.IsEditing());
     EXPECT_FALSE(grid.EditorWindow()->IsWindowVisible());
+}
+
+// Stands between a drop-down list and what the editor puts around it: writes down whether the list is still
+// there when it has handled a key.
+LRESULT CALLBACK SeeWhetherItLives(HWND list, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
+                                   DWORD_PTR lives)
+{
+    const LRESULT result = DefSubclassProc(list, message, wParam, lParam);
+    if (message == WM_KEYDOWN)
+        *reinterpret_cast<bool*>(lives) = ::IsWindow(list) != FALSE;
+    if (message == WM_NCDESTROY)
+        RemoveWindowSubclass(list, SeeWhetherItLives, id);
+    return result;
+}
+
+TEST_F(EditReentryTest, OnCmbSelchange_EditsAnotherCell_WhichTheListOutlivesAsLongAsItRuns)
+{
+    struct ClosingGrid : EditGrid
+    {
+        // The next edit is the end of the editor of the one before.
+        void OnCmbSelchange(TGGridCell&, CComboBox*) override
+        {
+            CancelEditCell();
+            BeginEditCell(1, 2);
+        }
+    };
+    ClosingGrid grid;
+    Make(grid);
+    grid.GetCol(1).SetComboSel(true);
+    HWND list = nullptr;
+    bool lives = false;
+    grid.comboStrings = [&](TGGridCell&, CComboBox& combo) {
+        combo.AddString(L"first");
+        combo.AddString(L"second");
+        COMBOBOXINFO info = {};
+        info.cbSize = sizeof info;
+        ASSERT_TRUE(GetComboBoxInfo(combo, &info));
+        list = info.hwndList;
+        ASSERT_TRUE(SetWindowSubclass(list, SeeWhetherItLives, 1, reinterpret_cast<DWORD_PTR>(&lives)));
+    };
+    grid.BeginEditCell(1, 1);
+    ASSERT_TRUE(grid.IsEditing());
+    ::SendMessage(list, WM_KEYDOWN, VK_DOWN, 0);
+    EXPECT_TRUE(lives);
+    EXPECT_FALSE(::IsWindow(list));
 }
 
 TEST_F(EditReentryTest, OnCellComboString_OpensAnotherCell)

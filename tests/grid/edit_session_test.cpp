@@ -386,6 +386,26 @@ TEST_F(EditSessionTest, NewRowLineOfATree_BecomesATreeRow)
     EXPECT_TRUE(grid.GetTreeRow(3).IsRootRow());
 }
 
+TEST_F(EditSessionTest, ChildThatIsFoldedAway_IsStillShownWhenItsTextIsStored)
+{
+    EditGrid grid(true);
+    Make(grid);
+    TGGridTreeRow& parent = grid.GetTreeRow(0);
+    parent.AppendChild(nullptr);
+    parent.UnFold();
+    grid.BeginEditCell(1, 0);
+    ASSERT_TRUE(grid.IsEditing());
+    grid.Enter(L"child");
+    bool wasShown = false;
+    grid.modifiedText = [&](TGGridCell& cell, CString&) {
+        wasShown = cell.GetRowIndex() == 1 && grid.GetRowNum() == 4;
+        return true;
+    };
+    parent.Fold();
+    EXPECT_TRUE(wasShown);
+    EXPECT_EQ(parent.GetChild(0)[0].GetText(), L"child");
+}
+
 TEST_F(EditSessionTest, WithoutAnEditor_TheGridStaysIdle)
 {
     EditGrid grid;

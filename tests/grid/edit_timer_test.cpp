@@ -101,6 +101,41 @@ TEST_F(EditTimer, AutoEdit_OfACellThatIsDeletedMeanwhile_OpensNothing)
     EXPECT_FALSE(grid.IsEditing());
 }
 
+TEST_F(EditTimer, AutoEditOnTheNewRowLine_OutlastsALayout)
+{
+    EditGrid grid;
+    Make(grid);
+    TGGridCell* onNewRow = nullptr;
+    grid.beforeEdit = [&](TGGridCell& cell, bool&) {
+        onNewRow = &cell;
+        return false;
+    };
+    grid.BeginEditCell(3, 1);
+    grid.beforeEdit = nullptr;
+    ASSERT_NE(onNewRow, nullptr);
+    grid.AutoEditCell(onNewRow);
+    grid.RecalcLayout(1);
+    EXPECT_TRUE(grid.IsCellLocking());
+    ASSERT_TRUE(WaitForTimer(grid, OpenTimer));
+    ExpectCurrent(grid, 3, 1);
+}
+
+TEST_F(EditTimer, AutoEditOnTheNewRowLine_EndsWithItsColumn)
+{
+    EditGrid grid;
+    Make(grid);
+    TGGridCell* onNewRow = nullptr;
+    grid.beforeEdit = [&](TGGridCell& cell, bool&) {
+        onNewRow = &cell;
+        return false;
+    };
+    grid.BeginEditCell(3, 2);
+    ASSERT_NE(onNewRow, nullptr);
+    grid.AutoEditCell(onNewRow);
+    grid.SetColNum(2);
+    EXPECT_FALSE(grid.IsCellLocking());
+}
+
 TEST_F(EditTimer, AutoClose_CommitsWhenTheTimerFires)
 {
     EditGrid grid;

@@ -144,6 +144,20 @@ TEST_F(HeaderClicks, NewRowBox_ScrollsToTheNewRowLine)
     EXPECT_EQ(tall.VScroll(), 32 * 20 - 100);
 }
 
+TEST_F(HeaderClicks, NewRowBoxDuringItsEdit_ScrollsToTheNextNewRowLine)
+{
+    CommandGrid tall;
+    Make(tall, std::string(30, 'r'), 2, 300, 120);
+    tall.BeginEditCell(30, 0);
+    CWnd& editor = *tall.GetDlgItem(101);
+    editor.SetWindowText(L"x");
+    editor.SendMessage(EM_SETMODIFY, TRUE);
+    const int before = tall.VScroll();
+    Press(RowHeader(tall), RowBox(tall, 30));
+    EXPECT_EQ(tall.GetRowNum(), 31);
+    EXPECT_EQ(tall.VScroll(), before + 20);
+}
+
 TEST_F(HeaderClicks, DoubleClickOnARow_ReachesTheHook)
 {
     SendMouse(RowHeader(grid), WM_LBUTTONDBLCLK, RowBox(grid, 2), MK_LBUTTON);

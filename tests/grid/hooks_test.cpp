@@ -208,6 +208,9 @@ TEST_F(GridHooks, ChoosingAnItemStoresItsTextAndChoosingNothingStoresNothing)
     combo.SetCurSel(1);
     grid.OnCmbSelchange(*cell, &combo);
     EXPECT_EQ(Narrow(cell->GetText()), "second");
+    combo.SetCurSel(0);
+    grid.OnCmbSelchange(*cell, &combo);
+    EXPECT_EQ(Narrow(cell->GetText()), "first");
     EXPECT_FALSE(grid.IsModified());
 }
 

@@ -334,6 +334,25 @@ TEST_F(GridLayout, Invalidate_ErasesTheHeadersInAnyCase)
     }
 }
 
+TEST_F(GridLayout, Invalidate_TakesStrayPixelsOffTheHeaders)
+{
+    for (int id : {103, 104})
+    {
+        CWnd& header = *grid.GetDlgItem(id);
+        CRect place;
+        header.GetClientRect(&place);
+        CRect visible = grid.Area();
+        grid.MapWindowPoints(&header, &visible);
+        // Beside the boxes, in the part that is seen.
+        const CPoint stray = id == 103 ? CPoint(visible.right - 3, 5) : CPoint(5, visible.bottom - 3);
+        CClientDC(&header).SetPixel(stray, RGB(255, 0, 0));
+        ASSERT_EQ(CClientDC(&header).GetPixel(stray), RGB(255, 0, 0)) << id;
+        grid.Invalidate(0);
+        header.UpdateWindow();
+        EXPECT_NE(CClientDC(&header).GetPixel(stray), RGB(255, 0, 0)) << id;
+    }
+}
+
 TEST_F(GridLayout, Update_PostponesTheLayoutToItsLastEnd)
 {
     grid.BeginUpdate();

@@ -97,6 +97,42 @@ TEST_F(Paste, RepeatedCopies_ReplaceTheBuffer)
     EXPECT_EQ(plain.Buffer(), "");
 }
 
+TEST_F(Paste, RefusedCopy_KeepsTheBuffer)
+{
+    plain.SelectRows({0, 1});
+    plain.DoCopy();
+    plain.vetoes = {"copy?"};
+    plain.SelectRows({4});
+    EXPECT_FALSE(plain.DoCopy());
+    EXPECT_EQ(plain.Buffer(), "a b");
+}
+
+// A plain row tells twice: when it enters the buffer and when its slot goes.
+TEST_F(Paste, CutRows_TellOfTheChangedSelectionEachTime)
+{
+    plain.SelectRows({1, 2});
+    plain.logsCurrent = true;
+    plain.DoClip();
+    EXPECT_EQ(plain.TakeText(), "cut? | cur -1,-1 | cur -1,-1 | cur -1,-1 | cur -1,-1 | cut | changed");
+    tree.SelectRows({0, 4});
+    tree.logsCurrent = true;
+    tree.DoClip();
+    EXPECT_EQ(tree.TakeText(), "cut? | cur -1,-1 | cur -1,-1 | cut | changed");
+}
+
+TEST_F(Paste, RowsThatAHookSelectsDuringACut_StaySelected)
+{
+    plain.SelectRows({1, 2});
+    plain.actions["cur"] = [&] {
+        plain.actions.clear();
+        plain.SelectRow(3, true);
+        plain.SelectRow(2, true);
+    };
+    plain.DoClip();
+    EXPECT_EQ(plain.Rows(), "a d* e f");
+    EXPECT_EQ(plain.GetRowSelNum(), 1);
+}
+
 TEST_F(Paste, CopyOfAFoldedParent_TakesTheChildrenAlong)
 {
     tree.SelectRows({2});

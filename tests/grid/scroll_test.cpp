@@ -77,6 +77,24 @@ TEST_F(GridScrolling, MoveView_KeepsThePictureTrue)
     ExpectPictureToBeTrue();
 }
 
+TEST_F(GridScrolling, MoveViewDuringAnEdit_ShowsTheNewTextWhereTheCellIsThen)
+{
+    for (const int step : {7, 45})
+    {
+        grid.MoveView(0, -2000);
+        grid.UpdateWindow();
+        grid.BeginEditCell(4, 0);
+        CWnd& editor = *grid.GetDlgItem(101);
+        editor.SetWindowText(L"XXXXXXXX");
+        editor.SendMessage(EM_SETMODIFY, TRUE);
+        grid.UpdateWindow();
+        grid.MoveView(0, step);
+        EXPECT_FALSE(grid.IsEditing());
+        EXPECT_EQ(grid.GetCell(4, 0).GetText(), L"XXXXXXXX");
+        ExpectPictureToBeTrue();
+    }
+}
+
 TEST_F(GridScrolling, MoveView_LeavesTheHeadersWhereTheyAre)
 {
     grid.MoveView(50, 70);

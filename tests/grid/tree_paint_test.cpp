@@ -81,6 +81,26 @@ TEST_F(GridTreePainting, FoldedBox_HasAPlus)
     EXPECT_EQ("#.#############.#", Column(10, 102, 119));
 }
 
+TEST_F(GridTreePainting, FoldedBox_GoesWithTheLastChild)
+{
+    EXPECT_EQ(".#################.", Line(102, 1, 20));
+    grid.GetTreeRow(5).DelChild(0);
+    EXPECT_EQ("...................", Line(102, 1, 20));
+}
+
+TEST_F(GridTreePainting, BelowALastChild_NoLineLeadsPastItsOffspring)
+{
+    TGGridTreeRow& lastChild = grid.GetTreeRow(4);
+    lastChild.AppendChild(nullptr);
+    lastChild.GetChild(0).AppendChild(nullptr);
+    lastChild.UnFoldAll();
+    // The line of the root's children leads to its last child and ends there.
+    const auto rootLine = [this](long row) { return Column(10, row * 20 + 1, row * 20 + 20); };
+    EXPECT_EQ("##########.........", rootLine(4));
+    EXPECT_EQ("...................", rootLine(5));
+    EXPECT_EQ("...................", rootLine(6));
+}
+
 TEST_F(GridTreePainting, UnfoldedRoot_IsJoinedToItsChildren)
 {
     // From below the box (2, 2)-(19, 19) to the line under the row.

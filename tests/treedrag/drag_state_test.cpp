@@ -66,6 +66,19 @@ TEST_F(DragState, Begin_WithoutAnItem_DoesNothing)
     ExpectNoDrag();
 }
 
+TEST_F(DragState, Begin_DuringADrag_LeavesItAlone)
+{
+    Fill("a b c");
+    BeginDrag("b");
+    MoveTo("c", Half::Upper);
+    BeginDrag("a");
+    EXPECT_EQ(tree->dragItem, At("b"));
+    EXPECT_EQ(tree->dropTarget, At("c"));
+    EXPECT_EQ(Selected(), "b");
+    tree->CompleteDrag(FALSE);
+    ExpectNoDrag();
+}
+
 TEST_F(DragState, Begin_WithoutADragImage_DoesNotDrag)
 {
     Fill("a b");
@@ -228,6 +241,16 @@ TEST_F(DragState, LossOfTheCapture_Cancels)
     EXPECT_EQ(Outline(), "a b c");
 }
 
+TEST_F(DragState, CaptureThatTheTreeTakesAgain_DoesNotCancel)
+{
+    Fill("a b");
+    BeginDrag("a");
+    tree->SendMessage(WM_CAPTURECHANGED, 0, reinterpret_cast<LPARAM>(tree->m_hWnd));
+    EXPECT_TRUE(tree->IsDragging());
+    tree->CompleteDrag(FALSE);
+    ExpectNoDrag();
+}
+
 TEST_F(DragState, CancelMode_Cancels)
 {
     Fill("a b c");
@@ -339,6 +362,29 @@ TEST_F(DragState, WheelDuringADrag_ScrollsAndKeepsDragging)
     EXPECT_GT(tree->GetScrollPos(SB_VERT), 0);
     EXPECT_TRUE(tree->IsDragging());
     tree->CompleteDrag(FALSE);
+    const int position = tree->GetScrollPos(SB_VERT);
+    tree->SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(-WHEEL_DELTA)), 0);
+    EXPECT_GT(tree->GetScrollPos(SB_VERT), position) << "it scrolls without a drag, too";
+}
+
+// The item that was the last one when the drag began is gone by then: nothing is restored.
+TEST_F(DragState, MoveOfTheLastItem_LeavesTheViewWhereItIs)
+{
+    std::string items;
+    for (int i = 0; i < 60; ++i)
+        items += " i" + std::to_string(i);
+    Fill(items);
+    tree->SelectSetFirstVisible(At("i30"));
+    tree->SaveFirstAndLastVisibleItems();
+    ASSERT_EQ(NameOf(tree->firstVisibleItem), "i30");
+    const HTREEITEM last = tree->lastVisibleItem;
+    tree->SelectSetFirstVisible(At("i10"));
+    tree->ResetVisibleItems(At("i12"), last, nullptr);
+    EXPECT_EQ(NameOf(tree->GetFirstVisibleItem()), "i10");
+    tree->ResetVisibleItems(At("i12"), tree->firstVisibleItem, nullptr);
+    EXPECT_EQ(NameOf(tree->GetFirstVisibleItem()), "i10");
+    tree->ResetVisibleItems(At("i35"), At("i12"), nullptr);
+    EXPECT_EQ(NameOf(tree->GetFirstVisibleItem()), "i30");
 }
 
 } // namespace

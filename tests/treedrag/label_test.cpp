@@ -3,6 +3,8 @@
 
 #include "tests/support/MessageBoxProbe.h"
 
+#include <commctrl.h>
+
 namespace
 {
 
@@ -144,6 +146,52 @@ TEST_F(Labels, RefusedName_IsEditedAgain)
     EXPECT_EQ(Editor(), nullptr);
     EXPECT_EQ(Outline(), "c b");
     EXPECT_EQ(owner.TakeMessages(), "renamed c");
+}
+
+// Where the platform's tree has no edit control any more when it says what was typed.
+TEST_F(Labels, NameRefusedAfterTheEdit_IsEditedAgainAtOnce)
+{
+    Fill("a b");
+    tree->SetNoDuplicates(TRUE);
+    tree->SetFocus();
+    MessageBoxProbe boxes;
+    wchar_t typed[] = L"b";
+    NMTVDISPINFOW ended = {};
+    ended.hdr.hwndFrom = *tree;
+    ended.hdr.idFrom = TreeId;
+    ended.hdr.code = TVN_ENDLABELEDITW;
+    ended.item.hItem = At("a");
+    ended.item.pszText = typed;
+    owner.SendMessage(WM_NOTIFY, TreeId, reinterpret_cast<LPARAM>(&ended));
+    EXPECT_EQ(boxes.Shown().size(), 1u);
+    ASSERT_NE(Editor(), nullptr);
+    EXPECT_EQ(EditedText(), L"a");
+    tree->SendMessage(TVM_ENDEDITLABELNOW, TRUE);
+}
+
+// The message box makes the window inactive.
+LRESULT CALLBACK DeleteSelectedWhenLeft(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
+                                        DWORD_PTR tree)
+{
+    const HWND treeWindow = reinterpret_cast<HWND>(tree);
+    if (message == WM_ACTIVATE && LOWORD(wParam) == WA_INACTIVE && TreeView_GetCount(treeWindow) == 3)
+        TreeView_DeleteItem(treeWindow, TreeView_GetSelection(treeWindow));
+    return DefSubclassProc(window, message, wParam, lParam);
+}
+
+TEST_F(Labels, ItemDeletedWhileItsNameIsRefused_IsNotEditedAgain)
+{
+    Fill("a b c");
+    tree->SetNoDuplicates(TRUE);
+    MessageBoxProbe boxes;
+    ASSERT_TRUE(
+        SetWindowSubclass(owner, DeleteSelectedWhenLeft, 1, reinterpret_cast<DWORD_PTR>(tree->m_hWnd)));
+    Rename("a", L"b");
+    PumpPending();
+    RemoveWindowSubclass(owner, DeleteSelectedWhenLeft, 1);
+    EXPECT_EQ(boxes.Shown().size(), 1u);
+    EXPECT_EQ(Editor(), nullptr);
+    EXPECT_EQ(Outline(), "b c");
 }
 
 TEST_F(Labels, RefusedTwice_AsksTwice)

@@ -4,6 +4,9 @@
 #include "tests/support/Snapshot.h"
 
 #include <chrono>
+#include <functional>
+#include <map>
+#include <string>
 
 namespace
 {
@@ -119,6 +122,45 @@ TEST_F(DragWithMouse, RestingOverAClosedFolder_OpensItAfterASecond)
     EXPECT_EQ(tree->dropTarget, At("x"));
     Release();
     EXPECT_EQ(Outline(), "f+[a x] b");
+}
+
+// Timers are handled in the order in which they are due, however late: one that is due before the tree's sees
+// the folder closed, one that is due after it sees it open.
+TEST_F(DragWithMouse, RestingOverAClosedFolder_TakesAboutASecond)
+{
+    constexpr UINT_PTR EarlyTimer = 51;
+    constexpr UINT_PTR LateTimer = 52;
+    static std::map<UINT_PTR, std::string> seen;
+    static std::function<std::string()> outline;
+    seen.clear();
+    outline = [this] { return Outline(); };
+    const TIMERPROC look = [](HWND window, UINT, UINT_PTR id, DWORD) {
+        ::KillTimer(window, id);
+        seen[id] = outline();
+    };
+    Fill("a f[x] b");
+    StartDrag("a");
+    MoveOver("f", Half::Lower);
+    // The move anew, because it restarts the tree's timer: all three begin together.
+    tree->SendMessage(WM_MOUSEMOVE, MK_LBUTTON, MAKELPARAM(MousePoint().x, MousePoint().y));
+    ::SetTimer(owner, EarlyTimer, 800, look);
+    ::SetTimer(owner, LateTimer, 1200, look);
+    EXPECT_TRUE(PumpUntil([] { return seen.size() == 2; }));
+    EXPECT_EQ(seen[EarlyTimer], "a f[x] b");
+    EXPECT_EQ(seen[LateTimer], "a f+[x] b");
+    tree->CompleteDrag(FALSE);
+}
+
+TEST_F(DragWithMouse, TargetUnderAMouseThatRests_ChangesWhenTheItemsScroll)
+{
+    Fill(ManyItems(50));
+    StartDrag("i3");
+    MoveOver("i5", Half::Upper);
+    EXPECT_EQ(tree->dropTarget, At("i5"));
+    tree->SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    tree->SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    EXPECT_TRUE(PumpUntil([this] { return tree->dropTarget == At("i7"); }));
+    tree->CompleteDrag(FALSE);
 }
 
 TEST_F(DragWithMouse, RestingOverAnOpenFolder_ClosesIt)

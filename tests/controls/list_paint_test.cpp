@@ -180,6 +180,28 @@ TEST_F(ListPaint, ScrolledList_ShowsTheCurrentCellWhereItIs)
     }
 }
 
+// The platform leaves the colours of a selected row in the context.
+TEST_F(ListPaint, CurrentCellOfASelectedRow_HasTheColoursOfAButton)
+{
+    CFont plain;
+    ASSERT_TRUE(plain.CreateFont(-12, 0, 0, 0, FW_BOLD, FALSE, FALSE, FALSE, DEFAULT_CHARSET,
+                                 OUT_DEFAULT_PRECIS, CLIP_DEFAULT_PRECIS, NONANTIALIASED_QUALITY,
+                                 DEFAULT_PITCH, L"Tahoma"));
+    list.SetFont(&plain);
+    list.SetItemText(1, 1, CString(L'I', 8));
+    SetCurrent(1, 1);
+    list.SetItemState(1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);
+    list.SetFocus();
+    list.Invalidate();
+    CRect inside = list.Cell(1, 1);
+    inside.DeflateRect(3, 3);
+    const Snapshot picture(list.m_hWnd);
+    ASSERT_NE(::GetSysColor(COLOR_BTNTEXT), ::GetSysColor(COLOR_HIGHLIGHTTEXT));
+    EXPECT_GT(picture.CountColour(inside, ::GetSysColor(COLOR_BTNTEXT)), 0);
+    EXPECT_EQ(picture.CountColour(inside, ::GetSysColor(COLOR_HIGHLIGHTTEXT)), 0);
+    EXPECT_EQ(picture.CountColour(inside, ::GetSysColor(COLOR_HIGHLIGHT)), 0);
+}
+
 TEST_F(ListPaint, FocusedRow_ShowsTheLabelAsTheCurrentCell)
 {
     SetCurrent(1, 0);

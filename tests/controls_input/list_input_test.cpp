@@ -108,6 +108,17 @@ TEST_F(ListInput, ClickOnALabel_BeginsTheEdit)
     EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,0 [r1c0]"});
 }
 
+TEST_F(ListInput, ClickJustBehindTheText_BeginsTheEditUpToFivePixels)
+{
+    CRect label;
+    list.GetItemRect(1, label, LVIR_LABEL);
+    const int end = label.left + list.GetStringWidth(list.GetItemText(1, 0));
+    ClickTwice(CPoint(end + 6, label.CenterPoint().y));
+    EXPECT_EQ(owner.TakeEdits(), Lines{});
+    ClickTwice(CPoint(end + 5, label.CenterPoint().y));
+    EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,0 [r1c0]"});
+}
+
 TEST_F(ListInput, ClickOnTheIcon_BeginsNoEdit)
 {
     const RowImages images(list);

@@ -277,6 +277,20 @@ TEST_F(ByTitle, AValueOfAnotherTypeChangesNothing)
     EXPECT_EQ(number->GetValue().lVal, 5);
 }
 
+TEST_F(ByTitle, APropertyWithoutAValueTakesAnyType)
+{
+    Property* const group = AddGroup(L"Group");
+    Property* const text = AddTo(group, L"text", _variant_t());
+    Property* const number = AddTo(group, L"number", _variant_t());
+    EXPECT_EQ(grid.SetItemValue(L"text", CString(L"now")), 1);
+    EXPECT_EQ(text->GetValue().vt, VT_BSTR);
+    EXPECT_EQ(CString(text->GetValue()), L"now");
+    EXPECT_EQ(grid.SetItemValue(L"number", 2.5), 1);
+    EXPECT_EQ(number->GetValue().vt, VT_R8);
+    EXPECT_EQ(grid.SetItemValue(L"number", 7), 1);
+    EXPECT_EQ(number->GetValue().vt, VT_R8) << "it has a type from now on";
+}
+
 TEST_F(ByTitle, ClassesKnowTheirRunTimeType)
 {
     EXPECT_TRUE(grid.IsKindOf(RUNTIME_CLASS(CMFCPropertyGridCtrl)));

@@ -210,6 +210,14 @@ TEST_F(PropertyKeyboard, ALetterThatMeansNothingHereGoesToTheNextNameWithIt)
     EXPECT_EQ(Selected(), L"Count");
 }
 
+TEST_F(PropertyKeyboard, ALetterGoesOnFromANameThatBeginsWithIt)
+{
+    Select(choices);
+    ASSERT_EQ(Selected(), L"Choices");
+    TypeText(L"c");
+    EXPECT_EQ(Selected(), L"Code") << "from the last such name to the first";
+}
+
 TEST_F(PropertyKeyboard, AMaskTakesOnlyWhatFits)
 {
     Select(code);

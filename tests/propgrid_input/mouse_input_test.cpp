@@ -131,6 +131,20 @@ TEST_F(PropertyMouse, TheColumnLineIsDragged)
     EXPECT_EQ(Editor(), nullptr);
 }
 
+TEST_F(PropertyMouse, TheColumnLineIsGraspedUpToThreePixelsBesideIt)
+{
+    const int y = count->GetRect().CenterPoint().y;
+    for (const int beside : {-4, -3, 3, 4})
+    {
+        const int before = grid.GetLeftColumnWidth();
+        const int x = before + beside;
+        SendMouse(grid, WM_LBUTTONDOWN, CPoint(x, y), MK_LBUTTON);
+        SendMouse(grid, WM_MOUSEMOVE, CPoint(x + 30, y), MK_LBUTTON);
+        SendMouse(grid, WM_LBUTTONUP, CPoint(x + 30, y));
+        EXPECT_EQ(grid.GetLeftColumnWidth() != before, beside == 3 || beside == -3) << beside;
+    }
+}
+
 TEST_F(PropertyMouse, EscDuringTheDragLeavesTheColumnsAlone)
 {
     const int before = grid.GetLeftColumnWidth();
@@ -171,6 +185,25 @@ TEST_F(PropertyMouse, TheWheelScrollsAndClosesTheEditor)
     EXPECT_EQ(texts->GetRect().top, grid.GetListRect().top - 3 * grid.GetRowHeight());
     TurnWheel(grid, CPoint(100, 60), 5);
     EXPECT_EQ(texts->GetRect().top, grid.GetListRect().top);
+}
+
+TEST_F(PropertyMouse, SmallStepsOfTheWheelAddUp)
+{
+    grid.SetWindowPos(NULL, 0, 0, 400, 120, SWP_NOMOVE | SWP_NOZORDER);
+    const auto turn = [this](int delta) {
+        CPoint point(100, 60);
+        grid.ClientToScreen(&point);
+        grid.SendMessage(WM_MOUSEWHEEL, MAKEWPARAM(0, static_cast<WORD>(static_cast<short>(delta))),
+                         MAKELPARAM(point.x, point.y));
+        return (grid.GetListRect().top - texts->GetRect().top) / grid.GetRowHeight();
+    };
+    // Three rows for a notch of 120.
+    EXPECT_EQ(turn(-50), 1);
+    EXPECT_EQ(turn(-50), 2);
+    EXPECT_EQ(turn(-20), 3);
+    EXPECT_EQ(turn(50), 2);
+    EXPECT_EQ(turn(50), 1);
+    EXPECT_EQ(turn(20), 0);
 }
 
 TEST_F(PropertyMouse, ATipShowsACutText)

@@ -187,6 +187,28 @@ TEST_F(PropertyMouse, TheWheelScrollsAndClosesTheEditor)
     EXPECT_EQ(texts->GetRect().top, grid.GetListRect().top);
 }
 
+TEST_F(PropertyMouse, ARightClickReachesTheProperty)
+{
+    struct ClickedProperty : CMFCPropertyGridProperty
+    {
+        using CMFCPropertyGridProperty::CMFCPropertyGridProperty;
+        void OnRClickName(CPoint) override { clicks += L"name "; }
+        void OnRClickValue(CPoint, BOOL isSelected) override
+        {
+            clicks += isSelected ? L"selected " : L"value ";
+        }
+        std::wstring clicks;
+    };
+    auto* const clicked = new ClickedProperty(L"Clicked", _variant_t(L"x"));
+    texts->AddSubItem(clicked);
+    grid.UpdateWindow();
+    SendMouse(grid, WM_RBUTTONUP, NamePoint(clicked));
+    SendMouse(grid, WM_RBUTTONUP, ValuePoint(clicked));
+    grid.SetCurSel(clicked);
+    SendMouse(grid, WM_RBUTTONUP, ValuePoint(clicked));
+    EXPECT_EQ(clicked->clicks, L"name value selected ");
+}
+
 TEST_F(PropertyMouse, SmallStepsOfTheWheelAddUp)
 {
     grid.SetWindowPos(NULL, 0, 0, 400, 120, SWP_NOMOVE | SWP_NOZORDER);

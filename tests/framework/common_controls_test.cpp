@@ -183,6 +183,35 @@ TEST_F(SpinWrapper, BaseAndAcceleration)
     EXPECT_EQ(read[1].nInc, 20u);
 }
 
+TEST(TabWrapper, StatesSizesImagesAndTips)
+{
+    HostWindow host;
+    CTabCtrl tabs;
+    ASSERT_TRUE(tabs.Create(WS_CHILD | WS_VISIBLE | TCS_FIXEDWIDTH, CRect(0, 0, 300, 200), &host, 5));
+    tabs.InsertItem(0, L"first");
+    tabs.InsertItem(1, L"second");
+    EXPECT_EQ(tabs.GetItemState(1, TCIS_HIGHLIGHTED), 0u);
+    EXPECT_TRUE(tabs.SetItemState(1, TCIS_HIGHLIGHTED, TCIS_HIGHLIGHTED));
+    EXPECT_EQ(tabs.GetItemState(1, TCIS_HIGHLIGHTED), static_cast<DWORD>(TCIS_HIGHLIGHTED));
+    EXPECT_EQ(tabs.GetItemState(1, TCIS_BUTTONPRESSED), 0u);
+    EXPECT_EQ(tabs.GetItemState(0, TCIS_HIGHLIGHTED), 0u);
+    tabs.SetItemSize(CSize(70, 30));
+    EXPECT_EQ(tabs.SetItemSize(CSize(60, 25)), CSize(70, 30));
+    CRect first;
+    EXPECT_TRUE(tabs.GetItemRect(0, &first));
+    EXPECT_EQ(first.Width(), 60);
+    CImageList images;
+    ASSERT_TRUE(images.Create(16, 16, ILC_COLOR24, 1, 1));
+    EXPECT_EQ(tabs.GetImageList(), nullptr);
+    EXPECT_EQ(tabs.SetImageList(&images), nullptr);
+    EXPECT_EQ(tabs.GetImageList(), &images);
+    EXPECT_EQ(tabs.SetImageList(NULL), &images);
+    CToolTipCtrl tips;
+    ASSERT_TRUE(tips.Create(&host));
+    tabs.SetToolTips(&tips);
+    EXPECT_EQ(tabs.GetToolTips(), &tips);
+}
+
 TEST(TabWrapper, ItemsSelectionAndGeometry)
 {
     HostWindow host;

@@ -1,6 +1,8 @@
 // Exceptions: who frees them, their texts, and the TRY macros.
 #include <afxwin.h>
 
+#include "tests/support/MessageBoxProbe.h"
+
 #include <gtest/gtest.h>
 
 namespace
@@ -114,4 +116,25 @@ TEST(Exception, Messages)
         EXPECT_STREQ(L"", message);
         exception->Delete();
     }
+}
+
+TEST(Exception, Reports_ShowTheMessageOrAGeneralOne)
+{
+    quor::test::MessageBoxProbe boxes;
+    const auto report = [](void (*fail)()) {
+        try
+        {
+            fail();
+        }
+        catch (CException* exception)
+        {
+            EXPECT_EQ(exception->ReportError(MB_OK), IDOK);
+            exception->Delete();
+        }
+    };
+    report([] { AfxThrowResourceException(); });
+    report([] { AfxThrowUserException(); });
+    ASSERT_EQ(boxes.Shown().size(), 2u);
+    EXPECT_EQ(boxes.Shown()[0].text, L"A required resource was unavailable.");
+    EXPECT_EQ(boxes.Shown()[1].text, L"An operation failed.");
 }

@@ -186,6 +186,33 @@ TEST_F(ScrollViews, Bars_TheVerticalOneCanMakeTheOtherNecessary)
     EXPECT_TRUE(vertical);
 }
 
+TEST(ScrollViewInAFrame, ResizesTheFrameToItsContent)
+{
+    auto* const frame = new CFrameWnd;
+    ASSERT_TRUE(frame->Create(NULL, L"", WS_OVERLAPPEDWINDOW, CRect(0, 0, 400, 300)));
+    auto* const view = new WideView;
+    ASSERT_TRUE(
+        view->Create(NULL, NULL, WS_CHILD | WS_VISIBLE, CRect(0, 0, 100, 100), frame, AFX_IDW_PANE_FIRST));
+    const auto room = [view] {
+        CRect client;
+        view->GetClientRect(&client);
+        return client.Size();
+    };
+    frame->RecalcLayout();
+    const CSize before = room();
+    view->SetScrollSizes(MM_TEXT, before + CSize(50, 40));
+    view->ResizeParentToFit(TRUE);
+    view->SetScrollSizes(MM_TEXT, before);
+    EXPECT_EQ(room(), before) << "only made smaller";
+    view->SetScrollSizes(MM_TEXT, before + CSize(50, 40));
+    view->ResizeParentToFit(FALSE);
+    EXPECT_EQ(room(), before + CSize(50, 40));
+    view->SetScrollSizes(MM_TEXT, before - CSize(60, 30));
+    view->ResizeParentToFit(TRUE);
+    EXPECT_EQ(room(), before - CSize(60, 30));
+    frame->DestroyWindow();
+}
+
 TEST_F(ScrollViews, ScrollToPosition_StopsAtTheEnds)
 {
     m_view->ScrollToPosition(CPoint(120, 90));

@@ -303,11 +303,15 @@ void ReferenceGrid::FoldAll(ReferenceRow* row)
         FoldAll(child);
 }
 
+// As one change: an index that names no row before follows none, also where the rows get as many meanwhile.
 void ReferenceGrid::UnFoldAll(ReferenceRow* row)
 {
+    const bool namesRow = curRow < static_cast<long>(rows.size());
+    const long before = curRow;
     UnFold(row);
     for (ReferenceRow* child : row->children)
         UnFoldAll(child);
+    curRow = namesRow ? curRow : before;
 }
 
 void ReferenceGrid::ClearChild(ReferenceRow* row)

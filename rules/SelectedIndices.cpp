@@ -49,7 +49,7 @@ void Assign(DualList<long>& entries, const std::vector<long>& indices)
 }
 
 // One run of indices, as after selecting all, moves as a whole: what leaves it at the end comes in at the
-// front.
+// front. Rows can go without memory: no entry is made.
 void CloseGap(DualList<long>& entries, long first, long number)
 {
     entries.MoveToLast();
@@ -61,9 +61,10 @@ void CloseGap(DualList<long>& entries, long first, long number)
     const bool isRun = last - entries.Cur() + 1 == moving;
     if (isRun && number == 1)
     {
-        entries.Insert(entries.Cur() - 1);
-        entries.MoveToLast();
-        entries.Del();
+        const long front = entries.Cur() - 1;
+        entries.Move(entries.GetNum() - 1, position);
+        entries.MoveTo(position);
+        entries.SetCur(front);
         return;
     }
     Shift(entries, entries, first + number, -number);

@@ -1,8 +1,7 @@
 // The indices of rows while others leave one by one.
 #include "grid/model/LateNumbers.h"
 
-#include <algorithm>
-#include <functional>
+#include <cstddef>
 #include <new>
 
 namespace QuorUiCtr
@@ -19,6 +18,23 @@ try
 catch (const std::bad_alloc&)
 {
     return false;
+}
+
+// How many of the numbers, for which `precedes` holds first, it holds for. The library's search looks at all
+// of them in the checked build.
+template <class Precedes> long CountFirst(const std::vector<long>& numbers, Precedes precedes)
+{
+    std::size_t first = 0;
+    std::size_t end = numbers.size();
+    while (first < end)
+    {
+        const std::size_t middle = first + (end - first) / 2;
+        if (precedes(numbers[middle]))
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return static_cast<long>(first);
 }
 
 } // namespace
@@ -50,10 +66,9 @@ bool TGGrid::LateNumbers::Note(long stored) noexcept
 
 long TGGrid::LateNumbers::TrueIndex(long stored) const
 {
-    const auto before = std::lower_bound(rising.begin(), rising.end(), stored) - rising.begin();
-    const auto behind =
-        falling.end() - std::upper_bound(falling.begin(), falling.end(), stored, std::greater<>());
-    return stored - static_cast<long>(before + behind);
+    const long before = CountFirst(rising, [stored](long number) { return number < stored; });
+    const long notBelow = CountFirst(falling, [stored](long number) { return number >= stored; });
+    return stored - before - (static_cast<long>(falling.size()) - notBelow);
 }
 
 // A row that has no index in spite of its slot is just coming or going, and is numbered by who does that. The

@@ -1,8 +1,6 @@
 // Where a row may be moved, so that the grid's row list and the tree never differ.
 #include "grid/model/GridStructure.h"
 
-#include <vector>
-
 namespace QuorUiCtr
 {
 
@@ -37,13 +35,9 @@ bool TGGrid::Structure::PlaceMovingRow(long from, long to)
         parent->children.Move(parent->GetChildIndex(static_cast<TGGridTreeRow*>(row)),
                               beforeSibling ? parent->GetChildIndex(static_cast<TGGridTreeRow*>(next))
                                             : parent->GetChildNum());
-    if (end == from + 1)
-        return grid.rows.Move(from, to);
-    std::vector<TGGridRow*> moving;
-    for (long i = from; i < end; ++i)
-        moving.push_back(grid.RowAt(i));
-    grid.rows.Release(from, end - from);
-    grid.rows.SpliceInsert(to > from ? to - (end - from) : to, moving);
+    // One by one, which takes no memory: what has gone down leaves its place to the next.
+    for (long k = 0; k < end - from; ++k)
+        to > from ? grid.rows.Move(from, to) : grid.rows.Move(from + k, to + k);
     return true;
 }
 

@@ -222,7 +222,7 @@ double Milliseconds(const std::function<void()>& work)
 void ExpectLinear(const char* what, const std::function<std::function<void()>(long)>& prepare)
 {
 #ifdef _DEBUG
-    const long many = 2000;
+    const long many = 1000;
 #else
     const long many = 100000;
 #endif

@@ -1,17 +1,12 @@
 // The recording grid for commands and drags.
 #include "tests/grid/CommandGrid.h"
 
-#include <algorithm>
-
 namespace quor::test
 {
 
 using namespace QuorUiCtr;
-
-std::string FirstText(TGGridRow& row)
-{
-    return CStringA(row[0].GetText()).GetString();
-}
+using samples::HookCall;
+using samples::HookGroup;
 
 namespace
 {
@@ -28,26 +23,6 @@ std::string Describe(TGGridRow& row, const std::function<bool(TGGridRow&)>& isSe
 }
 
 } // namespace
-
-bool CommandGrid::Note(const std::string& name, const std::string& arguments)
-{
-    log.push_back(arguments.empty() ? name : name + " " + arguments);
-    // A copy, because the action may replace itself.
-    if (const auto found = actions.find(name); found != actions.end())
-    {
-        const auto act = found->second;
-        act();
-    }
-    return vetoes.count(name) == 0;
-}
-
-std::string CommandGrid::TakeText()
-{
-    std::string text;
-    for (const std::string& line : TakeLog())
-        text += (text.empty() ? "" : " | ") + line;
-    return text;
-}
 
 std::string CommandGrid::Rows()
 {
@@ -115,185 +90,43 @@ void CommandGrid::SelectCols(std::initializer_list<long> indices)
     TakeLog();
 }
 
-// ---- Clicks and changes -----------------------------------------------------------------------------------
+// ---- Hooks ------------------------------------------------------------------------------------------------
 
-void CommandGrid::OnDblClick(TGGridRow& row)
+bool CommandGrid::Note(const HookCall& call) const
 {
-    Note("double click", std::to_string(row.GetIndex()));
+    const bool goesOn = WindowGrid::Note(call);
+    if (call.group == HookGroup::Mouse)
+        return goesOn && showsMenus;
+    return goesOn && !call.Is("OnInsertRow") && !call.Is("OnInsertCol");
 }
 
-void CommandGrid::OnRClickCell(TGGridCell& cell, CPoint)
+bool CommandGrid::Records(const HookCall& call) const
 {
-    Note("right click cell", std::to_string(cell.GetRowIndex()) + "," + std::to_string(cell.GetColIndex()));
+    if (call.Is("OnCurChanged"))
+        return logsCurrent;
+    return WindowGrid::Records(call) || call.group == HookGroup::Mouse || call.group == HookGroup::Change ||
+           call.group == HookGroup::Col || call.group == HookGroup::Row;
 }
 
-void CommandGrid::OnRClickRow(TGGridRow& row, CPoint point)
-{
-    Note("right click row", std::to_string(row.GetIndex()));
-    if (showsMenus)
-        TGGrid::OnRClickRow(row, point);
-}
-
-void CommandGrid::OnRClickCol(TGGridCol& col, CPoint point)
-{
-    Note("right click col", std::to_string(col.GetIndex()));
-    if (showsMenus)
-        TGGrid::OnRClickCol(col, point);
-}
-
-void CommandGrid::OnRClickQuad(CPoint point)
-{
-    Note("right click corner");
-    if (showsMenus)
-        TGGrid::OnRClickQuad(point);
-}
-
-void CommandGrid::OnDataChanged()
-{
-    Note("changed");
-    TGGrid::OnDataChanged();
-}
-
-void CommandGrid::OnCurChanged()
-{
-    TGGrid::OnCurChanged();
-    if (logsCurrent)
-        Note("cur", std::to_string(GetCurRowIndex()) + "," + std::to_string(GetCurColIndex()));
-    else if (const auto found = actions.find("cur"); found != actions.end())
-    {
-        const auto act = found->second;
-        act();
-    }
-}
-
-// ---- Columns ----------------------------------------------------------------------------------------------
-
-bool CommandGrid::OnBeforeInsertCol(long position, TGGridCol*& col)
+bool CommandGrid::OnBeforeInsertCol(long position, Col*& col)
 {
     if (makeCol)
         col = makeCol();
-    return Note("insert col?", std::to_string(position));
+    return WindowGrid::OnBeforeInsertCol(position, col);
 }
 
-void CommandGrid::OnInsertCol(TGGridCol& col)
-{
-    Note("inserted col", std::to_string(col.GetIndex()));
-}
-
-bool CommandGrid::OnBeforeDeleteCol()
-{
-    return Note("delete col?");
-}
-
-void CommandGrid::OnEndDeleteCol()
-{
-    Note("deleted col");
-}
-
-bool CommandGrid::OnBeginMoveCol()
-{
-    return Note("drag col?");
-}
-
-bool CommandGrid::OnMovingCol(long position)
-{
-    return Note("over col", std::to_string(position));
-}
-
-bool CommandGrid::OnMoveCol(long position)
-{
-    return Note("drop col", std::to_string(position)) && TGGrid::OnMoveCol(position);
-}
-
-void CommandGrid::OnEndMoveCol()
-{
-    Note("moved col");
-}
-
-// ---- Rows -------------------------------------------------------------------------------------------------
-
-bool CommandGrid::OnBeforeInsertRow(long position, TGGridRow*& row)
+bool CommandGrid::OnBeforeInsertRow(long position, Row*& row)
 {
     if (makeRow)
         row = makeRow();
-    return Note("insert row?", std::to_string(position));
+    return WindowGrid::OnBeforeInsertRow(position, row);
 }
 
-bool CommandGrid::OnBeforeInsertChild(TGGridTreeRow& parent, long position, TGGridTreeRow*& child)
+bool CommandGrid::OnBeforeInsertChild(TreeRow& parent, long position, TreeRow*& child)
 {
     if (makeChild)
         child = makeChild();
-    return Note("insert child?", FirstText(parent) + " " + std::to_string(position));
-}
-
-void CommandGrid::OnInsertRow(TGGridRow& row)
-{
-    Note("inserted row", std::to_string(row.GetIndex()));
-}
-
-bool CommandGrid::OnBeforeDeleteRow()
-{
-    return Note("delete row?");
-}
-
-void CommandGrid::OnEndDeleteRow()
-{
-    Note("deleted row");
-}
-
-bool CommandGrid::OnBeforeClip()
-{
-    return Note("cut?");
-}
-
-void CommandGrid::OnEndClip()
-{
-    Note("cut");
-}
-
-bool CommandGrid::OnBeforeCopy()
-{
-    return Note("copy?");
-}
-
-void CommandGrid::OnEndCopy()
-{
-    Note("copied");
-}
-
-bool CommandGrid::OnBeforePaste(long position)
-{
-    return Note("paste?", std::to_string(position));
-}
-
-bool CommandGrid::OnBeforePasteChild(TGGridTreeRow& parent)
-{
-    return Note("paste child?", FirstText(parent));
-}
-
-void CommandGrid::OnEndPaste()
-{
-    Note("pasted");
-}
-
-bool CommandGrid::OnBeginMoveRow()
-{
-    return Note("drag row?");
-}
-
-bool CommandGrid::OnMovingRow(long position)
-{
-    return Note("over row", std::to_string(position));
-}
-
-bool CommandGrid::OnMoveRow(long position)
-{
-    return Note("drop row", std::to_string(position)) && TGGrid::OnMoveRow(position);
-}
-
-void CommandGrid::OnEndMoveRow()
-{
-    Note("moved row");
+    return WindowGrid::OnBeforeInsertChild(parent, position, child);
 }
 
 } // namespace quor::test

@@ -1,26 +1,15 @@
 // The grid for tests of the edit session.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
-#include "ModelGrid.h"
 #include "grid/TGActiveQuad.h"
+
+#include <string_view>
 
 namespace quor::test
 {
 
-using QuorUiCtr::TGCellCtrl;
-using QuorUiCtr::TGGridCell;
-using QuorUiCtr::TGGridRow;
-
-void EditGrid::Note(const char* what, const TGGridCell& cell, const CString& text)
-{
-    if (!recording)
-        return;
-    std::string line = what;
-    line += " " + std::to_string(cell.GetRowIndex()) + "," + std::to_string(cell.GetColIndex());
-    if (!text.IsEmpty())
-        line += " " + Narrow(text);
-    log.push_back(line);
-}
+using samples::HookCall;
+using samples::HookGroup;
 
 void EditGrid::Enter(const wchar_t* text)
 {
@@ -33,20 +22,13 @@ bool EditGrid::ShowsFocus()
     return static_cast<QuorUiCtr::TGActiveQuad*>(GetDlgItem(102))->IsActive();
 }
 
-std::string EditGrid::TakeText()
-{
-    std::string joined;
-    for (const std::string& line : TakeLog())
-        joined += (joined.empty() ? "" : " | ") + line;
-    return joined;
-}
-
 std::string EditGrid::TakeEditText()
 {
-    std::erase_if(log, [](const std::string& line) {
-        return line.starts_with("row ") || line.starts_with("cell ") || line.starts_with("colours ");
-    });
-    return TakeText();
+    std::string text;
+    for (const std::string& line : TakeLog())
+        if (!IsPaintLine(line))
+            text += (text.empty() ? "" : " | ") + line;
+    return text;
 }
 
 LRESULT EditGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -56,94 +38,83 @@ LRESULT EditGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     return WindowGrid::WindowProc(message, wParam, lParam);
 }
 
-bool EditGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
+bool EditGrid::Note(const HookCall& call) const
 {
-    Note("before", cell);
-    return beforeEdit ? beforeEdit(cell, commitNewRow) : WindowGrid::OnBeforeEdit(cell, commitNewRow);
+    const bool goesOn = WindowGrid::Note(call);
+    // What is scripted makes the editor instead.
+    return goesOn && !call.Is("OnInsertRow") && !(call.Is("OnGetCellEdit") && makeEditor);
 }
 
-TGCellCtrl* EditGrid::OnGetCellEdit(TGGridCell& cell)
+void EditGrid::NoteEnd(const char* hook) const
 {
-    Note("editor", cell);
-    editor = makeEditor ? makeEditor(cell) : WindowGrid::OnGetCellEdit(cell);
-    return editor;
-}
-
-bool EditGrid::OnModified(TGGridCell& cell, CString& text)
-{
-    Note("modified", cell, text);
-    return modifiedText ? modifiedText(cell, text) : WindowGrid::OnModified(cell, text);
-}
-
-void EditGrid::OnDataChanged()
-{
-    if (recording)
-        log.push_back("changed");
-    WindowGrid::OnDataChanged();
-    if (dataChanged)
-        dataChanged();
-}
-
-void EditGrid::OnCurChanged()
-{
-    WindowGrid::OnCurChanged();
-    if (recording)
-        log.push_back("cur " + std::to_string(GetCurRowIndex()) + "," + std::to_string(GetCurColIndex()));
+    const std::string_view name = hook;
     // A copy, because the action may replace itself.
-    if (const auto act = curChanged)
+    if (const auto act = name == "OnDataChanged"  ? dataChanged
+                         : name == "OnCurChanged" ? curChanged
+                                                  : nullptr)
         act();
 }
 
-bool EditGrid::OnBeforeInsertRow(long position, TGGridRow*& row)
+bool EditGrid::Records(const HookCall& call) const
 {
-    if (recording)
-        log.push_back("insert? " + std::to_string(position));
-    return beforeInsertRow ? beforeInsertRow(position, row) : WindowGrid::OnBeforeInsertRow(position, row);
+    return recording && call.group != HookGroup::Tip;
 }
 
-void EditGrid::OnInsertRow(TGGridRow& row)
+bool EditGrid::OnBeforeEdit(Cell& cell, bool& commitNewRow)
 {
-    if (recording)
-        log.push_back("inserted " + std::to_string(row.GetIndex()));
-    if (insertedRow)
-        insertedRow(row);
+    return WindowGrid::OnBeforeEdit(cell, commitNewRow) && (!beforeEdit || beforeEdit(cell, commitNewRow));
 }
 
-void EditGrid::OnCmbSelchange(TGGridCell& cell, CComboBox* combo)
+QuorUiCtr::TGCellCtrl* EditGrid::OnGetCellEdit(Cell& cell)
 {
-    Note("sel", cell);
-    WindowGrid::OnCmbSelchange(cell, combo);
+    editor = WindowGrid::OnGetCellEdit(cell);
+    if (makeEditor)
+        editor = makeEditor(cell);
+    return editor;
 }
 
-void EditGrid::OnCmbEditchange(TGGridCell& cell, CComboBox* combo)
+void EditGrid::OnCellComboString(Cell& cell, CComboBox& combo)
 {
-    Note("editchange", cell);
-    WindowGrid::OnCmbEditchange(cell, combo);
-}
-
-bool EditGrid::OnCellButtonTip(long row, long col, CString& text) const
-{
-    return buttonTip ? buttonTip(row, col, text) : WindowGrid::OnCellButtonTip(row, col, text);
-}
-
-bool EditGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
-{
-    Note("button", cell, text);
-    return buttonDown ? buttonDown(cell, text) : WindowGrid::OnCellButtonDown(cell, text);
-}
-
-void EditGrid::OnCellComboString(TGGridCell& cell, CComboBox& combo)
-{
-    Note("strings", cell);
+    WindowGrid::OnCellComboString(cell, combo);
     if (comboStrings)
         comboStrings(cell, combo);
 }
 
-void EditGrid::OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin)
+bool EditGrid::OnCellButtonDown(Cell& cell, CString& text)
 {
-    Note("spin", cell);
+    const bool takesText = WindowGrid::OnCellButtonDown(cell, text);
+    return buttonDown ? buttonDown(cell, text) : takesText;
+}
+
+void EditGrid::OnCellSpinInit(Cell& cell, CSpinButtonCtrl& spin)
+{
+    WindowGrid::OnCellSpinInit(cell, spin);
     if (spinInit)
         spinInit(cell, spin);
+}
+
+bool EditGrid::OnModified(Cell& cell, CString& text)
+{
+    return WindowGrid::OnModified(cell, text) && (!modifiedText || modifiedText(cell, text));
+}
+
+bool EditGrid::OnBeforeInsertRow(long position, Row*& row)
+{
+    return WindowGrid::OnBeforeInsertRow(position, row) &&
+           (!beforeInsertRow || beforeInsertRow(position, row));
+}
+
+void EditGrid::OnInsertRow(Row& row)
+{
+    WindowGrid::OnInsertRow(row);
+    if (insertedRow)
+        insertedRow(row);
+}
+
+bool EditGrid::OnCellButtonTip(long row, long col, CString& text) const
+{
+    const bool shows = WindowGrid::OnCellButtonTip(row, col, text);
+    return buttonTip ? buttonTip(row, col, text) : shows;
 }
 
 void EditTest::Make(EditGrid& grid, long rows, long cols)

@@ -1,8 +1,8 @@
 // A grid for tests of the edit session: writes down the hooks of an edit and lets a test script them.
 #pragma once
 
-#include "WindowGrid.h"
 #include "grid/TGCellCtrl.h"
+#include "tests/grid/WindowGrid.h"
 
 #include <functional>
 #include <map>
@@ -10,9 +10,9 @@
 namespace quor::test
 {
 
-// Writes "before 1,2", "editor 1,2", "modified 1,2 text", "changed", "cur 1,2", "insert? 3", "inserted 3",
-// "sel 1,2", "editchange 1,2", "button 1,2 text", "strings 1,2", "spin 1,2" into the log. A scripted answer
-// replaces the default one; a script runs after its line was written.
+// While recording it writes every hook but those of tips. A scripted answer replaces the default one; a
+// script runs after its line was written. Leaves out the default of OnInsertRow: OnDataChanged, which the end
+// of the edit calls, too.
 class EditGrid : public WindowGrid
 {
 public:
@@ -41,29 +41,23 @@ public:
     bool ShowsFocus();
     // Types into the open editor as far as the grid can tell: sets text and modified mark.
     void Enter(const wchar_t* text);
-    // The log as one text, lines joined by " | ", and empties it; the second leaves out what only tells of
-    // painting.
-    std::string TakeText();
+    // TakeText() without what only tells of painting.
     std::string TakeEditText();
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-    bool OnBeforeEdit(QuorUiCtr::TGGridCell& cell, bool& commitNewRow) override;
-    QuorUiCtr::TGCellCtrl* OnGetCellEdit(QuorUiCtr::TGGridCell& cell) override;
-    bool OnModified(QuorUiCtr::TGGridCell& cell, CString& text) override;
-    void OnDataChanged() override;
-    void OnCurChanged() override;
-    bool OnBeforeInsertRow(long position, QuorUiCtr::TGGridRow*& row) override;
-    void OnInsertRow(QuorUiCtr::TGGridRow& row) override;
-    void OnCmbSelchange(QuorUiCtr::TGGridCell& cell, CComboBox* combo) override;
-    void OnCmbEditchange(QuorUiCtr::TGGridCell& cell, CComboBox* combo) override;
+    bool Note(const samples::HookCall& call) const override;
+    void NoteEnd(const char* hook) const override;
+    bool Records(const samples::HookCall& call) const override;
+    bool OnBeforeEdit(Cell& cell, bool& commitNewRow) override;
+    QuorUiCtr::TGCellCtrl* OnGetCellEdit(Cell& cell) override;
+    void OnCellComboString(Cell& cell, CComboBox& combo) override;
+    bool OnCellButtonDown(Cell& cell, CString& text) override;
+    void OnCellSpinInit(Cell& cell, CSpinButtonCtrl& spin) override;
+    bool OnModified(Cell& cell, CString& text) override;
+    bool OnBeforeInsertRow(long position, Row*& row) override;
+    void OnInsertRow(Row& row) override;
     bool OnCellButtonTip(long row, long col, CString& text) const override;
-    bool OnCellButtonDown(QuorUiCtr::TGGridCell& cell, CString& text) override;
-    void OnCellComboString(QuorUiCtr::TGGridCell& cell, CComboBox& combo) override;
-    void OnCellSpinInit(QuorUiCtr::TGGridCell& cell, CSpinButtonCtrl& spin) override;
-
-private:
-    void Note(const char* what, const QuorUiCtr::TGGridCell& cell, const CString& text = CString());
 };
 
 // A grid of editors in a host window.

@@ -1,10 +1,19 @@
 // A grid whose hooks do to it what they should rather not.
-#include "HostileGrid.h"
+#include "tests/grid/HostileGrid.h"
 
 namespace quor::test
 {
 
-using namespace QuorUiCtr;
+namespace
+{
+
+bool Answer(CString& text)
+{
+    text = L"tip";
+    return true;
+}
+
+} // namespace
 
 void HostileGrid::Arm(const std::string& hook, std::function<void()> action)
 {
@@ -29,141 +38,62 @@ void HostileGrid::Strike(const char* hook) const
     striking = false;
 }
 
-bool HostileGrid::Tip(const char* hook, CString& text) const
+bool HostileGrid::Note(const samples::HookCall& call) const
+{
+    if (call.asks)
+        Strike(call.hook);
+    return letsInsert || !call.Is("OnBeforeInsertRow");
+}
+
+void HostileGrid::NoteEnd(const char* hook) const
 {
     Strike(hook);
-    text = L"tip";
-    return true;
 }
 
-// ---- Hooks that observe: the action comes last, after what the default does
-// --------------------------------
-
-void HostileGrid::OnRClickCell(TGGridCell& cell, CPoint point)
+bool HostileGrid::OnBeforeEdit(Cell& cell, bool& commitNewRow)
 {
-    WindowGrid::OnRClickCell(cell, point);
-    Strike("OnRClickCell");
-}
-
-void HostileGrid::OnCellComboString(TGGridCell& cell, CComboBox& combo)
-{
-    WindowGrid::OnCellComboString(cell, combo);
-    Strike("OnCellComboString");
-}
-
-void HostileGrid::OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin)
-{
-    WindowGrid::OnCellSpinInit(cell, spin);
-    Strike("OnCellSpinInit");
-}
-
-void HostileGrid::OnDataChanged()
-{
-    WindowGrid::OnDataChanged();
-    Strike("OnDataChanged");
-}
-
-void HostileGrid::OnCurChanged()
-{
-    WindowGrid::OnCurChanged();
-    Strike("OnCurChanged");
-}
-
-void HostileGrid::OnCmbSelchange(TGGridCell& cell, CComboBox* combo)
-{
-    WindowGrid::OnCmbSelchange(cell, combo);
-    Strike("OnCmbSelchange");
-}
-
-void HostileGrid::OnCmbEditchange(TGGridCell& cell, CComboBox* combo)
-{
-    WindowGrid::OnCmbEditchange(cell, combo);
-    Strike("OnCmbEditchange");
-}
-
-void HostileGrid::OnBeforeRefresh(TGGridCell& cell)
-{
-    WindowGrid::OnBeforeRefresh(cell);
-    Strike("OnBeforeRefresh");
-}
-
-void HostileGrid::OnInsertRow(TGGridRow& row)
-{
-    WindowGrid::OnInsertRow(row);
-    Strike("OnInsertRow");
-}
-
-// ---- Hooks that answer: the action comes first, then the answer is to go on
-// --------------------------------
-
-bool HostileGrid::OnBeforeEdit(TGGridCell&, bool& commitNewRow)
-{
-    Strike("OnBeforeEdit");
+    WindowGrid::OnBeforeEdit(cell, commitNewRow);
     commitNewRow = !letsEdit;
     return letsEdit || striking;
 }
 
-bool HostileGrid::OnModified(TGGridCell&, CString&)
+bool HostileGrid::OnCellButtonDown(Cell& cell, CString& text)
 {
-    Strike("OnModified");
-    return true;
-}
-
-bool HostileGrid::OnRefresh(TGGridCell&)
-{
-    Strike("OnRefresh cell");
-    return true;
-}
-
-bool HostileGrid::OnRefresh(TGGridRow&)
-{
-    Strike("OnRefresh row");
-    return true;
-}
-
-bool HostileGrid::OnBeforeInsertRow(long, TGGridRow*&)
-{
-    Strike("OnBeforeInsertRow");
-    return letsInsert;
-}
-
-bool HostileGrid::OnCellButtonDown(TGGridCell&, CString& text)
-{
-    Strike("OnCellButtonDown");
+    WindowGrid::OnCellButtonDown(cell, text);
     text = L"from the button";
     return true;
 }
 
-TGCellCtrl* HostileGrid::OnGetCellEdit(TGGridCell& cell)
+// ---- Tips -------------------------------------------------------------------------------------------------
+
+bool HostileGrid::OnCellTip(long row, long col, CString& text) const
 {
-    TGCellCtrl* editor = WindowGrid::OnGetCellEdit(cell);
-    Strike("OnGetCellEdit");
-    return editor;
+    WindowGrid::OnCellTip(row, col, text);
+    return Answer(text);
 }
 
-bool HostileGrid::OnCellTip(long, long, CString& text) const
+bool HostileGrid::OnRowTip(long row, CString& text) const
 {
-    return Tip("OnCellTip", text);
+    WindowGrid::OnRowTip(row, text);
+    return Answer(text);
 }
 
-bool HostileGrid::OnRowTip(long, CString& text) const
+bool HostileGrid::OnColTip(long col, CString& text) const
 {
-    return Tip("OnRowTip", text);
+    WindowGrid::OnColTip(col, text);
+    return Answer(text);
 }
 
-bool HostileGrid::OnColTip(long, CString& text) const
+bool HostileGrid::OnCellButtonTip(long row, long col, CString& text) const
 {
-    return Tip("OnColTip", text);
-}
-
-bool HostileGrid::OnCellButtonTip(long, long, CString& text) const
-{
-    return Tip("OnCellButtonTip", text);
+    WindowGrid::OnCellButtonTip(row, col, text);
+    return Answer(text);
 }
 
 bool HostileGrid::OnActiveQuadTip(CString& text) const
 {
-    return Tip("OnActiveQuadTip", text);
+    WindowGrid::OnActiveQuadTip(text);
+    return Answer(text);
 }
 
 } // namespace quor::test

@@ -1,7 +1,7 @@
 // A grid whose hooks do to it what they should rather not.
 #pragma once
 
-#include "WindowGrid.h"
+#include "tests/grid/WindowGrid.h"
 
 #include <functional>
 #include <string>
@@ -29,26 +29,11 @@ public:
     CWnd* EditorWindow() { return GetDlgItem(101); }
 
 protected:
-    using TGCellCtrl = QuorUiCtr::TGCellCtrl;
-    using TGGridCell = QuorUiCtr::TGGridCell;
-    using TGGridRow = QuorUiCtr::TGGridRow;
-
-    void OnRClickCell(TGGridCell& cell, CPoint point) override;
-    bool OnBeforeEdit(TGGridCell& cell, bool& commitNewRow) override;
-    TGCellCtrl* OnGetCellEdit(TGGridCell& cell) override;
-    void OnCellComboString(TGGridCell& cell, CComboBox& combo) override;
-    bool OnCellButtonDown(TGGridCell& cell, CString& text) override;
-    void OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin) override;
-    bool OnModified(TGGridCell& cell, CString& text) override;
-    void OnDataChanged() override;
-    void OnCurChanged() override;
-    void OnCmbSelchange(TGGridCell& cell, CComboBox* combo) override;
-    void OnCmbEditchange(TGGridCell& cell, CComboBox* combo) override;
-    void OnBeforeRefresh(TGGridCell& cell) override;
-    bool OnRefresh(TGGridCell& cell) override;
-    bool OnRefresh(TGGridRow& row) override;
-    bool OnBeforeInsertRow(long position, TGGridRow*& row) override;
-    void OnInsertRow(TGGridRow& row) override;
+    // Hooks that ask strike first and then go on, the others after what their default does.
+    bool Note(const samples::HookCall& call) const override;
+    void NoteEnd(const char* hook) const override;
+    bool OnBeforeEdit(Cell& cell, bool& commitNewRow) override;
+    bool OnCellButtonDown(Cell& cell, CString& text) override;
     bool OnCellTip(long row, long col, CString& text) const override;
     bool OnRowTip(long row, CString& text) const override;
     bool OnColTip(long col, CString& text) const override;
@@ -59,8 +44,6 @@ private:
     static constexpr int MaxStrikes = 3;
 
     void Strike(const char* hook) const;
-    // Strikes and gives a tip.
-    bool Tip(const char* hook, CString& text) const;
 
     std::string armedHook;
     std::function<void()> armedAction;

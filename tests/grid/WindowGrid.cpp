@@ -1,6 +1,10 @@
 // The grid in a host window that window tests share.
 #include "tests/grid/WindowGrid.h"
 
+#include "tests/grid/ModelGrid.h"
+
+#include <utility>
+
 namespace quor::test
 {
 
@@ -20,6 +24,38 @@ std::string DescribeBar(const CWnd& window, int bar, const char* name)
     const int position = ::GetScrollPos(window.GetSafeHwnd(), bar);
     const std::string lowest = minimum == 0 ? "" : std::to_string(minimum) + "..";
     return std::string(name) + " " + lowest + std::to_string(maximum) + "@" + std::to_string(position);
+}
+
+// An argument in the line of its call; flags and points are left out.
+struct ArgumentText
+{
+    std::string operator()(long index) const { return std::to_string(index); }
+    std::string operator()(bool) const { return ""; }
+    std::string operator()(samples::Supplied) const { return ""; }
+    std::string operator()(CPoint) const { return ""; }
+    std::string operator()(const CString* text) const { return Narrow(*text); }
+    std::string operator()(const TGGridRow* row) const { return std::to_string(row->GetIndex()); }
+    std::string operator()(TGGridTreeRow* parent) const { return FirstText(*parent); }
+    std::string operator()(const TGGridCol* col) const { return std::to_string(col->GetIndex()); }
+    std::string operator()(const TGGridCell* cell) const
+    {
+        return std::to_string(cell->GetRowIndex()) + "," + std::to_string(cell->GetColIndex());
+    }
+};
+
+std::string LineOf(const samples::HookCall& call)
+{
+    std::string line = call.hook;
+    bool afterIndex = false;
+    for (const samples::HookArgument& argument : call.arguments)
+    {
+        const std::string text = std::visit(ArgumentText(), argument.value);
+        const bool isIndex = std::holds_alternative<long>(argument.value);
+        if (!text.empty())
+            line += (afterIndex && isIndex ? "," : " ") + text;
+        afterIndex = isIndex;
+    }
+    return line;
 }
 
 } // namespace
@@ -64,30 +100,40 @@ std::vector<std::string> WindowGrid::TakeLog()
     return std::exchange(log, {});
 }
 
-void WindowGrid::OnBeforeRefresh(TGGridCell& cell)
+std::string WindowGrid::TakeText()
 {
-    Write("colours", cell);
-    TGGrid::OnBeforeRefresh(cell);
+    std::string text;
+    for (const std::string& line : TakeLog())
+        text += (text.empty() ? "" : " | ") + line;
+    return text;
 }
 
-bool WindowGrid::OnRefresh(TGGridCell& cell)
+bool WindowGrid::Note(const samples::HookCall& call) const
 {
-    Write("cell", cell);
-    return TGGrid::OnRefresh(cell);
+    if (Records(call))
+        log.push_back(LineOf(call));
+    // A copy, because the action may replace itself.
+    if (const auto found = actions.find(call.hook); found != actions.end())
+    {
+        const auto act = found->second;
+        act();
+    }
+    return vetoes.count(call.hook) == 0;
 }
 
-bool WindowGrid::OnRefresh(TGGridRow& row)
+bool WindowGrid::Records(const samples::HookCall& call) const
 {
-    if (recording)
-        log.push_back("row " + std::to_string(row.GetIndex()));
-    return TGGrid::OnRefresh(row);
+    return recording && call.group == samples::HookGroup::Paint;
 }
 
-void WindowGrid::Write(const char* what, const TGGridCell& cell)
+bool IsPaintLine(const std::string& line)
 {
-    if (recording)
-        log.push_back(std::string(what) + " " + std::to_string(cell.GetRowIndex()) + "," +
-                      std::to_string(cell.GetColIndex()));
+    return line.starts_with("OnRefresh ") || line.starts_with("OnBeforeRefresh ");
+}
+
+std::string FirstText(TGGridRow& row)
+{
+    return CStringA(row[0].GetText()).GetString();
 }
 
 void GridWindowTest::Create(WindowGrid& grid, int width, int height, DWORD style)

@@ -1,13 +1,16 @@
 // A grid in a host window for tests of what is laid out, painted and hit.
 #pragma once
 
-#include "grid/TGGrid.h"
+#include "samples/recording/HookRecorder.h"
 #include "tests/support/HostWindow.h"
 #include "tests/support/Pump.h"
 #include "tests/support/Snapshot.h"
 
 #include <gtest/gtest.h>
 
+#include <functional>
+#include <map>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -18,12 +21,19 @@ inline const COLORREF lineColour = RGB(168, 168, 168);
 inline const COLORREF white = RGB(255, 255, 255);
 inline const COLORREF black = RGB(0, 0, 0);
 
-// Opens the grid's protected operations and writes down the painting hooks: "row 3", "cell 3,1", "colours
-// 3,1".
-class WindowGrid : public QuorUiCtr::TGGrid
+// Opens the grid's protected operations and writes down its hooks, one line per call: the name, then what it
+// is about by its indices, the text, of a parent its first text: "OnRefresh row 3", "OnModified 1,2 text",
+// "OnBeforeInsertChild p 0", "OnCurChanged 3,-1", "OnEndPaste". An action runs after its line was written.
+// A hook of a vetoed name runs no default and answers false.
+class WindowGrid : public samples::HookRecorder<QuorUiCtr::TGGrid>
 {
 public:
-    explicit WindowGrid(bool tree = false, long columnWidth = 100) : TGGrid(tree, columnWidth) {}
+    explicit WindowGrid(bool tree = false, long columnWidth = 100) : HookRecorder(tree, columnWidth) {}
+
+    std::set<std::string, std::less<>> vetoes;
+    std::map<std::string, std::function<void()>, std::less<>> actions;
+    // Writes the hooks of painting.
+    bool recording = false;
 
     using TGGrid::ClearDC;
     using TGGrid::GetClientRect;
@@ -44,19 +54,22 @@ public:
     int HScroll() { return GetScrollPos(SB_HORZ); }
 
     std::vector<std::string> TakeLog();
-
-    bool recording = false;
+    // The log as one text, lines joined by " | ", and empties it.
+    std::string TakeText();
 
 protected:
-    void OnBeforeRefresh(QuorUiCtr::TGGridCell& cell) override;
-    bool OnRefresh(QuorUiCtr::TGGridCell& cell) override;
-    bool OnRefresh(QuorUiCtr::TGGridRow& row) override;
-
-    std::vector<std::string> log;
+    bool Note(const samples::HookCall& call) const override;
+    // The call is written into the log.
+    virtual bool Records(const samples::HookCall& call) const;
 
 private:
-    void Write(const char* what, const QuorUiCtr::TGGridCell& cell);
+    mutable std::vector<std::string> log;
 };
+
+// The line only tells of painting.
+bool IsPaintLine(const std::string& line);
+// The first text of a row, as bytes.
+std::string FirstText(QuorUiCtr::TGGridRow& row);
 
 // A host window and the grid that the test makes in it. With the font of Create, rows are 20 pixels high.
 class GridWindowTest : public testing::Test

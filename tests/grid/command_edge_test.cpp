@@ -227,7 +227,7 @@ TEST_F(CommandEdges, AppendChildOfAFoldedRow_StaysHiddenAndUnselected)
     EXPECT_TRUE(tree.DoAppendChild());
     EXPECT_EQ(tree.Rows(), "a*() b(c d) e");
     EXPECT_EQ(tree.GetTreeRow(0).GetChild(0).GetIndex(), -1);
-    EXPECT_EQ(tree.TakeText(), "insert child? a 0 | inserted row -1 | changed");
+    EXPECT_EQ(tree.TakeText(), "OnBeforeInsertChild a 0 | OnInsertRow -1 | OnDataChanged");
 }
 
 TEST_F(CommandEdges, AppendedColumn_ComesAfterTheOldSelectionIsGone)
@@ -236,7 +236,7 @@ TEST_F(CommandEdges, AppendedColumn_ComesAfterTheOldSelectionIsGone)
     grid.SetColNum(3);
     grid.SelectCols({1});
     std::string told;
-    grid.actions["cur"] = [&] { told += std::to_string(grid.GetColNum()) + " "; };
+    grid.actions["OnCurChanged"] = [&] { told += std::to_string(grid.GetColNum()) + " "; };
     grid.DoAppendCol();
     EXPECT_EQ(told, "3 4 ");
 }
@@ -301,7 +301,7 @@ TEST_F(CommandEdges, TreeCommands_HandAPreparedTreeToTheHook)
              {&TGGrid::DoInsertRow, &TGGrid::DoInsertTree, &TGGrid::DoInsertTreeAfter, &TGGrid::DoAppendTree})
         {
             grid.SelectRows({selected});
-            grid.vetoes = {"insert row?", "insert child?"};
+            grid.vetoes = {"OnBeforeInsertRow", "OnBeforeInsertChild"};
             EXPECT_FALSE((grid.*command)());
         }
     EXPECT_EQ(grid.prepared, "none tree tree tree none tree tree tree ");
@@ -334,7 +334,7 @@ TEST_F(CommandEdges, Delete_KeepsRowsThatMayNotBeDeleted)
     EXPECT_TRUE(plain.IsSelDelUnable());
     EXPECT_TRUE(plain.DoDelete());
     EXPECT_EQ(plain.Rows(), "b c d");
-    EXPECT_EQ(plain.TakeText(), "delete row? | deleted row | changed");
+    EXPECT_EQ(plain.TakeText(), "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged");
 }
 
 TEST_F(CommandEdges, DeleteOfNothingButProtectedRows_EmptiesTheSelectionAndRunsTheHooks)
@@ -343,14 +343,14 @@ TEST_F(CommandEdges, DeleteOfNothingButProtectedRows_EmptiesTheSelectionAndRunsT
     plain.SelectRows({1});
     EXPECT_TRUE(plain.DoDelete());
     EXPECT_EQ(plain.Rows(), "a b c d");
-    EXPECT_EQ(plain.TakeText(), "delete row? | deleted row | changed");
+    EXPECT_EQ(plain.TakeText(), "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged");
 }
 
 TEST_F(CommandEdges, VetoedDelete_LeavesTheFilteredSelection)
 {
     plain.GetRow(1).SetDelUnable(true);
     plain.SelectRows({0, 1, 2});
-    plain.vetoes = {"delete row?"};
+    plain.vetoes = {"OnBeforeDeleteRow"};
     EXPECT_FALSE(plain.DoDelete());
     EXPECT_EQ(plain.Rows(), "a* b c* d");
     EXPECT_FALSE(plain.IsSelDelUnable());
@@ -370,7 +370,7 @@ TEST_F(CommandEdges, NothingSelected_IsNeverProtected)
 TEST_F(CommandEdges, DeleteWithRowsAndColumnsSelected_TakesTheRows)
 {
     plain.SelectCols({1});
-    plain.actions["delete col?"] = [&] { FAIL() << "columns were to stay"; };
+    plain.actions["OnBeforeDeleteCol"] = [&] { FAIL() << "columns were to stay"; };
     plain.SelectRows({1});
     EXPECT_TRUE(plain.DoDelete());
     EXPECT_EQ(plain.Cols(), "A B C");

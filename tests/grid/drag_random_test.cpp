@@ -80,7 +80,7 @@ protected:
     // At most one of the hooks of a drag, or none.
     std::string SomeVeto()
     {
-        static const char* const hooks[] = {"drag row?", "over row", "drop row", "", "", ""};
+        static const char* const hooks[] = {"OnBeginMoveRow", "OnMovingRow", "OnMoveRow", "", "", ""};
         return hooks[Below(6)];
     }
 
@@ -221,7 +221,8 @@ TEST_F(RandomDrags, WithHooksThatChangeTheRows_KeepTheGridConsistent)
     constexpr unsigned Seed = 99;
     SCOPED_TRACE(Seed);
     random.seed(Seed);
-    static const char* const hooks[] = {"drag row?", "over row", "drop row", "moved row", "changed", "cur"};
+    static const char* const hooks[] = {"OnBeginMoveRow", "OnMovingRow",   "OnMoveRow",
+                                        "OnEndMoveRow",   "OnDataChanged", "OnCurChanged"};
     for (int step = 0; step < 120; ++step)
     {
         CountedData::alive = 0;

@@ -21,7 +21,8 @@ TEST_F(HeaderDrags, SelectedRows_MoveBeforeTheRowTheyAreDroppedOn)
     grid.SelectRows({2, 3});
     DragRow(grid, 3, 6);
     EXPECT_EQ(grid.Rows(), "a b e f c* d* g h");
-    EXPECT_EQ(grid.TakeText(), "drag row? | over row 6 | drop row 6 | over row 6 | moved row | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnBeginMoveRow | OnMovingRow 6 | OnMoveRow 6 | OnMovingRow 6 | OnEndMoveRow | OnDataChanged");
     EXPECT_EQ(::GetFocus(), grid.m_hWnd);
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_TRUE(ShowsNoTrace(grid));
@@ -58,7 +59,7 @@ TEST_F(HeaderDrags, DroppedOnTheRowItStartedFrom_ChangesNothing)
     Move(RowHeader(grid), RowBox(grid, 2));
     Release(RowHeader(grid), RowBox(grid, 2));
     EXPECT_EQ(grid.Rows(), "a b c* d");
-    EXPECT_EQ(grid.TakeText(), "drag row? | over row 0");
+    EXPECT_EQ(grid.TakeText(), "OnBeginMoveRow | OnMovingRow 0");
     EXPECT_TRUE(ShowsNoTrace(grid));
 }
 
@@ -72,8 +73,10 @@ TEST_F(HeaderDrags, DroppedRows_TellOfTheChangedSelectionOnceMoreThanCutOnes)
     grid.TakeLog();
     grid.logsCurrent = true;
     Release(RowHeader(grid), RowBox(grid, 5));
-    EXPECT_EQ(grid.TakeText(), "drop row 5 | over row 5 | cur -1,-1 | cur -1,-1 | cur -1,-1 | cur -1,-1 | "
-                               "cur -1,-1 | cur 3,-1 | cur -1,-1 | moved row | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnMoveRow 5 | OnMovingRow 5 | OnCurChanged -1,-1 | OnCurChanged -1,-1 | OnCurChanged -1,-1 | "
+              "OnCurChanged -1,-1 | "
+              "OnCurChanged -1,-1 | OnCurChanged 3,-1 | OnCurChanged -1,-1 | OnEndMoveRow | OnDataChanged");
 }
 
 TEST_F(HeaderDrags, RowDrag_LeavesTheRowBufferAlone)
@@ -148,18 +151,18 @@ TEST_F(HeaderDrags, RowHooks_RefuseTheDragThePositionAndTheDrop)
     CommandGrid grid;
     Make(grid, "abcd");
     grid.SelectRows({1});
-    grid.vetoes = {"drag row?"};
+    grid.vetoes = {"OnBeginMoveRow"};
     DragRow(grid, 1, 3);
-    EXPECT_EQ(grid.TakeText(), "drag row?");
-    grid.vetoes = {"over row"};
+    EXPECT_EQ(grid.TakeText(), "OnBeginMoveRow");
+    grid.vetoes = {"OnMovingRow"};
     Press(RowHeader(grid), RowBox(grid, 1));
     Move(RowHeader(grid), RowBox(grid, 3));
     EXPECT_FALSE(HasDropMark(grid, 3));
     Release(RowHeader(grid), RowBox(grid, 3));
-    EXPECT_EQ(grid.TakeText(), "drag row? | over row 3 | drop row 3 | over row 3");
-    grid.vetoes = {"drop row"};
+    EXPECT_EQ(grid.TakeText(), "OnBeginMoveRow | OnMovingRow 3 | OnMoveRow 3 | OnMovingRow 3");
+    grid.vetoes = {"OnMoveRow"};
     DragRow(grid, 1, 3);
-    EXPECT_EQ(grid.TakeText(), "drag row? | over row 3 | drop row 3");
+    EXPECT_EQ(grid.TakeText(), "OnBeginMoveRow | OnMovingRow 3 | OnMoveRow 3");
     EXPECT_EQ(grid.Rows(), "a b* c d");
     EXPECT_TRUE(ShowsNoTrace(grid));
 }
@@ -216,7 +219,7 @@ TEST_F(HeaderDrags, RowDragAtTheEdges_ScrollsByFivePixels)
     // The logical origin lies one pixel above the data area: the last pixel belongs to the next row.
     Move(RowHeader(grid), CPoint(10, 199));
     EXPECT_EQ(grid.VScroll(), 0);
-    EXPECT_EQ(grid.TakeText(), "drag row? | over row 10");
+    EXPECT_EQ(grid.TakeText(), "OnBeginMoveRow | OnMovingRow 10");
     for (int i = 1; i <= 4; ++i)
     {
         Move(RowHeader(grid), CPoint(10, 200));
@@ -286,7 +289,7 @@ TEST_F(HeaderDrags, LostCapture_CancelsARowDrag)
 
 TEST_F(HeaderDrags, RowsThatAHookDeletes_AreNotDropped)
 {
-    for (const char* hook : {"drag row?", "over row", "drop row"})
+    for (const char* hook : {"OnBeginMoveRow", "OnMovingRow", "OnMoveRow"})
         for (const long left : {0L, 1L, 2L})
         {
             CommandGrid grid;
@@ -305,7 +308,7 @@ TEST_F(HeaderDrags, RowsThatAHookDeletes_AreNotDropped)
 
 TEST_F(HeaderDrags, WindowThatAHookCloses_EndsTheDrag)
 {
-    for (const char* hook : {"drag row?", "over row", "drop row", "moved row", "changed"})
+    for (const char* hook : {"OnBeginMoveRow", "OnMovingRow", "OnMoveRow", "OnEndMoveRow", "OnDataChanged"})
     {
         CommandGrid grid;
         Make(grid, "abcd");
@@ -349,10 +352,11 @@ TEST_F(HeaderDrags, SelectedColumns_MoveBeforeTheColumnTheyAreDroppedOn)
     // On the column behind the last selected one nothing moves.
     DragCol(grid, 2, ColBox(grid, 4));
     EXPECT_EQ(grid.Cols(), "A B C* D* E F");
-    EXPECT_EQ(grid.TakeText(), "drag col? | over col 4 | drop col 4 | over col 4");
+    EXPECT_EQ(grid.TakeText(), "OnBeginMoveCol | OnMovingCol 4 | OnMoveCol 4 | OnMovingCol 4");
     DragCol(grid, 2, ColBox(grid, 6));
     EXPECT_EQ(grid.Cols(), "A B E F C* D*");
-    EXPECT_EQ(grid.TakeText(), "drag col? | over col 6 | drop col 6 | over col 6 | moved col | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnBeginMoveCol | OnMovingCol 6 | OnMoveCol 6 | OnMovingCol 6 | OnEndMoveCol | OnDataChanged");
     DragCol(grid, 5, ColBox(grid, 1));
     EXPECT_EQ(grid.Cols(), "A C* D* B E F");
     EXPECT_EQ(grid.GetCell(0, 1).GetText(), L"c0");
@@ -382,9 +386,10 @@ TEST_F(HeaderDrags, ColumnHooks_RefuseTheDragThePositionAndTheDrop)
     CommandGrid grid;
     Make(grid, "ab");
     grid.SelectCols({1});
-    for (const auto& [veto, log] : {std::pair<std::string, std::string>("drag col?", "drag col?"),
-                                    {"over col", "drag col? | over col 4 | drop col 4 | over col 4"},
-                                    {"drop col", "drag col? | over col 4 | drop col 4"}})
+    for (const auto& [veto, log] :
+         {std::pair<std::string, std::string>("OnBeginMoveCol", "OnBeginMoveCol"),
+          {"OnMovingCol", "OnBeginMoveCol | OnMovingCol 4 | OnMoveCol 4 | OnMovingCol 4"},
+          {"OnMoveCol", "OnBeginMoveCol | OnMovingCol 4 | OnMoveCol 4"}})
     {
         grid.vetoes = {veto};
         DragCol(grid, 1, ColBox(grid, 4));
@@ -551,7 +556,7 @@ TEST_F(HeaderDrags, LostCapture_CancelsColumnDrags)
 
 TEST_F(HeaderDrags, ColumnsThatAHookDeletes_AreNotDropped)
 {
-    for (const char* hook : {"drag col?", "over col", "drop col"})
+    for (const char* hook : {"OnBeginMoveCol", "OnMovingCol", "OnMoveCol"})
         for (const long left : {0L, 1L, 2L})
         {
             CommandGrid grid;

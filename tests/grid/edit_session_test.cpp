@@ -19,7 +19,8 @@ TEST_F(EditSessionTest, BeginEdit_RunsTheHooksInTheirOrder)
     EditGrid grid;
     Make(grid);
     grid.BeginEditCell(1, 2);
-    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,2 | editor 1,2 | cur 1,2");
+    EXPECT_EQ(grid.TakeText(),
+              "OnCurChanged -1,-1 | OnBeforeEdit 1,2 | OnGetCellEdit 1,2 | OnCurChanged 1,2");
     EXPECT_TRUE(grid.IsEditing());
     long row = -1;
     long col = -1;
@@ -61,7 +62,7 @@ TEST_F(EditSessionTest, ReadOnlyInAnyWay_RefusesTheEdit)
     grid.SetReadOnly(true);
     grid.BeginEditCell(2, 2);
     EXPECT_FALSE(grid.IsEditing());
-    EXPECT_EQ(grid.TakeText().find("before"), std::string::npos);
+    EXPECT_EQ(grid.TakeText().find("OnBeforeEdit"), std::string::npos);
 }
 
 TEST_F(EditSessionTest, EndEdit_OfAModifiedText_StoresItBetweenModifiedAndChanged)
@@ -72,7 +73,8 @@ TEST_F(EditSessionTest, EndEdit_OfAModifiedText_StoresItBetweenModifiedAndChange
     grid.Enter(L"new");
     grid.TakeText();
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeText(), "modified 1,1 new | cell 1,1 | colours 1,1 | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnModified 1,1 new | OnRefresh cell 1,1 | OnBeforeRefresh 1,1 | OnDataChanged");
     EXPECT_EQ(TextOf(grid, 1, 1), L"new");
     EXPECT_FALSE(grid.IsEditing());
     EXPECT_TRUE(grid.IsModified());
@@ -97,7 +99,8 @@ TEST_F(EditSessionTest, TheModifiedMarkAloneDecides_NotTheText)
     grid.Enter(TextOf(grid, 1, 1));
     grid.TakeText();
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeText(), "modified 1,1 1,1 | cell 1,1 | colours 1,1 | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnModified 1,1 1,1 | OnRefresh cell 1,1 | OnBeforeRefresh 1,1 | OnDataChanged");
 }
 
 TEST_F(EditSessionTest, OnModified_MayChangeOrRefuseTheText)
@@ -118,7 +121,7 @@ TEST_F(EditSessionTest, OnModified_MayChangeOrRefuseTheText)
     grid.TakeText();
     grid.EndEditCell();
     EXPECT_EQ(TextOf(grid, 0, 0), L"a!");
-    EXPECT_EQ(grid.TakeText(), "modified 0,0 b");
+    EXPECT_EQ(grid.TakeText(), "OnModified 0,0 b");
 }
 
 TEST_F(EditSessionTest, CancelEdit_StoresNothingAndCallsNoHook)
@@ -143,8 +146,8 @@ TEST_F(EditSessionTest, TheNewRowLine_BecomesOneRowThatHoldsTheText)
     grid.Enter(L"fresh");
     grid.TakeText();
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeText(),
-              "modified 3,1 fresh | insert? 3 | inserted 3 | cell 3,1 | colours 3,1 | changed");
+    EXPECT_EQ(grid.TakeText(), "OnModified 3,1 fresh | OnBeforeInsertRow 3 | OnInsertRow 3 | OnRefresh cell "
+                               "3,1 | OnBeforeRefresh 3,1 | OnDataChanged");
     ASSERT_EQ(grid.GetRowNum(), 4);
     EXPECT_EQ(TextOf(grid, 3, 1), L"fresh");
     EXPECT_EQ(grid.GetRow(3).GetIndex(), 3);
@@ -205,7 +208,8 @@ TEST_F(EditSessionTest, CommitNewRow_AddsTheNewRowWithoutAnEditor)
         return false;
     };
     grid.BeginEditCell(3, 0);
-    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 3,0 | insert? 3 | inserted 3 | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnCurChanged -1,-1 | OnBeforeEdit 3,0 | OnBeforeInsertRow 3 | OnInsertRow 3 | OnDataChanged");
     EXPECT_FALSE(grid.IsEditing());
     EXPECT_EQ(grid.GetRowNum(), 4);
 }
@@ -219,7 +223,7 @@ TEST_F(EditSessionTest, CommitNewRow_OnAnOrdinaryRow_DoesNothing)
         return false;
     };
     grid.BeginEditCell(1, 0);
-    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,0");
+    EXPECT_EQ(grid.TakeText(), "OnCurChanged -1,-1 | OnBeforeEdit 1,0");
     EXPECT_EQ(grid.GetRowNum(), 3);
 }
 
@@ -237,7 +241,7 @@ TEST_F(EditSessionTest, CommitNewRow_RefusedByOnBeforeInsertRow_LeavesAFreshLine
         return false;
     };
     grid.BeginEditCell(3, 0);
-    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 3,0 | insert? 3");
+    EXPECT_EQ(grid.TakeText(), "OnCurChanged -1,-1 | OnBeforeEdit 3,0 | OnBeforeInsertRow 3");
     EXPECT_EQ(grid.GetRowNum(), 3);
     grid.beforeEdit = nullptr;
     grid.BeginEditCell(3, 0);
@@ -287,7 +291,8 @@ TEST_F(EditSessionTest, OnBeforeEditRefusing_HasClearedTheSelectionAndCommittedT
     grid.beforeEdit = [](TGGridCell&, bool&) { return false; };
     grid.TakeText();
     grid.BeginEditCell(1, 1);
-    EXPECT_EQ(grid.TakeEditText(), "cur 0,0 | modified 0,0 typed | changed | before 1,1");
+    EXPECT_EQ(grid.TakeEditText(),
+              "OnCurChanged 0,0 | OnModified 0,0 typed | OnDataChanged | OnBeforeEdit 1,1");
     EXPECT_FALSE(grid.IsEditing());
     EXPECT_EQ(TextOf(grid, 0, 0), L"typed");
 }
@@ -300,11 +305,15 @@ TEST_F(EditSessionTest, EditorsOfEveryKind_AreFilledBetweenTheirMakingAndOnCurCh
     grid.GetCol(1).SetRightSpin(true);
     grid.GetCol(2).SetRightButton(true);
     grid.BeginEditCell(0, 0);
-    EXPECT_EQ(grid.TakeEditText(), "cur -1,-1 | before 0,0 | editor 0,0 | strings 0,0 | cur 0,0");
+    EXPECT_EQ(grid.TakeEditText(), "OnCurChanged -1,-1 | OnBeforeEdit 0,0 | OnGetCellEdit 0,0 | "
+                                   "OnCellComboString 0,0 | OnCurChanged 0,0");
     grid.BeginEditCell(0, 1);
-    EXPECT_EQ(grid.TakeEditText(), "cur 0,0 | before 0,1 | editor 0,1 | spin 0,1 | cur 0,1");
+    EXPECT_EQ(
+        grid.TakeEditText(),
+        "OnCurChanged 0,0 | OnBeforeEdit 0,1 | OnGetCellEdit 0,1 | OnCellSpinInit 0,1 | OnCurChanged 0,1");
     grid.BeginEditCell(0, 2);
-    EXPECT_EQ(grid.TakeEditText(), "cur 0,1 | before 0,2 | editor 0,2 | cur 0,2");
+    EXPECT_EQ(grid.TakeEditText(),
+              "OnCurChanged 0,1 | OnBeforeEdit 0,2 | OnGetCellEdit 0,2 | OnCurChanged 0,2");
 }
 
 TEST_F(EditSessionTest, EndInsideACommit_HasNoEffect)
@@ -321,7 +330,7 @@ TEST_F(EditSessionTest, EndInsideACommit_HasNoEffect)
     grid.Enter(L"once");
     grid.TakeText();
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeEditText(), "modified 1,1 once | changed");
+    EXPECT_EQ(grid.TakeEditText(), "OnModified 1,1 once | OnDataChanged");
     EXPECT_FALSE(grid.IsEditing());
     // The guard is lifted again.
     grid.BeginEditCell(1, 2);
@@ -342,8 +351,8 @@ TEST_F(EditSessionTest, EditorOpenedInsideACommit_IsClosedWithIt)
     grid.Enter(L"text");
     grid.TakeText();
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeEditText(),
-              "modified 1,1 text | changed | cur 1,1 | before 2,2 | editor 2,2 | cur 2,2");
+    EXPECT_EQ(grid.TakeEditText(), "OnModified 1,1 text | OnDataChanged | OnCurChanged 1,1 | OnBeforeEdit "
+                                   "2,2 | OnGetCellEdit 2,2 | OnCurChanged 2,2");
     EXPECT_FALSE(grid.IsEditing());
     EXPECT_FALSE(grid.EditorWindow()->IsWindowVisible());
     EXPECT_EQ(TextOf(grid, 1, 1), L"text");
@@ -358,7 +367,7 @@ TEST_F(EditSessionTest, CellsThatAreNotThere_AreNotEdited)
         grid.BeginEditCell(row, col);
         EXPECT_FALSE(grid.IsEditing()) << row << "," << col;
     }
-    EXPECT_EQ(grid.TakeEditText().find("before"), std::string::npos);
+    EXPECT_EQ(grid.TakeEditText().find("OnBeforeEdit"), std::string::npos);
 }
 
 TEST_F(EditSessionTest, WithoutAWindow_NothingHappens)
@@ -413,7 +422,7 @@ TEST_F(EditSessionTest, WithoutAnEditor_TheGridStaysIdle)
     grid.makeEditor = [](TGGridCell&) -> TGCellCtrl* { return nullptr; };
     grid.BeginEditCell(1, 1);
     EXPECT_FALSE(grid.IsEditing());
-    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,1 | editor 1,1");
+    EXPECT_EQ(grid.TakeText(), "OnCurChanged -1,-1 | OnBeforeEdit 1,1 | OnGetCellEdit 1,1");
 }
 
 TEST_F(EditSessionTest, EditorsOfFinishedSessions_AreDestroyed)

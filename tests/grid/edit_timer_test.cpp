@@ -86,7 +86,8 @@ TEST_F(EditTimer, AutoEditOfNothing_ReopensTheCellUnderEdit)
     grid.AutoEditCell(nullptr);
     EXPECT_TRUE(grid.IsCellLocking());
     ASSERT_TRUE(WaitForTimer(grid, OpenTimer));
-    EXPECT_NE(grid.TakeText().find("before 1,1 | editor 1,1 | cur 1,1"), std::string::npos);
+    EXPECT_NE(grid.TakeText().find("OnBeforeEdit 1,1 | OnGetCellEdit 1,1 | OnCurChanged 1,1"),
+              std::string::npos);
     EXPECT_TRUE(grid.IsEditing());
 }
 

@@ -237,7 +237,7 @@ TEST_F(EditorFocus, PressedButton_HandsTheEditorsTextToTheHookAndGivesTheFocusBa
     grid.editor->SetModified(false);
     grid.EditorPart()->SetFocus();
     grid.EditorPart()->SendMessage(BM_CLICK);
-    EXPECT_EQ(grid.TakeText(), "button 1,1 typed");
+    EXPECT_EQ(grid.TakeText(), "OnCellButtonDown 1,1 typed");
     EXPECT_EQ(CWnd::GetFocus(), grid.EditorWindow());
     EXPECT_FALSE(grid.editor->IsModified());
     EXPECT_TRUE(grid.IsEditing());

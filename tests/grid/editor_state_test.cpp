@@ -126,7 +126,9 @@ TEST_F(EditorState, Spin_CountsFromZeroToOneHundredThousandByDefault)
     EXPECT_EQ(lower, 0);
     EXPECT_EQ(upper, 100000);
     EXPECT_EQ(SpinPosition(grid), 42);
-    EXPECT_EQ(grid.TakeText(), "cur -1,-1 | before 1,1 | editor 1,1 | spin 1,1 | cur 1,1");
+    EXPECT_EQ(
+        grid.TakeText(),
+        "OnCurChanged -1,-1 | OnBeforeEdit 1,1 | OnGetCellEdit 1,1 | OnCellSpinInit 1,1 | OnCurChanged 1,1");
 }
 
 TEST_F(EditorState, TextThatIsNoNumber_GivesZeroOrTheLowerBound)
@@ -306,12 +308,13 @@ TEST_F(EditorState, ChoosingAnItem_WritesItIntoTheCellAtOnceAndCommitsItAgainAtT
     OpenCombo(grid, false, L"Fig");
     Choose(grid, 4);
     // Once: the combo box has taken the notification, the grid's own handler does not see it.
-    EXPECT_EQ(grid.TakeText(), "sel 1,1 | changed");
+    EXPECT_EQ(grid.TakeText(), "OnCmbSelchange 1,1 | OnDataChanged");
     EXPECT_EQ(TextOf(grid, 1, 1), L"Grape");
     EXPECT_TRUE(grid.IsEditing());
     EXPECT_TRUE(grid.editor->IsModified());
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeText(), "modified 1,1 Grape | cell 1,1 | colours 1,1 | changed");
+    EXPECT_EQ(grid.TakeText(),
+              "OnModified 1,1 Grape | OnRefresh cell 1,1 | OnBeforeRefresh 1,1 | OnDataChanged");
 }
 
 TEST_F(EditorState, ChosenItem_StaysWhenTheCommitIsRefused)
@@ -333,7 +336,7 @@ TEST_F(EditorState, TypingIntoACombo_MarksTheChangeAndAsksNoHook)
     EXPECT_TRUE(grid.editor->IsModified());
     EXPECT_EQ(grid.TakeEditText(), "");
     grid.EndEditCell();
-    EXPECT_EQ(grid.TakeText().substr(0, 14), "modified 1,1 x");
+    EXPECT_EQ(grid.TakeText().substr(0, 16), "OnModified 1,1 x");
 }
 
 TEST_F(EditorState, AfterSelChange_FollowsTheHooks)
@@ -357,7 +360,7 @@ TEST_F(EditorState, AfterSelChange_FollowsTheHooks)
     };
     OpenCombo(grid, false, L"Fig");
     Choose(grid, 0);
-    EXPECT_EQ(atThatTime, "sel 1,1 | changed");
+    EXPECT_EQ(atThatTime, "OnCmbSelchange 1,1 | OnDataChanged");
 }
 
 TEST_F(EditorState, ForeignCombo_HasItsNotificationsHandledByTheGrid)
@@ -391,7 +394,7 @@ TEST_F(EditorState, ForeignCombo_HasItsNotificationsHandledByTheGrid)
     grid.BeginEditCell(1, 1);
     grid.TakeText();
     Choose(grid, 1);
-    EXPECT_EQ(grid.TakeText(), "sel 1,1 | changed");
+    EXPECT_EQ(grid.TakeText(), "OnCmbSelchange 1,1 | OnDataChanged");
     EXPECT_EQ(TextOf(grid, 1, 1), L"second");
     Combo(grid).SetWindowText(L"typed");
     grid.TakeText();
@@ -399,7 +402,7 @@ TEST_F(EditorState, ForeignCombo_HasItsNotificationsHandledByTheGrid)
     grid.SendMessage(WM_COMMAND, MAKEWPARAM(101, CBN_EDITCHANGE),
                      reinterpret_cast<LPARAM>(Combo(grid).m_hWnd));
     // The answer of OnModified is not used: the change is reported all the same.
-    EXPECT_EQ(grid.TakeText(), "editchange 1,1 | modified 1,1 typed | changed");
+    EXPECT_EQ(grid.TakeText(), "OnCmbEditchange 1,1 | OnModified 1,1 typed | OnDataChanged");
     EXPECT_EQ(TextOf(grid, 1, 1), L"second");
 }
 

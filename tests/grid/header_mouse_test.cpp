@@ -106,7 +106,7 @@ TEST_F(HeaderClicks, NewRowBox_AppendsARowAndSelectsNothing)
     grid.SelectRows({1});
     Press(RowHeader(grid), RowBox(grid, 8));
     EXPECT_EQ(::GetCapture(), nullptr);
-    EXPECT_EQ(grid.TakeText(), "insert row? 8 | inserted row 8 | changed");
+    EXPECT_EQ(grid.TakeText(), "OnBeforeInsertRow 8 | OnInsertRow 8 | OnDataChanged");
     EXPECT_EQ(grid.Rows(), "a b c d e f g h ");
     Release(RowHeader(grid), RowBox(grid, 8));
     EXPECT_EQ(::GetFocus(), grid.m_hWnd);
@@ -161,7 +161,7 @@ TEST_F(HeaderClicks, NewRowBoxDuringItsEdit_ScrollsToTheNextNewRowLine)
 TEST_F(HeaderClicks, DoubleClickOnARow_ReachesTheHook)
 {
     SendMouse(RowHeader(grid), WM_LBUTTONDBLCLK, RowBox(grid, 2), MK_LBUTTON);
-    EXPECT_EQ(grid.TakeText(), "double click 2");
+    EXPECT_EQ(grid.TakeText(), "OnDblClick 2");
     SendMouse(RowHeader(grid), WM_LBUTTONDBLCLK, RowBox(grid, 8), MK_LBUTTON);
     EXPECT_EQ(grid.TakeText(), "");
 }
@@ -173,7 +173,7 @@ TEST_F(HeaderClicks, RightClickOnARow_SelectsItUnlessItIsSelected)
     EXPECT_EQ(grid.Rows(), "a b* c d e f* g h");
     SendMouse(RowHeader(grid), WM_RBUTTONUP, RowBox(grid, 2));
     EXPECT_EQ(grid.Rows(), "a b c* d e f g h");
-    EXPECT_EQ(grid.TakeText(), "right click row 5 | right click row 2");
+    EXPECT_EQ(grid.TakeText(), "OnRClickRow 5 | OnRClickRow 2");
     SendMouse(RowHeader(grid), WM_RBUTTONUP, RowBox(grid, 8));
     EXPECT_EQ(grid.TakeText(), "");
     EXPECT_EQ(::GetFocus(), grid.m_hWnd);
@@ -181,7 +181,7 @@ TEST_F(HeaderClicks, RightClickOnARow_SelectsItUnlessItIsSelected)
 
 TEST_F(HeaderClicks, RightClick_SurvivesAHookThatDeletesTheRow)
 {
-    grid.actions["cur"] = [&] {
+    grid.actions["OnCurChanged"] = [&] {
         grid.actions.clear();
         grid.SetRowNum(1);
     };
@@ -217,7 +217,8 @@ TEST_F(HeaderClicks, ClosingTheWindowInAHook_EndsEveryClick)
                 closing.actions.clear();
                 closing.DestroyWindow();
             };
-            closing.actions = {{"cur", close}, {"changed", close}, {"insert row?", close}};
+            closing.actions = {
+                {"OnCurChanged", close}, {"OnDataChanged", close}, {"OnBeforeInsertRow", close}};
             act(closing);
             // A column's edge alone runs no hook.
             if (&act == &acts[2] && !edited)
@@ -280,7 +281,7 @@ TEST_F(HeaderClicks, RightClickOnAColumn_SelectsItUnlessItIsSelected)
     SendMouse(ColHeader(grid), WM_RBUTTONUP, ColBox(grid, 0));
     EXPECT_EQ(grid.Cols(), "A* B C D E F");
     SendMouse(ColHeader(grid), WM_RBUTTONUP, ColBox(grid, 6));
-    EXPECT_EQ(grid.TakeText(), "right click col 3 | right click col 0");
+    EXPECT_EQ(grid.TakeText(), "OnRClickCol 3 | OnRClickCol 0");
 }
 
 TEST_F(HeaderClicks, DoubleClickOnAColumn_DoesNothing)
@@ -324,7 +325,7 @@ TEST_F(HeaderClicks, Corner_ShowsTheFocusOfTheGridAndItsEditors)
 TEST_F(HeaderClicks, RightClickOnTheCorner_ReachesTheHook)
 {
     SendMouse(Quad(grid), WM_RBUTTONUP, CPoint(5, 5));
-    EXPECT_EQ(grid.TakeText(), "right click corner");
+    EXPECT_EQ(grid.TakeText(), "OnRClickQuad");
     EXPECT_EQ(::GetFocus(), grid.m_hWnd);
 }
 

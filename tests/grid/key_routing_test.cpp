@@ -231,15 +231,15 @@ protected:
 TEST_F(MenuCommands, AreRunByTheGrid)
 {
     const std::pair<UINT, const char*> commands[] = {
-        {1, "insert row? 1 | inserted row 1 | changed"},
-        {2, "delete row? | deleted row | changed"},
-        {3, "insert row? 3 | inserted row 3 | changed"},
+        {1, "OnBeforeInsertRow 1 | OnInsertRow 1 | OnDataChanged"},
+        {2, "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged"},
+        {3, "OnBeforeInsertRow 3 | OnInsertRow 3 | OnDataChanged"},
         {4, ""},
-        {5, "copy? | copied"},
-        {6, "cut? | cut | changed"},
-        {7, "paste? 1 | pasted | changed"},
-        {9, "delete row? | deleted row | changed"},
-        {10, "insert col? 2 | inserted col 2 | changed"},
+        {5, "OnBeforeCopy | OnEndCopy"},
+        {6, "OnBeforeClip | OnEndClip | OnDataChanged"},
+        {7, "OnBeforePaste 1 | OnEndPaste | OnDataChanged"},
+        {9, "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged"},
+        {10, "OnBeforeInsertCol 2 | OnInsertCol 2 | OnDataChanged"},
     };
     for (const auto& [id, log] : commands)
     {
@@ -259,7 +259,7 @@ TEST_F(MenuCommands, AreRunByTheGrid)
     Make(grid, "abc", 2);
     grid.SelectCols({1});
     EXPECT_TRUE(Send(grid, 8));
-    EXPECT_EQ(grid.TakeText(), "insert col? 1 | inserted col 1 | changed");
+    EXPECT_EQ(grid.TakeText(), "OnBeforeInsertCol 1 | OnInsertCol 1 | OnDataChanged");
 }
 
 TEST_F(MenuCommands, OfOtherIdentifiersCodesAndWindows_PassOn)

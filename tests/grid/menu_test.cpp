@@ -145,12 +145,12 @@ TEST_F(ContextMenus, OfCells_DoNotExist)
 {
     const CPoint inCell = grid.ToClient(60, 50);
     EXPECT_EQ(MenuAt(grid, inCell), L"none");
-    EXPECT_EQ(grid.TakeText(), "right click cell 2,1");
+    EXPECT_EQ(grid.TakeText(), "OnRClickCell 2,1");
 }
 
 TEST_F(ContextMenus, AreNotShownForARowThatAHookDeletes)
 {
-    grid.actions["cur"] = [&] {
+    grid.actions["OnCurChanged"] = [&] {
         if (grid.IsRowSelected())
         {
             grid.actions.clear();

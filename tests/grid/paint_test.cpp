@@ -317,13 +317,13 @@ TEST_F(GridPainting, Paint_AsksTheVisibleRowsOnly)
     std::vector<std::string> rows;
     for (const std::string& line : grid.TakeLog())
     {
-        if (line.compare(0, 3, "row") == 0)
+        if (line.starts_with("OnRefresh row"))
             rows.push_back(line);
     }
     // Logical 211 to 491: rows 10 to 24.
     ASSERT_EQ(15u, rows.size());
-    EXPECT_EQ("row 10", rows.front());
-    EXPECT_EQ("row 24", rows.back());
+    EXPECT_EQ("OnRefresh row 10", rows.front());
+    EXPECT_EQ("OnRefresh row 24", rows.back());
 }
 
 TEST_F(GridPainting, Paint_AsksForEveryCellInOrder)
@@ -332,8 +332,10 @@ TEST_F(GridPainting, Paint_AsksForEveryCellInOrder)
     grid.UpdateWindow();
     grid.recording = true;
     grid.Refresh();
-    const std::vector<std::string> expected{"row 0", "cell 0,0", "colours 0,0", "cell 0,1", "colours 0,1",
-                                            "row 1", "cell 1,0", "colours 1,0", "cell 1,1", "colours 1,1"};
+    const std::vector<std::string> expected{
+        "OnRefresh row 0",     "OnRefresh cell 0,0", "OnBeforeRefresh 0,0", "OnRefresh cell 0,1",
+        "OnBeforeRefresh 0,1", "OnRefresh row 1",    "OnRefresh cell 1,0",  "OnBeforeRefresh 1,0",
+        "OnRefresh cell 1,1",  "OnBeforeRefresh 1,1"};
     EXPECT_EQ(expected, grid.TakeLog());
 }
 
@@ -344,7 +346,8 @@ TEST_F(GridPainting, HiddenNewRowLine_IsNotAsked)
     grid.UpdateWindow();
     grid.recording = true;
     grid.Refresh();
-    EXPECT_EQ((std::vector<std::string>{"row 0", "cell 0,0", "colours 0,0"}), grid.TakeLog());
+    EXPECT_EQ((std::vector<std::string>{"OnRefresh row 0", "OnRefresh cell 0,0", "OnBeforeRefresh 0,0"}),
+              grid.TakeLog());
 }
 
 TEST_F(GridPainting, Paint_LeavesTheRowCursorAlone)

@@ -40,7 +40,7 @@ TEST_F(Paste, CopyInAReadOnlyGrid_FillsTheBufferThatPasteLeavesAlone)
     plain.UnSelect();
     EXPECT_FALSE(plain.DoPaste());
     EXPECT_EQ(plain.Buffer(), "b d");
-    EXPECT_EQ(plain.TakeText(), "copy? | copied");
+    EXPECT_EQ(plain.TakeText(), "OnBeforeCopy | OnEndCopy");
 }
 
 TEST_F(Paste, CutRows_KeepTheirOrderOnTheWay)
@@ -101,7 +101,7 @@ TEST_F(Paste, RefusedCopy_KeepsTheBuffer)
 {
     plain.SelectRows({0, 1});
     plain.DoCopy();
-    plain.vetoes = {"copy?"};
+    plain.vetoes = {"OnBeforeCopy"};
     plain.SelectRows({4});
     EXPECT_FALSE(plain.DoCopy());
     EXPECT_EQ(plain.Buffer(), "a b");
@@ -113,17 +113,19 @@ TEST_F(Paste, CutRows_TellOfTheChangedSelectionEachTime)
     plain.SelectRows({1, 2});
     plain.logsCurrent = true;
     plain.DoClip();
-    EXPECT_EQ(plain.TakeText(), "cut? | cur -1,-1 | cur -1,-1 | cur -1,-1 | cur -1,-1 | cut | changed");
+    EXPECT_EQ(plain.TakeText(), "OnBeforeClip | OnCurChanged -1,-1 | OnCurChanged -1,-1 | OnCurChanged -1,-1 "
+                                "| OnCurChanged -1,-1 | OnEndClip | OnDataChanged");
     tree.SelectRows({0, 4});
     tree.logsCurrent = true;
     tree.DoClip();
-    EXPECT_EQ(tree.TakeText(), "cut? | cur -1,-1 | cur -1,-1 | cut | changed");
+    EXPECT_EQ(tree.TakeText(),
+              "OnBeforeClip | OnCurChanged -1,-1 | OnCurChanged -1,-1 | OnEndClip | OnDataChanged");
 }
 
 TEST_F(Paste, RowsThatAHookSelectsDuringACut_StaySelected)
 {
     plain.SelectRows({1, 2});
-    plain.actions["cur"] = [&] {
+    plain.actions["OnCurChanged"] = [&] {
         plain.actions.clear();
         plain.SelectRow(3, true);
         plain.SelectRow(2, true);
@@ -255,13 +257,13 @@ TEST_F(Paste, HooksSeeValidIndicesAtEveryStep)
                 EXPECT_LT(grid.GetSelRow(k).GetIndex(), grid.GetRowNum());
         };
     };
-    plain.actions["cur"] = check(plain);
+    plain.actions["OnCurChanged"] = check(plain);
     plain.SelectRows({1, 2, 4});
     plain.DoClip();
     plain.SelectRows({0});
     plain.DoPaste();
     EXPECT_EQ(plain.Rows(), "b* c* e* a d f");
-    tree.actions["cur"] = check(tree);
+    tree.actions["OnCurChanged"] = check(tree);
     tree.SelectRows({2, 3});
     tree.DoClip();
     tree.SelectRows({1});

@@ -80,7 +80,7 @@ TEST_F(GridEditInput, ClickedItemOfAList_IsInTheCellAtOnce)
     EXPECT_TRUE(grid.IsEditing());
     grid.TakeText();
     user.ClickBelowRows();
-    EXPECT_EQ(grid.TakeEditText().substr(0, 12), "modified 1,4");
+    EXPECT_EQ(grid.TakeEditText().substr(0, 14), "OnModified 1,4");
     EXPECT_STREQ(grid.GetCell(1, List).GetText(), L"无花果 fig");
 }
 
@@ -202,7 +202,7 @@ TEST_F(GridEditInput, NewRowLine_BecomesARowWithTheTypedText)
     user.ClickCell(0, Plain);
     ASSERT_EQ(grid.GetRowNum(), 4);
     EXPECT_STREQ(grid.GetCell(3, Plain).GetText(), L"新行 new");
-    EXPECT_EQ(grid.TakeEditText().substr(0, 12), "modified 3,0");
+    EXPECT_EQ(grid.TakeEditText().substr(0, 14), "OnModified 3,0");
     // The next line stands below.
     user.ClickCell(4, List);
     user.ChooseItem(0);

@@ -74,7 +74,7 @@ TEST_F(HeaderInput, DoubleClicks_ReachTheRowHookAndSelectAllInTheCorner)
     CommandGrid grid;
     Start(grid);
     DoubleClick(RowHeader(grid), RowBox(grid, 3));
-    EXPECT_EQ(grid.TakeText(), "double click 3");
+    EXPECT_EQ(grid.TakeText(), "OnDblClick 3");
     EXPECT_EQ(grid.Rows(), "a b c d* e f g h");
     DoubleClick(Quad(grid), CPoint(8, 8));
     EXPECT_EQ(grid.GetRowSelNum(), 8);
@@ -98,9 +98,11 @@ TEST_F(HeaderInput, RowDrag_MovesTheSelectedRows)
     ClickRow(grid, 3, Modifiers::Control);
     DragPath(RowHeader(grid), {RowBox(grid, 3), RowBox(grid, 4), RowBox(grid, 5), RowBox(grid, 6)});
     EXPECT_EQ(grid.Rows(), "a b e f c* d* g h");
-    EXPECT_EQ(grid.TakeText(), "drag row? | over row 4 | over row 5 | over row 6 | over row 6 | drop row 6 | "
-                               "over row 6 | moved row | "
-                               "changed");
+    EXPECT_EQ(
+        grid.TakeText(),
+        "OnBeginMoveRow | OnMovingRow 4 | OnMovingRow 5 | OnMovingRow 6 | OnMovingRow 6 | OnMoveRow 6 | "
+        "OnMovingRow 6 | OnEndMoveRow | "
+        "OnDataChanged");
     EXPECT_EQ(::GetCapture(), nullptr);
     EXPECT_TRUE(ShowsNoTrace(grid));
 }
@@ -172,14 +174,14 @@ TEST_F(MenuInput, RowMenu_RunsItsCommands)
     const auto choose = [&](long row, UINT id) {
         return Choose(grid, RowHeader(grid), RowBox(grid, row), id);
     };
-    EXPECT_EQ(choose(2, 1), "insert row? 2 | inserted row 2 | changed");
+    EXPECT_EQ(choose(2, 1), "OnBeforeInsertRow 2 | OnInsertRow 2 | OnDataChanged");
     EXPECT_EQ(grid.Rows(), "a b * c d e f g h");
-    EXPECT_EQ(choose(2, 2), "delete row? | deleted row | changed");
-    EXPECT_EQ(choose(2, 3), "insert row? 8 | inserted row 8 | changed");
-    EXPECT_EQ(choose(0, 5), "copy? | copied");
-    EXPECT_EQ(choose(3, 7), "paste? 3 | pasted | changed");
+    EXPECT_EQ(choose(2, 2), "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged");
+    EXPECT_EQ(choose(2, 3), "OnBeforeInsertRow 8 | OnInsertRow 8 | OnDataChanged");
+    EXPECT_EQ(choose(0, 5), "OnBeforeCopy | OnEndCopy");
+    EXPECT_EQ(choose(3, 7), "OnBeforePaste 3 | OnEndPaste | OnDataChanged");
     EXPECT_EQ(grid.Rows(), "a b c a* d e f g h ");
-    EXPECT_EQ(choose(1, 6), "cut? | cut | changed");
+    EXPECT_EQ(choose(1, 6), "OnBeforeClip | OnEndClip | OnDataChanged");
     EXPECT_EQ(grid.Rows(), "a c a d e f g h ");
 }
 
@@ -191,10 +193,10 @@ TEST_F(MenuInput, ColumnMenu_RunsItsCommands)
     const auto choose = [&](long col, UINT id) {
         return Choose(grid, ColHeader(grid), ColBox(grid, col), id);
     };
-    EXPECT_EQ(choose(2, 9), "delete col? | deleted col | changed");
+    EXPECT_EQ(choose(2, 9), "OnBeforeDeleteCol | OnEndDeleteCol | OnDataChanged");
     EXPECT_EQ(grid.Cols(), "A B D E F");
-    EXPECT_EQ(choose(1, 8), "insert col? 1 | inserted col 1 | changed");
-    EXPECT_EQ(choose(0, 10), "insert col? 6 | inserted col 6 | changed");
+    EXPECT_EQ(choose(1, 8), "OnBeforeInsertCol 1 | OnInsertCol 1 | OnDataChanged");
+    EXPECT_EQ(choose(0, 10), "OnBeforeInsertCol 6 | OnInsertCol 6 | OnDataChanged");
 }
 
 TEST_F(MenuInput, CornerMenu_RunsItsCommands)
@@ -205,10 +207,10 @@ TEST_F(MenuInput, CornerMenu_RunsItsCommands)
     const auto choose = [&](UINT id) { return Choose(grid, Quad(grid), CPoint(8, 8), id); };
     EXPECT_EQ(choose(4), "");
     EXPECT_EQ(grid.GetRowSelNum(), 8);
-    EXPECT_EQ(choose(5), "copy? | copied");
-    EXPECT_EQ(choose(2), "delete row? | deleted row | changed");
+    EXPECT_EQ(choose(5), "OnBeforeCopy | OnEndCopy");
+    EXPECT_EQ(choose(2), "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged");
     EXPECT_EQ(grid.Rows(), "");
-    EXPECT_EQ(choose(7), "paste? 0 | pasted | changed");
+    EXPECT_EQ(choose(7), "OnBeforePaste 0 | OnEndPaste | OnDataChanged");
     EXPECT_EQ(grid.Rows(), "h* g* f* e* d* c* b* a*");
 }
 

@@ -37,21 +37,24 @@ TEST_F(KeyInput, KeysOfAPlainGrid_OneAfterTheOther)
     CommandGrid grid;
     Start(grid, "cab");
     grid.AppendKey(0);
-    EXPECT_EQ(After(grid, 'R'), "changed / a b c / A B C / -");
-    EXPECT_EQ(After(grid, 'U'), "changed / c b a / A B C / -");
+    EXPECT_EQ(After(grid, 'R'), "OnDataChanged / a b c / A B C / -");
+    EXPECT_EQ(After(grid, 'U'), "OnDataChanged / c b a / A B C / -");
     EXPECT_EQ(After(grid, 'A'), " / c* b* a* / A B C / -");
     EXPECT_EQ(After(grid, VK_ESCAPE), " / c b a / A B C / -");
     grid.SelectRows({0});
     EXPECT_EQ(After(grid, VK_DOWN), " / c b* a / A B C / -");
     EXPECT_EQ(After(grid, VK_UP), " / c* b a / A B C / -");
-    EXPECT_EQ(After(grid, 'C'), "copy? | copied / c* b a / A B C / -");
-    EXPECT_EQ(After(grid, 'V'), "paste? 0 | pasted | changed / c* c b a / A B C / -");
-    EXPECT_EQ(After(grid, 'X'), "cut? | cut | changed / c b a / A B C / -");
-    EXPECT_EQ(After(grid, 'V'), "paste? 3 | pasted | changed / c b a c* / A B C / -");
-    EXPECT_EQ(After(grid, VK_DELETE), "delete row? | deleted row | changed / c b a / A B C / -");
-    EXPECT_EQ(After(grid, 'N'), "insert row? 3 | inserted row 3 | changed / c b a * / A B C / -");
-    EXPECT_EQ(After(grid, VK_INSERT), "insert row? 3 | inserted row 3 | changed / c b a *  / A B C / -");
-    EXPECT_EQ(After(grid, 'N'), "insert row? 4 | inserted row 4 | changed / c b a  *  / A B C / -");
+    EXPECT_EQ(After(grid, 'C'), "OnBeforeCopy | OnEndCopy / c* b a / A B C / -");
+    EXPECT_EQ(After(grid, 'V'), "OnBeforePaste 0 | OnEndPaste | OnDataChanged / c* c b a / A B C / -");
+    EXPECT_EQ(After(grid, 'X'), "OnBeforeClip | OnEndClip | OnDataChanged / c b a / A B C / -");
+    EXPECT_EQ(After(grid, 'V'), "OnBeforePaste 3 | OnEndPaste | OnDataChanged / c b a c* / A B C / -");
+    EXPECT_EQ(After(grid, VK_DELETE),
+              "OnBeforeDeleteRow | OnEndDeleteRow | OnDataChanged / c b a / A B C / -");
+    EXPECT_EQ(After(grid, 'N'), "OnBeforeInsertRow 3 | OnInsertRow 3 | OnDataChanged / c b a * / A B C / -");
+    EXPECT_EQ(After(grid, VK_INSERT),
+              "OnBeforeInsertRow 3 | OnInsertRow 3 | OnDataChanged / c b a *  / A B C / -");
+    EXPECT_EQ(After(grid, 'N'),
+              "OnBeforeInsertRow 4 | OnInsertRow 4 | OnDataChanged / c b a  *  / A B C / -");
     EXPECT_EQ(After(grid, VK_RETURN), " / c b a    / A B C / 4,0");
     EXPECT_EQ(After(grid, VK_TAB), " / c b a    / A B C / 4,1");
     EXPECT_EQ(After(grid, VK_RIGHT), " / c b a    / A B C / 4,2");
@@ -62,9 +65,12 @@ TEST_F(KeyInput, KeysOfAPlainGrid_OneAfterTheOther)
     grid.SelectCols({1});
     EXPECT_EQ(After(grid, VK_RIGHT), " / c b a    / A B C* / -");
     EXPECT_EQ(After(grid, VK_LEFT), " / c b a    / A B* C / -");
-    EXPECT_EQ(After(grid, VK_INSERT), "insert col? 1 | inserted col 1 | changed / c b a    / A * B C / -");
-    EXPECT_EQ(After(grid, 'N'), "insert col? 2 | inserted col 2 | changed / c b a    / A  * B C / -");
-    EXPECT_EQ(After(grid, VK_DELETE), "delete col? | deleted col | changed / c b a    / A  B C / -");
+    EXPECT_EQ(After(grid, VK_INSERT),
+              "OnBeforeInsertCol 1 | OnInsertCol 1 | OnDataChanged / c b a    / A * B C / -");
+    EXPECT_EQ(After(grid, 'N'),
+              "OnBeforeInsertCol 2 | OnInsertCol 2 | OnDataChanged / c b a    / A  * B C / -");
+    EXPECT_EQ(After(grid, VK_DELETE),
+              "OnBeforeDeleteCol | OnEndDeleteCol | OnDataChanged / c b a    / A  B C / -");
     EXPECT_EQ(After(grid, VK_TAB), " / c b a    / A  B C / -");
     EXPECT_EQ(::GetFocus(), host.m_hWnd);
 }
@@ -74,18 +80,20 @@ TEST_F(KeyInput, KeysOfATreeGrid)
     CommandGrid grid(true);
     Start(grid, "ab");
     grid.SelectRows({1});
-    EXPECT_EQ(After(grid, 'T'), "insert child? b 0 | inserted row -1 | changed / a b*() / A B C / -");
+    EXPECT_EQ(After(grid, 'T'),
+              "OnBeforeInsertChild b 0 | OnInsertRow -1 | OnDataChanged / a b*() / A B C / -");
     EXPECT_EQ(After(grid, VK_INSERT, Modifiers::Control),
-              "insert row? 1 | inserted row 1 | changed / a *() b() / A B C / -");
+              "OnBeforeInsertRow 1 | OnInsertRow 1 | OnDataChanged / a *() b() / A B C / -");
     EXPECT_EQ(After(grid, 'N', Modifiers::Control),
-              "insert row? 2 | inserted row 2 | changed / a () *() b() / A B C / -");
-    EXPECT_EQ(After(grid, 'X', Modifiers::Control), "cut? | cut | changed / a () b() / A B C / -");
+              "OnBeforeInsertRow 2 | OnInsertRow 2 | OnDataChanged / a () *() b() / A B C / -");
+    EXPECT_EQ(After(grid, 'X', Modifiers::Control),
+              "OnBeforeClip | OnEndClip | OnDataChanged / a () b() / A B C / -");
     grid.SelectRows({0});
     EXPECT_EQ(After(grid, 'V', Modifiers::Control),
-              "paste child? a | pasted | changed / a(*()) () b() / A B C / -");
+              "OnBeforePasteChild a | OnEndPaste | OnDataChanged / a(*()) () b() / A B C / -");
     grid.UnSelect();
     EXPECT_EQ(After(grid, 'N', Modifiers::Control),
-              "insert row? 4 | inserted row 4 | changed / a(()) () b() () / A B C / -");
+              "OnBeforeInsertRow 4 | OnInsertRow 4 | OnDataChanged / a(()) () b() () / A B C / -");
 }
 
 TEST_F(KeyInput, PageKeysAndHome_Scroll)

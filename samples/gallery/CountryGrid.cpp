@@ -3,7 +3,6 @@
 
 #include "GridFill.h"
 #include "Language.h"
-#include "LogPane.h"
 
 #include <utility>
 
@@ -48,7 +47,7 @@ BEGIN_MESSAGE_MAP(CountryGrid, QuorUiCtr::TGTreeGrid)
 END_MESSAGE_MAP()
 
 CountryGrid::CountryGrid(LogPane& logPane, std::function<void()> whenChanged)
-    : TGTreeGrid(true), log(logPane), changed(std::move(whenChanged))
+    : HookRecorder(true), log(logPane), changed(std::move(whenChanged))
 {
 }
 
@@ -99,17 +98,28 @@ std::vector<CountryGrid::TGGridTreeRow*> CountryGrid::Roots()
 
 // ---- Editing ----------------------------------------------------------------------------------------------
 
-// The rule is the tree grid's; applying it is the host's choice.
-bool CountryGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
+bool CountryGrid::Note(const samples::HookCall& call) const
 {
+    if (call.Is("OnDataChanged"))
+        log.Add(Tr(L"OnDataChanged  only sets IsModified(), the parent is not told"));
+    else
+        log.Add(call);
+    return true;
+}
+
+// The rule is the tree grid's; applying it is the host's choice.
+bool CountryGrid::OnBeforeEdit(Cell& cell, bool& commitNewRow)
+{
+    const bool goesOn = HookRecorder::OnBeforeEdit(cell, commitNewRow);
     if (OnBeforeEdit(cell))
-        return TGTreeGrid::OnBeforeEdit(cell, commitNewRow);
+        return goesOn;
     log.Add(Tr(L"OnBeforeEdit  refused: only the name of a group can be changed"));
     return false;
 }
 
-bool CountryGrid::OnModified(TGGridCell& cell, CString& text)
+bool CountryGrid::OnModified(Cell& cell, CString& text)
 {
+    HookRecorder::OnModified(cell, text);
     if (cell.GetColIndex() != NumberColumn || text == cell.GetText() || IsRightLabel(text))
         return true;
     CString line;
@@ -120,14 +130,13 @@ bool CountryGrid::OnModified(TGGridCell& cell, CString& text)
 
 void CountryGrid::OnDataChanged()
 {
-    TGTreeGrid::OnDataChanged();
-    log.Add(Tr(L"OnDataChanged  only sets IsModified(), the parent is not told"));
+    HookRecorder::OnDataChanged();
     changed();
 }
 
 // ---- Numbers ----------------------------------------------------------------------------------------------
 
-void CountryGrid::AddNumbers(TGGridRow& row, Numbers& numbers)
+void CountryGrid::AddNumbers(Row& row, Numbers& numbers)
 {
     if (!row.IsParentRow())
     {
@@ -164,12 +173,13 @@ template <class Repair> void CountryGrid::NoteRepairs(const wchar_t* hook, Repai
 }
 
 // A row that starts as a copy of an item has its number too.
-void CountryGrid::OnInsertRow(TGGridRow& row)
+void CountryGrid::OnInsertRow(Row& row)
 {
+    HookRecorder::OnInsertRow(row);
     NoteRepairs(L"OnInsertRow", [&] { NumberNewItems(row); });
 }
 
-void CountryGrid::NumberNewItems(TGGridRow& row)
+void CountryGrid::NumberNewItems(Row& row)
 {
     Numbers items;
     AddNumbers(row, items);
@@ -179,22 +189,22 @@ void CountryGrid::NumberNewItems(TGGridRow& row)
 
 void CountryGrid::OnEndDeleteRow()
 {
-    NoteRepairs(L"OnEndDeleteRow", [&] { TGTreeGrid::OnEndDeleteRow(); });
+    NoteRepairs(L"OnEndDeleteRow", [&] { HookRecorder::OnEndDeleteRow(); });
 }
 
 void CountryGrid::OnEndClip()
 {
-    NoteRepairs(L"OnEndClip", [&] { TGTreeGrid::OnEndClip(); });
+    NoteRepairs(L"OnEndClip", [&] { HookRecorder::OnEndClip(); });
 }
 
 void CountryGrid::OnEndPaste()
 {
-    NoteRepairs(L"OnEndPaste", [&] { TGTreeGrid::OnEndPaste(); });
+    NoteRepairs(L"OnEndPaste", [&] { HookRecorder::OnEndPaste(); });
 }
 
 void CountryGrid::OnEndMoveRow()
 {
-    NoteRepairs(L"OnEndMoveRow", [&] { TGTreeGrid::OnEndMoveRow(); });
+    NoteRepairs(L"OnEndMoveRow", [&] { HookRecorder::OnEndMoveRow(); });
 }
 
 BOOL CountryGrid::OnMouseWheel(UINT, short delta, CPoint)

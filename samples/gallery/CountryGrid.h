@@ -2,21 +2,20 @@
 #pragma once
 
 #include "CsvReader.h"
+#include "HookLog.h"
 
 #include "grid/TGTreeGrid.h"
+#include "samples/recording/HookRecorder.h"
 
 #include <functional>
 #include <map>
-
-class LogPane;
+#include <vector>
 
 // Gives new items a number of their own, refuses numbers that are in use, and logs every number that was
 // repaired. Column 0 is the label, column 1 the number.
-class CountryGrid : public QuorUiCtr::TGTreeGrid
+class CountryGrid : public samples::HookRecorder<QuorUiCtr::TGTreeGrid>
 {
 public:
-    using TGGridCell = QuorUiCtr::TGGridCell;
-    using TGGridRow = QuorUiCtr::TGGridRow;
     using TGGridTreeRow = QuorUiCtr::TGGridTreeRow;
 
     // `log` outlives the grid; `changed` is called after every change that the user makes.
@@ -29,13 +28,14 @@ public:
     std::vector<TGGridTreeRow*> Roots();
 
 protected:
+    bool Note(const samples::HookCall& call) const override;
     // Only the label of a group can be edited.
-    bool OnBeforeEdit(TGGridCell& cell, bool& commitNewRow) override;
-    using TGTreeGrid::OnBeforeEdit;
+    bool OnBeforeEdit(Cell& cell, bool& commitNewRow) override;
+    using HookRecorder::OnBeforeEdit;
     // Refuses a number that is in use.
-    bool OnModified(TGGridCell& cell, CString& text) override;
+    bool OnModified(Cell& cell, CString& text) override;
     void OnDataChanged() override;
-    void OnInsertRow(TGGridRow& row) override;
+    void OnInsertRow(Row& row) override;
     void OnEndDeleteRow() override;
     void OnEndClip() override;
     void OnEndPaste() override;
@@ -45,15 +45,15 @@ protected:
     afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
 
 private:
-    using Numbers = std::map<TGGridRow*, CString>;
+    using Numbers = std::map<Row*, CString>;
 
     // The numbers of all items.
     Numbers ReadNumbers();
-    static void AddNumbers(TGGridRow& row, Numbers& numbers);
-    void NumberNewItems(TGGridRow& row);
+    static void AddNumbers(Row& row, Numbers& numbers);
+    void NumberNewItems(Row& row);
     // Runs `repair` and logs what it has changed.
     template <class Repair> void NoteRepairs(const wchar_t* hook, Repair repair);
 
-    LogPane& log;
+    mutable HookLog log;
     std::function<void()> changed;
 };

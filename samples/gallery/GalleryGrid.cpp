@@ -1,9 +1,9 @@
-// The editing of the gallery's grids: where combo boxes, spins and buttons get their data from. The hooks
-// that only log are in GalleryGridLog.cpp.
+// The editing of the gallery's grids: where combo boxes, spins and buttons get their data from.
 #include "GalleryGrid.h"
 
 #include "CellTextDialog.h"
 #include "ColumnEditors.h"
+#include "GridFill.h"
 #include "Language.h"
 
 #include <cwchar>
@@ -11,11 +11,11 @@
 namespace
 {
 
-CString Describe(const QuorUiCtr::TGGridCell& cell)
+// A remark, made like CString::Format.
+template <class... Values> CString RemarkText(const wchar_t* format, Values... values)
 {
     CString text;
-    text.Format(L"cell %ld,%ld \"%s\"", cell.GetRowIndex(), cell.GetColIndex(),
-                static_cast<const wchar_t*>(cell.GetText()));
+    text.Format(format, values...);
     return text;
 }
 
@@ -29,19 +29,40 @@ bool IsNumberIn(const CString& text, int lower, int upper)
 
 } // namespace
 
-bool GalleryGrid::OnBeforeEdit(TGGridCell& cell, bool& commitNewRow)
+BEGIN_MESSAGE_MAP(GalleryGrid, QuorUiCtr::TGGrid)
+    ON_WM_PAINT()
+    ON_WM_MOUSEWHEEL()
+END_MESSAGE_MAP()
+
+GalleryGrid::GalleryGrid(bool tree, LogPane& logPane) : HookRecorder(tree), log(logPane) {}
+
+bool GalleryGrid::Note(const samples::HookCall& call) const
 {
-    Note(L"OnBeforeEdit  %s, commitNewRow %d", Describe(cell), commitNewRow);
-    return TGGrid::OnBeforeEdit(cell, commitNewRow);
+    log.Add(call);
+    return true;
 }
 
-QuorUiCtr::TGCellCtrl* GalleryGrid::OnGetCellEdit(TGGridCell& cell)
+void GalleryGrid::OnPaint()
 {
-    Note(L"OnGetCellEdit  %s: %s", Describe(cell), NameOf(EditorOf(cell.GetCol()).kind));
-    return TGGrid::OnGetCellEdit(cell);
+    HookRecorder::OnPaint();
+    log.EndPainting();
 }
 
-void GalleryGrid::OnCellComboString(TGGridCell& cell, CComboBox& combo)
+BOOL GalleryGrid::OnMouseWheel(UINT, short delta, CPoint)
+{
+    ScrollByWheel(*this, delta);
+    return TRUE;
+}
+
+// ---- Editing ----------------------------------------------------------------------------------------------
+
+QuorUiCtr::TGCellCtrl* GalleryGrid::OnGetCellEdit(Cell& cell)
+{
+    log.Remark(L": " + CString(NameOf(EditorOf(cell.GetCol()).kind)));
+    return HookRecorder::OnGetCellEdit(cell);
+}
+
+void GalleryGrid::OnCellComboString(Cell& cell, CComboBox& combo)
 {
     constexpr int MaxItems = 200;
     const long col = cell.GetColIndex();
@@ -51,12 +72,13 @@ void GalleryGrid::OnCellComboString(TGGridCell& cell, CComboBox& combo)
         if (!text.IsEmpty() && combo.FindStringExact(-1, text) == CB_ERR)
             combo.AddString(text);
     }
-    Note(L"OnCellComboString  %s: %d items", Describe(cell), combo.GetCount());
+    log.Remark(RemarkText(L": %d items", combo.GetCount()));
+    HookRecorder::OnCellComboString(cell, combo);
 }
 
-bool GalleryGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
+bool GalleryGrid::OnCellButtonDown(Cell& cell, CString& text)
 {
-    Note(L"OnCellButtonDown  %s, text \"%s\"", Describe(cell), text);
+    HookRecorder::OnCellButtonDown(cell, text);
     CellTextDialog dialog(cell.GetCol().GetName(), text, this);
     if (dialog.DoModal() != IDOK)
         return false;
@@ -64,70 +86,58 @@ bool GalleryGrid::OnCellButtonDown(TGGridCell& cell, CString& text)
     return true;
 }
 
-void GalleryGrid::OnCellSpinInit(TGGridCell& cell, CSpinButtonCtrl& spin)
+void GalleryGrid::OnCellSpinInit(Cell& cell, CSpinButtonCtrl& spin)
 {
     const ColumnEditor& editor = EditorOf(cell.GetCol());
-    Note(L"OnCellSpinInit  %s: %d..%d", Describe(cell), editor.lower, editor.upper);
+    log.Remark(RemarkText(L": %d..%d", editor.lower, editor.upper));
+    HookRecorder::OnCellSpinInit(cell, spin);
     spin.SetRange32(editor.lower, editor.upper);
 }
 
-bool GalleryGrid::OnModified(TGGridCell& cell, CString& text)
+bool GalleryGrid::OnModified(Cell& cell, CString& text)
 {
     const ColumnEditor& editor = EditorOf(cell.GetCol());
     const bool accepted =
         editor.kind != EditorKind::Spin || text.IsEmpty() || IsNumberIn(text, editor.lower, editor.upper);
-    Note(L"OnModified  %s, text \"%s\"%s", Describe(cell), text,
-         accepted ? CString() : CString(L": ") + Tr(L"refused"));
-    return accepted && TGGrid::OnModified(cell, text);
+    if (!accepted)
+        log.Remark(L": " + CString(Tr(L"refused")));
+    return HookRecorder::OnModified(cell, text) && accepted;
 }
 
-void GalleryGrid::OnDataChanged()
+void GalleryGrid::OnCmbSelchange(Cell& cell, CComboBox* combo)
 {
-    AddLine(L"OnDataChanged");
-    TGGrid::OnDataChanged();
+    log.Remark(RemarkText(L", item %d", combo->GetCurSel()));
+    HookRecorder::OnCmbSelchange(cell, combo);
 }
 
-void GalleryGrid::OnCurChanged()
-{
-    TGGrid::OnCurChanged();
-    Note(L"OnCurChanged  row %ld, column %ld", GetCurRowIndex(), GetCurColIndex());
-}
-
-void GalleryGrid::OnCmbSelchange(TGGridCell& cell, CComboBox* combo)
-{
-    Note(L"OnCmbSelchange  %s, item %d", Describe(cell), combo->GetCurSel());
-    TGGrid::OnCmbSelchange(cell, combo);
-}
-
-void GalleryGrid::OnCmbEditchange(TGGridCell& cell, CComboBox* combo)
+void GalleryGrid::OnCmbEditchange(Cell& cell, CComboBox* combo)
 {
     CString text;
     combo->GetWindowText(text);
-    Note(L"OnCmbEditchange  %s, text \"%s\"", Describe(cell), text);
-    TGGrid::OnCmbEditchange(cell, combo);
+    log.Remark(L", text \"" + text + L"\"");
+    HookRecorder::OnCmbEditchange(cell, combo);
 }
 
-// ---- Tips
-// ----------------------------------------------------------------------------------------------------- A tip
-// shows 19 characters.
+// ---- Tips -------------------------------------------------------------------------------------------------
+// A tip shows 19 characters.
 
 bool GalleryGrid::OnCellTip(long row, long col, CString& text) const
 {
-    Note(L"OnCellTip  row %ld, column %ld", row, col);
+    HookRecorder::OnCellTip(row, col, text);
     text.Format(Tr(L"Row %ld, column %ld"), row + 1, col + 1);
     return true;
 }
 
 bool GalleryGrid::OnRowTip(long row, CString& text) const
 {
-    Note(L"OnRowTip  row %ld", row);
+    HookRecorder::OnRowTip(row, text);
     text.Format(Tr(L"Row %ld"), row + 1);
     return true;
 }
 
 bool GalleryGrid::OnColTip(long col, CString& text) const
 {
-    Note(L"OnColTip  column %ld", col);
+    HookRecorder::OnColTip(col, text);
     const EditorKind kind = EditorOf(const_cast<GalleryGrid*>(this)->GetCol(col)).kind;
     text.Format(Tr(L"Column %ld: %s"), col + 1, NameOf(kind));
     return true;
@@ -135,14 +145,14 @@ bool GalleryGrid::OnColTip(long col, CString& text) const
 
 bool GalleryGrid::OnCellButtonTip(long row, long col, CString& text) const
 {
-    Note(L"OnCellButtonTip  row %ld, column %ld", row, col);
+    HookRecorder::OnCellButtonTip(row, col, text);
     text = Tr(L"Edit in a dialog");
     return true;
 }
 
 bool GalleryGrid::OnActiveQuadTip(CString& text) const
 {
-    AddLine(L"OnActiveQuadTip");
+    HookRecorder::OnActiveQuadTip(text);
     text = Tr(L"Double click: all");
     return true;
 }

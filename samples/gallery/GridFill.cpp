@@ -57,36 +57,8 @@ void FillRow(QuorUiCtr::TGGridRow& row, const std::vector<std::wstring>& texts)
         row[static_cast<long>(column)].SetText(OnOneLine(texts[column]));
 }
 
-void SetRoomyFont(QuorUiCtr::TGGrid& grid, CFont& font)
-{
-    CClientDC context(&grid);
-    CFont* previous = context.SelectObject(grid.GetFont());
-    TEXTMETRIC metrics = {};
-    context.GetTextMetrics(&metrics);
-    context.SelectObject(previous);
-    LOGFONT description = {};
-    grid.GetFont()->GetLogFont(&description);
-    description.lfHeight = metrics.tmHeight;
-    font.CreateFontIndirect(&description);
-    grid.SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(font.GetSafeHandle()), TRUE);
-}
-
 void ScrollByWheel(QuorUiCtr::TGGrid& grid, short delta)
 {
     constexpr long RowsPerNotch = 3;
     grid.MoveView(0, static_cast<int>(-delta * RowsPerNotch * grid.GetRowHeight() / WHEEL_DELTA));
-}
-
-void PlaceBelowToolLine(CWnd& page, CWnd& control, CWnd& banner, int width, int height)
-{
-    if (!control.GetSafeHwnd())
-        return;
-    CRect place;
-    control.GetWindowRect(place);
-    page.ScreenToClient(place);
-    control.MoveWindow(0, place.top, width, (std::max)(0, height - static_cast<int>(place.top)));
-    banner.GetWindowRect(place);
-    page.ScreenToClient(place);
-    banner.MoveWindow(place.left, place.top, (std::max)(0, width - static_cast<int>(place.left)),
-                      place.Height());
 }

@@ -30,34 +30,20 @@ constexpr long PictureRow = 4;
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(GridPage, Page)
-    ON_BN_CLICKED(IDC_LOG_PAINTING, &GridPage::OnLogPainting)
+BEGIN_MESSAGE_MAP(GridPage, StyledTablePage)
     ON_BN_CLICKED(IDC_FIT_LAST, &GridPage::OnFitLast)
 END_MESSAGE_MAP()
 
-GridPage::GridPage(LogPane& logPane)
-    : Page(IDD_GRID_PAGE, logPane), grid(false, logPane), styles(grid, logPane)
-{
-    grid.SetFlatButton(true);
-}
+GridPage::GridPage(LogPane& logPane) : StyledTablePage(IDD_GRID_PAGE, logPane, false) {}
 
 CString GridPage::GetTitle() const
 {
     return Tr(L"Grid");
 }
 
-void GridPage::DoDataExchange(CDataExchange* exchange)
-{
-    Page::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_BANNER, banner);
-}
-
 BOOL GridPage::OnInitDialog()
 {
-    Page::OnInitDialog();
-    grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
-    SetRoomyFont(grid, font);
-    styles.CreateIn(*this);
+    StyledTablePage::OnInitDialog();
     OpenFile(ShippedTablePath(L"elements"));
     return TRUE;
 }
@@ -74,7 +60,7 @@ CString GridPage::OpenFile(const CString& path)
     summary.Format(Tr(L"%s: %d rows"), PathFindFileName(path), static_cast<int>(table.rows.size()));
     if (!table.errors.empty())
         summary.AppendFormat(Tr(L", %d lines with errors, see below"), static_cast<int>(table.errors.size()));
-    banner.SetWindowText(summary);
+    SetBanner(summary);
     return CString();
 }
 
@@ -105,16 +91,6 @@ bool GridPage::ShowPictureView(size_t view, CString& nameSuffix)
     if (shown.dropDown && grid.IsEditing())
         CWnd::GetFocus()->SendMessage(CB_SHOWDROPDOWN, TRUE);
     return true;
-}
-
-void GridPage::LayOut(int width, int height)
-{
-    PlaceBelowToolLine(*this, grid, banner, styles.PlaceAtRight(width, height), height);
-}
-
-void GridPage::OnLogPainting()
-{
-    grid.LogPainting(IsDlgButtonChecked(IDC_LOG_PAINTING) != 0);
 }
 
 void GridPage::OnFitLast()

@@ -1,20 +1,16 @@
 // GridPage: the page with a plain grid, showing the chemical elements or a file of the user's.
 #pragma once
 
-#include "GalleryGrid.h"
-#include "GridStylePanel.h"
-#include "Page.h"
 #include "TableFile.h"
+#include "TablePage.h"
 
-class GridPage : public Page
+class GridPage : public StyledTablePage
 {
 public:
     explicit GridPage(LogPane& log);
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"grid"; }
-    CWnd& MainControl() override { return grid; }
-    bool IsChanged() override { return grid.IsModified(); }
     // The page, then an open editor of each kind.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
     bool CanOpenFiles() const override { return true; }
@@ -23,18 +19,10 @@ public:
 
 protected:
     BOOL OnInitDialog() override;
-    void DoDataExchange(CDataExchange* exchange) override;
-    void LayOut(int width, int height) override;
 
     DECLARE_MESSAGE_MAP()
-    afx_msg void OnLogPainting();
     afx_msg void OnFitLast();
 
 private:
     void ShowTable(const gallery::CsvTable& table);
-
-    CFont font;
-    GalleryGrid grid;
-    GridStylePanel styles;
-    CStatic banner;
 };

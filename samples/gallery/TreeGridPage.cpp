@@ -47,7 +47,7 @@ constexpr PageKey PageKeys[] = {
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(TreeGridPage, Page)
+BEGIN_MESSAGE_MAP(TreeGridPage, TablePage)
     ON_COMMAND_RANGE(IDC_TREE_INSERT, IDC_TREE_PASTE_CHILD, &TreeGridPage::OnGridCommand)
     ON_BN_CLICKED(IDC_FOLD_ALL, &TreeGridPage::OnFoldAll)
     ON_BN_CLICKED(IDC_UNFOLD_ALL, &TreeGridPage::OnUnfoldAll)
@@ -59,9 +59,8 @@ BEGIN_MESSAGE_MAP(TreeGridPage, Page)
 END_MESSAGE_MAP()
 
 TreeGridPage::TreeGridPage(LogPane& logPane)
-    : Page(IDD_TREE_GRID_PAGE, logPane), grid(logPane, [this] { OnQuery(); })
+    : TablePage(IDD_TREE_GRID_PAGE, logPane, grid), grid(logPane, [this] { OnQuery(); })
 {
-    grid.SetFlatButton(true);
 }
 
 CString TreeGridPage::GetTitle() const
@@ -69,17 +68,9 @@ CString TreeGridPage::GetTitle() const
     return Tr(L"Tree grid");
 }
 
-void TreeGridPage::DoDataExchange(CDataExchange* exchange)
-{
-    Page::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_BANNER, banner);
-}
-
 BOOL TreeGridPage::OnInitDialog()
 {
-    Page::OnInitDialog();
-    grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
-    SetRoomyFont(grid, font);
+    TablePage::OnInitDialog();
     const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"countries").GetString());
     for (const std::wstring& problem : table.errors)
         Log().Add(problem.c_str());
@@ -112,11 +103,6 @@ bool TreeGridPage::ShowPictureView(size_t view, CString& nameSuffix)
         OnGridCommand(IDC_TREE_PASTE);
     }
     return view < 3;
-}
-
-void TreeGridPage::LayOut(int width, int height)
-{
-    PlaceBelowToolLine(*this, grid, banner, width, height);
 }
 
 // ---- Commands ---------------------------------------------------------------------------------------------
@@ -161,14 +147,14 @@ void TreeGridPage::OnFind()
 
 void TreeGridPage::OnQuery()
 {
-    if (!banner.GetSafeHwnd())
+    if (grid.m_hWnd == nullptr)
         return;
     const int number = _wtoi(TextOf(IDC_TREE_QUERY_NUMBER));
     const CString label = TextOf(IDC_TREE_QUERY_LABEL);
     CString answer;
     answer.Format(L"GetAutoId(%d) = %d; IsRightLabel(\"%s\") = %s", number, grid.GetAutoId(number),
                   label.GetString(), grid.IsRightLabel(label) ? L"true" : L"false");
-    banner.SetWindowText(answer);
+    SetBanner(answer);
 }
 
 // ---- Keys -------------------------------------------------------------------------------------------------
@@ -177,7 +163,7 @@ BOOL TreeGridPage::PreTranslateMessage(MSG* message)
 {
     if (message->message == WM_KEYDOWN && RunKey(static_cast<UINT>(message->wParam)))
         return TRUE;
-    return Page::PreTranslateMessage(message);
+    return TablePage::PreTranslateMessage(message);
 }
 
 // Enter in the search text searches.

@@ -2,24 +2,21 @@
 #pragma once
 
 #include "CountryGrid.h"
-#include "Page.h"
+#include "TablePage.h"
 
-class TreeGridPage : public Page
+class TreeGridPage : public TablePage
 {
 public:
     explicit TreeGridPage(LogPane& log);
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-grid"; }
-    CWnd& MainControl() override { return grid; }
     bool IsChanged() override { return grid.IsModified(); }
     // Unfolded to the third level, then folded, then with a copied item pasted beside itself.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 
 protected:
     BOOL OnInitDialog() override;
-    void DoDataExchange(CDataExchange* exchange) override;
-    void LayOut(int width, int height) override;
     BOOL PreTranslateMessage(MSG* message) override;
 
     DECLARE_MESSAGE_MAP()
@@ -39,7 +36,5 @@ private:
     bool RunKey(UINT key);
     CString TextOf(int id) const;
 
-    CFont font;
     CountryGrid grid;
-    CStatic banner;
 };

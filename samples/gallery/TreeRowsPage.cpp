@@ -32,38 +32,24 @@ void MoveToFront(gallery::CsvTable& table, long column)
 
 } // namespace
 
-BEGIN_MESSAGE_MAP(TreeRowsPage, Page)
-    ON_BN_CLICKED(IDC_LOG_PAINTING, &TreeRowsPage::OnLogPainting)
+BEGIN_MESSAGE_MAP(TreeRowsPage, StyledTablePage)
     ON_BN_CLICKED(IDC_FOLD_ALL, &TreeRowsPage::OnFoldAll)
     ON_BN_CLICKED(IDC_UNFOLD_ALL, &TreeRowsPage::OnUnfoldAll)
 END_MESSAGE_MAP()
 
-TreeRowsPage::TreeRowsPage(LogPane& logPane)
-    : Page(IDD_TREE_ROWS_PAGE, logPane), grid(true, logPane), styles(grid, logPane)
-{
-    grid.SetFlatButton(true);
-}
+TreeRowsPage::TreeRowsPage(LogPane& logPane) : StyledTablePage(IDD_TREE_ROWS_PAGE, logPane, true) {}
 
 CString TreeRowsPage::GetTitle() const
 {
     return Tr(L"Tree rows");
 }
 
-void TreeRowsPage::DoDataExchange(CDataExchange* exchange)
-{
-    Page::DoDataExchange(exchange);
-    DDX_Control(exchange, IDC_BANNER, banner);
-}
-
 BOOL TreeRowsPage::OnInitDialog()
 {
-    Page::OnInitDialog();
-    grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
-    SetRoomyFont(grid, font);
-    styles.CreateIn(*this);
+    StyledTablePage::OnInitDialog();
     const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"elements").GetString());
     if (table.IsRefused())
-        banner.SetWindowText(table.errors.front().c_str());
+        SetBanner(table.errors.front().c_str());
     else
         ShowTable(table);
     return TRUE;
@@ -74,7 +60,7 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     gallery::CsvTable table = source;
     if (table.header.size() <= OuterGroupColumn)
     {
-        banner.SetWindowText(Tr(L"The table lacks the columns of the groups"));
+        SetBanner(Tr(L"The table lacks the columns of the groups"));
         return;
     }
     MoveToFront(table, LabelColumn);
@@ -91,7 +77,7 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     ForEachRoot(&TGGridTreeRow::UnFoldAll);
     CString summary;
     summary.Format(Tr(L"%d elements on three levels"), static_cast<int>(table.rows.size()));
-    banner.SetWindowText(summary);
+    SetBanner(summary);
     grid.SetModify(false);
 }
 
@@ -148,16 +134,6 @@ bool TreeRowsPage::ShowPictureView(size_t view, CString& nameSuffix)
         grid.BeginEditCell(PictureRow, 0);
     }
     return view < 2;
-}
-
-void TreeRowsPage::LayOut(int width, int height)
-{
-    PlaceBelowToolLine(*this, grid, banner, styles.PlaceAtRight(width, height), height);
-}
-
-void TreeRowsPage::OnLogPainting()
-{
-    grid.LogPainting(IsDlgButtonChecked(IDC_LOG_PAINTING) != 0);
 }
 
 void TreeRowsPage::OnFoldAll()

@@ -1,30 +1,23 @@
 // TreeRowsPage: the page with a grid of tree rows: the chemical elements by state and category.
 #pragma once
 
-#include "GalleryGrid.h"
-#include "GridStylePanel.h"
-#include "Page.h"
 #include "TableFile.h"
+#include "TablePage.h"
 
-class TreeRowsPage : public Page
+class TreeRowsPage : public StyledTablePage
 {
 public:
     explicit TreeRowsPage(LogPane& log);
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-rows"; }
-    CWnd& MainControl() override { return grid; }
-    bool IsChanged() override { return grid.IsModified(); }
     // The page, then an editor in the column of the tree.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 
 protected:
     BOOL OnInitDialog() override;
-    void DoDataExchange(CDataExchange* exchange) override;
-    void LayOut(int width, int height) override;
 
     DECLARE_MESSAGE_MAP()
-    afx_msg void OnLogPainting();
     afx_msg void OnFoldAll();
     afx_msg void OnUnfoldAll();
 
@@ -36,9 +29,4 @@ private:
     // The child of `parent` with this label, appended when there is none yet.
     QuorUiCtr::TGGridTreeRow& ChildRow(QuorUiCtr::TGGridTreeRow& parent, const std::wstring& label);
     void ForEachRoot(void (QuorUiCtr::TGGridTreeRow::*operation)());
-
-    CFont font;
-    GalleryGrid grid;
-    GridStylePanel styles;
-    CStatic banner;
 };

@@ -17,7 +17,7 @@ struct FrameworkAccess
     {
         return CWnd::WalkPreTranslateTree(stop, message);
     }
-    static HWND SafeOwner(HWND* top) { return CWnd::GetSafeOwner_(NULL, top); }
+    static HWND SafeOwner(HWND* top) { return CWnd::GetSafeOwner_(nullptr, top); }
     static BOOL IsTopParentActive(const CWnd& window) { return window.IsTopParentActive(); }
 
     static CMenu* PermanentMenu(HMENU menu) { return CMenu::FromHandlePermanent(menu); }

@@ -21,8 +21,8 @@ CPoint CursorPoint()
 FrameBars* DockingBarsOf(const CControlBar& bar)
 {
     CFrameWnd* const site = bar.GetDockingFrame();
-    FrameBars* const bars = site != NULL ? BarAccess::BarsIfAny(*site) : NULL;
-    return bars != NULL && bars->CanDock() && BarAccess::DockStyle(bar) != 0 ? bars : NULL;
+    FrameBars* const bars = site != nullptr ? BarAccess::BarsIfAny(*site) : nullptr;
+    return bars != nullptr && bars->CanDock() && BarAccess::DockStyle(bar) != 0 ? bars : nullptr;
 }
 
 } // namespace
@@ -30,7 +30,7 @@ FrameBars* DockingBarsOf(const CControlBar& bar)
 bool BarDrag::Begin(CControlBar& bar, CPoint clientPoint)
 {
     FrameBars* const bars = DockingBarsOf(bar);
-    if (bars == NULL || bars->drag != NULL || DockBarOf(bar) == NULL)
+    if (bars == nullptr || bars->drag != nullptr || DockBarOf(bar) == nullptr)
         return false;
     bar.ClientToScreen(&clientPoint);
     bars->drag.reset(new BarDrag(bar, *bars, clientPoint));
@@ -52,19 +52,20 @@ BarDrag::~BarDrag()
     if (!m_moves)
         return;
     InvertFrame();
-    ::LockWindowUpdate(NULL);
+    ::LockWindowUpdate(nullptr);
 }
 
 BarDrag* BarDrag::Of(const CControlBar& bar)
 {
     FrameBars* const bars = DockingBarsOf(bar);
-    return bars != NULL && bars->drag != NULL && &bars->drag->m_bar == &bar ? bars->drag.get() : NULL;
+    return bars != nullptr && bars->drag != nullptr && &bars->drag->m_bar == &bar ? bars->drag.get()
+                                                                                  : nullptr;
 }
 
 bool BarDrag::Cancel(CFrameWnd& frame)
 {
     FrameBars* const bars = BarAccess::BarsIfAny(frame);
-    if (bars == NULL || bars->drag == NULL)
+    if (bars == nullptr || bars->drag == nullptr)
         return false;
     const std::unique_ptr<BarDrag> ended = std::move(bars->drag);
     ::ReleaseCapture();
@@ -120,14 +121,14 @@ void BarDrag::Finish()
     if (moved)
     {
         InvertFrame();
-        ::LockWindowUpdate(NULL);
+        ::LockWindowUpdate(nullptr);
         m_moves = false;
     }
     ::ReleaseCapture();
     if (!moved)
         return;
     CFrameWnd& site = *m_bar.GetDockingFrame();
-    if (m_dock != NULL)
+    if (m_dock != nullptr)
         m_bars.DockBarAt(&m_bar, m_dock, &m_rect);
     else
         m_bars.FloatBar(&m_bar, m_rect.TopLeft(), m_align);
@@ -156,7 +157,7 @@ void BarDrag::FindTarget(CPoint cursor)
 {
     // The control key keeps the bar from docking.
     const bool mayDock = ::GetKeyState(VK_CONTROL) >= 0;
-    m_dock = NULL;
+    m_dock = nullptr;
     for (const auto& dock : m_bars.Docks())
     {
         const DWORD align = dock->GetBarStyle() & CBRS_ALIGN_ANY;
@@ -176,7 +177,7 @@ void BarDrag::FindTarget(CPoint cursor)
 void BarDrag::InvertFrame()
 {
     const HWND desktop = ::GetDesktopWindow();
-    const HDC dc = ::GetDCEx(desktop, NULL, DCX_WINDOW | DCX_CACHE | DCX_LOCKWINDOWUPDATE);
+    const HDC dc = ::GetDCEx(desktop, nullptr, DCX_WINDOW | DCX_CACHE | DCX_LOCKWINDOWUPDATE);
     CRect rect(m_rect);
     for (int line = 0; line < 2; ++line)
     {
@@ -189,7 +190,7 @@ void BarDrag::InvertFrame()
 bool BarDrag::Toggle(CControlBar& bar)
 {
     FrameBars* const bars = DockingBarsOf(bar);
-    if (bars == NULL || DockBarOf(bar) == NULL)
+    if (bars == nullptr || DockBarOf(bar) == nullptr)
         return false;
     const BarMemory memory = bars->Memory(&bar);
     CFrameWnd& site = *bar.GetDockingFrame();

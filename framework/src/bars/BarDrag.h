@@ -42,7 +42,7 @@ private:
     CSize m_grip; // from the corner of the bar to the place it is held at
     CSize m_size; // of the bar at the beginning
     bool m_moves = false;
-    DockBar* m_dock = NULL; // where it would go; NULL: it would float
+    DockBar* m_dock = nullptr; // where it would go; NULL: it would float
     DWORD m_align = CBRS_ALIGN_TOP;
     CRect m_rect;
 };

@@ -20,12 +20,12 @@ END_MESSAGE_MAP()
 
 CControlBar::CControlBar()
     : m_bAutoDelete(FALSE),
-      m_pInPlaceOwner(NULL),
+      m_pInPlaceOwner(nullptr),
       m_dwBarStyle(0),
       m_dwDockStyle(0),
       m_nCount(0),
       m_rectBorders(6, 1, 6, 1),
-      m_pDockSite(NULL),
+      m_pDockSite(nullptr),
       m_nShownTool(-1),
       m_nDelayedShow(quorfx::delayNothing),
       m_nMruWidth(32767)
@@ -42,14 +42,14 @@ BOOL CControlBar::CreateBar(LPCTSTR lpszClassName, DWORD dwControlStyle, DWORD d
 {
     m_dwBarStyle = dwStyle & CBRS_ALL;
     const DWORD windowStyle = (dwStyle & ~static_cast<DWORD>(CBRS_ALL)) | dwControlStyle | WS_CHILD;
-    return CWnd::CreateEx(0, lpszClassName, NULL, windowStyle, CRect(0, 0, 0, 0), pParentWnd, nID);
+    return CWnd::CreateEx(0, lpszClassName, nullptr, windowStyle, CRect(0, 0, 0, 0), pParentWnd, nID);
 }
 
 BOOL CControlBar::PreCreateWindow(CREATESTRUCT& cs)
 {
     cs.style |= WS_CLIPSIBLINGS;
-    if (cs.lpszClass == NULL)
-        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW),
+    if (cs.lpszClass == nullptr)
+        cs.lpszClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
                                            reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_BTNFACE + 1)));
     return CWnd::PreCreateWindow(cs);
 }
@@ -72,9 +72,9 @@ int CControlBar::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CControlBar::OnDestroy()
 {
-    if (m_pDockSite != NULL)
+    if (m_pDockSite != nullptr)
         BarAccess::Bars(*m_pDockSite).Remove(this);
-    m_pDockSite = NULL;
+    m_pDockSite = nullptr;
     CWnd::OnDestroy();
 }
 
@@ -98,11 +98,11 @@ void CControlBar::SetBarStyle(DWORD dwStyle)
 {
     const DWORD before = m_dwBarStyle;
     m_dwBarStyle = dwStyle & CBRS_ALL;
-    if (m_hWnd == NULL || m_dwBarStyle == before)
+    if (m_hWnd == nullptr || m_dwBarStyle == before)
         return;
     EnableToolTips((m_dwBarStyle & CBRS_TOOLTIPS) != 0);
     // Borders and gripper may have come or gone.
-    SetWindowPos(NULL, 0, 0, 0, 0,
+    SetWindowPos(nullptr, 0, 0, 0, 0,
                  SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
     Invalidate();
 }
@@ -111,7 +111,7 @@ void CControlBar::EnableDocking(DWORD dwDockStyle)
 {
     ASSERT((dwDockStyle & ~static_cast<DWORD>(CBRS_ALIGN_ANY | CBRS_FLOAT_MULTI)) == 0);
     m_dwDockStyle = dwDockStyle;
-    if (m_pDockSite == NULL)
+    if (m_pDockSite == nullptr)
         m_pDockSite = DYNAMIC_DOWNCAST(CFrameWnd, GetParent());
 }
 
@@ -122,7 +122,7 @@ BOOL CControlBar::IsFloating() const
 
 CFrameWnd* CControlBar::GetDockingFrame() const
 {
-    return m_pDockSite != NULL ? m_pDockSite : GetParentFrame();
+    return m_pDockSite != nullptr ? m_pDockSite : GetParentFrame();
 }
 
 BOOL CControlBar::IsVisible() const
@@ -141,7 +141,7 @@ void CControlBar::SetInPlaceOwner(CWnd* pWnd)
 CFrameWnd* CControlBar::TargetFrame() const
 {
     CFrameWnd* const owner = DYNAMIC_DOWNCAST(CFrameWnd, GetOwner());
-    return owner != NULL ? owner : GetParentFrame();
+    return owner != nullptr ? owner : GetParentFrame();
 }
 
 LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
@@ -155,7 +155,7 @@ LRESULT CControlBar::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
             ShowWindow(shows ? SW_SHOWNA : SW_HIDE);
     }
     CFrameWnd* const target = TargetFrame();
-    if (target != NULL && quorfx::HasVisibleStyle(*this))
+    if (target != nullptr && quorfx::HasVisibleStyle(*this))
         OnUpdateCmdUI(target, static_cast<BOOL>(wParam));
     return 0;
 }
@@ -204,7 +204,7 @@ CRect TakeStrip(DWORD style, CSize size, CRect& room)
 DWORD LayoutMode(DWORD style, const AFX_SIZEPARENTPARAMS& layout)
 {
     DWORD mode = layout.bStretch ? LM_STRETCH : 0;
-    if (layout.hDWP != NULL)
+    if (layout.hDWP != nullptr)
         mode |= LM_COMMIT;
     if (style & CBRS_ORIENT_HORZ)
         return mode | LM_HORZ | LM_HORZDOCK;
@@ -237,8 +237,8 @@ LRESULT CControlBar::OnSizeParent(WPARAM, LPARAM lParam)
     const CRect strip = TakeStrip(m_dwBarStyle, wanted, room);
     layout.rect = room;
     Extend(layout.sizeTotal, IsHorizontal() != FALSE, strip.Size());
-    if (layout.hDWP != NULL)
-        layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, NULL, strip.left, strip.top, strip.Width(),
+    if (layout.hDWP != nullptr)
+        layout.hDWP = ::DeferWindowPos(layout.hDWP, m_hWnd, nullptr, strip.left, strip.top, strip.Width(),
                                        strip.Height(), SWP_NOACTIVATE | SWP_NOZORDER);
     return 0;
 }
@@ -252,7 +252,7 @@ LRESULT CControlBar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
         if (OnWndMsg(message, wParam, lParam, &result))
             return result;
         CWnd* const owner = GetOwner();
-        if (owner != NULL && owner != this)
+        if (owner != nullptr && owner != this)
             return owner->SendMessage(message, wParam, lParam);
         return DefWindowProc(message, wParam, lParam);
     }
@@ -288,7 +288,7 @@ void CControlBar::ShowToolText(const MSG& message)
     case WM_LBUTTONDBLCLK: {
         CPoint point(message.pt);
         ScreenToClient(&point);
-        tool = OnToolHitTest(point, NULL);
+        tool = OnToolHitTest(point, nullptr);
         break;
     }
     case WM_MOUSELEAVE:
@@ -297,7 +297,7 @@ void CControlBar::ShowToolText(const MSG& message)
         return;
     }
     CFrameWnd* const frame = TargetFrame();
-    if (tool == m_nShownTool || frame == NULL)
+    if (tool == m_nShownTool || frame == nullptr)
         return;
     m_nShownTool = tool;
     if (tool == -1)
@@ -312,14 +312,14 @@ void CControlBar::ShowToolText(const MSG& message)
 
 void CControlBar::OnLButtonDown(UINT, CPoint point)
 {
-    if (OnToolHitTest(point, NULL) == -1 && quorfx::BarDrag::Begin(*this, point))
+    if (OnToolHitTest(point, nullptr) == -1 && quorfx::BarDrag::Begin(*this, point))
         return;
     Default();
 }
 
 void CControlBar::OnLButtonDblClk(UINT, CPoint point)
 {
-    if (OnToolHitTest(point, NULL) == -1 && quorfx::BarDrag::Toggle(*this))
+    if (OnToolHitTest(point, nullptr) == -1 && quorfx::BarDrag::Toggle(*this))
         return;
     Default();
 }

@@ -4,7 +4,7 @@
 
 IMPLEMENT_DYNAMIC(CDialogBar, CControlBar)
 
-CDialogBar::CDialogBar() : m_lpszTemplateName(NULL)
+CDialogBar::CDialogBar() : m_lpszTemplateName(nullptr)
 {
     // The template leaves the room around the controls.
     SetBorders(0, 0, 0, 0);
@@ -23,7 +23,7 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, UINT nIDTemplate, UINT nStyle, UINT nI
 BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle, UINT nID)
 {
     const LPCDLGTEMPLATE dialogTemplate = quorfx::FindDialogTemplate(lpszTemplateName);
-    if (dialogTemplate == NULL)
+    if (dialogTemplate == nullptr)
         return FALSE;
     m_dwBarStyle = nStyle & CBRS_ALL;
     m_lpszTemplateName = lpszTemplateName;
@@ -32,7 +32,7 @@ BOOL CDialogBar::Create(CWnd* pParentWnd, LPCTSTR lpszTemplateName, UINT nStyle,
     SetDlgCtrlID(static_cast<int>(nID));
     m_sizeDefault = quorfx::DialogTemplateSize(m_hWnd, dialogTemplate);
     const CSize size = CalcFixedLayout(FALSE, IsHorizontal());
-    SetWindowPos(NULL, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
+    SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE | SWP_SHOWWINDOW);
     return TRUE;
 }
 
@@ -41,7 +41,7 @@ INT_PTR CALLBACK CDialogBar::DialogProc(HWND hWnd, UINT message, WPARAM, LPARAM)
     if (message != WM_INITDIALOG)
         return FALSE;
     CDialogBar* const bar = DYNAMIC_DOWNCAST(CDialogBar, CWnd::FromHandlePermanent(hWnd));
-    if (bar != NULL)
+    if (bar != nullptr)
         bar->ExecuteDlgInit(bar->m_lpszTemplateName);
     // The focus stays where it is.
     return FALSE;
@@ -65,7 +65,7 @@ BOOL CDialogBar::PreTranslateMessage(MSG* pMsg)
     if (!isKey)
         return FALSE;
     // Accelerators come first: IsDialogMessage would take their keys.
-    for (CFrameWnd* frame = GetDockingFrame(); frame != NULL; frame = frame->GetParentFrame())
+    for (CFrameWnd* frame = GetDockingFrame(); frame != nullptr; frame = frame->GetParentFrame())
     {
         if (frame->PreTranslateMessage(pMsg))
             return TRUE;

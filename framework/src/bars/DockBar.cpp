@@ -19,7 +19,7 @@ BOOL DockBar::Create(CFrameWnd& frame, UINT id, DWORD align)
 {
     SetBorders(0, 0, 0, 0);
     BarAccess::Style(*this) = align;
-    return CWnd::CreateEx(0, NULL, NULL, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
+    return CWnd::CreateEx(0, nullptr, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS | WS_CLIPCHILDREN,
                           CRect(0, 0, 0, 0), &frame, id);
 }
 
@@ -91,7 +91,7 @@ void DockBar::PutBack(CControlBar* bar, const DockPlace& place)
 
 void DockBar::Insert(CControlBar* bar, LPCRECT screenRect)
 {
-    if (screenRect == NULL)
+    if (screenRect == nullptr)
     {
         InsertAt(bar, m_rows.size(), 0);
         return;
@@ -158,7 +158,7 @@ void DockBar::PlaceBars(int length)
                 for (DockSlot& own : row.slots)
                     if (own.bar == slot.bar)
                         own.place = slot.place;
-            slot.bar->SetWindowPos(NULL, slot.place.left, slot.place.top, slot.place.Width(),
+            slot.bar->SetWindowPos(nullptr, slot.place.left, slot.place.top, slot.place.Width(),
                                    slot.place.Height(), SWP_NOZORDER | SWP_NOACTIVATE);
         }
     }
@@ -169,7 +169,7 @@ LRESULT DockBar::OnSizeParent(WPARAM wParam, LPARAM lParam)
     const AFX_SIZEPARENTPARAMS& layout = *reinterpret_cast<AFX_SIZEPARENTPARAMS*>(lParam);
     const CRect room(layout.rect);
     BarAccess::SizeParent(*this, wParam, lParam);
-    if (layout.hDWP != NULL)
+    if (layout.hDWP != nullptr)
         PlaceBars(BarAccess::IsHorizontal(*this) ? room.Width() : room.Height());
     return 0;
 }
@@ -177,7 +177,7 @@ LRESULT DockBar::OnSizeParent(WPARAM wParam, LPARAM lParam)
 DockBar* DockBarOf(const CControlBar& bar)
 {
     DockBar* const parent = DYNAMIC_DOWNCAST(DockBar, bar.GetParent());
-    return parent != NULL && parent->Holds(&bar) ? parent : NULL;
+    return parent != nullptr && parent->Holds(&bar) ? parent : nullptr;
 }
 
 } // namespace quorfx

@@ -10,7 +10,7 @@ namespace quorfx
 // A bar in a row. Along is the direction of the row, across the other one.
 struct DockSlot
 {
-    CControlBar* bar = NULL;
+    CControlBar* bar = nullptr;
     int wanted = 0; // where the bar would like to begin
     CSize size;     // as it is now
     CRect place;    // where it is put

@@ -187,10 +187,10 @@ void CFrameWnd::GetDockState(CDockState& state) const
 {
     state.Clear();
     const FrameBars* const bars = BarAccess::BarsIfAny(*this);
-    if (bars == NULL)
+    if (bars == nullptr)
         return;
     for (CControlBar* bar : bars->Bars())
-        if (DYNAMIC_DOWNCAST(DockBar, bar) == NULL && bar->GetDlgCtrlID() != 0)
+        if (DYNAMIC_DOWNCAST(DockBar, bar) == nullptr && bar->GetDlgCtrlID() != 0)
             state.m_arrBarInfo.Add(MakeRecord(*bars, *bar));
 }
 

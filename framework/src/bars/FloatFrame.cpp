@@ -12,7 +12,7 @@ END_MESSAGE_MAP()
 BOOL FloatFrame::Create(CPoint screenPoint, DWORD align)
 {
     const DWORD style = WS_POPUP | WS_CAPTION | WS_SYSMENU | WS_CLIPCHILDREN | MFS_SYNCACTIVE;
-    if (!CMiniFrameWnd::Create(NULL, _T(""), style, CRect(screenPoint, CSize(10, 10)), &m_site))
+    if (!CMiniFrameWnd::Create(nullptr, _T(""), style, CRect(screenPoint, CSize(10, 10)), &m_site))
         return FALSE;
     if (m_dock.Create(*this, AFX_IDW_DOCKBAR_FLOAT, (align & CBRS_ALIGN_ANY) | CBRS_FLOATING))
         return TRUE;
@@ -23,7 +23,7 @@ BOOL FloatFrame::Create(CPoint screenPoint, DWORD align)
 CControlBar* FloatFrame::Bar() const
 {
     const auto& rows = m_dock.Rows();
-    return rows.empty() ? NULL : rows.front().slots.front().bar;
+    return rows.empty() ? nullptr : rows.front().slots.front().bar;
 }
 
 CPoint FloatFrame::Place() const
@@ -38,14 +38,14 @@ void FloatFrame::MoveTo(CPoint screenPoint)
     CRect window;
     GetWindowRect(&window);
     const CPoint moved = window.TopLeft() + (screenPoint - Place());
-    SetWindowPos(NULL, moved.x, moved.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    SetWindowPos(nullptr, moved.x, moved.y, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 // The window fits its bar, not the other way round.
 void FloatFrame::RecalcLayout(BOOL)
 {
     CControlBar* const bar = Bar();
-    if (m_isFitting || bar == NULL)
+    if (m_isFitting || bar == nullptr)
         return;
     m_isFitting = true;
     if (bar->IsVisible())
@@ -53,8 +53,9 @@ void FloatFrame::RecalcLayout(BOOL)
         const CSize size = m_dock.CalcFixedLayout(FALSE, BarAccess::IsHorizontal(m_dock));
         CRect window(CPoint(0, 0), size);
         ::AdjustWindowRectEx(&window, GetStyle(), FALSE, GetExStyle());
-        SetWindowPos(NULL, 0, 0, window.Width(), window.Height(), SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
-        m_dock.SetWindowPos(NULL, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(nullptr, 0, 0, window.Width(), window.Height(),
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        m_dock.SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOZORDER | SWP_NOACTIVATE);
         m_dock.PlaceBars(INT_MAX / 2);
         CString title;
         bar->GetWindowText(title);
@@ -68,7 +69,7 @@ void FloatFrame::RecalcLayout(BOOL)
 void FloatFrame::ShowAsNeeded()
 {
     const CControlBar* const bar = Bar();
-    const bool shows = bar != NULL && bar->IsVisible() && m_site.IsWindowVisible();
+    const bool shows = bar != nullptr && bar->IsVisible() && m_site.IsWindowVisible();
     if (shows != HasVisibleStyle(*this))
         ShowWindow(shows ? SW_SHOWNA : SW_HIDE);
 }

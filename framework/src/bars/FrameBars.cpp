@@ -8,7 +8,7 @@ namespace quorfx
 
 FrameBars& BarAccess::Bars(CFrameWnd& frame)
 {
-    if (frame.m_pBars == NULL)
+    if (frame.m_pBars == nullptr)
         frame.m_pBars = new FrameBars(frame);
     return *frame.m_pBars;
 }
@@ -19,7 +19,7 @@ FrameBars::~FrameBars()
 {
     // Bars may outlive the frame's object, but not as its bars.
     for (CControlBar* bar : m_bars)
-        BarAccess::DockSite(*bar) = NULL;
+        BarAccess::DockSite(*bar) = nullptr;
 }
 
 void FrameBars::Add(CControlBar* bar)
@@ -30,7 +30,7 @@ void FrameBars::Add(CControlBar* bar)
 
 void FrameBars::Remove(CControlBar* bar)
 {
-    if (BarDrag::Of(*bar) != NULL)
+    if (BarDrag::Of(*bar) != nullptr)
         BarDrag::Cancel(m_frame);
     // A floating frame that is empty now closes at the next layout: it may be the one that is going.
     TakeOut(bar);
@@ -43,7 +43,7 @@ CControlBar* FrameBars::Find(UINT id) const
     for (CControlBar* bar : m_bars)
         if (LOWORD(bar->GetDlgCtrlID()) == id)
             return bar;
-    return NULL;
+    return nullptr;
 }
 
 } // namespace quorfx
@@ -54,14 +54,14 @@ using quorfx::FrameBars;
 CControlBar* CFrameWnd::GetControlBar(UINT nID)
 {
     if (nID == 0)
-        return NULL;
+        return nullptr;
     const FrameBars* const bars = BarAccess::BarsIfAny(*this);
-    CControlBar* const bar = bars != NULL ? bars->Find(nID) : NULL;
-    if (bar != NULL || !(GetStyle() & WS_CHILD))
+    CControlBar* const bar = bars != nullptr ? bars->Find(nID) : nullptr;
+    if (bar != nullptr || !(GetStyle() & WS_CHILD))
         return bar;
     // The bars of a frame inside another one are usually the outer frame's.
     CFrameWnd* const outer = GetParentFrame();
-    return outer != NULL ? outer->GetControlBar(nID) : NULL;
+    return outer != nullptr ? outer->GetControlBar(nID) : nullptr;
 }
 
 void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay)
@@ -70,20 +70,20 @@ void CFrameWnd::ShowControlBar(CControlBar* pBar, BOOL bShow, BOOL bDelay)
     if (bDelay)
     {
         BarAccess::Delayed(*pBar) = bShow ? quorfx::delayShow : quorfx::delayHide;
-        if (frame != NULL)
+        if (frame != nullptr)
             frame->DelayLayout();
         return;
     }
     BarAccess::Delayed(*pBar) = quorfx::delayNothing;
     pBar->ShowWindow(bShow ? SW_SHOWNA : SW_HIDE);
-    if (frame != NULL)
+    if (frame != nullptr)
         frame->RecalcLayout();
 }
 
 BOOL CFrameWnd::OnBarCheck(UINT nID)
 {
     CControlBar* const bar = GetControlBar(nID);
-    if (bar == NULL)
+    if (bar == nullptr)
         return FALSE;
     ShowControlBar(bar, !bar->IsVisible(), FALSE);
     return TRUE;
@@ -92,7 +92,7 @@ BOOL CFrameWnd::OnBarCheck(UINT nID)
 void CFrameWnd::OnUpdateControlBarMenu(CCmdUI* pCmdUI)
 {
     CControlBar* const bar = GetControlBar(pCmdUI->m_nID);
-    if (bar != NULL)
+    if (bar != nullptr)
         pCmdUI->SetCheck(bar->IsVisible());
     else
         pCmdUI->ContinueRouting();
@@ -111,11 +111,11 @@ LRESULT CFrameWnd::OnIdleUpdateCmdUI(WPARAM wParam, LPARAM)
         UpdateWindow();
     }
     FrameBars* const bars = BarAccess::BarsIfAny(*this);
-    if (bars == NULL)
+    if (bars == nullptr)
         return 0;
     // Floating bars are no descendants of the frame.
     bars->UpdateFloats(wParam);
-    if (!bars->hasMessage && GetMessageBar() != NULL)
+    if (!bars->hasMessage && GetMessageBar() != nullptr)
         SendMessage(WM_SETMESSAGESTRING, AFX_IDS_IDLEMESSAGE);
     return 0;
 }
@@ -131,7 +131,7 @@ BOOL CFrameWnd::NegotiateBorderSpace(UINT nBorderCmd, LPRECT lpRectBorder)
     case borderRequest:
         return TRUE;
     case borderSet:
-        if (lpRectBorder != NULL)
+        if (lpRectBorder != nullptr)
             border = *lpRectBorder;
         if (::EqualRect(&border, &m_rectBorder))
             return FALSE;

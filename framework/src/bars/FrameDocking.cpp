@@ -27,7 +27,7 @@ void FrameBars::EnableDocking(DWORD style)
 {
     for (const Edge& edge : edges)
     {
-        if (!(style & edge.align) || Dock(edge.id) != NULL)
+        if (!(style & edge.align) || Dock(edge.id) != nullptr)
             continue;
         m_docks.push_back(std::make_unique<DockBar>());
         m_docks.back()->Create(m_frame, edge.id, edge.align);
@@ -39,7 +39,7 @@ DockBar* FrameBars::Dock(UINT id) const
     for (const auto& dock : m_docks)
         if (static_cast<UINT>(dock->GetDlgCtrlID()) == id)
             return dock.get();
-    return NULL;
+    return nullptr;
 }
 
 DockBar* FrameBars::DockAt(DWORD align) const
@@ -47,7 +47,7 @@ DockBar* FrameBars::DockAt(DWORD align) const
     for (const auto& dock : m_docks)
         if (dock->GetBarStyle() & align & CBRS_ALIGN_ANY)
             return dock.get();
-    return NULL;
+    return nullptr;
 }
 
 FloatFrame* FrameBars::FloatOf(const CControlBar* bar) const
@@ -55,7 +55,7 @@ FloatFrame* FrameBars::FloatOf(const CControlBar* bar) const
     for (FloatFrame* frame : m_floats)
         if (frame->Dock().Holds(bar))
             return frame;
-    return NULL;
+    return nullptr;
 }
 
 void FrameBars::ForgetFloat(FloatFrame* frame)
@@ -105,15 +105,15 @@ void FrameBars::DockAgain(CControlBar* bar)
 {
     const BarMemory memory = m_memory[bar];
     DockBar* const before = Dock(memory.dock);
-    DockBar* const dock = before != NULL ? before : DockAt(BarAccess::DockStyle(*bar));
-    if (dock == NULL)
+    DockBar* const dock = before != nullptr ? before : DockAt(BarAccess::DockStyle(*bar));
+    if (dock == nullptr)
         return;
     Remember(bar);
     TakeOut(bar);
-    if (before != NULL)
+    if (before != nullptr)
         dock->PutBack(bar, memory.place);
     else
-        dock->Insert(bar, NULL);
+        dock->Insert(bar, nullptr);
     CloseEmptyFloats();
 }
 
@@ -122,7 +122,7 @@ void FrameBars::FloatBar(CControlBar* bar, CPoint screenPoint, DWORD align)
     Remember(bar);
     const DWORD direction = align & CBRS_ORIENT_VERT ? CBRS_ALIGN_LEFT : CBRS_ALIGN_TOP;
     FloatFrame* frame = FloatOf(bar);
-    if (frame != NULL && (bar->GetBarStyle() & direction))
+    if (frame != nullptr && (bar->GetBarStyle() & direction))
     {
         frame->MoveTo(screenPoint);
         return;
@@ -181,9 +181,9 @@ void CFrameWnd::DockControlBar(CControlBar* pBar, UINT nDockBarID, LPCRECT lpRec
     ASSERT(pBar->GetDockingFrame() == this);
     FrameBars& bars = BarAccess::Bars(*this);
     DockBar* dock = nDockBarID != 0 ? bars.Dock(nDockBarID) : bars.DockAt(pBar->GetBarStyle());
-    if (dock == NULL)
+    if (dock == nullptr)
         dock = bars.DockAt(BarAccess::DockStyle(*pBar));
-    if (dock == NULL)
+    if (dock == nullptr)
     {
         TRACE(_T("Frame: docking is not enabled at the edge that a bar is to be docked at.\n"));
         return;
@@ -200,11 +200,11 @@ void CFrameWnd::FloatControlBar(CControlBar* pBar, CPoint point, DWORD dwStyle)
 
 void CFrameWnd::ShowOwnedWindows(BOOL bShow)
 {
-    for (HWND window = ::GetWindow(::GetDesktopWindow(), GW_CHILD); window != NULL;)
+    for (HWND window = ::GetWindow(::GetDesktopWindow(), GW_CHILD); window != nullptr;)
     {
         const HWND next = ::GetWindow(window, GW_HWNDNEXT);
         const CWnd* const object = CWnd::FromHandlePermanent(window);
-        if (object != NULL && ::GetWindow(window, GW_OWNER) == m_hWnd)
+        if (object != nullptr && ::GetWindow(window, GW_OWNER) == m_hWnd)
             ::ShowWindow(window, bShow ? SW_SHOWNOACTIVATE : SW_HIDE);
         window = next;
     }

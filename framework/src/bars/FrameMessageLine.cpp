@@ -32,7 +32,7 @@ void CFrameWnd::OnMenuSelect(UINT nItemID, UINT nFlags, HMENU)
     CFrameWnd* const frame = GetTopLevelFrame();
     const bool isClosed = nFlags == 0xffff;
     const UINT text = isClosed ? AFX_IDS_IDLEMESSAGE : HelpOfItem(nItemID, nFlags);
-    if (frame != NULL && frame->GetMessageBar() != NULL)
+    if (frame != nullptr && frame->GetMessageBar() != nullptr)
         frame->SendMessage(WM_SETMESSAGESTRING, text);
     Default();
 }
@@ -68,7 +68,7 @@ LRESULT CFrameWnd::OnSetMessageString(WPARAM wParam, LPARAM lParam)
     bars.shownMessage = static_cast<UINT>(wParam);
     bars.hasMessage = true;
     CWnd* const line = GetMessageBar();
-    if (line == NULL)
+    if (line == nullptr)
         return before;
     CString text;
     if (lParam != 0)

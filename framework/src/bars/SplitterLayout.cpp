@@ -81,10 +81,10 @@ void CSplitterWnd::PlacePanes()
         for (int col = 0; col < m_nCols; ++col)
         {
             CWnd* const pane = GetPane(row, col);
-            if (pane == NULL)
+            if (pane == nullptr)
                 continue;
             const CRect rect = PaneRect(row, col);
-            pane->SetWindowPos(NULL, rect.left, rect.top, rect.Width(), rect.Height(),
+            pane->SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                                SWP_NOZORDER | SWP_NOACTIVATE);
         }
     }
@@ -98,7 +98,7 @@ void CSplitterWnd::PlaceScrollBars()
     for (int col = 0; col < m_nCols; ++col)
     {
         CWnd* const bar = ScrollBarOf(AFX_IDW_HSCROLL_FIRST + col);
-        if (bar == NULL)
+        if (bar == nullptr)
             continue;
         const CRect pane = PaneRect(0, col);
         CRect rect(pane.left - splitBorderWidth, area.bottom, pane.right + splitBorderWidth, client.bottom);
@@ -110,7 +110,7 @@ void CSplitterWnd::PlaceScrollBars()
     for (int row = 0; row < m_nRows; ++row)
     {
         CWnd* const bar = ScrollBarOf(AFX_IDW_VSCROLL_FIRST + row);
-        if (bar == NULL)
+        if (bar == nullptr)
             continue;
         const CRect pane = PaneRect(row, 0);
         CRect rect(area.right, pane.top - splitBorderWidth, client.right, pane.bottom + splitBorderWidth);
@@ -172,9 +172,9 @@ void CSplitterWnd::OnDraw(CDC* pDC)
 
 void CSplitterWnd::OnDrawSplitter(CDC* pDC, ESplitType nType, const CRect& rect)
 {
-    if (pDC == NULL)
+    if (pDC == nullptr)
     {
-        RedrawWindow(&rect, NULL, RDW_INVALIDATE | RDW_NOCHILDREN);
+        RedrawWindow(&rect, nullptr, RDW_INVALIDATE | RDW_NOCHILDREN);
         return;
     }
     CRect part(rect);

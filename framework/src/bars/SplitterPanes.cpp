@@ -57,7 +57,7 @@ BOOL CSplitterWnd::AddPanes(int row, int col)
         const int paneColumn = row >= 0 ? index : col;
         const CSize size(m_columns[static_cast<size_t>(paneColumn)].ideal,
                          m_rows[static_cast<size_t>(paneRow)].ideal);
-        if (CreateView(paneRow, paneColumn, m_pDynamicViewClass, size, NULL))
+        if (CreateView(paneRow, paneColumn, m_pDynamicViewClass, size, nullptr))
             continue;
         for (int made = 0; made < index; ++made)
             DeleteView(row >= 0 ? row : made, row >= 0 ? made : col);
@@ -69,7 +69,7 @@ BOOL CSplitterWnd::AddPanes(int row, int col)
 void CSplitterWnd::DeleteView(int row, int col)
 {
     CWnd* const pane = GetPane(row, col);
-    if (pane == NULL)
+    if (pane == nullptr)
         return;
     // The active view's end must not leave the frame without one.
     if (GetActivePane() == pane)
@@ -81,7 +81,7 @@ void CSplitterWnd::DeleteView(int row, int col)
 void CSplitterWnd::ActivateOutside(int row, int col)
 {
     int activeRow = 0, activeColumn = 0;
-    if (GetActivePane(&activeRow, &activeColumn) == NULL)
+    if (GetActivePane(&activeRow, &activeColumn) == nullptr)
         return;
     if (activeRow == row)
         SetActivePane((activeRow + 1) % m_nRows, activeColumn);
@@ -147,18 +147,18 @@ void CSplitterWnd::SetScrollStyle(DWORD dwStyle)
 void CSplitterWnd::MakeScrollBars()
 {
     for (int col = 0; (m_dwScrollStyle & WS_HSCROLL) && col < m_nCols; ++col)
-        if (ScrollBarOf(AFX_IDW_HSCROLL_FIRST + col) == NULL)
+        if (ScrollBarOf(AFX_IDW_HSCROLL_FIRST + col) == nullptr)
             CreateScrollBarCtrl(SBS_HORZ, static_cast<UINT>(AFX_IDW_HSCROLL_FIRST + col));
     for (int row = 0; (m_dwScrollStyle & WS_VSCROLL) && row < m_nRows; ++row)
-        if (ScrollBarOf(AFX_IDW_VSCROLL_FIRST + row) == NULL)
+        if (ScrollBarOf(AFX_IDW_VSCROLL_FIRST + row) == nullptr)
             CreateScrollBarCtrl(SBS_VERT, static_cast<UINT>(AFX_IDW_VSCROLL_FIRST + row));
 }
 
 BOOL CSplitterWnd::CreateScrollBarCtrl(DWORD dwStyle, UINT nID)
 {
-    return ::CreateWindow(_T("SCROLLBAR"), NULL, dwStyle | WS_VISIBLE | WS_CHILD, 0, 0, 1, 1, m_hWnd,
+    return ::CreateWindow(_T("SCROLLBAR"), nullptr, dwStyle | WS_VISIBLE | WS_CHILD, 0, 0, 1, 1, m_hWnd,
                           reinterpret_cast<HMENU>(static_cast<UINT_PTR>(nID)), AfxGetInstanceHandle(),
-                          NULL) != NULL;
+                          nullptr) != nullptr;
 }
 
 // Sends a scroll message to all panes that share the bar. Each one starts from the position before.
@@ -178,14 +178,14 @@ void CSplitterWnd::ScrollSharing(UINT message, int bar, int count, UINT nSBCode,
 
 void CSplitterWnd::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    const int bar = pScrollBar != NULL ? pScrollBar->GetDlgCtrlID() - AFX_IDW_HSCROLL_FIRST : -1;
+    const int bar = pScrollBar != nullptr ? pScrollBar->GetDlgCtrlID() - AFX_IDW_HSCROLL_FIRST : -1;
     if (bar >= 0 && bar < m_nCols)
         ScrollSharing(WM_HSCROLL, bar, m_nRows, nSBCode, nPos, pScrollBar);
 }
 
 void CSplitterWnd::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    const int bar = pScrollBar != NULL ? pScrollBar->GetDlgCtrlID() - AFX_IDW_VSCROLL_FIRST : -1;
+    const int bar = pScrollBar != nullptr ? pScrollBar->GetDlgCtrlID() - AFX_IDW_VSCROLL_FIRST : -1;
     if (bar >= 0 && bar < m_nRows)
         ScrollSharing(WM_VSCROLL, bar, m_nCols, nSBCode, nPos, pScrollBar);
 }
@@ -197,10 +197,11 @@ namespace
 class SharedPosition
 {
 public:
-    explicit SharedPosition(CScrollBar* bar) : m_bar(bar), m_position(bar != NULL ? bar->GetScrollPos() : 0)
+    explicit SharedPosition(CScrollBar* bar)
+        : m_bar(bar), m_position(bar != nullptr ? bar->GetScrollPos() : 0)
     {
     }
-    bool IsShared() const { return m_bar != NULL; }
+    bool IsShared() const { return m_bar != nullptr; }
     void Restore() const { m_bar->SetScrollPos(m_position, FALSE); }
 
 private:
@@ -214,7 +215,7 @@ BOOL CSplitterWnd::DoScrollBy(CView* pViewFrom, CSize sizeScroll, BOOL bDoScroll
 {
     int row = 0, col = 0;
     CScrollView* const view = DYNAMIC_DOWNCAST(CScrollView, pViewFrom);
-    if (view == NULL || !IsChildPane(view, &row, &col))
+    if (view == nullptr || !IsChildPane(view, &row, &col))
         return FALSE;
     const SharedPosition horizontal(view->GetScrollBarCtrl(SB_HORZ));
     const SharedPosition vertical(view->GetScrollBarCtrl(SB_VERT));
@@ -222,7 +223,7 @@ BOOL CSplitterWnd::DoScrollBy(CView* pViewFrom, CSize sizeScroll, BOOL bDoScroll
     for (int index = 0; vertical.IsShared() && index < m_nCols; ++index)
     {
         CScrollView* const other = DYNAMIC_DOWNCAST(CScrollView, GetPane(row, index));
-        if (other == NULL || other == view)
+        if (other == nullptr || other == view)
             continue;
         if (bDoScroll)
             vertical.Restore();
@@ -231,7 +232,7 @@ BOOL CSplitterWnd::DoScrollBy(CView* pViewFrom, CSize sizeScroll, BOOL bDoScroll
     for (int index = 0; horizontal.IsShared() && index < m_nRows; ++index)
     {
         CScrollView* const other = DYNAMIC_DOWNCAST(CScrollView, GetPane(index, col));
-        if (other == NULL || other == view)
+        if (other == nullptr || other == view)
             continue;
         if (bDoScroll)
             horizontal.Restore();
@@ -244,7 +245,7 @@ BOOL CSplitterWnd::DoScroll(CView* pViewFrom, UINT nScrollCode, BOOL bDoScroll)
 {
     int row = 0, col = 0;
     CScrollView* const view = DYNAMIC_DOWNCAST(CScrollView, pViewFrom);
-    if (view == NULL || !IsChildPane(view, &row, &col))
+    if (view == nullptr || !IsChildPane(view, &row, &col))
         return FALSE;
     // The same code in the other direction would scroll panes that share only one bar.
     const UINT onlyHorizontal = MAKEWORD(LOBYTE(nScrollCode), 0xff);
@@ -255,7 +256,7 @@ BOOL CSplitterWnd::DoScroll(CView* pViewFrom, UINT nScrollCode, BOOL bDoScroll)
     for (int index = 0; vertical.IsShared() && index < m_nCols; ++index)
     {
         CScrollView* const other = DYNAMIC_DOWNCAST(CScrollView, GetPane(row, index));
-        if (other == NULL || other == view)
+        if (other == nullptr || other == view)
             continue;
         if (bDoScroll)
             vertical.Restore();
@@ -264,7 +265,7 @@ BOOL CSplitterWnd::DoScroll(CView* pViewFrom, UINT nScrollCode, BOOL bDoScroll)
     for (int index = 0; horizontal.IsShared() && index < m_nRows; ++index)
     {
         CScrollView* const other = DYNAMIC_DOWNCAST(CScrollView, GetPane(index, col));
-        if (other == NULL || other == view)
+        if (other == nullptr || other == view)
             continue;
         if (bDoScroll)
             horizontal.Restore();

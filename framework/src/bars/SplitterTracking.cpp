@@ -27,7 +27,7 @@ BOOL CSplitterWnd::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
     if (!hit.IsAnything())
         return CWnd::OnSetCursor(pWnd, nHitTest, message);
     const bool both = hit.MovesRows() && hit.MovesColumns();
-    ::SetCursor(::LoadCursor(NULL, both ? IDC_SIZEALL : hit.MovesRows() ? IDC_SIZENS : IDC_SIZEWE));
+    ::SetCursor(::LoadCursor(nullptr, both ? IDC_SIZEALL : hit.MovesRows() ? IDC_SIZENS : IDC_SIZEWE));
     return TRUE;
 }
 

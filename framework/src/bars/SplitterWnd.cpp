@@ -24,14 +24,14 @@ BEGIN_MESSAGE_MAP(CSplitterWnd, CWnd)
 END_MESSAGE_MAP()
 
 CSplitterWnd::CSplitterWnd()
-    : m_pDynamicViewClass(NULL),
+    : m_pDynamicViewClass(nullptr),
       m_nMaxRows(0),
       m_nMaxCols(0),
       m_nRows(0),
       m_nCols(0),
       m_dwScrollStyle(0),
       m_bTracking(FALSE),
-      m_hWndFocusBefore(NULL)
+      m_hWndFocusBefore(nullptr)
 {
 }
 
@@ -43,7 +43,7 @@ CSplitterWnd::~CSplitterWnd()
 BOOL CSplitterWnd::Create(CWnd* pParentWnd, int nMaxRows, int nMaxCols, SIZE sizeMin,
                           CCreateContext* pContext, DWORD dwStyle, UINT nID)
 {
-    ASSERT(pContext != NULL && pContext->m_pNewViewClass != NULL);
+    ASSERT(pContext != nullptr && pContext->m_pNewViewClass != nullptr);
     ASSERT(nMaxRows >= 1 && nMaxRows <= 2 && nMaxCols >= 1 && nMaxCols <= 2);
     m_pDynamicViewClass = pContext->m_pNewViewClass;
     m_nMaxRows = nMaxRows;
@@ -77,8 +77,8 @@ BOOL CSplitterWnd::CreateCommon(CWnd* pParentWnd, int nRows, int nCols, SIZE siz
     m_columns.assign(static_cast<size_t>(m_nMaxCols), {sizeMin.cx, sizeMin.cx, 0});
     // The scroll bars are controls, not parts of the window.
     const DWORD windowStyle = dwStyle & ~static_cast<DWORD>(WS_HSCROLL | WS_VSCROLL | WS_BORDER);
-    const LPCTSTR className = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW));
-    if (!CWnd::CreateEx(0, className, NULL, windowStyle | WS_CHILD | WS_CLIPCHILDREN, CRect(0, 0, 0, 0),
+    const LPCTSTR className = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW));
+    if (!CWnd::CreateEx(0, className, nullptr, windowStyle | WS_CHILD | WS_CLIPCHILDREN, CRect(0, 0, 0, 0),
                         pParentWnd, nID))
         return FALSE;
     SetScrollStyle(dwStyle);
@@ -94,9 +94,9 @@ struct ViewContext : CCreateContext
     explicit ViewContext(CView* like)
     {
         m_pLastView = like;
-        m_pCurrentDoc = like != NULL ? like->GetDocument() : NULL;
-        m_pCurrentFrame = like != NULL ? like->GetParentFrame() : NULL;
-        m_pNewViewClass = like != NULL ? like->GetRuntimeClass() : NULL;
+        m_pCurrentDoc = like != nullptr ? like->GetDocument() : nullptr;
+        m_pCurrentFrame = like != nullptr ? like->GetParentFrame() : nullptr;
+        m_pNewViewClass = like != nullptr ? like->GetRuntimeClass() : nullptr;
     }
 };
 
@@ -111,7 +111,7 @@ BOOL CSplitterWnd::CreateView(int row, int col, CRuntimeClass* pViewClass, SIZE 
                               CCreateContext* pContext)
 {
     ASSERT(row >= 0 && row < m_nRows && col >= 0 && col < m_nCols);
-    if (GetDlgItem(IdFromRowCol(row, col)) != NULL)
+    if (GetDlgItem(IdFromRowCol(row, col)) != nullptr)
     {
         TRACE(_T("Splitter: the pane exists already.\n"));
         return FALSE;
@@ -119,17 +119,17 @@ BOOL CSplitterWnd::CreateView(int row, int col, CRuntimeClass* pViewClass, SIZE 
     m_rows[static_cast<size_t>(row)].ideal = sizeInit.cy;
     m_columns[static_cast<size_t>(col)].ideal = sizeInit.cx;
     CCreateContext own = ContextOfActivePane();
-    const bool updates = pContext == NULL;
+    const bool updates = pContext == nullptr;
     CObject* const object = pViewClass->CreateObject();
     CWnd* const pane = DYNAMIC_DOWNCAST(CWnd, object);
-    if (pane == NULL)
+    if (pane == nullptr)
     {
         delete object;
         return FALSE;
     }
     // The splitter draws the border. A view that cannot be created deletes itself.
     const DWORD style = defaultViewStyle & ~static_cast<DWORD>(WS_BORDER);
-    if (!pane->Create(NULL, NULL, style, CRect(CPoint(0, 0), CSize(sizeInit)), this,
+    if (!pane->Create(nullptr, nullptr, style, CRect(CPoint(0, 0), CSize(sizeInit)), this,
                       static_cast<UINT>(IdFromRowCol(row, col)), updates ? &own : pContext))
         return FALSE;
     // With a context, whoever made it sends the update to all windows.
@@ -150,14 +150,14 @@ CWnd* CSplitterWnd::GetPane(int row, int col) const
 
 BOOL CSplitterWnd::IsChildPane(CWnd* pWnd, int* pRow, int* pCol)
 {
-    if (pWnd->GetSafeHwnd() == NULL || ::GetParent(pWnd->m_hWnd) != m_hWnd)
+    if (pWnd->GetSafeHwnd() == nullptr || ::GetParent(pWnd->m_hWnd) != m_hWnd)
         return FALSE;
     const int index = pWnd->GetDlgCtrlID() - AFX_IDW_PANE_FIRST;
     if (index < 0 || index / 16 >= m_nRows || index % 16 >= m_nCols)
         return FALSE;
-    if (pRow != NULL)
+    if (pRow != nullptr)
         *pRow = index / 16;
-    if (pCol != NULL)
+    if (pCol != nullptr)
         *pCol = index % 16;
     return TRUE;
 }
@@ -189,32 +189,32 @@ void CSplitterWnd::SetColumnInfo(int col, int cxIdeal, int cxMin)
 CWnd* CSplitterWnd::GetActivePane(int* pRow, int* pCol)
 {
     CFrameWnd* const frame = GetParentFrame();
-    CWnd* pane = frame != NULL ? frame->GetActiveView() : NULL;
-    if (pane == NULL)
+    CWnd* pane = frame != nullptr ? frame->GetActiveView() : nullptr;
+    if (pane == nullptr)
         pane = GetFocus();
-    return pane != NULL && IsChildPane(pane, pRow, pCol) ? pane : NULL;
+    return pane != nullptr && IsChildPane(pane, pRow, pCol) ? pane : nullptr;
 }
 
 void CSplitterWnd::SetActivePane(int row, int col, CWnd* pWnd)
 {
-    CWnd* const pane = pWnd != NULL ? pWnd : GetPane(row, col);
+    CWnd* const pane = pWnd != nullptr ? pWnd : GetPane(row, col);
     CFrameWnd* const frame = GetParentFrame();
     CView* const view = DYNAMIC_DOWNCAST(CView, pane);
-    if (view != NULL && frame != NULL)
+    if (view != nullptr && frame != nullptr)
         frame->SetActiveView(view);
-    else if (pane != NULL)
+    else if (pane != nullptr)
         pane->SetFocus();
 }
 
 BOOL CSplitterWnd::CanActivateNext(BOOL)
 {
-    return GetActivePane() != NULL && m_nRows * m_nCols > 1;
+    return GetActivePane() != nullptr && m_nRows * m_nCols > 1;
 }
 
 void CSplitterWnd::ActivateNext(BOOL bPrev)
 {
     int row = 0, col = 0;
-    if (GetActivePane(&row, &col) == NULL)
+    if (GetActivePane(&row, &col) == nullptr)
         return;
     const int count = m_nRows * m_nCols;
     const int next = (row * m_nCols + col + (bPrev ? count - 1 : 1)) % count;

@@ -65,7 +65,7 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount)
     for (size_t index = 0; index < panes.size(); ++index)
     {
         Pane& pane = panes[index];
-        pane.id = lpIDArray != NULL ? lpIDArray[index] : 0;
+        pane.id = lpIDArray != nullptr ? lpIDArray[index] : 0;
         // An indicator without a text would never be seen.
         if (pane.id != 0 && !pane.text.LoadString(pane.id))
         {
@@ -77,7 +77,7 @@ BOOL CStatusBar::SetIndicators(const UINT* lpIDArray, int nIDCount)
         else
             pane.width = ::GetSystemMetrics(SM_CXSCREEN) / 4;
     }
-    if (lpIDArray != NULL && !panes.empty())
+    if (lpIDArray != nullptr && !panes.empty())
         panes.front().style |= SBPS_STRETCH | SBPS_NOBORDERS;
     m_panes.swap(panes);
     m_nCount = nIDCount;
@@ -91,16 +91,16 @@ void CStatusBar::MeasureText(Pane& pane) const
 {
     CClientDC dc(const_cast<CStatusBar*>(this));
     CFont* const font = GetFont();
-    CFont* const before = font != NULL ? dc.SelectObject(font) : NULL;
+    CFont* const before = font != nullptr ? dc.SelectObject(font) : nullptr;
     pane.width = dc.GetTextExtent(pane.text).cx;
-    if (before != NULL)
+    if (before != nullptr)
         dc.SelectObject(before);
 }
 
 // Sets the right edges: each pane takes its width, and the one that stretches what is left.
 void CStatusBar::PlacePanes()
 {
-    if (m_panes.empty() || m_hWnd == NULL)
+    if (m_panes.empty() || m_hWnd == nullptr)
         return;
     int horizontal = 0, vertical = 0, spacing = 0;
     GetStatusBarCtrl().GetBorders(horizontal, vertical, spacing);
@@ -250,10 +250,10 @@ CSize CStatusBar::CalcFixedLayout(BOOL, BOOL bHorz)
     GetStatusBarCtrl().GetBorders(horizontal, vertical, spacing);
     CClientDC dc(this);
     CFont* const font = GetFont();
-    CFont* const before = font != NULL ? dc.SelectObject(font) : NULL;
+    CFont* const before = font != nullptr ? dc.SelectObject(font) : nullptr;
     TEXTMETRIC metrics = {};
     dc.GetTextMetrics(&metrics);
-    if (before != NULL)
+    if (before != nullptr)
         dc.SelectObject(before);
     const int textHeight = static_cast<int>(metrics.tmHeight) + 2 * (vertical + textMargin);
     return AroundItems(CSize(32767, (std::max)(textHeight, m_nMinHeight)), bHorz, bHorz);
@@ -328,7 +328,7 @@ void CStatusBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler)
     {
         state.m_nID = m_panes[state.m_nIndex].id;
         // The bar itself may have a handler. Panes without one stay as they are.
-        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, NULL))
+        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr))
             continue;
         state.DoUpdate(pTarget, FALSE);
     }

@@ -54,7 +54,7 @@ bool ReadToolBar(const void* data, DWORD size, ToolBarResource& resource)
 } // namespace
 
 CToolBar::CToolBar()
-    : m_hImages(NULL), m_hbmImageWell(NULL), m_nImageWell(0), m_sizeImage(16, 15), m_sizeButton(23, 22)
+    : m_hImages(nullptr), m_hbmImageWell(nullptr), m_nImageWell(0), m_sizeImage(16, 15), m_sizeButton(23, 22)
 {
 }
 
@@ -62,7 +62,7 @@ CToolBar::~CToolBar()
 {
     DestroyWindow();
     FreeImages();
-    if (m_hbmImageWell != NULL)
+    if (m_hbmImageWell != nullptr)
         ::DeleteObject(m_hbmImageWell);
 }
 
@@ -97,8 +97,8 @@ BOOL CToolBar::LoadToolBar(LPCTSTR lpszResourceName)
 {
     const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, toolBarType);
     const HRSRC found = ::FindResource(module, lpszResourceName, toolBarType);
-    const HGLOBAL loaded = found != NULL ? ::LoadResource(module, found) : NULL;
-    if (loaded == NULL)
+    const HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
+    if (loaded == nullptr)
         return FALSE;
     ToolBarResource resource;
     if (!ReadToolBar(::LockResource(loaded), ::SizeofResource(module, found), resource))
@@ -123,14 +123,14 @@ BOOL CToolBar::SetButtons(const UINT* lpIDArray, int nIDCount)
         TBBUTTON button = {};
         button.fsState = TBSTATE_ENABLED;
         button.iString = -1;
-        if (lpIDArray != NULL)
+        if (lpIDArray != nullptr)
             button.idCommand = static_cast<int>(lpIDArray[index]);
-        if (lpIDArray != NULL && lpIDArray[index] == ID_SEPARATOR)
+        if (lpIDArray != nullptr && lpIDArray[index] == ID_SEPARATOR)
         {
             button.fsStyle = TBSTYLE_SEP;
             button.iBitmap = defaultSeparatorWidth;
         }
-        else if (lpIDArray != NULL)
+        else if (lpIDArray != nullptr)
         {
             button.fsStyle = TBSTYLE_BUTTON;
             button.iBitmap = image++;
@@ -146,11 +146,11 @@ void CToolBar::SetSizes(SIZE sizeButton, SIZE sizeImage)
 {
     m_sizeButton = sizeButton;
     m_sizeImage = sizeImage;
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
         return;
     GetToolBarCtrl().SetBitmapSize(sizeImage);
     GetToolBarCtrl().SetButtonSize(sizeButton);
-    if (m_hbmImageWell != NULL)
+    if (m_hbmImageWell != nullptr)
         MakeImages();
     Invalidate();
 }
@@ -163,8 +163,8 @@ void CToolBar::SetHeight(int cyHeight)
     const int spare = (std::max)(0, cyHeight + around.Height() - static_cast<int>(m_sizeButton.cy));
     m_rectBorders.top = spare / 2;
     m_rectBorders.bottom = spare - spare / 2;
-    if (m_hWnd != NULL)
-        SetWindowPos(NULL, 0, 0, 0, 0,
+    if (m_hWnd != nullptr)
+        SetWindowPos(nullptr, 0, 0, 0, 0,
                      SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE | SWP_FRAMECHANGED);
 }
 
@@ -178,17 +178,17 @@ BOOL CToolBar::LoadBitmap(LPCTSTR lpszResourceName)
     const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, RT_BITMAP);
     const HANDLE bitmap =
         ::LoadImage(module, lpszResourceName, IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION | LR_LOADMAP3DCOLORS);
-    if (bitmap == NULL || !SetBitmap(static_cast<HBITMAP>(bitmap)))
+    if (bitmap == nullptr || !SetBitmap(static_cast<HBITMAP>(bitmap)))
         return FALSE;
     m_nImageWell =
         IS_INTRESOURCE(lpszResourceName) ? LOWORD(reinterpret_cast<UINT_PTR>(lpszResourceName)) : 0;
-    m_strImageWell = m_nImageWell == 0 ? lpszResourceName : NULL;
+    m_strImageWell = m_nImageWell == 0 ? lpszResourceName : nullptr;
     return TRUE;
 }
 
 BOOL CToolBar::SetBitmap(HBITMAP hbmImageWell)
 {
-    if (m_hbmImageWell != NULL && m_hbmImageWell != hbmImageWell)
+    if (m_hbmImageWell != nullptr && m_hbmImageWell != hbmImageWell)
         ::DeleteObject(m_hbmImageWell);
     m_hbmImageWell = hbmImageWell;
     m_nImageWell = 0;
@@ -198,11 +198,11 @@ BOOL CToolBar::SetBitmap(HBITMAP hbmImageWell)
 
 void CToolBar::FreeImages()
 {
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         quorfx::Send(m_hWnd, TB_SETIMAGELIST, 0, 0);
-    if (m_hImages != NULL)
+    if (m_hImages != nullptr)
         ::ImageList_Destroy(m_hImages);
-    m_hImages = NULL;
+    m_hImages = nullptr;
 }
 
 namespace
@@ -221,7 +221,7 @@ BOOL CToolBar::MakeImages()
 {
     FreeImages();
     BITMAP picture = {};
-    if (m_hbmImageWell == NULL || ::GetObject(m_hbmImageWell, sizeof(picture), &picture) == 0)
+    if (m_hbmImageWell == nullptr || ::GetObject(m_hbmImageWell, sizeof(picture), &picture) == 0)
         return FALSE;
     m_hImages = ::ImageList_Create(m_sizeImage.cx, m_sizeImage.cy, ILC_COLOR24 | ILC_MASK,
                                    picture.bmWidth / (std::max)(m_sizeImage.cx, 1L), 4);

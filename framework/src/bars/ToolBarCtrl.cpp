@@ -17,7 +17,7 @@ BOOL CToolBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UIN
 BOOL CToolBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    if (!CWnd::CreateEx(dwExStyle, TOOLBARCLASSNAME, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID))
+    if (!CWnd::CreateEx(dwExStyle, TOOLBARCLASSNAME, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID))
         return FALSE;
     SetButtonStructSize(sizeof(TBBUTTON));
     return TRUE;
@@ -51,7 +51,7 @@ int CToolBarCtrl::AddBitmap(int nNumButtons, UINT nBitmapID)
 
 int CToolBarCtrl::AddBitmap(int nNumButtons, CBitmap* pBitmap)
 {
-    TBADDBITMAP bitmap = {NULL, reinterpret_cast<UINT_PTR>(pBitmap->GetSafeHandle())};
+    TBADDBITMAP bitmap = {nullptr, reinterpret_cast<UINT_PTR>(pBitmap->GetSafeHandle())};
     return quorfx::Send<int>(m_hWnd, TB_ADDBITMAP, nNumButtons, &bitmap);
 }
 
@@ -65,7 +65,7 @@ int CToolBarCtrl::AddString(UINT nStringID)
 int CToolBarCtrl::GetString(int nString, CString& str) const
 {
     str.Empty();
-    const int length = GetString(nString, NULL, 0);
+    const int length = GetString(nString, nullptr, 0);
     if (length < 0)
         return length;
     const int copied = GetString(nString, str.GetBuffer(length), length + 1);
@@ -134,7 +134,7 @@ BOOL CStatusBarCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, U
 BOOL CStatusBarCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, STATUSCLASSNAME, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, STATUSCLASSNAME, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 namespace
@@ -143,7 +143,7 @@ namespace
 // The control answers with the length in the low word and the type in the high one.
 int LengthAndType(LRESULT answer, int* type)
 {
-    if (type != NULL)
+    if (type != nullptr)
         *type = HIWORD(answer);
     return LOWORD(answer);
 }
@@ -164,7 +164,7 @@ CString CStatusBarCtrl::GetText(int nPane, int* pType) const
 {
     CString text;
     const int length = GetTextLength(nPane, pType);
-    GetText(text.GetBuffer(length), nPane, NULL);
+    GetText(text.GetBuffer(length), nPane, nullptr);
     text.ReleaseBuffer();
     return text;
 }

@@ -227,7 +227,7 @@ INT_PTR CToolBar::OnToolHitTest(CPoint point, TOOLINFO* pTI) const
     if (index < 0 || index >= GetToolBarCtrl().GetButtonCount())
         return -1;
     const UINT command = GetItemID(index);
-    if (pTI != NULL && pTI->cbSize >= sizeof(TOOLINFO))
+    if (pTI != nullptr && pTI->cbSize >= sizeof(TOOLINFO))
     {
         pTI->hwnd = m_hWnd;
         pTI->uId = command;
@@ -289,7 +289,7 @@ void CToolBar::OnUpdateCmdUI(CFrameWnd* pTarget, BOOL bDisableIfNoHndler)
         if (button.fsStyle & TBSTYLE_SEP)
             continue;
         // The bar itself may have a handler.
-        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, NULL))
+        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr))
             continue;
         state.DoUpdate(pTarget, bDisableIfNoHndler);
     }

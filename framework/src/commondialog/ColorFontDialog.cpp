@@ -21,9 +21,9 @@ BOOL WINAPI RunChooseFont(void* data)
 
 int ScreenResolution()
 {
-    const HDC screen = ::GetDC(NULL);
+    const HDC screen = ::GetDC(nullptr);
     const int pixelsPerInch = ::GetDeviceCaps(screen, LOGPIXELSY);
-    ::ReleaseDC(NULL, screen);
+    ::ReleaseDC(nullptr, screen);
     return pixelsPerInch;
 }
 
@@ -77,7 +77,7 @@ COLORREF* PASCAL CColorDialog::GetSavedCustomColors()
 void CColorDialog::SetCurrentColor(COLORREF clr)
 {
     static const UINT setColour = ::RegisterWindowMessage(SETRGBSTRING);
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     ::SendMessage(m_hWnd, setColour, 0, static_cast<LPARAM>(clr));
 }
 
@@ -106,12 +106,12 @@ CFontDialog::CFontDialog(LPLOGFONT lplfInitial, DWORD dwFlags, CDC* pdcPrinter, 
     m_cf.lpfnHook = &CCommonDialog::HookProcedure;
     m_cf.lpszStyle = m_styleName;
     m_cf.lpLogFont = &m_logFont;
-    if (lplfInitial != NULL)
+    if (lplfInitial != nullptr)
     {
         m_logFont = *lplfInitial;
         m_cf.Flags |= CF_INITTOLOGFONTSTRUCT;
     }
-    if (pdcPrinter != NULL)
+    if (pdcPrinter != nullptr)
     {
         m_cf.hDC = pdcPrinter->m_hDC;
         m_cf.Flags |= CF_PRINTERFONTS;
@@ -119,7 +119,7 @@ CFontDialog::CFontDialog(LPLOGFONT lplfInitial, DWORD dwFlags, CDC* pdcPrinter, 
 }
 
 CFontDialog::CFontDialog(const CHARFORMAT& charformat, DWORD dwFlags, CDC* pdcPrinter, CWnd* pParentWnd)
-    : CFontDialog(NULL, dwFlags, pdcPrinter, pParentWnd)
+    : CFontDialog(nullptr, dwFlags, pdcPrinter, pParentWnd)
 {
     m_logFont = ToLogFont(charformat);
     m_cf.Flags |= CF_INITTOLOGFONTSTRUCT;
@@ -139,7 +139,7 @@ INT_PTR CFontDialog::DoModal()
 void CFontDialog::GetCurrentFont(LPLOGFONT lplf)
 {
     ENSURE_ARG(lplf != nullptr);
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         ::SendMessage(m_hWnd, WM_CHOOSEFONT_GETLOGFONT, 0, reinterpret_cast<LPARAM>(lplf));
     else
         *lplf = *m_cf.lpLogFont;

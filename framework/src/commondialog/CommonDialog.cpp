@@ -25,7 +25,7 @@ CCommonDialog::HookScope::~HookScope()
     PerThread<PendingDialog>::Get().dialog = m_outer;
 }
 
-CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<LPCTSTR>(NULL), pParentWnd) {}
+CCommonDialog::CCommonDialog(CWnd* pParentWnd) : CDialog(static_cast<LPCTSTR>(nullptr), pParentWnd) {}
 
 void CCommonDialog::OnOK()
 {
@@ -50,12 +50,12 @@ HWND CCommonDialog::FindOwner() const
 
 INT_PTR CCommonDialog::RunHooked(BOOL(WINAPI* run)(void*), void* data)
 {
-    ASSERT(m_hWnd == NULL);
+    ASSERT(m_hWnd == nullptr);
     const HookScope scope(this);
     ::ReleaseCapture();
     const INT_PTR result = run(data) ? IDOK : IDCANCEL;
     // A dialog that could not be shown may leave its window attached.
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         Detach();
     return result;
 }

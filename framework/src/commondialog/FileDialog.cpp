@@ -48,9 +48,9 @@ CFileDialog::CFileDialog(BOOL bOpenFileDialog, LPCTSTR lpszDefExt, LPCTSTR lpszF
     m_ofn.Flags = dwFlags | OFN_EXPLORER | OFN_ENABLEHOOK | OFN_ENABLESIZING;
     m_ofn.hInstance = AfxGetResourceHandle();
     m_ofn.lpfnHook = &CCommonDialog::HookProcedure;
-    if (lpszFileName != NULL)
+    if (lpszFileName != nullptr)
         lstrcpyn(m_szFileName, lpszFileName, _countof(m_szFileName));
-    if (lpszFilter != NULL && lpszFilter[0] != 0)
+    if (lpszFilter != nullptr && lpszFilter[0] != 0)
     {
         m_strFilter = SystemFilter(lpszFilter);
         m_ofn.lpstrFilter = m_strFilter;
@@ -82,14 +82,14 @@ CString CFileDialog::AskDialog(UINT message) const
 
 CString CFileDialog::GetPathName() const
 {
-    if (m_hWnd != NULL && (m_ofn.Flags & OFN_EXPLORER) != 0)
+    if (m_hWnd != nullptr && (m_ofn.Flags & OFN_EXPLORER) != 0)
         return AskDialog(CDM_GETFILEPATH);
     return m_ofn.lpstrFile;
 }
 
 CString CFileDialog::GetFileName() const
 {
-    if (m_hWnd != NULL && (m_ofn.Flags & OFN_EXPLORER) != 0)
+    if (m_hWnd != nullptr && (m_ofn.Flags & OFN_EXPLORER) != 0)
         return AskDialog(CDM_GETSPEC);
     const CString path = GetPathName();
     return path.Mid((std::max)(path.ReverseFind('\\'), path.ReverseFind('/')) + 1);
@@ -111,7 +111,7 @@ CString CFileDialog::GetFileTitle() const
 
 CString CFileDialog::GetFolderPath() const
 {
-    ASSERT(m_hWnd != NULL && (m_ofn.Flags & OFN_EXPLORER) != 0);
+    ASSERT(m_hWnd != nullptr && (m_ofn.Flags & OFN_EXPLORER) != 0);
     return AskDialog(CDM_GETFOLDERPATH);
 }
 
@@ -124,20 +124,20 @@ POSITION CFileDialog::GetStartPosition() const
 
 CString CFileDialog::GetNextPathName(POSITION& pos) const
 {
-    ENSURE_ARG(pos != NULL);
+    ENSURE_ARG(pos != nullptr);
     LPCTSTR name = reinterpret_cast<LPCTSTR>(pos);
     const CString first = m_ofn.lpstrFile;
     LPCTSTR firstName = m_ofn.lpstrFile + first.GetLength() + 1;
     const bool several = (m_ofn.Flags & OFN_ALLOWMULTISELECT) != 0 && *firstName != 0 && IsFolder(first);
     if (!several)
     {
-        pos = NULL;
+        pos = nullptr;
         return first;
     }
     if (name == m_ofn.lpstrFile)
         name = firstName;
     LPCTSTR next = name + std::wcslen(name) + 1;
-    pos = *next == 0 ? NULL : reinterpret_cast<POSITION>(const_cast<LPTSTR>(next));
+    pos = *next == 0 ? nullptr : reinterpret_cast<POSITION>(const_cast<LPTSTR>(next));
     return first[first.GetLength() - 1] == '\\' ? first + name : first + _T("\\") + name;
 }
 
@@ -160,20 +160,20 @@ void CFileDialog::SetControlText(int nID, LPCSTR lpsz)
 
 void CFileDialog::SetControlText(int nID, const wchar_t* lpsz)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     ::SendMessage(::GetParent(m_hWnd), CDM_SETCONTROLTEXT, static_cast<WPARAM>(nID),
                   reinterpret_cast<LPARAM>(lpsz));
 }
 
 void CFileDialog::HideControl(int nID)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     ::SendMessage(::GetParent(m_hWnd), CDM_HIDECONTROL, static_cast<WPARAM>(nID), 0);
 }
 
 void CFileDialog::SetDefExt(LPCSTR lpsz)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     const CString extension(lpsz);
     ::SendMessage(::GetParent(m_hWnd), CDM_SETDEFEXT, 0, reinterpret_cast<LPARAM>(extension.GetString()));
 }

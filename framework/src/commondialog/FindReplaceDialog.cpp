@@ -3,7 +3,7 @@
 
 IMPLEMENT_DYNAMIC(CFindReplaceDialog, CCommonDialog)
 
-CFindReplaceDialog::CFindReplaceDialog() : CCommonDialog(NULL), m_fr(), m_findWhat(), m_replaceWith()
+CFindReplaceDialog::CFindReplaceDialog() : CCommonDialog(nullptr), m_fr(), m_findWhat(), m_replaceWith()
 {
     m_fr.lStructSize = sizeof(m_fr);
     m_fr.Flags = FR_ENABLEHOOK;
@@ -18,16 +18,16 @@ CFindReplaceDialog::CFindReplaceDialog() : CCommonDialog(NULL), m_fr(), m_findWh
 BOOL CFindReplaceDialog::Create(BOOL bFindDialogOnly, LPCTSTR lpszFindWhat, LPCTSTR lpszReplaceWith,
                                 DWORD dwFlags, CWnd* pParentWnd)
 {
-    ASSERT(m_hWnd == NULL);
+    ASSERT(m_hWnd == nullptr);
     m_pParentWnd = pParentWnd;
     m_fr.Flags |= dwFlags;
-    m_fr.hwndOwner = pParentWnd != NULL ? pParentWnd->GetSafeHwnd() : AfxGetMainWnd()->GetSafeHwnd();
-    if (lpszFindWhat != NULL)
+    m_fr.hwndOwner = pParentWnd != nullptr ? pParentWnd->GetSafeHwnd() : AfxGetMainWnd()->GetSafeHwnd();
+    if (lpszFindWhat != nullptr)
         lstrcpyn(m_findWhat, lpszFindWhat, _countof(m_findWhat));
-    if (lpszReplaceWith != NULL)
+    if (lpszReplaceWith != nullptr)
         lstrcpyn(m_replaceWith, lpszReplaceWith, _countof(m_replaceWith));
     const HookScope scope(this);
-    return (bFindDialogOnly ? ::FindText(&m_fr) : ::ReplaceText(&m_fr)) != NULL;
+    return (bFindDialogOnly ? ::FindText(&m_fr) : ::ReplaceText(&m_fr)) != nullptr;
 }
 
 CFindReplaceDialog* PASCAL CFindReplaceDialog::GetNotifier(LPARAM lParam)

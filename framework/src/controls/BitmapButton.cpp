@@ -17,7 +17,7 @@ namespace
 bool Load(CBitmap& bitmap, LPCTSTR name)
 {
     bitmap.DeleteObject();
-    return name == NULL || bitmap.LoadBitmap(name);
+    return name == nullptr || bitmap.LoadBitmap(name);
 }
 
 CSize SizeOf(CBitmap& bitmap)
@@ -55,7 +55,7 @@ BOOL CBitmapButton::AutoLoad(UINT nID, CWnd* pParent)
     CString name;
     GetWindowText(name);
     LoadBitmaps(name + _T("U"), name + _T("D"), name + _T("F"), name + _T("X"));
-    if (m_normal.GetSafeHandle() == NULL)
+    if (m_normal.GetSafeHandle() == nullptr)
         return FALSE;
     SizeToContent();
     return TRUE;
@@ -63,9 +63,9 @@ BOOL CBitmapButton::AutoLoad(UINT nID, CWnd* pParent)
 
 void CBitmapButton::SizeToContent()
 {
-    ASSERT(m_normal.GetSafeHandle() != NULL);
+    ASSERT(m_normal.GetSafeHandle() != nullptr);
     const CSize size = SizeOf(m_normal);
-    SetWindowPos(NULL, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
+    SetWindowPos(nullptr, 0, 0, size.cx, size.cy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOREDRAW | SWP_NOACTIVATE);
 }
 
 CBitmap& CBitmapButton::BitmapFor(UINT nState)
@@ -77,13 +77,13 @@ CBitmap& CBitmapButton::BitmapFor(UINT nState)
         wanted = &m_disabled;
     else if ((nState & ODS_FOCUS) != 0)
         wanted = &m_focused;
-    return wanted->GetSafeHandle() != NULL ? *wanted : m_normal;
+    return wanted->GetSafeHandle() != nullptr ? *wanted : m_normal;
 }
 
 void CBitmapButton::DrawItem(LPDRAWITEMSTRUCT lpDrawItemStruct)
 {
     CBitmap& bitmap = BitmapFor(lpDrawItemStruct->itemState);
-    if (bitmap.GetSafeHandle() == NULL)
+    if (bitmap.GetSafeHandle() == nullptr)
         return;
     CDC* const dc = CDC::FromHandle(lpDrawItemStruct->hDC);
     CDC memory;

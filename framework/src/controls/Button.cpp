@@ -48,7 +48,7 @@ CScrollBar::~CScrollBar()
 
 BOOL CScrollBar::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create(WC_SCROLLBAR, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_SCROLLBAR, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CScrollBar::SetScrollInfo(LPSCROLLINFO lpScrollInfo, BOOL bRedraw)

@@ -68,7 +68,7 @@ BOOL CButton::SetSplitGlyph(TCHAR chGlyph)
 CImageList* CButton::GetSplitImageList() const
 {
     BUTTON_SPLITINFO info = SplitInfo(BCSIF_IMAGE);
-    return GetSplitInfo(&info) ? CImageList::FromHandle(info.himlGlyph) : NULL;
+    return GetSplitInfo(&info) ? CImageList::FromHandle(info.himlGlyph) : nullptr;
 }
 
 BOOL CButton::SetSplitImageList(CImageList* pSplitImageList)

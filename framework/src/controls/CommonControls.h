@@ -20,7 +20,7 @@ template <class Read> CString ReadText(Read read)
     {
         buffer.assign(size, 0);
         const LPCTSTR answer = read(buffer.data(), static_cast<int>(size));
-        if (answer == NULL)
+        if (answer == nullptr)
             return CString();
         if (answer != buffer.data() || std::wcslen(answer) < size - 1)
             return CString(answer);

@@ -13,7 +13,7 @@ CDateTimeCtrl::~CDateTimeCtrl()
 BOOL CDateTimeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(DATETIMEPICK_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(DATETIMEPICK_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CDateTimeCtrl::GetTime(COleDateTime& timeDest) const
@@ -39,20 +39,20 @@ DWORD CDateTimeCtrl::GetTime(CTime& timeDest) const
 BOOL CDateTimeCtrl::SetTime(const COleDateTime& timeNew)
 {
     SYSTEMTIME time = {};
-    return SetTime(quorfx::ToSystemTime(timeNew, time) ? &time : NULL);
+    return SetTime(quorfx::ToSystemTime(timeNew, time) ? &time : nullptr);
 }
 
 BOOL CDateTimeCtrl::SetTime(const CTime* pTimeNew)
 {
     SYSTEMTIME time = {};
-    return SetTime(pTimeNew != NULL && pTimeNew->GetAsSystemTime(time) ? &time : NULL);
+    return SetTime(pTimeNew != nullptr && pTimeNew->GetAsSystemTime(time) ? &time : nullptr);
 }
 
 BOOL CDateTimeCtrl::SetTime(LPSYSTEMTIME pTimeNew)
 {
     // Some versions of the control want a structure even where it means nothing.
     SYSTEMTIME unused = {};
-    if (pTimeNew == NULL)
+    if (pTimeNew == nullptr)
         return quorfx::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, GDT_NONE, &unused);
     return quorfx::Send<BOOL>(m_hWnd, DTM_SETSYSTEMTIME, GDT_VALID, pTimeNew);
 }

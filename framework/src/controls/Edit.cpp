@@ -10,7 +10,7 @@ CEdit::~CEdit()
 
 BOOL CEdit::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create(WC_EDIT, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_EDIT, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 int CEdit::GetLine(int nIndex, LPTSTR lpszBuffer) const

@@ -13,13 +13,13 @@ CHeaderCtrl::~CHeaderCtrl()
 BOOL CHeaderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(WC_HEADER, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_HEADER, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CHeaderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, WC_HEADER, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, WC_HEADER, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 BOOL CHeaderCtrl::GetOrderArray(LPINT piArray, int iCount)
@@ -42,8 +42,8 @@ CImageList* CHeaderCtrl::SetImageList(CImageList* pImageList)
 CImageList* CHeaderCtrl::CreateDragImage(int nIndex)
 {
     const HIMAGELIST handle = quorfx::Send<HIMAGELIST>(m_hWnd, HDM_CREATEDRAGIMAGE, nIndex);
-    if (handle == NULL)
-        return NULL;
+    if (handle == nullptr)
+        return nullptr;
     CImageList* list = new CImageList;
     list->Attach(handle);
     return list;
@@ -65,13 +65,13 @@ CSpinButtonCtrl::~CSpinButtonCtrl()
 BOOL CSpinButtonCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(UPDOWN_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(UPDOWN_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CSpinButtonCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, UPDOWN_CLASS, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, UPDOWN_CLASS, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 CWnd* CSpinButtonCtrl::SetBuddy(CWnd* pWndBuddy)
@@ -99,13 +99,13 @@ CTabCtrl::~CTabCtrl()
 BOOL CTabCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(WC_TABCONTROL, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_TABCONTROL, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CTabCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, WC_TABCONTROL, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, WC_TABCONTROL, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 LONG CTabCtrl::InsertItem(int nItem, LPCTSTR lpszItem)

@@ -22,7 +22,7 @@ template <class List> BOOL AnswerOwnerDraw(List* list, UINT message, LPARAM lPar
         return TRUE;
     case WM_COMPAREITEM: {
         const int order = list->CompareItem(reinterpret_cast<LPCOMPAREITEMSTRUCT>(lParam));
-        if (result != NULL)
+        if (result != nullptr)
             *result = order;
         return TRUE;
     }
@@ -40,7 +40,7 @@ CListBox::~CListBox()
 
 BOOL CListBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create(WC_LISTBOX, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_LISTBOX, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 UINT CListBox::ItemFromPoint(CPoint pt, BOOL& bOutside) const
@@ -101,7 +101,7 @@ BOOL CListBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT
     const UINT key = LOWORD(wParam);
     const UINT caretIndex = HIWORD(wParam);
     const int answer = message == WM_VKEYTOITEM ? VKeyToItem(key, caretIndex) : CharToItem(key, caretIndex);
-    if (pResult != NULL)
+    if (pResult != nullptr)
         *pResult = answer;
     return TRUE;
 }
@@ -113,7 +113,7 @@ CComboBox::~CComboBox()
 
 BOOL CComboBox::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    return CWnd::Create(WC_COMBOBOX, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_COMBOBOX, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 void CComboBox::GetLBText(int nIndex, CString& rString) const
@@ -146,5 +146,5 @@ BOOL CComboBox::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 CString CComboBox::GetCueBanner() const
 {
     return quorfx::ReadText(
-        [this](LPTSTR buffer, int size) -> LPCTSTR { return GetCueBanner(buffer, size) ? buffer : NULL; });
+        [this](LPTSTR buffer, int size) -> LPCTSTR { return GetCueBanner(buffer, size) ? buffer : nullptr; });
 }

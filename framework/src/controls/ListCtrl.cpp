@@ -15,13 +15,13 @@ CListCtrl::~CListCtrl()
 BOOL CListCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(WC_LISTVIEW, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_LISTVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CListCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, WC_LISTVIEW, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, WC_LISTVIEW, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 CImageList* CListCtrl::GetImageList(int nImageList) const
@@ -108,7 +108,7 @@ DWORD_PTR CListCtrl::GetItemData(int nItem) const
 
 BOOL CListCtrl::SetItemData(int nItem, DWORD_PTR dwData)
 {
-    return SetItem(nItem, 0, LVIF_PARAM, NULL, 0, 0, 0, static_cast<LPARAM>(dwData));
+    return SetItem(nItem, 0, LVIF_PARAM, nullptr, 0, 0, 0, static_cast<LPARAM>(dwData));
 }
 
 BOOL CListCtrl::GetCheck(int nItem) const
@@ -132,7 +132,7 @@ CString CListCtrl::GetItemText(int nItem, int nSubItem) const
 CString CListCtrl::GetEmptyText() const
 {
     return quorfx::ReadText([this](LPTSTR buffer, int size) -> LPCTSTR {
-        return quorfx::Send<BOOL>(m_hWnd, LVM_GETEMPTYTEXT, size, buffer) ? buffer : NULL;
+        return quorfx::Send<BOOL>(m_hWnd, LVM_GETEMPTYTEXT, size, buffer) ? buffer : nullptr;
     });
 }
 
@@ -171,7 +171,7 @@ int CListCtrl::HitTest(CPoint pt, UINT* pFlags) const
     LVHITTESTINFO info = {};
     info.pt = pt;
     const int item = HitTest(&info);
-    if (pFlags != NULL)
+    if (pFlags != nullptr)
         *pFlags = info.flags;
     return item;
 }
@@ -261,7 +261,7 @@ BOOL CListCtrl::GetColumnOrderArray(LPINT piArray, int iCount)
     if (iCount == -1)
     {
         CHeaderCtrl* header = GetHeaderCtrl();
-        if (header == NULL)
+        if (header == nullptr)
             return FALSE;
         iCount = header->GetItemCount();
     }
@@ -286,8 +286,8 @@ CEdit* CListCtrl::GetEditControl() const
 CImageList* CListCtrl::CreateDragImage(int nItem, LPPOINT lpPoint)
 {
     const HIMAGELIST handle = quorfx::Send<HIMAGELIST>(m_hWnd, LVM_CREATEDRAGIMAGE, nItem, lpPoint);
-    if (handle == NULL)
-        return NULL;
+    if (handle == nullptr)
+        return nullptr;
     CImageList* list = new CImageList;
     list->Attach(handle);
     return list;
@@ -310,8 +310,8 @@ namespace quorfx
 void KeepOwnedImageList(HWND list, int kind)
 {
     const HIMAGELIST images = Send<HIMAGELIST>(list, LVM_GETIMAGELIST, kind);
-    if (images != NULL && CImageList::FromHandlePermanent(images) != NULL)
-        Send(list, LVM_SETIMAGELIST, kind, static_cast<HIMAGELIST>(NULL));
+    if (images != nullptr && CImageList::FromHandlePermanent(images) != nullptr)
+        Send(list, LVM_SETIMAGELIST, kind, static_cast<HIMAGELIST>(nullptr));
 }
 
 } // namespace quorfx

@@ -45,7 +45,7 @@ template <class Time> BOOL SetSelectionOf(HWND window, const Time& lower, const 
 
 void StoreTime(LPSYSTEMTIME target, const SYSTEMTIME& time)
 {
-    if (target != NULL)
+    if (target != nullptr)
         *target = time;
 }
 
@@ -59,7 +59,7 @@ CMonthCalCtrl::~CMonthCalCtrl()
 BOOL CMonthCalCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(MONTHCAL_CLASS, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(MONTHCAL_CLASS, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CMonthCalCtrl::Create(DWORD dwStyle, const POINT& pt, CWnd* pParentWnd, UINT nID)
@@ -154,8 +154,9 @@ BOOL CMonthCalCtrl::SetRange(const CTime* pMinRange, const CTime* pMaxRange)
 BOOL CMonthCalCtrl::SetRange(const LPSYSTEMTIME pMinRange, const LPSYSTEMTIME pMaxRange)
 {
     const SYSTEMTIME none = {};
-    const SYSTEMTIME times[] = {pMinRange == NULL ? none : *pMinRange, pMaxRange == NULL ? none : *pMaxRange};
-    const DWORD flags = (pMinRange == NULL ? 0u : GDTR_MIN) | (pMaxRange == NULL ? 0u : GDTR_MAX);
+    const SYSTEMTIME times[] = {pMinRange == nullptr ? none : *pMinRange,
+                                pMaxRange == nullptr ? none : *pMaxRange};
+    const DWORD flags = (pMinRange == nullptr ? 0u : GDTR_MIN) | (pMaxRange == nullptr ? 0u : GDTR_MAX);
     return quorfx::Send<BOOL>(m_hWnd, MCM_SETRANGE, flags, times);
 }
 
@@ -192,13 +193,13 @@ void CMonthCalCtrl::SetToday(const CTime* pDateTime)
 {
     SYSTEMTIME time = {};
     quorfx::Send(m_hWnd, MCM_SETTODAY, 0,
-                 pDateTime != NULL && quorfx::ToSystemTime(*pDateTime, time) ? &time : NULL);
+                 pDateTime != nullptr && quorfx::ToSystemTime(*pDateTime, time) ? &time : nullptr);
 }
 
 int CMonthCalCtrl::GetFirstDayOfWeek(BOOL* pbLocal) const
 {
     const DWORD answer = quorfx::Send<DWORD>(m_hWnd, MCM_GETFIRSTDAYOFWEEK);
-    if (pbLocal != NULL)
+    if (pbLocal != nullptr)
         *pbLocal = HIWORD(answer);
     return LOWORD(answer);
 }
@@ -206,7 +207,7 @@ int CMonthCalCtrl::GetFirstDayOfWeek(BOOL* pbLocal) const
 BOOL CMonthCalCtrl::SetFirstDayOfWeek(int iDay, int* lpnOld)
 {
     const DWORD answer = quorfx::Send<DWORD>(m_hWnd, MCM_SETFIRSTDAYOFWEEK, 0, iDay);
-    if (lpnOld != NULL)
+    if (lpnOld != nullptr)
         *lpnOld = LOWORD(answer);
     return HIWORD(answer);
 }
@@ -218,6 +219,6 @@ BOOL CMonthCalCtrl::SizeMinReq(BOOL bRepaint)
         return FALSE;
     // The border is not part of the size that the control asks for.
     AdjustWindowRectEx(&rect, GetStyle(), FALSE, GetExStyle());
-    return SetWindowPos(NULL, 0, 0, rect.Width(), rect.Height(),
+    return SetWindowPos(nullptr, 0, 0, rect.Width(), rect.Height(),
                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | (bRepaint ? 0u : SWP_NOREDRAW));
 }

@@ -17,7 +17,7 @@ BOOL CProgressCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UI
 BOOL CProgressCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, PROGRESS_CLASS, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, PROGRESS_CLASS, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 void CProgressCtrl::GetRange(int& nLower, int& nUpper)
@@ -41,7 +41,7 @@ BOOL CSliderCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT
 BOOL CSliderCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, TRACKBAR_CLASS, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, TRACKBAR_CLASS, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 void CSliderCtrl::GetRange(int& nMin, int& nMax) const

@@ -20,7 +20,7 @@ TOOLINFO ToolFor(const CWnd* window, UINT_PTR tool)
         return info;
     }
     const HWND parent = ::GetParent(handle);
-    info.hwnd = parent != NULL ? parent : handle;
+    info.hwnd = parent != nullptr ? parent : handle;
     info.uFlags = TTF_IDISHWND;
     info.uId = reinterpret_cast<UINT_PTR>(handle);
     return info;
@@ -47,15 +47,15 @@ BOOL CToolTipCtrl::Create(CWnd* pParentWnd, DWORD dwStyle)
 BOOL CToolTipCtrl::CreateEx(CWnd* pParentWnd, DWORD dwStyle, DWORD dwStyleEx)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwStyleEx, TOOLTIPS_CLASS, NULL, WS_POPUP | dwStyle, CW_USEDEFAULT, CW_USEDEFAULT,
-                          CW_USEDEFAULT, CW_USEDEFAULT, pParentWnd->GetSafeHwnd(), NULL);
+    return CWnd::CreateEx(dwStyleEx, TOOLTIPS_CLASS, nullptr, WS_POPUP | dwStyle, CW_USEDEFAULT,
+                          CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, pParentWnd->GetSafeHwnd(), nullptr);
 }
 
 BOOL CToolTipCtrl::AddTool(CWnd* pWnd, UINT nIDText, LPCRECT lpRectTool, UINT_PTR nIDTool)
 {
     TOOLINFO info = ToolFor(pWnd, nIDTool);
     SetTextResource(info, nIDText);
-    if (lpRectTool != NULL)
+    if (lpRectTool != nullptr)
         info.rect = *lpRectTool;
     return quorfx::Send<BOOL>(m_hWnd, TTM_ADDTOOL, 0, &info);
 }
@@ -64,7 +64,7 @@ BOOL CToolTipCtrl::AddTool(CWnd* pWnd, LPCTSTR lpszText, LPCRECT lpRectTool, UIN
 {
     TOOLINFO info = ToolFor(pWnd, nIDTool);
     info.lpszText = const_cast<LPTSTR>(lpszText);
-    if (lpRectTool != NULL)
+    if (lpRectTool != nullptr)
         info.rect = *lpRectTool;
     return quorfx::Send<BOOL>(m_hWnd, TTM_ADDTOOL, 0, &info);
 }

@@ -24,13 +24,13 @@ CTreeCtrl::~CTreeCtrl()
 BOOL CTreeCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::Create(WC_TREEVIEW, NULL, dwStyle, rect, pParentWnd, nID);
+    return CWnd::Create(WC_TREEVIEW, nullptr, dwStyle, rect, pParentWnd, nID);
 }
 
 BOOL CTreeCtrl::CreateEx(DWORD dwExStyle, DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
     quorfx::EnsureCommonControls();
-    return CWnd::CreateEx(dwExStyle, WC_TREEVIEW, NULL, dwStyle | WS_CHILD, rect, pParentWnd, nID);
+    return CWnd::CreateEx(dwExStyle, WC_TREEVIEW, nullptr, dwStyle | WS_CHILD, rect, pParentWnd, nID);
 }
 
 CToolTipCtrl* CTreeCtrl::GetToolTips() const
@@ -67,7 +67,7 @@ CString CTreeCtrl::GetItemText(HTREEITEM hItem) const
         TVITEM item = ItemFor(hItem, TVIF_TEXT);
         item.pszText = buffer;
         item.cchTextMax = size;
-        return GetItem(&item) ? item.pszText : NULL;
+        return GetItem(&item) ? item.pszText : nullptr;
     });
 }
 
@@ -126,17 +126,17 @@ BOOL CTreeCtrl::SetItemText(HTREEITEM hItem, LPCTSTR lpszItem)
 
 BOOL CTreeCtrl::SetItemImage(HTREEITEM hItem, int nImage, int nSelectedImage)
 {
-    return SetItem(hItem, TVIF_IMAGE | TVIF_SELECTEDIMAGE, NULL, nImage, nSelectedImage, 0, 0, 0);
+    return SetItem(hItem, TVIF_IMAGE | TVIF_SELECTEDIMAGE, nullptr, nImage, nSelectedImage, 0, 0, 0);
 }
 
 BOOL CTreeCtrl::SetItemState(HTREEITEM hItem, UINT nState, UINT nStateMask)
 {
-    return SetItem(hItem, TVIF_STATE, NULL, 0, 0, nState, nStateMask, 0);
+    return SetItem(hItem, TVIF_STATE, nullptr, 0, 0, nState, nStateMask, 0);
 }
 
 BOOL CTreeCtrl::SetItemData(HTREEITEM hItem, DWORD_PTR dwData)
 {
-    return SetItem(hItem, TVIF_PARAM, NULL, 0, 0, 0, 0, static_cast<LPARAM>(dwData));
+    return SetItem(hItem, TVIF_PARAM, nullptr, 0, 0, 0, 0, static_cast<LPARAM>(dwData));
 }
 
 BOOL CTreeCtrl::SetCheck(HTREEITEM hItem, BOOL fCheck)
@@ -187,7 +187,7 @@ HTREEITEM CTreeCtrl::HitTest(CPoint pt, UINT* pFlags) const
     TVHITTESTINFO info = {};
     info.pt = pt;
     const HTREEITEM item = HitTest(&info);
-    if (pFlags != NULL)
+    if (pFlags != nullptr)
         *pFlags = info.flags;
     return item;
 }

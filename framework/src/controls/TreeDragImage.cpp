@@ -57,8 +57,8 @@ HIMAGELIST DrawItemImage(CTreeCtrl& tree, HTREEITEM item, HIMAGELIST images)
 CImageList* CTreeCtrl::CreateDragImage(HTREEITEM hItem)
 {
     HIMAGELIST handle = quorfx::Send<HIMAGELIST>(m_hWnd, TVM_CREATEDRAGIMAGE, 0, hItem);
-    if (handle == NULL)
-        return NULL;
+    if (handle == nullptr)
+        return nullptr;
     // Some versions of Wine answer with a list that has no image, since their bitmap is narrower than the
     // list.
     if (::ImageList_GetImageCount(handle) == 0)

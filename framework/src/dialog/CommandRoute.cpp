@@ -11,10 +11,10 @@ BOOL RouteCommandOut(const CWnd& dialog, UINT id, int code, void* extra, AFX_CMD
     if (!isCommand || id < 0x8000 || id >= 0xf000)
         return FALSE;
     CWnd* owner = dialog.GetParent();
-    if (owner != NULL && owner->OnCmdMsg(id, code, extra, handlerInfo))
+    if (owner != nullptr && owner->OnCmdMsg(id, code, extra, handlerInfo))
         return TRUE;
     CWinApp* application = AfxGetApp();
-    return application != NULL && application->OnCmdMsg(id, code, extra, handlerInfo);
+    return application != nullptr && application->OnCmdMsg(id, code, extra, handlerInfo);
 }
 
 } // namespace quorfx

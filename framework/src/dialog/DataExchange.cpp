@@ -9,7 +9,7 @@ CDataExchange::CDataExchange(CWnd* pDlgWnd, BOOL bSaveAndValidate)
 HWND CDataExchange::PrepareCtrl(int nIDC)
 {
     const HWND control = ::GetDlgItem(m_pDlgWnd->m_hWnd, nIDC);
-    if (control == NULL)
+    if (control == nullptr)
     {
         TRACE(_T("Data exchange: no control %d.\n"), nIDC);
         AfxThrowNotSupportedException();
@@ -40,7 +40,7 @@ void CDataExchange::Fail()
 
 void AFXAPI DDX_Control(CDataExchange* pDX, int nIDC, CWnd& rControl)
 {
-    if (rControl.m_hWnd != NULL)
+    if (rControl.m_hWnd != nullptr)
         return;
     const HWND control = pDX->PrepareCtrl(nIDC);
     if (!rControl.SubclassWindow(control))
@@ -72,7 +72,7 @@ bool IsRadioButton(HWND control)
 HWND NextInGroup(HWND control)
 {
     const HWND next = ::GetWindow(control, GW_HWNDNEXT);
-    return next != NULL && (::GetWindowLong(next, GWL_STYLE) & WS_GROUP) == 0 ? next : NULL;
+    return next != nullptr && (::GetWindowLong(next, GWL_STYLE) & WS_GROUP) == 0 ? next : nullptr;
 }
 
 int ListSelection(HWND control, UINT getSelection)
@@ -127,7 +127,7 @@ void AFXAPI DDX_Radio(CDataExchange* pDX, int nIDC, int& value)
     if (pDX->m_bSaveAndValidate)
         value = -1;
     int index = 0;
-    for (HWND control = first; control != NULL; control = NextInGroup(control))
+    for (HWND control = first; control != nullptr; control = NextInGroup(control))
     {
         if (!IsRadioButton(control))
             continue;

@@ -41,7 +41,7 @@ void ShowText(HWND control, const CString& text)
 // Whether the whole text is one integer of type Number; stores it then.
 template <class Number> bool ParseInteger(const CString& text, Number& value)
 {
-    LPWSTR end = NULL;
+    LPWSTR end = nullptr;
     errno = 0;
     if (std::numeric_limits<Number>::is_signed)
     {
@@ -62,7 +62,7 @@ template <class Number> bool ParseInteger(const CString& text, Number& value)
 
 template <class Number> bool ParseReal(const CString& text, Number& value)
 {
-    LPWSTR end = NULL;
+    LPWSTR end = nullptr;
     const double number = std::wcstod(text, &end);
     value = static_cast<Number>(number);
     return end != text.GetString() && OnlySpaces(end);
@@ -269,7 +269,7 @@ void AFXAPI DDV_MaxChars(CDataExchange* pDX, CString const& value, int nChars)
     }
     const HWND control =
         ::GetDlgItem(pDX->m_pDlgWnd->m_hWnd, static_cast<int>(FrameworkAccess::LastControl(*pDX)));
-    if (control == NULL)
+    if (control == nullptr)
         return;
     const UINT limitText = FrameworkAccess::IsEditLastControl(*pDX) ? EM_LIMITTEXT : CB_LIMITTEXT;
     ::SendMessage(control, limitText, static_cast<WPARAM>(nChars), 0);

@@ -15,22 +15,22 @@ BEGIN_MESSAGE_MAP(CDialog, CWnd)
     ON_MESSAGE(WM_COMMANDHELP, &CDialog::OnCommandHelp)
 END_MESSAGE_MAP()
 
-CDialog::CDialog() : CDialog(static_cast<LPCTSTR>(NULL), NULL) {}
+CDialog::CDialog() : CDialog(static_cast<LPCTSTR>(nullptr), nullptr) {}
 
 CDialog::CDialog(UINT nIDTemplate, CWnd* pParentWnd) : CDialog(MAKEINTRESOURCE(nIDTemplate), pParentWnd) {}
 
 CDialog::CDialog(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
     : m_lpszTemplateName(lpszTemplateName),
-      m_hDialogTemplate(NULL),
-      m_lpDialogTemplate(NULL),
-      m_lpDialogInit(NULL),
+      m_hDialogTemplate(nullptr),
+      m_lpDialogTemplate(nullptr),
+      m_lpDialogInit(nullptr),
       m_pParentWnd(pParentWnd)
 {
 }
 
 CDialog::~CDialog()
 {
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         DestroyWindow();
 }
 
@@ -61,9 +61,9 @@ BOOL CDialog::CreateIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 
 BOOL CDialog::CreateFrom(LPCDLGTEMPLATE lpTemplate, CWnd* pParentWnd)
 {
-    if (lpTemplate == NULL)
+    if (lpTemplate == nullptr)
         return FALSE;
-    CWnd* parent = pParentWnd != NULL ? pParentWnd : AfxGetMainWnd();
+    CWnd* parent = pParentWnd != nullptr ? pParentWnd : AfxGetMainWnd();
     m_pParentWnd = parent;
     return quorfx::CreateFromTemplate(this, lpTemplate, parent, &CDialog::DialogProc);
 }
@@ -72,7 +72,7 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 {
     m_lpDialogTemplate = lpDialogTemplate;
     m_lpDialogInit = lpDialogInit;
-    if (m_pParentWnd == NULL)
+    if (m_pParentWnd == nullptr)
         m_pParentWnd = pParentWnd;
     return TRUE;
 }
@@ -80,30 +80,30 @@ BOOL CDialog::InitModalIndirect(LPCDLGTEMPLATE lpDialogTemplate, CWnd* pParentWn
 BOOL CDialog::InitModalIndirect(HGLOBAL hDialogTemplate, CWnd* pParentWnd)
 {
     m_hDialogTemplate = hDialogTemplate;
-    if (m_pParentWnd == NULL)
+    if (m_pParentWnd == nullptr)
         m_pParentWnd = pParentWnd;
     return TRUE;
 }
 
 INT_PTR CDialog::DoModal()
 {
-    ASSERT(m_hWnd == NULL);
+    ASSERT(m_hWnd == nullptr);
     LPCDLGTEMPLATE dialogTemplate = m_lpDialogTemplate;
-    if (m_hDialogTemplate != NULL)
+    if (m_hDialogTemplate != nullptr)
         dialogTemplate = static_cast<LPCDLGTEMPLATE>(::GlobalLock(m_hDialogTemplate));
-    else if (dialogTemplate == NULL)
+    else if (dialogTemplate == nullptr)
         dialogTemplate = quorfx::FindDialogTemplate(m_lpszTemplateName);
     m_nModalResult = -1;
-    if (dialogTemplate != NULL)
+    if (dialogTemplate != nullptr)
         RunDialog(dialogTemplate);
-    if (m_hDialogTemplate != NULL)
+    if (m_hDialogTemplate != nullptr)
         ::GlobalUnlock(m_hDialogTemplate);
     return m_nModalResult;
 }
 
 void CDialog::RunDialog(LPCDLGTEMPLATE lpTemplate)
 {
-    HWND topLevel = NULL;
+    HWND topLevel = nullptr;
     CWnd* owner = CWnd::GetSafeOwner(m_pParentWnd, &topLevel);
     const HWND ownerHandle = owner->GetSafeHwnd();
     ::ReleaseCapture();
@@ -114,12 +114,12 @@ void CDialog::RunDialog(LPCDLGTEMPLATE lpTemplate)
     if (created && ContinueModal())
         RunModalLoop(GetStyle() & DS_NOIDLEMSG ? MLF_SHOWONIDLE | MLF_NOIDLEMSG : MLF_SHOWONIDLE);
     m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL);
-    if (m_hWnd != NULL)
-        ::SetWindowPos(m_hWnd, NULL, 0, 0, 0, 0,
+    if (m_hWnd != nullptr)
+        ::SetWindowPos(m_hWnd, nullptr, 0, 0, 0, 0,
                        SWP_HIDEWINDOW | SWP_NOSIZE | SWP_NOMOVE | SWP_NOACTIVATE | SWP_NOZORDER);
     // The owner must be enabled before the dialog dies, or another program's window would become active.
     blocked.Enable();
-    if (m_hWnd != NULL && ::GetActiveWindow() == m_hWnd)
+    if (m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd)
         ::SetActiveWindow(ownerHandle);
     DestroyWindow();
 }
@@ -138,7 +138,7 @@ INT_PTR CALLBACK CDialog::DialogProc(HWND hWnd, UINT message, WPARAM, LPARAM lPa
     if (message != WM_INITDIALOG)
         return FALSE;
     CDialog* dialog = DYNAMIC_DOWNCAST(CDialog, CWnd::FromHandlePermanent(hWnd));
-    return dialog != NULL ? dialog->InitDialog(reinterpret_cast<LPCDLGTEMPLATE>(lParam)) : TRUE;
+    return dialog != nullptr ? dialog->InitDialog(reinterpret_cast<LPCDLGTEMPLATE>(lParam)) : TRUE;
 }
 
 namespace
@@ -167,7 +167,7 @@ INT_PTR CDialog::InitDialog(LPCDLGTEMPLATE lpTemplate)
         PreInitDialog();
         const BOOL setsFocus = OnInitDialog();
         // A modeless dialog that gave up may have deleted itself.
-        if (lpTemplate != NULL && FromHandlePermanent(window) == this)
+        if (lpTemplate != nullptr && FromHandlePermanent(window) == this)
             CentreWhereItWasCreated(*this, lpTemplate, created);
         return setsFocus;
     }
@@ -184,7 +184,7 @@ INT_PTR CDialog::InitDialog(LPCDLGTEMPLATE lpTemplate)
 BOOL CDialog::OnInitDialog()
 {
     const BOOL initialised =
-        m_lpDialogInit != NULL ? ExecuteDlgInit(m_lpDialogInit) : ExecuteDlgInit(m_lpszTemplateName);
+        m_lpDialogInit != nullptr ? ExecuteDlgInit(m_lpDialogInit) : ExecuteDlgInit(m_lpszTemplateName);
     if (!initialised || !UpdateData(FALSE))
     {
         EndDialog(-1);
@@ -206,7 +206,7 @@ LRESULT CDialog::HandleSetFont(WPARAM wParam, LPARAM)
 BOOL CDialog::OnHelpInfo(HELPINFO*)
 {
     CWnd* const main = AfxGetMainWnd();
-    if ((GetStyle() & WS_CHILD) || main == NULL || ::GetKeyState(VK_SHIFT) < 0)
+    if ((GetStyle() & WS_CHILD) || main == nullptr || ::GetKeyState(VK_SHIFT) < 0)
         return static_cast<BOOL>(Default());
     main->SendMessage(WM_COMMAND, ID_HELP);
     return TRUE;
@@ -215,7 +215,7 @@ BOOL CDialog::OnHelpInfo(HELPINFO*)
 // The help on a dialog has the number of its template.
 LRESULT CDialog::OnCommandHelp(WPARAM, LPARAM lParam)
 {
-    if (lParam == 0 && m_lpszTemplateName != NULL && IS_INTRESOURCE(m_lpszTemplateName))
+    if (lParam == 0 && m_lpszTemplateName != nullptr && IS_INTRESOURCE(m_lpszTemplateName))
         lParam = HID_BASE_RESOURCE + static_cast<LPARAM>(reinterpret_cast<UINT_PTR>(m_lpszTemplateName));
     return ShowHelpContext(static_cast<DWORD_PTR>(lParam));
 }

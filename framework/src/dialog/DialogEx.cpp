@@ -9,12 +9,12 @@ BEGIN_MESSAGE_MAP(CDialogEx, CDialog)
     ON_WM_SIZE()
 END_MESSAGE_MAP()
 
-CDialogEx::CDialogEx() : CDialogEx(static_cast<LPCTSTR>(NULL), NULL) {}
+CDialogEx::CDialogEx() : CDialogEx(static_cast<LPCTSTR>(nullptr), nullptr) {}
 
 CDialogEx::CDialogEx(UINT nIDTemplate, CWnd* pParent) : CDialogEx(MAKEINTRESOURCE(nIDTemplate), pParent) {}
 
 CDialogEx::CDialogEx(LPCTSTR lpszTemplateName, CWnd* pParentWnd)
-    : CDialog(lpszTemplateName, pParentWnd), m_image(NULL), m_ownsImage(FALSE), m_location(BACKGR_TILE)
+    : CDialog(lpszTemplateName, pParentWnd), m_image(nullptr), m_ownsImage(FALSE), m_location(BACKGR_TILE)
 {
 }
 
@@ -25,8 +25,8 @@ CDialogEx::~CDialogEx()
 
 void CDialogEx::Repaint(BOOL bRepaint)
 {
-    if (bRepaint && m_hWnd != NULL)
-        RedrawWindow(NULL, NULL, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    if (bRepaint && m_hWnd != nullptr)
+        RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_ALLCHILDREN | RDW_UPDATENOW);
 }
 
 void CDialogEx::SetBackgroundColor(COLORREF color, BOOL bRepaint)
@@ -39,9 +39,9 @@ void CDialogEx::SetBackgroundColor(COLORREF color, BOOL bRepaint)
 
 void CDialogEx::DropImage()
 {
-    if (m_ownsImage && m_image != NULL)
+    if (m_ownsImage && m_image != nullptr)
         ::DeleteObject(m_image);
-    m_image = NULL;
+    m_image = nullptr;
 }
 
 void CDialogEx::SetBackgroundImage(HBITMAP hBitmap, BackgroundLocation location, BOOL bAutoDestroy,
@@ -57,12 +57,12 @@ void CDialogEx::SetBackgroundImage(HBITMAP hBitmap, BackgroundLocation location,
 
 BOOL CDialogEx::SetBackgroundImage(UINT uiBmpResId, BackgroundLocation location, BOOL bRepaint)
 {
-    HBITMAP bitmap = NULL;
+    HBITMAP bitmap = nullptr;
     if (uiBmpResId != 0)
     {
         const LPCTSTR name = MAKEINTRESOURCE(uiBmpResId);
         bitmap = ::LoadBitmap(AfxFindResourceHandle(name, RT_BITMAP), name);
-        if (bitmap == NULL)
+        if (bitmap == nullptr)
             return FALSE;
     }
     SetBackgroundImage(bitmap, location, TRUE, bRepaint);
@@ -71,15 +71,15 @@ BOOL CDialogEx::SetBackgroundImage(UINT uiBmpResId, BackgroundLocation location,
 
 BOOL CDialogEx::OnEraseBkgnd(CDC* pDC)
 {
-    if (m_image == NULL && m_colorBrush.GetSafeHandle() == NULL)
+    if (m_image == nullptr && m_colorBrush.GetSafeHandle() == nullptr)
         return CDialog::OnEraseBkgnd(pDC);
     CRect client;
     GetClientRect(&client);
-    if (m_colorBrush.GetSafeHandle() != NULL)
+    if (m_colorBrush.GetSafeHandle() != nullptr)
         pDC->FillRect(client, &m_colorBrush);
     else
         CDialog::OnEraseBkgnd(pDC);
-    if (m_image != NULL)
+    if (m_image != nullptr)
         DrawImage(pDC, client);
     return TRUE;
 }
@@ -110,7 +110,7 @@ void CDialogEx::DrawImage(CDC* pDC, const CRect& rectClient) const
 
 HBRUSH CDialogEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
 {
-    const bool hasBackground = m_image != NULL || m_colorBrush.GetSafeHandle() != NULL;
+    const bool hasBackground = m_image != nullptr || m_colorBrush.GetSafeHandle() != nullptr;
     if (!hasBackground || nCtlColor != CTLCOLOR_STATIC)
         return CDialog::OnCtlColor(pDC, pWnd, nCtlColor);
     // An edit that is read-only asks as a label does; it keeps its own background.
@@ -119,14 +119,14 @@ HBRUSH CDialogEx::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
     if (::lstrcmpi(className, WC_EDIT) == 0)
         return CDialog::OnCtlColor(pDC, pWnd, nCtlColor);
     pDC->SetBkMode(TRANSPARENT);
-    return m_image != NULL ? static_cast<HBRUSH>(::GetStockObject(HOLLOW_BRUSH))
-                           : static_cast<HBRUSH>(m_colorBrush.GetSafeHandle());
+    return m_image != nullptr ? static_cast<HBRUSH>(::GetStockObject(HOLLOW_BRUSH))
+                              : static_cast<HBRUSH>(m_colorBrush.GetSafeHandle());
 }
 
 // A picture that does not stand at the top left moves with the size.
 void CDialogEx::OnSize(UINT nType, int cx, int cy)
 {
     CDialog::OnSize(nType, cx, cy);
-    if (m_image != NULL && m_location != BACKGR_TILE && m_location != BACKGR_TOPLEFT)
+    if (m_image != nullptr && m_location != BACKGR_TILE && m_location != BACKGR_TOPLEFT)
         Invalidate();
 }

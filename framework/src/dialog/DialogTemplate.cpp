@@ -32,8 +32,8 @@ LPCDLGTEMPLATE FindDialogTemplate(LPCTSTR name)
 {
     const HINSTANCE module = AfxFindResourceHandle(name, RT_DIALOG);
     const HRSRC resource = ::FindResource(module, name, RT_DIALOG);
-    const HGLOBAL memory = resource != NULL ? ::LoadResource(module, resource) : NULL;
-    return memory != NULL ? static_cast<LPCDLGTEMPLATE>(::LockResource(memory)) : NULL;
+    const HGLOBAL memory = resource != nullptr ? ::LoadResource(module, resource) : nullptr;
+    return memory != nullptr ? static_cast<LPCDLGTEMPLATE>(::LockResource(memory)) : nullptr;
 }
 
 CSize DialogTemplateSize(HWND dialog, LPCDLGTEMPLATE dialogTemplate)

@@ -20,17 +20,17 @@ public:
     {
         for (HWND* window : {&m_owner, &m_topLevel})
         {
-            if (*window != NULL)
+            if (*window != nullptr)
                 ::EnableWindow(*window, TRUE);
-            *window = NULL;
+            *window = nullptr;
         }
     }
 
 private:
     static HWND Disable(HWND window)
     {
-        if (window == NULL || window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
-            return NULL;
+        if (window == nullptr || window == ::GetDesktopWindow() || !::IsWindowEnabled(window))
+            return nullptr;
         ::EnableWindow(window, FALSE);
         return window;
     }

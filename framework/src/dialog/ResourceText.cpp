@@ -4,19 +4,19 @@
 BOOL AFXAPI AfxExtractSubString(CString& rString, LPCTSTR lpszFullString, int iSubString, TCHAR chSep)
 {
     LPCTSTR part = lpszFullString;
-    for (int index = 0; part != NULL && index < iSubString; ++index)
+    for (int index = 0; part != nullptr && index < iSubString; ++index)
     {
         part = std::wcschr(part, chSep);
-        if (part != NULL)
+        if (part != nullptr)
             ++part;
     }
-    if (part == NULL)
+    if (part == nullptr)
     {
         rString.Empty();
         return FALSE;
     }
     LPCTSTR end = std::wcschr(part, chSep);
-    const size_t length = end != NULL ? static_cast<size_t>(end - part) : std::wcslen(part);
+    const size_t length = end != nullptr ? static_cast<size_t>(end - part) : std::wcslen(part);
     rString = CString(part, static_cast<int>(length));
     return TRUE;
 }
@@ -35,7 +35,7 @@ void AFXAPI AfxFormatStrings(CString& rString, UINT nIDS, LPCTSTR const* rglpsz,
             continue;
         }
         ++i;
-        if (index < nString && rglpsz[index] != NULL)
+        if (index < nString && rglpsz[index] != nullptr)
             result += rglpsz[index];
     }
     rString = result;

@@ -4,11 +4,11 @@
 CCmdUI::CCmdUI()
     : m_nID(0),
       m_nIndex(0),
-      m_pMenu(NULL),
-      m_pSubMenu(NULL),
-      m_pOther(NULL),
+      m_pMenu(nullptr),
+      m_pSubMenu(nullptr),
+      m_pOther(nullptr),
       m_nIndexMax(0),
-      m_pParentMenu(NULL),
+      m_pParentMenu(nullptr),
       m_bEnableChanged(FALSE),
       m_bContinueRouting(FALSE)
 {
@@ -16,13 +16,13 @@ CCmdUI::CCmdUI()
 
 void CCmdUI::Enable(BOOL bOn)
 {
-    if (m_pMenu != NULL)
+    if (m_pMenu != nullptr)
     {
-        if (m_pSubMenu != NULL)
+        if (m_pSubMenu != nullptr)
             return;
         m_pMenu->EnableMenuItem(m_nIndex, MF_BYPOSITION | static_cast<UINT>(bOn ? MF_ENABLED : MF_GRAYED));
     }
-    else if (m_pOther != NULL)
+    else if (m_pOther != nullptr)
     {
         // A disabled control that keeps the focus would leave the dialog without keyboard.
         if (!bOn && CWnd::GetFocus() == m_pOther)
@@ -34,13 +34,13 @@ void CCmdUI::Enable(BOOL bOn)
 
 void CCmdUI::SetCheck(int nCheck)
 {
-    if (m_pMenu != NULL)
+    if (m_pMenu != nullptr)
     {
-        if (m_pSubMenu == NULL)
+        if (m_pSubMenu == nullptr)
             m_pMenu->CheckMenuItem(m_nIndex,
                                    MF_BYPOSITION | static_cast<UINT>(nCheck ? MF_CHECKED : MF_UNCHECKED));
     }
-    else if (m_pOther != NULL && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON))
+    else if (m_pOther != nullptr && (m_pOther->SendMessage(WM_GETDLGCODE) & DLGC_BUTTON))
     {
         m_pOther->SendMessage(BM_SETCHECK, static_cast<WPARAM>(nCheck));
     }
@@ -49,7 +49,7 @@ void CCmdUI::SetCheck(int nCheck)
 void CCmdUI::SetRadio(BOOL bOn)
 {
     SetCheck(bOn ? 1 : 0);
-    if (m_pMenu == NULL || m_pSubMenu != NULL)
+    if (m_pMenu == nullptr || m_pSubMenu != nullptr)
         return;
     MENUITEMINFO info = {};
     info.cbSize = sizeof(info);
@@ -62,9 +62,9 @@ void CCmdUI::SetRadio(BOOL bOn)
 
 void CCmdUI::SetText(LPCTSTR lpszText)
 {
-    if (m_pMenu != NULL)
+    if (m_pMenu != nullptr)
     {
-        if (m_pSubMenu != NULL)
+        if (m_pSubMenu != nullptr)
             return;
         MENUITEMINFO info = {};
         info.cbSize = sizeof(info);
@@ -72,7 +72,7 @@ void CCmdUI::SetText(LPCTSTR lpszText)
         info.dwTypeData = const_cast<LPTSTR>(lpszText);
         ::SetMenuItemInfo(m_pMenu->GetSafeHmenu(), m_nIndex, TRUE, &info);
     }
-    else if (m_pOther != NULL)
+    else if (m_pOther != nullptr)
     {
         CString current;
         m_pOther->GetWindowText(current);
@@ -87,10 +87,10 @@ BOOL CCmdUI::DoUpdate(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
     if (m_nID == 0 || LOWORD(m_nID) == 0xFFFF)
         return TRUE;
     m_bEnableChanged = FALSE;
-    const BOOL updated = pTarget->OnCmdMsg(m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), this, NULL);
+    const BOOL updated = pTarget->OnCmdMsg(m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), this, nullptr);
     if (bDisableIfNoHndler && !m_bEnableChanged)
     {
-        AFX_CMDHANDLERINFO info = {NULL, NULL};
+        AFX_CMDHANDLERINFO info = {nullptr, nullptr};
         Enable(pTarget->OnCmdMsg(m_nID, CN_COMMAND, this, &info));
     }
     return updated;

@@ -37,13 +37,13 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
     const UINT id = LOWORD(wParam);
     const HWND control = reinterpret_cast<HWND>(lParam);
     int code = HIWORD(wParam);
-    if (control == NULL)
+    if (control == nullptr)
     {
         if (id == 0)
             return FALSE;
         // An accelerator is sent without asking whether its command is enabled.
         EnabledProbe probe(id);
-        OnCmdMsg(id, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe, NULL);
+        OnCmdMsg(id, static_cast<int>(CN_UPDATE_COMMAND_UI), &probe, nullptr);
         if (!probe.IsEnabled())
             return TRUE;
         code = CN_COMMAND;
@@ -57,7 +57,7 @@ BOOL CWnd::OnCommand(WPARAM wParam, LPARAM lParam)
         if (id == 0)
             return FALSE;
     }
-    return OnCmdMsg(id, code, NULL, NULL);
+    return OnCmdMsg(id, code, nullptr, nullptr);
 }
 
 BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult)
@@ -71,13 +71,13 @@ BOOL CWnd::OnNotify(WPARAM, LPARAM lParam, LRESULT* pResult)
     // Tool tips put a window handle into idFrom; the maps know them by their control id, 0.
     const UINT id = LOWORD(::GetDlgCtrlID(control));
     AFX_NOTIFY notification = {pResult, header};
-    return OnCmdMsg(id, MAKELONG(LOWORD(header->code), WM_NOTIFY), &notification, NULL);
+    return OnCmdMsg(id, MAKELONG(LOWORD(header->code), WM_NOTIFY), &notification, nullptr);
 }
 
 BOOL PASCAL CWnd::ReflectLastMsg(HWND hWndChild, LRESULT* pResult)
 {
     CWnd* const child = FromHandlePermanent(hWndChild);
-    return child != NULL && child->SendChildNotifyLastMsg(pResult);
+    return child != nullptr && child->SendChildNotifyLastMsg(pResult);
 }
 
 BOOL CWnd::SendChildNotifyLastMsg(LRESULT* pResult)
@@ -122,8 +122,9 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
 {
     if (message == WM_COMMAND)
     {
-        const BOOL handled = OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_COMMAND + WM_REFLECT_BASE), NULL, NULL);
-        if (handled && pResult != NULL)
+        const BOOL handled =
+            OnCmdMsg(0, MAKELONG(HIWORD(wParam), WM_COMMAND + WM_REFLECT_BASE), nullptr, nullptr);
+        if (handled && pResult != nullptr)
             *pResult = 1;
         return handled;
     }
@@ -131,7 +132,8 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     {
         NMHDR* const header = reinterpret_cast<NMHDR*>(lParam);
         AFX_NOTIFY notification = {pResult, header};
-        return OnCmdMsg(0, MAKELONG(LOWORD(header->code), WM_NOTIFY + WM_REFLECT_BASE), &notification, NULL);
+        return OnCmdMsg(0, MAKELONG(LOWORD(header->code), WM_NOTIFY + WM_REFLECT_BASE), &notification,
+                        nullptr);
     }
     if (!IsReflectedByNumber(message))
         return FALSE;
@@ -139,13 +141,13 @@ BOOL CWnd::ReflectChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESUL
     const UINT mapped = WM_REFLECT_BASE + (isColor ? static_cast<UINT>(WM_CTLCOLOR) : message);
     const AFX_MSGMAP_ENTRY* const entry = FindMessageEntry(GetMessageMap(), mapped);
     LRESULT result = 0;
-    if (entry == NULL ||
+    if (entry == nullptr ||
         !CallMessageHandler(*this, *entry, WM_REFLECT_BASE + message, wParam, lParam, result))
         return FALSE;
     // No brush means that the control leaves its colours to the parent.
     if (isColor && result == 0)
         return FALSE;
-    if (pResult != NULL)
+    if (pResult != nullptr)
         *pResult = result;
     return TRUE;
 }

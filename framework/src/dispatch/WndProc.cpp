@@ -7,7 +7,7 @@
 LRESULT CALLBACK AfxWndProc(HWND hWnd, UINT nMsg, WPARAM wParam, LPARAM lParam)
 {
     CWnd* const window = CWnd::FromHandlePermanent(hWnd);
-    if (window == NULL)
+    if (window == nullptr)
         return ::DefWindowProc(hWnd, nMsg, wParam, lParam);
     return AfxCallWndProc(window, hWnd, nMsg, wParam, lParam);
 }
@@ -27,7 +27,7 @@ LRESULT ResultAfterException(const MSG& message)
     if (message.message == WM_CREATE)
         return -1;
     if (message.message == WM_PAINT)
-        ::ValidateRect(message.hwnd, NULL);
+        ::ValidateRect(message.hwnd, nullptr);
     return 0;
 }
 
@@ -101,7 +101,7 @@ LRESULT CWnd::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 LRESULT CWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
     const WNDPROC super = *GetSuperWndProcAddr();
-    if (super == NULL)
+    if (super == nullptr)
         return ::DefWindowProc(m_hWnd, message, wParam, lParam);
     return ::CallWindowProc(super, m_hWnd, message, wParam, lParam);
 }
@@ -123,16 +123,16 @@ BOOL CWnd::OnWndMsg(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* pResult
     else if (message == WM_NOTIFY)
     {
         const NMHDR* const header = reinterpret_cast<const NMHDR*>(lParam);
-        handled = header->hwndFrom != NULL && OnNotify(wParam, lParam, &result);
+        handled = header->hwndFrom != nullptr && OnNotify(wParam, lParam, &result);
     }
     else
     {
         const bool isColor = message >= WM_CTLCOLORMSGBOX && message <= WM_CTLCOLORSTATIC;
         const AFX_MSGMAP_ENTRY* const entry =
             FindMessageEntry(GetMessageMap(), isColor ? WM_CTLCOLOR : message);
-        handled = entry != NULL && CallMessageHandler(*this, *entry, message, wParam, lParam, result);
+        handled = entry != nullptr && CallMessageHandler(*this, *entry, message, wParam, lParam, result);
     }
-    if (handled && pResult != NULL)
+    if (handled && pResult != nullptr)
         *pResult = result;
     return handled;
 }

@@ -21,7 +21,7 @@ END_MESSAGE_MAP()
 HBRUSH CWnd::OnCtlColor(CDC*, CWnd* pWnd, UINT)
 {
     LRESULT brush = 0;
-    if (pWnd != NULL && pWnd->SendChildNotifyLastMsg(&brush))
+    if (pWnd != nullptr && pWnd->SendChildNotifyLastMsg(&brush))
         return reinterpret_cast<HBRUSH>(brush);
     return reinterpret_cast<HBRUSH>(Default());
 }
@@ -32,7 +32,7 @@ namespace
 // Owner-drawn items of a menu object are drawn and measured by that object.
 CMenu* OwnerDrawnMenu(UINT controlType, HMENU menu)
 {
-    return controlType == ODT_MENU ? FrameworkAccess::PermanentMenu(menu) : NULL;
+    return controlType == ODT_MENU ? FrameworkAccess::PermanentMenu(menu) : nullptr;
 }
 
 } // namespace
@@ -54,7 +54,7 @@ void CWnd::OnMeasureItem(int, LPMEASUREITEMSTRUCT lpMeasureItemStruct)
         return;
     }
     CWnd* const child = GetDlgItem(static_cast<int>(lpMeasureItemStruct->CtlID));
-    if (child == NULL || !child->SendChildNotifyLastMsg())
+    if (child == nullptr || !child->SendChildNotifyLastMsg())
         Default();
 }
 
@@ -75,7 +75,7 @@ void CWnd::OnDeleteItem(int, LPDELETEITEMSTRUCT lpDeleteItemStruct)
 int CWnd::OnCharToItem(UINT, CListBox* pListBox, UINT)
 {
     LRESULT position = 0;
-    if (pListBox != NULL && reinterpret_cast<CWnd*>(pListBox)->SendChildNotifyLastMsg(&position))
+    if (pListBox != nullptr && reinterpret_cast<CWnd*>(pListBox)->SendChildNotifyLastMsg(&position))
         return static_cast<int>(position);
     return static_cast<int>(Default());
 }
@@ -87,7 +87,7 @@ int CWnd::OnVKeyToItem(UINT nKey, CListBox* pListBox, UINT nIndex)
 
 void CWnd::OnHScroll(UINT, UINT, CScrollBar* pScrollBar)
 {
-    if (pScrollBar == NULL || !reinterpret_cast<CWnd*>(pScrollBar)->SendChildNotifyLastMsg())
+    if (pScrollBar == nullptr || !reinterpret_cast<CWnd*>(pScrollBar)->SendChildNotifyLastMsg())
         Default();
 }
 

@@ -20,11 +20,11 @@ BOOL CWinApp::ProcessShellCommand(CCommandLineInfo& rCmdInfo)
     {
     case CCommandLineInfo::FileNew:
         // The program's own handler comes first.
-        if (!OnCmdMsg(ID_FILE_NEW, CN_COMMAND, NULL, NULL))
+        if (!OnCmdMsg(ID_FILE_NEW, CN_COMMAND, nullptr, nullptr))
             OnFileNew();
-        return m_pMainWnd != NULL;
+        return m_pMainWnd != nullptr;
     case CCommandLineInfo::FileOpen:
-        return OpenDocumentFile(rCmdInfo.m_strFileName) != NULL;
+        return OpenDocumentFile(rCmdInfo.m_strFileName) != nullptr;
     case CCommandLineInfo::FilePrint:
     case CCommandLineInfo::FilePrintTo:
         PrintAndClose(rCmdInfo);
@@ -48,7 +48,7 @@ BOOL CWinApp::ProcessShellCommand(CCommandLineInfo& rCmdInfo)
 void CWinApp::PrintAndClose(const CCommandLineInfo& commandLine)
 {
     m_nCmdShow = SW_HIDE;
-    if (OpenDocumentFile(commandLine.m_strFileName, FALSE) == NULL || m_pMainWnd == NULL)
+    if (OpenDocumentFile(commandLine.m_strFileName, FALSE) == nullptr || m_pMainWnd == nullptr)
         return;
     m_pMainWnd->SendMessage(WM_COMMAND, ID_FILE_PRINT_DIRECT);
     m_pMainWnd->SendMessage(WM_CLOSE);

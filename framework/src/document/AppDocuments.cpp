@@ -38,14 +38,15 @@ void CWinApp::OnFileNew()
     CDocTemplate* chosen = m_docTemplates.front();
     if (m_docTemplates.size() > 1)
         chosen = quorfx::ChooseDocTemplate(m_docTemplates);
-    if (chosen != NULL)
-        chosen->OpenDocumentFile(NULL);
+    if (chosen != nullptr)
+        chosen->OpenDocumentFile(nullptr);
 }
 
 void CWinApp::OnFileOpen()
 {
     CString fileName;
-    if (quorfx::PromptForFile(fileName, AFX_IDS_OPENFILE, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, true, NULL))
+    if (quorfx::PromptForFile(fileName, AFX_IDS_OPENFILE, OFN_HIDEREADONLY | OFN_FILEMUSTEXIST, true,
+                              nullptr))
         OpenDocumentFile(fileName);
 }
 
@@ -69,14 +70,14 @@ CString PathFromUser(LPCTSTR text)
 void ShowDocument(CDocument* document)
 {
     POSITION position = document->GetFirstViewPosition();
-    if (position == NULL)
+    if (position == nullptr)
         return;
     CFrameWnd* frame = document->GetNextView(position)->GetParentFrame();
-    if (frame == NULL)
+    if (frame == nullptr)
         return;
     frame->ActivateFrame();
     CWnd* main = AfxGetMainWnd();
-    if (frame->GetParent() != NULL && main != frame && main != NULL &&
+    if (frame->GetParent() != nullptr && main != frame && main != nullptr &&
         main->IsKindOf(RUNTIME_CLASS(CFrameWnd)))
         static_cast<CFrameWnd*>(main)->ActivateFrame();
 }
@@ -87,11 +88,11 @@ CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU)
 {
     const CString path = PathFromUser(lpszFileName);
     CDocTemplate::Confidence best = CDocTemplate::noAttempt;
-    CDocTemplate* bestTemplate = NULL;
-    CDocument* open = NULL;
+    CDocTemplate* bestTemplate = nullptr;
+    CDocument* open = nullptr;
     for (CDocTemplate* docTemplate : m_docTemplates)
     {
-        CDocument* document = NULL;
+        CDocument* document = nullptr;
         const CDocTemplate::Confidence confidence = docTemplate->MatchDocType(path, document);
         if (confidence > best)
         {
@@ -100,15 +101,15 @@ CDocument* CWinApp::OpenDocumentFile(LPCTSTR lpszFileName, BOOL bAddToMRU)
             open = document;
         }
     }
-    if (best == CDocTemplate::yesAlreadyOpen && open != NULL)
+    if (best == CDocTemplate::yesAlreadyOpen && open != nullptr)
     {
         ShowDocument(open);
         return open;
     }
-    if (bestTemplate == NULL)
+    if (bestTemplate == nullptr)
     {
         AfxMessageBox(AFX_IDP_FAILED_TO_OPEN_DOC);
-        return NULL;
+        return nullptr;
     }
     return bestTemplate->OpenDocumentFile(path, bAddToMRU);
 }
@@ -131,7 +132,7 @@ void CWinApp::CloseAllDocuments(BOOL bEndSession)
 
 void CWinApp::HideApplication()
 {
-    if (m_pMainWnd == NULL)
+    if (m_pMainWnd == nullptr)
         return;
     // Its popups first, so that no other window of the program becomes active in between.
     m_pMainWnd->ShowOwnedPopups(FALSE);

@@ -13,7 +13,7 @@ constexpr TCHAR recentFileEntry[] = _T("File%d");
 
 void CWinApp::LoadStdProfileSettings(UINT nMaxMRU)
 {
-    ASSERT(m_pRecentFileList == NULL);
+    ASSERT(m_pRecentFileList == nullptr);
     if (nMaxMRU == 0)
         return;
     m_pRecentFileList =
@@ -23,19 +23,19 @@ void CWinApp::LoadStdProfileSettings(UINT nMaxMRU)
 
 void CWinApp::SaveRecentFiles()
 {
-    if (m_pRecentFileList != NULL)
+    if (m_pRecentFileList != nullptr)
         m_pRecentFileList->WriteList();
 }
 
 void CWinApp::AddToRecentFileList(LPCTSTR lpszPathName)
 {
-    if (m_pRecentFileList != NULL)
+    if (m_pRecentFileList != nullptr)
         m_pRecentFileList->Add(lpszPathName);
 }
 
 void CWinApp::OnUpdateRecentFileMenu(CCmdUI* pCmdUI)
 {
-    if (m_pRecentFileList == NULL)
+    if (m_pRecentFileList == nullptr)
         pCmdUI->Enable(FALSE);
     else
         m_pRecentFileList->UpdateMenu(pCmdUI);
@@ -44,11 +44,11 @@ void CWinApp::OnUpdateRecentFileMenu(CCmdUI* pCmdUI)
 BOOL CWinApp::OnOpenRecentFile(UINT nID)
 {
     const int index = static_cast<int>(nID - ID_FILE_MRU_FILE1);
-    if (m_pRecentFileList == NULL || index >= m_pRecentFileList->GetSize() ||
+    if (m_pRecentFileList == nullptr || index >= m_pRecentFileList->GetSize() ||
         (*m_pRecentFileList)[index].IsEmpty())
         return FALSE;
     const CString path = (*m_pRecentFileList)[index];
-    if (OpenDocumentFile(path) != NULL)
+    if (OpenDocumentFile(path) != nullptr)
         return TRUE;
     // A file that cannot be opened is not offered again, unless the user only kept what is open.
     if (::GetFileAttributes(path) == INVALID_FILE_ATTRIBUTES)

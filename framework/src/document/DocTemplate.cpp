@@ -24,21 +24,21 @@ BOOL CDocTemplate::GetDocString(CString& rString, enum DocStringIndex index) con
 
 void CDocTemplate::AddDocument(CDocument* pDoc)
 {
-    ASSERT(pDoc->m_pDocTemplate == NULL);
+    ASSERT(pDoc->m_pDocTemplate == nullptr);
     pDoc->m_pDocTemplate = this;
 }
 
 void CDocTemplate::RemoveDocument(CDocument* pDoc)
 {
     ASSERT(pDoc->m_pDocTemplate == this);
-    pDoc->m_pDocTemplate = NULL;
+    pDoc->m_pDocTemplate = nullptr;
 }
 
 CDocTemplate::Confidence CDocTemplate::MatchDocType(LPCTSTR lpszPathName, CDocument*& rpDocMatch)
 {
-    rpDocMatch = NULL;
+    rpDocMatch = nullptr;
     const CString path = quorfx::FullPath(lpszPathName);
-    for (POSITION position = GetFirstDocPosition(); position != NULL;)
+    for (POSITION position = GetFirstDocPosition(); position != nullptr;)
     {
         CDocument* document = GetNextDoc(position);
         if (document->GetPathName().CompareNoCase(path) == 0)
@@ -55,13 +55,13 @@ CDocTemplate::Confidence CDocTemplate::MatchDocType(LPCTSTR lpszPathName, CDocum
 
 CDocument* CDocTemplate::CreateNewDocument()
 {
-    CObject* object = m_pDocClass != NULL ? m_pDocClass->CreateObject() : NULL;
+    CObject* object = m_pDocClass != nullptr ? m_pDocClass->CreateObject() : nullptr;
     CDocument* document = DYNAMIC_DOWNCAST(CDocument, object);
-    if (document == NULL)
+    if (document == nullptr)
     {
         TRACE(_T("Template: the document cannot be created.\n"));
         delete object;
-        return NULL;
+        return nullptr;
     }
     AddDocument(document);
     return document;
@@ -74,18 +74,18 @@ CFrameWnd* CDocTemplate::CreateNewFrame(CDocument* pDoc, CFrameWnd* pOther)
     context.m_pCurrentDoc = pDoc;
     context.m_pNewViewClass = m_pViewClass;
     context.m_pNewDocTemplate = this;
-    CObject* object = m_pFrameClass != NULL ? m_pFrameClass->CreateObject() : NULL;
+    CObject* object = m_pFrameClass != nullptr ? m_pFrameClass->CreateObject() : nullptr;
     CFrameWnd* frame = DYNAMIC_DOWNCAST(CFrameWnd, object);
-    if (frame == NULL)
+    if (frame == nullptr)
     {
         TRACE(_T("Template: the frame cannot be created.\n"));
         delete object;
-        return NULL;
+        return nullptr;
     }
     // A frame that cannot be created deletes itself.
     const bool loaded =
-        frame->LoadFrame(m_nIDResource, WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE, NULL, &context) != FALSE;
-    return loaded ? frame : NULL;
+        frame->LoadFrame(m_nIDResource, WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE, nullptr, &context) != FALSE;
+    return loaded ? frame : nullptr;
 }
 
 void CDocTemplate::InitialUpdateFrame(CFrameWnd* pFrame, CDocument* pDoc, BOOL bMakeVisible)
@@ -95,7 +95,7 @@ void CDocTemplate::InitialUpdateFrame(CFrameWnd* pFrame, CDocument* pDoc, BOOL b
 
 BOOL CDocTemplate::SaveAllModified()
 {
-    for (POSITION position = GetFirstDocPosition(); position != NULL;)
+    for (POSITION position = GetFirstDocPosition(); position != nullptr;)
     {
         if (!GetNextDoc(position)->SaveModified())
             return FALSE;
@@ -107,7 +107,7 @@ void CDocTemplate::CloseAllDocuments(BOOL)
 {
     // A document takes itself off the list when it is deleted; one that stays is met once.
     std::vector<CDocument*> documents;
-    for (POSITION position = GetFirstDocPosition(); position != NULL;)
+    for (POSITION position = GetFirstDocPosition(); position != nullptr;)
         documents.push_back(GetNextDoc(position));
     for (CDocument* document : documents)
         document->OnCloseDocument();
@@ -116,26 +116,26 @@ void CDocTemplate::CloseAllDocuments(BOOL)
 CDocument* CDocTemplate::CreateDocumentAndFrame(CFrameWnd*& frame)
 {
     CDocument* document = CreateNewDocument();
-    if (document == NULL)
+    if (document == nullptr)
     {
         AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
-        return NULL;
+        return nullptr;
     }
     // A frame that fails takes its view along, and the view must not take the document.
     const BOOL autoDelete = document->m_bAutoDelete;
     document->m_bAutoDelete = FALSE;
-    frame = CreateNewFrame(document, NULL);
+    frame = CreateNewFrame(document, nullptr);
     document->m_bAutoDelete = autoDelete;
-    if (frame != NULL)
+    if (frame != nullptr)
         return document;
     AfxMessageBox(AFX_IDP_FAILED_TO_CREATE_DOC);
     delete document;
-    return NULL;
+    return nullptr;
 }
 
 bool CDocTemplate::FillDocument(CDocument* document, LPCTSTR path, BOOL addToMRU)
 {
-    if (path == NULL)
+    if (path == nullptr)
     {
         SetDefaultTitle(document);
         return document->OnNewDocument() != FALSE;

@@ -9,13 +9,13 @@ BEGIN_MESSAGE_MAP(CDocument, CCmdTarget)
     ON_COMMAND(ID_FILE_SAVE_AS, &CDocument::OnFileSaveAs)
 END_MESSAGE_MAP()
 
-CDocument::CDocument() : m_bAutoDelete(TRUE), m_bModified(FALSE), m_pDocTemplate(NULL) {}
+CDocument::CDocument() : m_bAutoDelete(TRUE), m_bModified(FALSE), m_pDocTemplate(nullptr) {}
 
 CDocument::~CDocument()
 {
     for (CView* view : m_views)
-        view->m_pDocument = NULL;
-    if (m_pDocTemplate != NULL)
+        view->m_pDocument = nullptr;
+    if (m_pDocTemplate != nullptr)
         m_pDocTemplate->RemoveDocument(this);
 }
 
@@ -27,7 +27,7 @@ void CDocument::SetTitle(LPCTSTR lpszTitle)
     for (CView* view : m_views)
     {
         CFrameWnd* frame = view->GetParentFrame();
-        if (frame != NULL)
+        if (frame != nullptr)
             frame->OnUpdateFrameTitle(TRUE);
     }
 }
@@ -37,7 +37,7 @@ void CDocument::SetPathName(LPCTSTR lpszPathName, BOOL bAddToMRU)
     m_strPathName = quorfx::FullPath(lpszPathName);
     SetTitle(quorfx::FileTitle(m_strPathName));
     CWinApp* application = AfxGetApp();
-    if (bAddToMRU && application != NULL)
+    if (bAddToMRU && application != nullptr)
         application->AddToRecentFileList(m_strPathName);
 }
 
@@ -48,7 +48,7 @@ void CDocument::ClearPathName()
 
 void CDocument::AddView(CView* pView)
 {
-    ASSERT(pView->m_pDocument == NULL);
+    ASSERT(pView->m_pDocument == nullptr);
     m_views.push_back(pView);
     pView->m_pDocument = this;
     OnChangedViewList();
@@ -58,7 +58,7 @@ void CDocument::RemoveView(CView* pView)
 {
     ASSERT(pView->m_pDocument == this);
     m_views.erase(std::remove(m_views.begin(), m_views.end(), pView), m_views.end());
-    pView->m_pDocument = NULL;
+    pView->m_pDocument = nullptr;
     OnChangedViewList();
 }
 
@@ -101,7 +101,7 @@ void CDocument::NumberFrames()
     for (CView* view : m_views)
     {
         CFrameWnd* frame = view->GetParentFrame();
-        if (frame != NULL && (frame->GetStyle() & WS_VISIBLE) != 0 &&
+        if (frame != nullptr && (frame->GetStyle() & WS_VISIBLE) != 0 &&
             std::find(frames.begin(), frames.end(), frame) == frames.end())
             frames.push_back(frame);
     }
@@ -119,5 +119,5 @@ BOOL CDocument::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* 
 {
     if (CCmdTarget::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
-    return m_pDocTemplate != NULL && m_pDocTemplate->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return m_pDocTemplate != nullptr && m_pDocTemplate->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }

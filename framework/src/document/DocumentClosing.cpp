@@ -27,15 +27,15 @@ CFrameWnd* CDocument::OtherFrame(const CFrameWnd* frame) const
     for (CView* view : m_views)
     {
         CFrameWnd* const other = view->GetParentFrame();
-        if (other != NULL && other != frame)
+        if (other != nullptr && other != frame)
             return other;
     }
-    return NULL;
+    return nullptr;
 }
 
 BOOL CDocument::CanCloseFrame(CFrameWnd* pFrame)
 {
-    return OtherFrame(pFrame) != NULL || SaveModified();
+    return OtherFrame(pFrame) != nullptr || SaveModified();
 }
 
 void CDocument::PreCloseFrame(CFrameWnd*) {}
@@ -49,7 +49,7 @@ void CDocument::OnCloseDocument()
     {
         CView* view = m_views.front();
         CFrameWnd* frame = view->GetParentFrame();
-        if (frame != NULL)
+        if (frame != nullptr)
         {
             PreCloseFrame(frame);
             frame->DestroyWindow();

@@ -54,12 +54,12 @@ UINT TextOfCause(const CFileException& exception, bool saving)
 
 UINT TextOfException(CException* exception, bool saving)
 {
-    if (exception == NULL)
+    if (exception == nullptr)
         return 0;
     if (exception->IsKindOf(RUNTIME_CLASS(CArchiveException)))
         return saving ? AFX_IDP_FAILED_IO_ERROR_WRITE : AFX_IDP_FAILED_INVALID_FORMAT;
     CFileException* const fileException = DYNAMIC_DOWNCAST(CFileException, exception);
-    return fileException != NULL ? TextOfCause(*fileException, saving) : 0;
+    return fileException != nullptr ? TextOfCause(*fileException, saving) : 0;
 }
 
 } // namespace
@@ -78,7 +78,7 @@ CFile* CDocument::GetFile(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException*
     if (file->Open(lpszFileName, nOpenFlags, pError))
         return file;
     delete file;
-    return NULL;
+    return nullptr;
 }
 
 void CDocument::ReleaseFile(CFile* pFile, BOOL bAbort)
@@ -94,7 +94,7 @@ BOOL CDocument::OnOpenDocument(LPCTSTR lpszPathName)
 {
     CFileException error;
     CFile* const file = GetFile(lpszPathName, CFile::modeRead | CFile::shareDenyWrite, &error);
-    if (file == NULL)
+    if (file == nullptr)
     {
         ReportSaveLoadException(lpszPathName, &error, FALSE, AFX_IDP_FAILED_TO_OPEN_DOC);
         return FALSE;
@@ -126,7 +126,7 @@ BOOL CDocument::OnSaveDocument(LPCTSTR lpszPathName)
     CFileException error;
     CFile* file =
         GetFile(lpszPathName, CFile::modeCreate | CFile::modeReadWrite | CFile::shareExclusive, &error);
-    if (file == NULL)
+    if (file == nullptr)
     {
         ReportSaveLoadException(lpszPathName, &error, TRUE, AFX_IDP_INVALID_FILENAME);
         return FALSE;
@@ -151,7 +151,7 @@ BOOL CDocument::OnSaveDocument(LPCTSTR lpszPathName)
 void CDocument::ReportSaveLoadException(LPCTSTR lpszPathName, CException* e, BOOL bSaving, UINT nIDPDefault)
 {
     // Whoever throws a CUserException has told the user.
-    if (e != NULL && e->IsKindOf(RUNTIME_CLASS(CUserException)))
+    if (e != nullptr && e->IsKindOf(RUNTIME_CLASS(CUserException)))
         return;
     const UINT specific = TextOfException(e, bSaving != FALSE);
     CString text;
@@ -169,7 +169,7 @@ CString CDocument::ProposedFileName() const
     if (bad >= 0)
         name = name.Left(bad);
     CString extension;
-    if (m_pDocTemplate != NULL && m_pDocTemplate->GetDocString(extension, CDocTemplate::filterExt))
+    if (m_pDocTemplate != nullptr && m_pDocTemplate->GetDocString(extension, CDocTemplate::filterExt))
         name += extension;
     return name;
 }
@@ -197,7 +197,7 @@ bool CDocument::SaveInPlace()
 {
     const DWORD attributes = ::GetFileAttributes(m_strPathName);
     const bool isReadOnly = attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_READONLY);
-    return SaveUnder(m_strPathName.IsEmpty() || isReadOnly ? NULL : m_strPathName.GetString());
+    return SaveUnder(m_strPathName.IsEmpty() || isReadOnly ? nullptr : m_strPathName.GetString());
 }
 
 void CDocument::OnFileSave()
@@ -207,5 +207,5 @@ void CDocument::OnFileSave()
 
 void CDocument::OnFileSaveAs()
 {
-    SaveUnder(NULL);
+    SaveUnder(nullptr);
 }

@@ -9,14 +9,14 @@ namespace quorfx
 // A position is the number of elements up to and including the one it stands for.
 template <class TElement> POSITION FirstPosition(const std::vector<TElement>& elements)
 {
-    return elements.empty() ? NULL : reinterpret_cast<POSITION>(static_cast<UINT_PTR>(1));
+    return elements.empty() ? nullptr : reinterpret_cast<POSITION>(static_cast<UINT_PTR>(1));
 }
 
 // The element at the position, which moves on and becomes NULL after the last one.
 template <class TElement> TElement NextAt(const std::vector<TElement>& elements, POSITION& position)
 {
     const UINT_PTR number = reinterpret_cast<UINT_PTR>(position);
-    position = number < elements.size() ? reinterpret_cast<POSITION>(number + 1) : NULL;
+    position = number < elements.size() ? reinterpret_cast<POSITION>(number + 1) : nullptr;
     return elements[number - 1];
 }
 

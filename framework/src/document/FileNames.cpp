@@ -7,8 +7,8 @@ namespace quorfx
 
 CString FullPath(LPCTSTR path)
 {
-    TCHAR* name = NULL;
-    const DWORD length = ::GetFullPathName(path, 0, NULL, &name);
+    TCHAR* name = nullptr;
+    const DWORD length = ::GetFullPathName(path, 0, nullptr, &name);
     if (length == 0)
         return CString(path);
     CString full;

@@ -32,7 +32,7 @@ public:
     LPCTSTR Text() const { return m_text.c_str(); }
     LPCTSTR DefaultExtension() const
     {
-        return m_defaultExtension.IsEmpty() ? NULL : m_defaultExtension.GetString();
+        return m_defaultExtension.IsEmpty() ? nullptr : m_defaultExtension.GetString();
     }
 
 private:
@@ -49,13 +49,13 @@ private:
 Filter FilterFor(CDocTemplate* docTemplate)
 {
     Filter filter;
-    if (docTemplate != NULL)
+    if (docTemplate != nullptr)
     {
         filter.AddTemplate(*docTemplate);
     }
     else if (CWinApp* const application = AfxGetApp())
     {
-        for (POSITION position = application->GetFirstDocTemplatePosition(); position != NULL;)
+        for (POSITION position = application->GetFirstDocTemplatePosition(); position != nullptr;)
             filter.AddTemplate(*application->GetNextDocTemplate(position));
     }
     filter.AddAllFiles();
@@ -72,7 +72,7 @@ bool PromptForFile(CString& fileName, UINT titleId, DWORD flags, bool open, CDoc
     const Filter filter = FilterFor(docTemplate);
     CString title;
     title.LoadString(titleId);
-    HWND disabled = NULL;
+    HWND disabled = nullptr;
     OPENFILENAME parameters = {};
     parameters.lStructSize = sizeof parameters;
     parameters.hwndOwner = FrameworkAccess::SafeOwner(&disabled);
@@ -84,7 +84,7 @@ bool PromptForFile(CString& fileName, UINT titleId, DWORD flags, bool open, CDoc
     parameters.lpstrFile = fileName.GetBuffer(MAX_PATH);
     parameters.Flags = flags | OFN_EXPLORER | OFN_ENABLESIZING | (open ? 0U : OFN_OVERWRITEPROMPT);
     const BOOL chosen = open ? ::GetOpenFileName(&parameters) : ::GetSaveFileName(&parameters);
-    if (disabled != NULL)
+    if (disabled != nullptr)
         ::EnableWindow(disabled, TRUE);
     fileName.ReleaseBuffer();
     return chosen != FALSE;

@@ -14,8 +14,8 @@ bool IsWritable(LPCTSTR path)
     const DWORD attributes = ::GetFileAttributes(path);
     if (attributes == INVALID_FILE_ATTRIBUTES || (attributes & FILE_ATTRIBUTE_DIRECTORY) != 0)
         return false;
-    const HANDLE file =
-        ::CreateFile(path, GENERIC_READ | GENERIC_WRITE, 0, NULL, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, NULL);
+    const HANDLE file = ::CreateFile(path, GENERIC_READ | GENERIC_WRITE, 0, nullptr, OPEN_EXISTING,
+                                     FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     ::CloseHandle(file);
@@ -61,7 +61,7 @@ void MirrorFile::Close()
     const CString mirror = m_mirror;
     m_mirror.Empty();
     // Keeps owner, rights and attributes of the replaced file; where a file system cannot, the file is moved.
-    if (::ReplaceFile(m_target, mirror, NULL, REPLACEFILE_IGNORE_MERGE_ERRORS, NULL, NULL) ||
+    if (::ReplaceFile(m_target, mirror, nullptr, REPLACEFILE_IGNORE_MERGE_ERRORS, nullptr, nullptr) ||
         ::MoveFileEx(mirror, m_target, MOVEFILE_REPLACE_EXISTING))
         return;
     const LONG error = static_cast<LONG>(::GetLastError());

@@ -13,7 +13,7 @@ class MirrorFile : public CFile
 public:
     ~MirrorFile() override;
 
-    BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = NULL) override;
+    BOOL Open(LPCTSTR lpszFileName, UINT nOpenFlags, CFileException* pError = nullptr) override;
     void Close() override;
     void Abort() override;
 

@@ -7,17 +7,17 @@ CMultiDocTemplate::CMultiDocTemplate(UINT nIDResource, CRuntimeClass* pDocClass,
                                      CRuntimeClass* pViewClass)
     : CDocTemplate(nIDResource, pDocClass, pFrameClass, pViewClass),
       m_nUntitledCount(0),
-      m_hMenuShared(NULL),
-      m_hAccelTable(NULL)
+      m_hMenuShared(nullptr),
+      m_hAccelTable(nullptr)
 {
 }
 
 CMultiDocTemplate::~CMultiDocTemplate()
 {
     ASSERT(m_documents.empty());
-    if (m_hMenuShared != NULL)
+    if (m_hMenuShared != nullptr)
         ::DestroyMenu(m_hMenuShared);
-    if (m_hAccelTable != NULL)
+    if (m_hAccelTable != nullptr)
         ::DestroyAcceleratorTable(m_hAccelTable);
 }
 
@@ -25,9 +25,9 @@ void CMultiDocTemplate::LoadTemplate()
 {
     CDocTemplate::LoadTemplate();
     const LPCTSTR resource = MAKEINTRESOURCE(m_nIDResource);
-    if (m_hMenuShared == NULL)
+    if (m_hMenuShared == nullptr)
         m_hMenuShared = ::LoadMenu(AfxFindResourceHandle(resource, RT_MENU), resource);
-    if (m_hAccelTable == NULL)
+    if (m_hAccelTable == nullptr)
         m_hAccelTable = ::LoadAccelerators(AfxFindResourceHandle(resource, RT_ACCELERATOR), resource);
 }
 
@@ -77,17 +77,17 @@ CDocument* CMultiDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName)
 
 CDocument* CMultiDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddToMRU)
 {
-    CFrameWnd* frame = NULL;
+    CFrameWnd* frame = nullptr;
     CDocument* document = CreateDocumentAndFrame(frame);
-    if (document == NULL)
-        return NULL;
+    if (document == nullptr)
+        return nullptr;
     if (!FillDocument(document, lpszPathName, bAddToMRU))
     {
         // The document goes with its view.
         frame->DestroyWindow();
-        return NULL;
+        return nullptr;
     }
-    if (lpszPathName == NULL)
+    if (lpszPathName == nullptr)
         ++m_nUntitledCount;
     InitialUpdateFrame(frame, document);
     return document;

@@ -65,11 +65,11 @@ CDocTemplate* ChooseDocTemplate(const std::vector<CDocTemplate*>& docTemplates)
             kinds.push_back({name, docTemplate});
     }
     if (kinds.empty())
-        return NULL;
+        return nullptr;
     if (kinds.size() == 1)
         return kinds.front().docTemplate;
     NewTypeDialog dialog(kinds);
-    return dialog.DoModal() == IDOK ? kinds[dialog.Chosen()].docTemplate : NULL;
+    return dialog.DoModal() == IDOK ? kinds[dialog.Chosen()].docTemplate : nullptr;
 }
 
 } // namespace quorfx

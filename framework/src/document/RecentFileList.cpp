@@ -82,7 +82,7 @@ CString MenuText(UINT number, CString name)
 void CRecentFileList::UpdateMenu(CCmdUI* pCmdUI)
 {
     CMenu* const menu = pCmdUI->m_pMenu;
-    if (m_emptyText.IsEmpty() && menu != NULL)
+    if (m_emptyText.IsEmpty() && menu != nullptr)
         menu->GetMenuString(pCmdUI->m_nID, m_emptyText, MF_BYCOMMAND);
     if (m_names.empty() || m_names.front().IsEmpty())
     {
@@ -91,7 +91,7 @@ void CRecentFileList::UpdateMenu(CCmdUI* pCmdUI)
         pCmdUI->Enable(FALSE);
         return;
     }
-    if (menu == NULL)
+    if (menu == nullptr)
         return;
     for (UINT i = 0; i < m_names.size(); ++i)
         menu->DeleteMenu(pCmdUI->m_nID + i, MF_BYCOMMAND);
@@ -126,7 +126,7 @@ void CRecentFileList::ReadList()
 void CRecentFileList::WriteList()
 {
     CWinApp* const application = AfxGetApp();
-    application->WriteProfileString(m_section, NULL, NULL);
+    application->WriteProfileString(m_section, nullptr, nullptr);
     for (int i = 0; i < GetSize() && !(*this)[i].IsEmpty(); ++i)
         application->WriteProfileString(m_section, EntryName(i), (*this)[i]);
 }

@@ -40,7 +40,7 @@ CString DefaultValue(const CString& key)
 CString ProgramPath()
 {
     TCHAR path[MAX_PATH] = {};
-    ::GetModuleFileName(NULL, path, MAX_PATH - 1);
+    ::GetModuleFileName(nullptr, path, MAX_PATH - 1);
     return CString(path);
 }
 
@@ -83,7 +83,7 @@ void CWinApp::RegisterShellFileTypes(BOOL)
             ::Register(type, icon);
         ++icon;
     }
-    ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, NULL, NULL);
+    ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
 }
 
 void CWinApp::UnregisterShellFileTypes()
@@ -94,5 +94,5 @@ void CWinApp::UnregisterShellFileTypes()
         if (Describe(*docTemplate, type))
             ::Unregister(type);
     }
-    ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, NULL, NULL);
+    ::SHChangeNotify(SHCNE_ASSOCCHANGED, SHCNF_IDLIST, nullptr, nullptr);
 }

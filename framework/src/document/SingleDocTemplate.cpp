@@ -5,18 +5,18 @@ IMPLEMENT_DYNAMIC(CSingleDocTemplate, CDocTemplate)
 
 CSingleDocTemplate::CSingleDocTemplate(UINT nIDResource, CRuntimeClass* pDocClass, CRuntimeClass* pFrameClass,
                                        CRuntimeClass* pViewClass)
-    : CDocTemplate(nIDResource, pDocClass, pFrameClass, pViewClass), m_pOnlyDoc(NULL)
+    : CDocTemplate(nIDResource, pDocClass, pFrameClass, pViewClass), m_pOnlyDoc(nullptr)
 {
 }
 
 CSingleDocTemplate::~CSingleDocTemplate()
 {
-    ASSERT(m_pOnlyDoc == NULL);
+    ASSERT(m_pOnlyDoc == nullptr);
 }
 
 void CSingleDocTemplate::AddDocument(CDocument* pDoc)
 {
-    ASSERT(m_pOnlyDoc == NULL);
+    ASSERT(m_pOnlyDoc == nullptr);
     CDocTemplate::AddDocument(pDoc);
     m_pOnlyDoc = pDoc;
 }
@@ -24,17 +24,17 @@ void CSingleDocTemplate::AddDocument(CDocument* pDoc)
 void CSingleDocTemplate::RemoveDocument(CDocument* pDoc)
 {
     CDocTemplate::RemoveDocument(pDoc);
-    m_pOnlyDoc = NULL;
+    m_pOnlyDoc = nullptr;
 }
 
 POSITION CSingleDocTemplate::GetFirstDocPosition() const
 {
-    return m_pOnlyDoc == NULL ? NULL : reinterpret_cast<POSITION>(static_cast<UINT_PTR>(1));
+    return m_pOnlyDoc == nullptr ? nullptr : reinterpret_cast<POSITION>(static_cast<UINT_PTR>(1));
 }
 
 CDocument* CSingleDocTemplate::GetNextDoc(POSITION& rPos) const
 {
-    rPos = NULL;
+    rPos = nullptr;
     return m_pOnlyDoc;
 }
 
@@ -53,20 +53,20 @@ CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName)
 
 CDocument* CSingleDocTemplate::OpenDocumentFile(LPCTSTR lpszPathName, BOOL bAddToMRU)
 {
-    if (m_pOnlyDoc != NULL)
+    if (m_pOnlyDoc != nullptr)
         return Reopen(lpszPathName, bAddToMRU);
-    CFrameWnd* frame = NULL;
+    CFrameWnd* frame = nullptr;
     CDocument* document = CreateDocumentAndFrame(frame);
-    if (document == NULL)
-        return NULL;
+    if (document == nullptr)
+        return nullptr;
     if (!FillDocument(document, lpszPathName, bAddToMRU))
     {
         // The document goes with its view.
         frame->DestroyWindow();
-        return NULL;
+        return nullptr;
     }
     CWinThread* thread = AfxGetThread();
-    if (thread != NULL && thread->m_pMainWnd == NULL)
+    if (thread != nullptr && thread->m_pMainWnd == nullptr)
         thread->m_pMainWnd = frame;
     InitialUpdateFrame(frame, document);
     return document;
@@ -77,13 +77,13 @@ CDocument* CSingleDocTemplate::Reopen(LPCTSTR path, BOOL addToMRU)
 {
     CDocument* document = m_pOnlyDoc;
     if (!document->SaveModified())
-        return NULL;
-    CFrameWnd* frame = NULL;
+        return nullptr;
+    CFrameWnd* frame = nullptr;
     POSITION position = document->GetFirstViewPosition();
-    if (position != NULL)
+    if (position != nullptr)
         frame = document->GetNextView(position)->GetParentFrame();
-    if (frame == NULL)
-        return NULL;
+    if (frame == nullptr)
+        return nullptr;
     const BOOL wasModified = document->IsModified();
     // Reading marks the document as modified as soon as it has emptied it.
     document->SetModifiedFlag(FALSE);
@@ -92,14 +92,14 @@ CDocument* CSingleDocTemplate::Reopen(LPCTSTR path, BOOL addToMRU)
         InitialUpdateFrame(frame, document);
         return document;
     }
-    if (path != NULL && !document->IsModified())
+    if (path != nullptr && !document->IsModified())
     {
         document->SetModifiedFlag(wasModified);
     }
-    else if (path != NULL)
+    else if (path != nullptr)
     {
         SetDefaultTitle(document);
         document->OnNewDocument();
     }
-    return NULL;
+    return nullptr;
 }

@@ -19,7 +19,7 @@ BOOL CCtrlView::PreCreateWindow(CREATESTRUCT& cs)
 {
     ASSERT(!m_strClass.IsEmpty());
     quorfx::EnsureCommonControls();
-    if (cs.lpszClass == NULL)
+    if (cs.lpszClass == nullptr)
         cs.lpszClass = m_strClass;
     // The default is meant for a view that its frame creates, which asks for no more than a border.
     if ((cs.style | WS_BORDER) == static_cast<LONG>(quorfx::defaultViewStyle))

@@ -77,7 +77,7 @@ void CEditView::GetSelectedText(CString& strResult) const
 void CEditView::SetTabStops(int nTabStops)
 {
     m_nTabStops = nTabStops;
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
         return;
     GetEditCtrl().SetTabStops(nTabStops);
     Invalidate();

@@ -11,7 +11,7 @@ BEGIN_MESSAGE_MAP(CFormView, CScrollView)
 END_MESSAGE_MAP()
 
 CFormView::CFormView(LPCTSTR lpszTemplateName)
-    : m_lpszTemplateName(lpszTemplateName), m_pCreateContext(NULL), m_hWndFocus(NULL)
+    : m_lpszTemplateName(lpszTemplateName), m_pCreateContext(nullptr), m_hWndFocus(nullptr)
 {
 }
 
@@ -21,7 +21,7 @@ BOOL CFormView::Create(LPCTSTR, LPCTSTR, DWORD dwRequestedStyle, const RECT& rec
                        CCreateContext* pContext)
 {
     const LPCDLGTEMPLATE dialogTemplate = quorfx::FindDialogTemplate(m_lpszTemplateName);
-    if (dialogTemplate == NULL)
+    if (dialogTemplate == nullptr)
     {
         PostNcDestroy();
         return FALSE;
@@ -29,13 +29,13 @@ BOOL CFormView::Create(LPCTSTR, LPCTSTR, DWORD dwRequestedStyle, const RECT& rec
     m_pCreateContext = pContext;
     if (!quorfx::CreateFromTemplate(this, dialogTemplate, pParentWnd, &CFormView::FormProc))
         return FALSE;
-    m_pCreateContext = NULL;
+    m_pCreateContext = nullptr;
     if (dwRequestedStyle & WS_BORDER)
         ModifyStyleEx(0, WS_EX_CLIENTEDGE, SWP_FRAMECHANGED);
     SetDlgCtrlID(static_cast<int>(nID));
     SetScrollSizes(MM_TEXT, quorfx::DialogTemplateSize(m_hWnd, dialogTemplate));
     const UINT show = dwRequestedStyle & WS_VISIBLE ? SWP_SHOWWINDOW : 0;
-    SetWindowPos(NULL, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+    SetWindowPos(nullptr, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
                  SWP_NOZORDER | SWP_NOACTIVATE | show);
     return TRUE;
 }
@@ -45,7 +45,7 @@ INT_PTR CALLBACK CFormView::FormProc(HWND hWnd, UINT message, WPARAM, LPARAM)
     if (message != WM_INITDIALOG)
         return FALSE;
     CFormView* view = DYNAMIC_DOWNCAST(CFormView, CWnd::FromHandlePermanent(hWnd));
-    if (view != NULL)
+    if (view != nullptr)
         view->ExecuteDlgInit(view->m_lpszTemplateName);
     // The frame decides where the focus goes.
     return FALSE;
@@ -72,7 +72,7 @@ BOOL CFormView::PreTranslateMessage(MSG* pMsg)
     if (CScrollView::PreTranslateMessage(pMsg))
         return TRUE;
     // Accelerators come first: IsDialogMessage would take their keys.
-    for (CFrameWnd* frame = GetParentFrame(); frame != NULL; frame = frame->GetParentFrame())
+    for (CFrameWnd* frame = GetParentFrame(); frame != nullptr; frame = frame->GetParentFrame())
     {
         if (frame->PreTranslateMessage(pMsg))
             return TRUE;
@@ -84,7 +84,7 @@ BOOL CFormView::PreTranslateMessage(MSG* pMsg)
 BOOL CFormView::SaveFocusControl()
 {
     const HWND focus = ::GetFocus();
-    if (focus == NULL || !::IsChild(m_hWnd, focus))
+    if (focus == nullptr || !::IsChild(m_hWnd, focus))
         return FALSE;
     m_hWndFocus = focus;
     return TRUE;
@@ -110,7 +110,7 @@ void CFormView::OnSetFocus(CWnd*)
         ::SetFocus(m_hWndFocus);
         return;
     }
-    m_hWndFocus = NULL;
+    m_hWndFocus = nullptr;
     // Lets the dialog manager choose the first control.
     Default();
 }

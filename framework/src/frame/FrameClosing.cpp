@@ -4,7 +4,7 @@
 bool CFrameWnd::IsMainWindow() const
 {
     CWinApp* const application = AfxGetApp();
-    return application != NULL && application->m_pMainWnd == this;
+    return application != nullptr && application->m_pMainWnd == this;
 }
 
 // Without an active document, as in a frame of many documents, all documents are asked about.
@@ -13,9 +13,9 @@ void CFrameWnd::OnClose()
     CDocument* const document = GetActiveDocument();
     CWinApp* const application = AfxGetApp();
     const bool isMain = IsMainWindow();
-    if (document != NULL && !document->CanCloseFrame(this))
+    if (document != nullptr && !document->CanCloseFrame(this))
         return;
-    if (isMain && document == NULL && !application->SaveAllModified())
+    if (isMain && document == nullptr && !application->SaveAllModified())
         return;
     const HWND window = m_hWnd;
     if (isMain)
@@ -23,7 +23,7 @@ void CFrameWnd::OnClose()
         application->HideApplication();
         application->CloseAllDocuments(FALSE);
     }
-    else if (document != NULL)
+    else if (document != nullptr)
     {
         document->PreCloseFrame(this);
     }

@@ -12,12 +12,12 @@ constexpr UINT firstSystemCommand = 0xf000;
 // none.
 UINT CommandOfItem(CMenu* menu, UINT index, CMenu*& subMenu)
 {
-    subMenu = NULL;
+    subMenu = nullptr;
     const UINT id = menu->GetMenuItemID(static_cast<int>(index));
     if (id != static_cast<UINT>(-1))
         return id;
     subMenu = menu->GetSubMenu(static_cast<int>(index));
-    const UINT first = subMenu != NULL ? subMenu->GetMenuItemID(0) : 0;
+    const UINT first = subMenu != nullptr ? subMenu->GetMenuItemID(0) : 0;
     return first == static_cast<UINT>(-1) ? 0 : first;
 }
 
@@ -38,18 +38,18 @@ BOOL CFrameWnd::PreTranslateMessage(MSG* pMsg)
     if (pMsg->message < WM_KEYFIRST || pMsg->message > WM_KEYLAST)
         return FALSE;
     const HACCEL accelerators = GetDefaultAccelerator();
-    return accelerators != NULL && ::TranslateAccelerator(m_hWnd, accelerators, pMsg);
+    return accelerators != nullptr && ::TranslateAccelerator(m_hWnd, accelerators, pMsg);
 }
 
 BOOL CFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
     CView* view = GetActiveView();
-    if (view != NULL && view->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+    if (view != nullptr && view->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
     CWinApp* application = AfxGetApp();
-    return application != NULL && application->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return application != nullptr && application->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
@@ -65,7 +65,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
         if (state.m_nID == 0)
             continue;
         const BOOL disable =
-            state.m_pSubMenu == NULL && m_bAutoMenuEnable && state.m_nID < firstSystemCommand;
+            state.m_pSubMenu == nullptr && m_bAutoMenuEnable && state.m_nID < firstSystemCommand;
         state.m_bEnableChanged = FALSE;
         state.DoUpdate(this, disable);
         // A handler may have inserted or removed items: go on behind the item that was updated.
@@ -82,7 +82,7 @@ void CFrameWnd::OnInitMenuPopup(CMenu* pMenu, UINT, BOOL bSysMenu)
 CString CFrameWnd::DocumentTitle()
 {
     CDocument* document = GetActiveDocument();
-    if (document == NULL || document->GetTitle().IsEmpty())
+    if (document == nullptr || document->GetTitle().IsEmpty())
         return CString();
     CString title = document->GetTitle();
     if (m_nWindow > 0)

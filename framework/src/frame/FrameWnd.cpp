@@ -43,12 +43,12 @@ namespace quorfx
 HICON FrameIcon(UINT id)
 {
     const LPCTSTR name = MAKEINTRESOURCE(id);
-    return id != 0 ? ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name) : NULL;
+    return id != 0 ? ::LoadIcon(AfxFindResourceHandle(name, RT_GROUP_ICON), name) : nullptr;
 }
 
 LPCTSTR RegisterFrameClass(HICON icon)
 {
-    return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW),
+    return AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW),
                                reinterpret_cast<HBRUSH>(static_cast<INT_PTR>(COLOR_WINDOW + 1)), icon);
 }
 
@@ -56,14 +56,14 @@ LPCTSTR RegisterFrameClass(HICON icon)
 
 CFrameWnd::CFrameWnd()
     : m_bAutoMenuEnable(TRUE),
-      m_hAccelTable(NULL),
-      m_pViewActive(NULL),
+      m_hAccelTable(nullptr),
+      m_pViewActive(nullptr),
       m_bInRecalcLayout(FALSE),
       m_nIDHelp(0),
-      m_hLoadedAccelTable(NULL),
+      m_hLoadedAccelTable(nullptr),
       m_bLayoutIsDue(FALSE),
       m_rectBorder(0, 0, 0, 0),
-      m_pBars(NULL),
+      m_pBars(nullptr),
       m_nWindow(0)
 {
 }
@@ -72,7 +72,7 @@ CFrameWnd::~CFrameWnd()
 {
     // The window must die while this is still a frame: its views ask the frame for the active one.
     DestroyWindow();
-    if (m_hLoadedAccelTable != NULL)
+    if (m_hLoadedAccelTable != nullptr)
         ::DestroyAcceleratorTable(m_hLoadedAccelTable);
     delete m_pBars;
 }
@@ -80,11 +80,11 @@ CFrameWnd::~CFrameWnd()
 BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                        CWnd* pParentWnd, LPCTSTR lpszMenuName, DWORD dwExStyle, CCreateContext* pContext)
 {
-    HMENU menu = NULL;
-    if (lpszMenuName != NULL)
+    HMENU menu = nullptr;
+    if (lpszMenuName != nullptr)
     {
         menu = ::LoadMenu(AfxFindResourceHandle(lpszMenuName, RT_MENU), lpszMenuName);
-        if (menu == NULL)
+        if (menu == nullptr)
         {
             TRACE(_T("Frame: the menu is missing.\n"));
             PostNcDestroy();
@@ -96,7 +96,7 @@ BOOL CFrameWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwSt
     const int height = rect.left == CW_USEDEFAULT ? CW_USEDEFAULT : rect.bottom - rect.top;
     const BOOL created = CreateEx(dwExStyle, lpszClassName, lpszWindowName, dwStyle, rect.left, rect.top,
                                   width, height, pParentWnd->GetSafeHwnd(), menu, pContext);
-    if (!created && menu != NULL)
+    if (!created && menu != nullptr)
         ::DestroyMenu(menu);
     return created;
 }
@@ -110,29 +110,29 @@ BOOL CFrameWnd::LoadFrame(UINT nIDResource, DWORD dwDefaultStyle, CWnd* pParentW
     m_nIDHelp = nIDResource;
     // Without an icon of that number the frame gets the one of its kind.
     const HICON icon = quorfx::FrameIcon(nIDResource);
-    const CString className = icon != NULL ? quorfx::RegisterFrameClass(icon) : _T("");
-    if (!Create(className.IsEmpty() ? NULL : static_cast<LPCTSTR>(className), title, dwDefaultStyle,
+    const CString className = icon != nullptr ? quorfx::RegisterFrameClass(icon) : _T("");
+    if (!Create(className.IsEmpty() ? nullptr : static_cast<LPCTSTR>(className), title, dwDefaultStyle,
                 rectDefault, pParentWnd, resource, 0, pContext))
         return FALSE;
     LoadAccelTable(resource);
     // With a context a document template sends the update after the document has been opened.
-    if (pContext == NULL)
+    if (pContext == nullptr)
         SendMessageToDescendants(quorfx::initialUpdateMessage, 0, 0, TRUE, TRUE);
     return TRUE;
 }
 
 BOOL CFrameWnd::LoadAccelTable(LPCTSTR lpszResourceName)
 {
-    ASSERT(m_hAccelTable == NULL);
+    ASSERT(m_hAccelTable == nullptr);
     const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, RT_ACCELERATOR);
     m_hLoadedAccelTable = ::LoadAccelerators(module, lpszResourceName);
     m_hAccelTable = m_hLoadedAccelTable;
-    return m_hAccelTable != NULL;
+    return m_hAccelTable != nullptr;
 }
 
 BOOL CFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
-    if (cs.lpszClass == NULL)
+    if (cs.lpszClass == nullptr)
         cs.lpszClass = quorfx::RegisterFrameClass(quorfx::FrameIcon(AFX_IDI_STD_FRAME));
     if (cs.style & FWS_ADDTOTITLE)
         cs.style |= FWS_PREFIXTITLE;
@@ -159,28 +159,28 @@ int CFrameWnd::CreateContents(LPCREATESTRUCT lpCreateStruct, CCreateContext* pCo
 
 BOOL CFrameWnd::OnCreateClient(LPCREATESTRUCT, CCreateContext* pContext)
 {
-    const bool wantsView = pContext != NULL && pContext->m_pNewViewClass != NULL;
-    return !wantsView || CreateView(pContext, AFX_IDW_PANE_FIRST) != NULL;
+    const bool wantsView = pContext != nullptr && pContext->m_pNewViewClass != nullptr;
+    return !wantsView || CreateView(pContext, AFX_IDW_PANE_FIRST) != nullptr;
 }
 
 CWnd* CFrameWnd::CreateView(CCreateContext* pContext, UINT nID)
 {
     CObject* object = pContext->m_pNewViewClass->CreateObject();
     CWnd* view = DYNAMIC_DOWNCAST(CWnd, object);
-    if (view == NULL)
+    if (view == nullptr)
     {
         delete object;
-        return NULL;
+        return nullptr;
     }
     // A view that cannot be created deletes itself.
-    if (!view->Create(NULL, NULL, quorfx::defaultViewStyle, CRect(0, 0, 0, 0), this, nID, pContext))
-        return NULL;
+    if (!view->Create(nullptr, nullptr, quorfx::defaultViewStyle, CRect(0, 0, 0, 0), this, nID, pContext))
+        return nullptr;
     return view;
 }
 
 void CFrameWnd::OnDestroy()
 {
-    SetActiveView(NULL);
+    SetActiveView(nullptr);
     CWnd::OnDestroy();
 }
 
@@ -204,14 +204,14 @@ void CFrameWnd::RecalcLayout(BOOL)
     m_bLayoutIsDue = FALSE;
     CRect border(m_rectBorder);
     RepositionBars(0, 0xffff, AFX_IDW_PANE_FIRST, reposExtra, &border);
-    if (m_pBars != NULL)
+    if (m_pBars != nullptr)
         m_pBars->LayOutFloats();
     m_bInRecalcLayout = FALSE;
 }
 
 void CFrameWnd::OnSetFocus(CWnd* pOldWnd)
 {
-    if (m_pViewActive != NULL)
+    if (m_pViewActive != nullptr)
         m_pViewActive->SetFocus();
     else
         CWnd::OnSetFocus(pOldWnd);
@@ -220,10 +220,10 @@ void CFrameWnd::OnSetFocus(CWnd* pOldWnd)
 void CFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
 {
     CWnd::OnActivate(nState, pWndOther, bMinimized);
-    if (m_pBars != NULL)
+    if (m_pBars != nullptr)
         m_pBars->ShowFloatsActive(nState != WA_INACTIVE);
     CView* view = m_pViewActive;
-    if (view == NULL)
+    if (view == nullptr)
         return;
     if (nState != WA_INACTIVE && !bMinimized)
         view->OnActivateView(TRUE, view, view);
@@ -235,20 +235,20 @@ void CFrameWnd::SetActiveView(CView* pViewNew, BOOL bNotify)
     CView* before = m_pViewActive;
     if (pViewNew == before)
         return;
-    m_pViewActive = NULL;
-    if (before != NULL)
+    m_pViewActive = nullptr;
+    if (before != nullptr)
         before->OnActivateView(FALSE, pViewNew, before);
     // The old view may have made another one active.
-    if (m_pViewActive != NULL)
+    if (m_pViewActive != nullptr)
         return;
     m_pViewActive = pViewNew;
-    if (pViewNew != NULL && bNotify)
+    if (pViewNew != nullptr && bNotify)
         pViewNew->OnActivateView(TRUE, pViewNew, before);
 }
 
 CDocument* CFrameWnd::GetActiveDocument()
 {
-    return m_pViewActive != NULL ? m_pViewActive->GetDocument() : NULL;
+    return m_pViewActive != nullptr ? m_pViewActive->GetDocument() : nullptr;
 }
 
 CFrameWnd* CFrameWnd::GetActiveFrame()
@@ -260,7 +260,7 @@ CFrameWnd* CFrameWnd::GetActiveFrame()
 int CFrameWnd::TakeShowCommand() const
 {
     CWinApp* const application = AfxGetApp();
-    if (application == NULL || !IsMainWindow())
+    if (application == nullptr || !IsMainWindow())
         return -1;
     const int command = application->m_nCmdShow;
     application->m_nCmdShow = -1;
@@ -269,7 +269,7 @@ int CFrameWnd::TakeShowCommand() const
 
 void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible)
 {
-    if (m_pViewActive == NULL)
+    if (m_pViewActive == nullptr)
     {
         CWnd* pane = GetDescendantWindow(AFX_IDW_PANE_FIRST, TRUE);
         SetActiveView(DYNAMIC_DOWNCAST(CView, pane), FALSE);
@@ -278,13 +278,13 @@ void CFrameWnd::InitialUpdateFrame(CDocument* pDoc, BOOL bMakeVisible)
     {
         SendMessageToDescendants(quorfx::initialUpdateMessage, 0, 0, TRUE, TRUE);
         CView* view = m_pViewActive;
-        if (view != NULL)
+        if (view != nullptr)
             view->OnActivateFrame(WA_INACTIVE, this);
         ActivateFrame(TakeShowCommand());
-        if (view != NULL)
+        if (view != nullptr)
             view->OnActivateView(TRUE, view, view);
     }
-    if (pDoc != NULL)
+    if (pDoc != nullptr)
         pDoc->NumberFrames();
     OnUpdateFrameTitle(TRUE);
 }

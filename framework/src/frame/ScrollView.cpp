@@ -22,7 +22,7 @@ class MappingDC : public CDC
 public:
     explicit MappingDC(int mapMode)
     {
-        CreateCompatibleDC(NULL);
+        CreateCompatibleDC(nullptr);
         SetMapMode(mapMode);
     }
 };
@@ -96,7 +96,7 @@ void CScrollView::SetScrollSizes(int nMapMode, SIZE sizeTotal, const SIZE& sizeP
     m_totalDev = DeviceSize(sizeTotal);
     m_pageDev = OrFraction(DeviceSize(sizePage), m_totalDev, 10);
     m_lineDev = OrFraction(DeviceSize(sizeLine), m_pageDev, 10);
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
     {
         UpdateBars();
         Invalidate(TRUE);
@@ -125,8 +125,8 @@ void CScrollView::UpdateBars()
         return;
     m_bInsideUpdate = TRUE;
     // Scroll bars that are windows of their own take no room of the view's.
-    const bool sharesHorizontal = GetScrollBarCtrl(SB_HORZ) != NULL;
-    const bool sharesVertical = GetScrollBarCtrl(SB_VERT) != NULL;
+    const bool sharesHorizontal = GetScrollBarCtrl(SB_HORZ) != nullptr;
+    const bool sharesVertical = GetScrollBarCtrl(SB_VERT) != nullptr;
     const CSize barSize(sharesVertical ? 0 : ::GetSystemMetrics(SM_CXVSCROLL),
                         sharesHorizontal ? 0 : ::GetSystemMetrics(SM_CYHSCROLL));
     BOOL hasHorizontal, hasVertical;
@@ -215,7 +215,7 @@ void CScrollView::FillOutsideRect(CDC* pDC, CBrush* pBrush)
 void CScrollView::ResizeParentToFit(BOOL bShrinkOnly)
 {
     CFrameWnd* frame = GetParentFrame();
-    if (frame == NULL)
+    if (frame == nullptr)
         return;
     CRect client, window;
     GetClientRect(&client);
@@ -231,7 +231,7 @@ void CScrollView::ResizeParentToFit(BOOL bShrinkOnly)
         growth.cx = (std::min)(0L, growth.cx);
         growth.cy = (std::min)(0L, growth.cy);
     }
-    frame->SetWindowPos(NULL, 0, 0, window.Width() + growth.cx, window.Height() + growth.cy,
+    frame->SetWindowPos(nullptr, 0, 0, window.Width() + growth.cx, window.Height() + growth.cy,
                         SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -269,7 +269,7 @@ void CScrollView::OnSize(UINT nType, int cx, int cy)
 
 void CScrollView::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    if (pScrollBar != NULL && pScrollBar->SendChildNotifyLastMsg())
+    if (pScrollBar != nullptr && pScrollBar->SendChildNotifyLastMsg())
         return;
     // Controls inside the view may have scroll bars, too.
     if (pScrollBar == GetScrollBarCtrl(SB_HORZ))
@@ -278,7 +278,7 @@ void CScrollView::OnHScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 
 void CScrollView::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    if (pScrollBar != NULL && pScrollBar->SendChildNotifyLastMsg())
+    if (pScrollBar != nullptr && pScrollBar->SendChildNotifyLastMsg())
         return;
     if (pScrollBar == GetScrollBarCtrl(SB_VERT))
         OnScroll(MAKEWORD(noScroll, nSBCode), nPos);
@@ -293,5 +293,5 @@ BOOL CScrollView::OnMouseWheel(UINT nFlags, short zDelta, CPoint pt)
     const int step = lines == WHEEL_PAGESCROLL ? m_pageDev.cy : static_cast<int>(lines) * m_lineDev.cy;
     const CSize distance(0, -zDelta * step / WHEEL_DELTA);
     CSplitterWnd* const splitter = DYNAMIC_DOWNCAST(CSplitterWnd, GetParent());
-    return splitter != NULL ? splitter->DoScrollBy(this, distance) : OnScrollBy(distance);
+    return splitter != nullptr ? splitter->DoScrollBy(this, distance) : OnScrollBy(distance);
 }

@@ -17,18 +17,18 @@ BEGIN_MESSAGE_MAP(CView, CWnd)
     ON_UPDATE_COMMAND_UI(ID_WINDOW_SPLIT, &CView::OnUpdateSplitCmd)
 END_MESSAGE_MAP()
 
-CView::CView() : m_pDocument(NULL) {}
+CView::CView() : m_pDocument(nullptr) {}
 
 CView::~CView()
 {
-    if (m_pDocument != NULL)
+    if (m_pDocument != nullptr)
         m_pDocument->RemoveView(this);
 }
 
 BOOL CView::PreCreateWindow(CREATESTRUCT& cs)
 {
-    if (cs.lpszClass == NULL)
-        cs.lpszClass = quorfx::RegisterFrameClass(NULL);
+    if (cs.lpszClass == nullptr)
+        cs.lpszClass = quorfx::RegisterFrameClass(nullptr);
     if (cs.style & WS_BORDER)
     {
         cs.dwExStyle |= WS_EX_CLIENTEDGE;
@@ -42,7 +42,7 @@ int CView::OnCreate(LPCREATESTRUCT lpCreateStruct)
     if (CWnd::OnCreate(lpCreateStruct) == -1)
         return -1;
     CCreateContext* context = static_cast<CCreateContext*>(lpCreateStruct->lpCreateParams);
-    if (context != NULL && context->m_pCurrentDoc != NULL)
+    if (context != nullptr && context->m_pCurrentDoc != nullptr)
         context->m_pCurrentDoc->AddView(this);
     return 0;
 }
@@ -50,8 +50,8 @@ int CView::OnCreate(LPCREATESTRUCT lpCreateStruct)
 void CView::OnDestroy()
 {
     CFrameWnd* frame = GetParentFrame();
-    if (frame != NULL && frame->GetActiveView() == this)
-        frame->SetActiveView(NULL);
+    if (frame != nullptr && frame->GetActiveView() == this)
+        frame->SetActiveView(nullptr);
     CWnd::OnDestroy();
 }
 
@@ -68,7 +68,7 @@ LRESULT CView::HandleInitialUpdate(WPARAM, LPARAM)
 
 void CView::OnInitialUpdate()
 {
-    OnUpdate(NULL, 0, NULL);
+    OnUpdate(nullptr, 0, nullptr);
 }
 
 void CView::OnUpdate(CView*, LPARAM, CObject*)
@@ -104,14 +104,14 @@ BOOL CView::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHan
 {
     if (CWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
-    return m_pDocument != NULL && m_pDocument->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
+    return m_pDocument != nullptr && m_pDocument->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
 
 int CView::OnMouseActivate(CWnd* pDesktopWnd, UINT nHitTest, UINT message)
 {
     const int answer = CWnd::OnMouseActivate(pDesktopWnd, nHitTest, message);
     CFrameWnd* frame = GetParentFrame();
-    if (answer == MA_NOACTIVATE || answer == MA_NOACTIVATEANDEAT || frame == NULL)
+    if (answer == MA_NOACTIVATE || answer == MA_NOACTIVATEANDEAT || frame == nullptr)
         return answer;
     const HWND focus = ::GetFocus();
     const bool focusIsElsewhere = focus != m_hWnd && !::IsChild(m_hWnd, focus);

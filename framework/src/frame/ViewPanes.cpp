@@ -8,11 +8,11 @@ namespace
 // The splitter around a view; NULL for none.
 CSplitterWnd* SplitterOf(const CWnd* view)
 {
-    for (CWnd* parent = view->GetParent(); parent != NULL && !parent->IsKindOf(RUNTIME_CLASS(CFrameWnd));
+    for (CWnd* parent = view->GetParent(); parent != nullptr && !parent->IsKindOf(RUNTIME_CLASS(CFrameWnd));
          parent = parent->GetParent())
         if (CSplitterWnd* const splitter = DYNAMIC_DOWNCAST(CSplitterWnd, parent))
             return splitter;
-    return NULL;
+    return nullptr;
 }
 
 } // namespace
@@ -22,9 +22,9 @@ CScrollBar* CView::GetScrollBarCtrl(int nBar) const
     const DWORD ownBar = nBar == SB_HORZ ? WS_HSCROLL : WS_VSCROLL;
     CSplitterWnd* const splitter = DYNAMIC_DOWNCAST(CSplitterWnd, GetParent());
     int row = 0, col = 0;
-    if ((GetStyle() & ownBar) || splitter == NULL ||
+    if ((GetStyle() & ownBar) || splitter == nullptr ||
         !splitter->IsChildPane(const_cast<CView*>(this), &row, &col))
-        return NULL;
+        return nullptr;
     const int id = nBar == SB_HORZ ? AFX_IDW_HSCROLL_FIRST + col : AFX_IDW_VSCROLL_FIRST + row;
     return reinterpret_cast<CScrollBar*>(splitter->GetDlgItem(id));
 }
@@ -33,7 +33,7 @@ BOOL CView::OnNextPaneCmd(UINT nID)
 {
     CSplitterWnd* const splitter = SplitterOf(this);
     const BOOL backwards = nID == ID_PREV_PANE;
-    if (splitter == NULL || !splitter->CanActivateNext(backwards))
+    if (splitter == nullptr || !splitter->CanActivateNext(backwards))
         return FALSE;
     splitter->ActivateNext(backwards);
     return TRUE;
@@ -42,17 +42,17 @@ BOOL CView::OnNextPaneCmd(UINT nID)
 void CView::OnUpdateNextPaneMenu(CCmdUI* pCmdUI)
 {
     CSplitterWnd* const splitter = SplitterOf(this);
-    pCmdUI->Enable(splitter != NULL && splitter->CanActivateNext(pCmdUI->m_nID == ID_PREV_PANE));
+    pCmdUI->Enable(splitter != nullptr && splitter->CanActivateNext(pCmdUI->m_nID == ID_PREV_PANE));
 }
 
 BOOL CView::OnSplitCmd(UINT)
 {
     CSplitterWnd* const splitter = SplitterOf(this);
-    return splitter != NULL && splitter->DoKeyboardSplit();
+    return splitter != nullptr && splitter->DoKeyboardSplit();
 }
 
 void CView::OnUpdateSplitCmd(CCmdUI* pCmdUI)
 {
     CSplitterWnd* const splitter = SplitterOf(this);
-    pCmdUI->Enable(splitter != NULL && !splitter->IsTracking());
+    pCmdUI->Enable(splitter != nullptr && !splitter->IsTracking());
 }

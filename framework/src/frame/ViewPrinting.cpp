@@ -4,14 +4,14 @@
 #include "frame/FrameMessages.h"
 
 CPrintInfo::CPrintInfo()
-    : m_pPD(NULL),
+    : m_pPD(nullptr),
       m_bDocObject(FALSE),
       m_bPreview(FALSE),
       m_bDirect(FALSE),
       m_bContinuePrinting(TRUE),
       m_nCurPage(1),
       m_nNumPreviewPages(0),
-      m_lpUserData(NULL),
+      m_lpUserData(nullptr),
       m_rectDraw(0, 0, 0, 0),
       m_nOffsetPage(0),
       m_dwFlags(0),

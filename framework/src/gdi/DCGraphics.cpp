@@ -111,13 +111,13 @@ void InvertOutline(CDC& dc, CRgn& region, CBrush* brush)
 void CDC::DrawDragRect(LPCRECT lpRect, SIZE size, LPCRECT lpRectLast, SIZE sizeLast, CBrush* pBrush,
                        CBrush* pBrushLast)
 {
-    if (pBrush == NULL)
+    if (pBrush == nullptr)
         pBrush = GetHalftoneBrush();
-    if (pBrushLast == NULL)
+    if (pBrushLast == nullptr)
         pBrushLast = pBrush;
     CRgn now;
     MakeOutline(now, lpRect, size);
-    if (lpRectLast == NULL)
+    if (lpRectLast == nullptr)
     {
         InvertOutline(*this, now, pBrush);
         return;

@@ -10,14 +10,14 @@ BEGIN_MESSAGE_MAP(CMDIChildWnd, CFrameWnd)
     ON_WM_MDIACTIVATE()
 END_MESSAGE_MAP()
 
-CMDIChildWnd::CMDIChildWnd() : m_hMenuShared(NULL), m_hOwnMenu(NULL), m_hOwnAccel(NULL) {}
+CMDIChildWnd::CMDIChildWnd() : m_hMenuShared(nullptr), m_hOwnMenu(nullptr), m_hOwnAccel(nullptr) {}
 
 CMDIChildWnd::~CMDIChildWnd()
 {
     DestroyWindow();
-    if (m_hOwnMenu != NULL)
+    if (m_hOwnMenu != nullptr)
         ::DestroyMenu(m_hOwnMenu);
-    if (m_hOwnAccel != NULL)
+    if (m_hOwnAccel != nullptr)
         ::DestroyAcceleratorTable(m_hOwnAccel);
 }
 
@@ -31,9 +31,9 @@ BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD d
                           CMDIFrameWnd* pParentWnd, CCreateContext* pContext)
 {
     CMDIFrameWnd* parent = pParentWnd;
-    if (parent == NULL)
+    if (parent == nullptr)
         parent = DYNAMIC_DOWNCAST(CMDIFrameWnd, AfxGetMainWnd());
-    if (parent == NULL || parent->m_hWndMDIClient == NULL)
+    if (parent == nullptr || parent->m_hWndMDIClient == nullptr)
     {
         TRACE(_T("Frame: there is no window for the child.\n"));
         PostNcDestroy();
@@ -61,7 +61,7 @@ BOOL CMDIChildWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD d
     // The system wraps the context into an MDICREATESTRUCT.
     const HWND created = ::CreateWindowEx(cs.dwExStyle | WS_EX_MDICHILD, cs.lpszClass, cs.lpszName,
                                           static_cast<DWORD>(cs.style), cs.x, cs.y, cs.cx, cs.cy,
-                                          cs.hwndParent, NULL, cs.hInstance, cs.lpCreateParams);
+                                          cs.hwndParent, nullptr, cs.hInstance, cs.lpCreateParams);
     return scope.Finish(created);
 }
 
@@ -74,9 +74,9 @@ int CMDIChildWnd::OnCreate(LPCREATESTRUCT lpCreateStruct)
 
 void CMDIChildWnd::FindHandles(UINT resource, CCreateContext* context)
 {
-    if (m_hMenuShared != NULL || m_hAccelTable != NULL)
+    if (m_hMenuShared != nullptr || m_hAccelTable != nullptr)
         return;
-    CDocTemplate* const docTemplate = context != NULL ? context->m_pNewDocTemplate : NULL;
+    CDocTemplate* const docTemplate = context != nullptr ? context->m_pNewDocTemplate : nullptr;
     if (CMultiDocTemplate* const kind = DYNAMIC_DOWNCAST(CMultiDocTemplate, docTemplate))
     {
         SetHandles(kind->m_hMenuShared, kind->m_hAccelTable);
@@ -136,7 +136,7 @@ void CMDIChildWnd::MDIRestore()
 
 BOOL CMDIChildWnd::DestroyWindow()
 {
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
         return FALSE;
     // Only the client window destroys a child so that another one becomes active.
     const HWND window = m_hWnd;
@@ -157,7 +157,7 @@ void CMDIChildWnd::ActivateFrame(int nCmdShow)
         // A new child is as large as the active one.
         BOOL isMaximized = FALSE;
         const CMDIChildWnd* const active = GetMDIFrame()->MDIGetActive(&isMaximized);
-        nCmdShow = active != NULL && isMaximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
+        nCmdShow = active != nullptr && isMaximized ? SW_SHOWMAXIMIZED : SW_SHOWNORMAL;
     }
     else if (nCmdShow == -1 && IsIconic())
     {
@@ -190,14 +190,14 @@ void CMDIChildWnd::OnMDIActivate(BOOL bActivate, CWnd* pActivateWnd, CWnd* pDeac
     CFrameWnd::OnMDIActivate(bActivate, pActivateWnd, pDeactivateWnd);
     CView* const view = GetActiveView();
     CFrameWnd* const next = DYNAMIC_DOWNCAST(CFrameWnd, pActivateWnd);
-    if (!bActivate && view != NULL)
-        view->OnActivateView(FALSE, next != NULL ? next->GetActiveView() : NULL, view);
+    if (!bActivate && view != nullptr)
+        view->OnActivateView(FALSE, next != nullptr ? next->GetActiveView() : nullptr, view);
     CMDIFrameWnd* const frame = GetMDIFrame();
     if (bActivate)
         frame->ShowMenuOf(this);
-    else if (next == NULL)
-        frame->ShowMenuOf(NULL);
-    if (bActivate && view != NULL && !frame->IsIconic())
+    else if (next == nullptr)
+        frame->ShowMenuOf(nullptr);
+    if (bActivate && view != nullptr && !frame->IsIconic())
         view->OnActivateView(TRUE, view, view);
     frame->OnUpdateFrameTitle(TRUE);
 }
@@ -210,5 +210,5 @@ BOOL CMDIChildWnd::PreTranslateMessage(MSG* pMsg)
         return FALSE;
     // The command goes through the main window, whose menu knows what is enabled.
     const HACCEL accelerators = GetDefaultAccelerator();
-    return accelerators != NULL && ::TranslateAccelerator(GetMDIFrame()->m_hWnd, accelerators, pMsg);
+    return accelerators != nullptr && ::TranslateAccelerator(GetMDIFrame()->m_hWnd, accelerators, pMsg);
 }

@@ -4,13 +4,13 @@
 CFrameWnd* CMDIFrameWnd::GetActiveFrame()
 {
     CMDIChildWnd* child = MDIGetActive();
-    return child != NULL ? static_cast<CFrameWnd*>(child) : this;
+    return child != nullptr ? static_cast<CFrameWnd*>(child) : this;
 }
 
 BOOL CMDIFrameWnd::OnCmdMsg(UINT nID, int nCode, void* pExtra, AFX_CMDHANDLERINFO* pHandlerInfo)
 {
     CMDIChildWnd* child = MDIGetActive();
-    if (child != NULL && child->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
+    if (child != nullptr && child->OnCmdMsg(nID, nCode, pExtra, pHandlerInfo))
         return TRUE;
     return CFrameWnd::OnCmdMsg(nID, nCode, pExtra, pHandlerInfo);
 }
@@ -19,7 +19,7 @@ BOOL CMDIFrameWnd::PreTranslateMessage(MSG* pMsg)
 {
     // The active child's keys work wherever the focus is.
     CMDIChildWnd* child = MDIGetActive();
-    if (child != NULL && !::IsChild(child->m_hWnd, pMsg->hwnd) && child->PreTranslateMessage(pMsg))
+    if (child != nullptr && !::IsChild(child->m_hWnd, pMsg->hwnd) && child->PreTranslateMessage(pMsg))
         return TRUE;
     if (CFrameWnd::PreTranslateMessage(pMsg))
         return TRUE;
@@ -34,7 +34,7 @@ void CMDIFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle)
     BOOL isMaximized = FALSE;
     CMDIChildWnd* child = MDIGetActive(&isMaximized);
     CString title = m_strTitle;
-    if (bAddToTitle && child != NULL && !isMaximized)
+    if (bAddToTitle && child != nullptr && !isMaximized)
     {
         const CString document = child->DocumentTitle();
         const CString name = document.IsEmpty() ? child->GetTitle() : document;
@@ -47,9 +47,9 @@ void CMDIFrameWnd::OnUpdateFrameTitle(BOOL bAddToTitle)
 // Shows the child's menu, or the frame's own for NULL or a child without one.
 void CMDIFrameWnd::ShowMenuOf(const CMDIChildWnd* child)
 {
-    if (m_hMenuDefault == NULL)
+    if (m_hMenuDefault == nullptr)
         return;
-    const bool hasMenu = child != NULL && child->m_hMenuShared != NULL;
+    const bool hasMenu = child != nullptr && child->m_hMenuShared != nullptr;
     const HMENU menu = hasMenu ? child->m_hMenuShared : m_hMenuDefault;
     if (menu == ::GetMenu(m_hWnd))
         return;
@@ -60,8 +60,8 @@ void CMDIFrameWnd::ShowMenuOf(const CMDIChildWnd* child)
 void CMDIFrameWnd::OnDestroy()
 {
     // The system destroys the menu that the frame shows: that must be its own.
-    ShowMenuOf(NULL);
-    m_hMenuDefault = NULL;
+    ShowMenuOf(nullptr);
+    m_hMenuDefault = nullptr;
     CFrameWnd::OnDestroy();
 }
 
@@ -76,8 +76,8 @@ void CMDIFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
 {
     CFrameWnd::OnActivate(nState, pWndOther, bMinimized);
     CMDIChildWnd* child = MDIGetActive();
-    CView* view = child != NULL ? child->GetActiveView() : NULL;
-    if (view == NULL)
+    CView* view = child != nullptr ? child->GetActiveView() : nullptr;
+    if (view == nullptr)
         return;
     if (nState != WA_INACTIVE && !bMinimized)
         view->OnActivateView(TRUE, view, view);
@@ -87,24 +87,24 @@ void CMDIFrameWnd::OnActivate(UINT nState, CWnd* pWndOther, BOOL bMinimized)
 void CMDIFrameWnd::OnWindowNew()
 {
     CMDIChildWnd* child = MDIGetActive();
-    CDocument* document = child != NULL ? child->GetActiveDocument() : NULL;
-    CDocTemplate* docTemplate = document != NULL ? document->GetDocTemplate() : NULL;
-    if (docTemplate == NULL)
+    CDocument* document = child != nullptr ? child->GetActiveDocument() : nullptr;
+    CDocTemplate* docTemplate = document != nullptr ? document->GetDocTemplate() : nullptr;
+    if (docTemplate == nullptr)
     {
         TRACE(_T("Frame: there is no document for another window.\n"));
         AfxMessageBox(AFX_IDP_COMMAND_FAILURE);
         return;
     }
     CFrameWnd* frame = docTemplate->CreateNewFrame(document, child);
-    if (frame != NULL)
+    if (frame != nullptr)
         docTemplate->InitialUpdateFrame(frame, document);
 }
 
 void CMDIFrameWnd::OnUpdateWindowNew(CCmdUI* pCmdUI)
 {
     CMDIChildWnd* child = MDIGetActive();
-    CDocument* document = child != NULL ? child->GetActiveDocument() : NULL;
-    pCmdUI->Enable(document != NULL && document->GetDocTemplate() != NULL);
+    CDocument* document = child != nullptr ? child->GetActiveDocument() : nullptr;
+    pCmdUI->Enable(document != nullptr && document->GetDocTemplate() != nullptr);
 }
 
 BOOL CMDIFrameWnd::OnMDIWindowCmd(UINT nID)
@@ -130,5 +130,5 @@ BOOL CMDIFrameWnd::OnMDIWindowCmd(UINT nID)
 
 void CMDIFrameWnd::OnUpdateMDIWindowCmd(CCmdUI* pCmdUI)
 {
-    pCmdUI->Enable(MDIGetActive() != NULL);
+    pCmdUI->Enable(MDIGetActive() != nullptr);
 }

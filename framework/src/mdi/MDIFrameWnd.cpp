@@ -19,7 +19,7 @@ BEGIN_MESSAGE_MAP(CMDIFrameWnd, CFrameWnd)
     ON_UPDATE_COMMAND_UI(ID_WINDOW_TILE_VERT, &CMDIFrameWnd::OnUpdateMDIWindowCmd)
 END_MESSAGE_MAP()
 
-CMDIFrameWnd::CMDIFrameWnd() : m_hWndMDIClient(NULL), m_hMenuDefault(NULL) {}
+CMDIFrameWnd::CMDIFrameWnd() : m_hWndMDIClient(nullptr), m_hMenuDefault(nullptr) {}
 
 CMDIFrameWnd::~CMDIFrameWnd()
 {
@@ -29,7 +29,7 @@ CMDIFrameWnd::~CMDIFrameWnd()
 
 BOOL CMDIFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
-    if (cs.lpszClass == NULL)
+    if (cs.lpszClass == nullptr)
         cs.lpszClass = quorfx::RegisterFrameClass(quorfx::FrameIcon(AFX_IDI_STD_MDIFRAME));
     if (!CFrameWnd::PreCreateWindow(cs))
         return FALSE;
@@ -41,8 +41,8 @@ BOOL CMDIFrameWnd::PreCreateWindow(CREATESTRUCT& cs)
 BOOL CMDIFrameWnd::OnCreateClient(LPCREATESTRUCT lpcs, CCreateContext*)
 {
     m_hMenuDefault = lpcs->hMenu;
-    CMenu* windowMenu = NULL;
-    if (m_hMenuDefault != NULL)
+    CMenu* windowMenu = nullptr;
+    if (m_hMenuDefault != nullptr)
         windowMenu = CMenu::FromHandle(GetWindowMenuPopup(m_hMenuDefault));
     return CreateClient(lpcs, windowMenu);
 }
@@ -57,10 +57,10 @@ BOOL CMDIFrameWnd::CreateClient(LPCREATESTRUCT lpCreateStruct, CMenu* pWindowMen
     ModifyStyle(scrollBars, 0, SWP_FRAMECHANGED);
     const DWORD style =
         WS_CHILD | WS_VISIBLE | WS_CLIPCHILDREN | WS_CLIPSIBLINGS | MDIS_ALLCHILDSTYLES | scrollBars;
-    m_hWndMDIClient = ::CreateWindowEx(WS_EX_CLIENTEDGE, _T("MDICLIENT"), NULL, style, 0, 0, 0, 0, m_hWnd,
+    m_hWndMDIClient = ::CreateWindowEx(WS_EX_CLIENTEDGE, _T("MDICLIENT"), nullptr, style, 0, 0, 0, 0, m_hWnd,
                                        reinterpret_cast<HMENU>(static_cast<UINT_PTR>(AFX_IDW_PANE_FIRST)),
                                        AfxGetInstanceHandle(), &parameters);
-    return m_hWndMDIClient != NULL;
+    return m_hWndMDIClient != nullptr;
 }
 
 HMENU CMDIFrameWnd::GetWindowMenuPopup(HMENU hMenuBar)
@@ -68,14 +68,14 @@ HMENU CMDIFrameWnd::GetWindowMenuPopup(HMENU hMenuBar)
     for (int i = ::GetMenuItemCount(hMenuBar) - 1; i >= 0; --i)
     {
         const HMENU popup = ::GetSubMenu(hMenuBar, i);
-        for (int j = popup != NULL ? ::GetMenuItemCount(popup) - 1 : -1; j >= 0; --j)
+        for (int j = popup != nullptr ? ::GetMenuItemCount(popup) - 1 : -1; j >= 0; --j)
         {
             const UINT id = ::GetMenuItemID(popup, j);
             if (id >= AFX_IDM_WINDOW_FIRST && id <= AFX_IDM_WINDOW_LAST)
                 return popup;
         }
     }
-    return NULL;
+    return nullptr;
 }
 
 LRESULT CMDIFrameWnd::DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam)
@@ -99,10 +99,10 @@ CMDIChildWnd* CMDIFrameWnd::MDIGetActive(BOOL* pbMaximized) const
     BOOL isMaximized = FALSE;
     const HWND window =
         reinterpret_cast<HWND>(Tell(WM_MDIGETACTIVE, 0, reinterpret_cast<LPARAM>(&isMaximized)));
-    if (pbMaximized != NULL)
+    if (pbMaximized != nullptr)
         *pbMaximized = isMaximized;
     CMDIChildWnd* child = DYNAMIC_DOWNCAST(CMDIChildWnd, CWnd::FromHandlePermanent(window));
-    return child != NULL && (child->GetStyle() & WS_VISIBLE) != 0 ? child : NULL;
+    return child != nullptr && (child->GetStyle() & WS_VISIBLE) != 0 ? child : nullptr;
 }
 
 void CMDIFrameWnd::MDIIconArrange()
@@ -162,15 +162,15 @@ CMDIChildWnd* CMDIFrameWnd::CreateNewChild(CRuntimeClass* pClass, UINT nResource
 {
     CObject* object = pClass->CreateObject();
     CMDIChildWnd* child = DYNAMIC_DOWNCAST(CMDIChildWnd, object);
-    if (child == NULL)
+    if (child == nullptr)
     {
         delete object;
-        return NULL;
+        return nullptr;
     }
     child->SetHandles(hMenu, hAccel);
     // A frame that cannot be created deletes itself.
-    if (!child->LoadFrame(nResource, WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE, this, NULL))
-        return NULL;
-    child->InitialUpdateFrame(NULL, TRUE);
+    if (!child->LoadFrame(nResource, WS_OVERLAPPEDWINDOW | FWS_ADDTOTITLE, this, nullptr))
+        return nullptr;
+    child->InitialUpdateFrame(nullptr, TRUE);
     return child;
 }

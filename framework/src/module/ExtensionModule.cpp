@@ -16,7 +16,7 @@ CDynLinkLibrary*& NewestModule()
 
 HINSTANCE FrameworkModule()
 {
-    HMODULE module = NULL;
+    HMODULE module = nullptr;
     ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
                         reinterpret_cast<LPCTSTR>(&FrameworkModule), &module);
     return module;
@@ -52,8 +52,8 @@ BOOL AFXAPI AfxInitExtensionModule(AFX_EXTENSION_MODULE& state, HMODULE hModule)
     state.bInitialized = TRUE;
     state.hModule = hModule;
     state.hResource = hModule;
-    state.pFirstSharedClass = NULL;
-    state.pFirstSharedFactory = NULL;
+    state.pFirstSharedClass = nullptr;
+    state.pFirstSharedFactory = nullptr;
     return TRUE;
 }
 
@@ -79,7 +79,7 @@ std::vector<HINSTANCE> ResourceModules()
     {
         for (const CDynLinkLibrary* module = NewestModule(); module != nullptr; module = module->m_pNextDLL)
         {
-            if ((module->m_bSystem != FALSE) == system && module->m_hResource != NULL)
+            if ((module->m_bSystem != FALSE) == system && module->m_hResource != nullptr)
                 modules.push_back(module->m_hResource);
         }
     }
@@ -91,7 +91,7 @@ HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType)
 {
     for (const HINSTANCE module : ResourceModules())
     {
-        if (::FindResource(module, lpszName, lpszType) != NULL)
+        if (::FindResource(module, lpszName, lpszType) != nullptr)
             return module;
     }
     return AfxGetResourceHandle();
@@ -99,7 +99,7 @@ HINSTANCE AFXAPI AfxFindResourceHandle(LPCTSTR lpszName, LPCTSTR lpszType)
 
 int AFXAPI AfxLoadString(UINT nIDS, LPTSTR lpszBuf, UINT nMaxBuf)
 {
-    if (lpszBuf == NULL || nMaxBuf == 0)
+    if (lpszBuf == nullptr || nMaxBuf == 0)
         return 0;
     // Sixteen strings share one resource, so its presence in a module does not say that the string is there.
     for (const HINSTANCE module : ResourceModules())

@@ -13,7 +13,7 @@ AFX_MODULE_STATE& ProgramState()
 
 HINSTANCE ProgramInstance()
 {
-    return ::GetModuleHandle(NULL);
+    return ::GetModuleHandle(nullptr);
 }
 
 } // namespace
@@ -43,13 +43,13 @@ AFX_MAINTAIN_STATE2::~AFX_MAINTAIN_STATE2()
 HINSTANCE AFXAPI AfxGetInstanceHandle()
 {
     const HINSTANCE instance = AfxGetModuleState()->m_hCurrentInstanceHandle;
-    return instance != NULL ? instance : ProgramInstance();
+    return instance != nullptr ? instance : ProgramInstance();
 }
 
 HINSTANCE AFXAPI AfxGetResourceHandle()
 {
     const HINSTANCE resources = AfxGetModuleState()->m_hCurrentResourceHandle;
-    return resources != NULL ? resources : AfxGetInstanceHandle();
+    return resources != nullptr ? resources : AfxGetInstanceHandle();
 }
 
 void AFXAPI AfxSetResourceHandle(HINSTANCE hInstResource)
@@ -66,6 +66,6 @@ LPCTSTR AFXAPI AfxGetAppName()
 {
     // A program may replace the name that its object has.
     const CWinApp* const app = AfxGetApp();
-    const LPCTSTR name = app != NULL ? app->m_pszAppName : AfxGetModuleState()->m_lpszCurrentAppName;
-    return name != NULL ? name : _T("");
+    const LPCTSTR name = app != nullptr ? app->m_pszAppName : AfxGetModuleState()->m_lpszCurrentAppName;
+    return name != nullptr ? name : _T("");
 }

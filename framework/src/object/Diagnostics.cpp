@@ -137,13 +137,13 @@ void AFX_CDECL AfxTraceWorker(LPCSTR lpszFormat, ...)
 
 CDumpContext& CDumpContext::operator<<(LPCWSTR lpsz)
 {
-    OutputDebugStringW(lpsz == nullptr ? L"(NULL)" : lpsz);
+    OutputDebugStringW(lpsz == nullptr ? L"(nullptr)" : lpsz);
     return *this;
 }
 
 CDumpContext& CDumpContext::operator<<(LPCSTR lpsz)
 {
-    OutputDebugStringA(lpsz == nullptr ? "(NULL)" : lpsz);
+    OutputDebugStringA(lpsz == nullptr ? "(nullptr)" : lpsz);
     return *this;
 }
 

@@ -31,8 +31,8 @@ CMFCPropertyGridProperty::CMFCPropertyGridProperty(const CString& strName, const
 
 void CMFCPropertyGridProperty::Init()
 {
-    m_pWndList = NULL;
-    m_pParent = NULL;
+    m_pWndList = nullptr;
+    m_pParent = nullptr;
     m_bGroup = FALSE;
     m_bIsValueList = FALSE;
     m_bExpanded = FALSE;
@@ -44,11 +44,11 @@ void CMFCPropertyGridProperty::Init()
     m_bHasSpin = FALSE;
     m_nMinValue = 0;
     m_nMaxValue = 0;
-    m_pWndInPlace = NULL;
-    m_pWndCombo = NULL;
-    m_pWndSpin = NULL;
+    m_pWndInPlace = nullptr;
+    m_pWndCombo = nullptr;
+    m_pWndSpin = nullptr;
     m_nRow = -1;
-    m_pWatches = NULL;
+    m_pWatches = nullptr;
 }
 
 CMFCPropertyGridProperty::~CMFCPropertyGridProperty()
@@ -57,7 +57,7 @@ CMFCPropertyGridProperty::~CMFCPropertyGridProperty()
     PropertyGridWatch::TellAll(m_pWatches);
     for (INT_PTR i = 0; i < m_lstSubItems.GetCount(); ++i)
     {
-        m_lstSubItems[i]->m_pParent = NULL;
+        m_lstSubItems[i]->m_pParent = nullptr;
         delete m_lstSubItems[i];
     }
 }
@@ -66,16 +66,16 @@ CMFCPropertyGridProperty::~CMFCPropertyGridProperty()
 void CMFCPropertyGridProperty::LeaveOwner()
 {
     CMFCPropertyGridCtrl* const list = m_pWndList;
-    if (list != NULL)
+    if (list != nullptr)
     {
         list->PropertyGone(this);
-        SetOwnerList(NULL);
+        SetOwnerList(nullptr);
     }
-    if (m_pParent != NULL)
+    if (m_pParent != nullptr)
         m_pParent->ForgetSubItem(this);
-    else if (list != NULL)
+    else if (list != nullptr)
         list->ForgetTopLevel(this);
-    m_pParent = NULL;
+    m_pParent = nullptr;
 }
 
 void CMFCPropertyGridProperty::ForgetSubItem(const CMFCPropertyGridProperty* pProp)
@@ -100,9 +100,9 @@ void CMFCPropertyGridProperty::SetOwnerList(CMFCPropertyGridCtrl* pWndList)
 // Whether pProp is this property or somewhere in it.
 BOOL CMFCPropertyGridProperty::Contains(const CMFCPropertyGridProperty* pProp) const
 {
-    while (pProp != NULL && pProp != this)
+    while (pProp != nullptr && pProp != this)
         pProp = pProp->m_pParent;
-    return pProp != NULL;
+    return pProp != nullptr;
 }
 
 BOOL CMFCPropertyGridProperty::IsSubItem(CMFCPropertyGridProperty* pProp) const
@@ -112,11 +112,12 @@ BOOL CMFCPropertyGridProperty::IsSubItem(CMFCPropertyGridProperty* pProp) const
 
 BOOL CMFCPropertyGridProperty::AddSubItem(CMFCPropertyGridProperty* pProp)
 {
-    if (pProp == NULL || pProp->m_pParent != NULL || pProp->m_pWndList != NULL || pProp->Contains(this))
+    if (pProp == nullptr || pProp->m_pParent != nullptr || pProp->m_pWndList != nullptr ||
+        pProp->Contains(this))
         return FALSE;
     m_lstSubItems.Add(pProp);
     pProp->m_pParent = this;
-    if (m_pWndList != NULL)
+    if (m_pWndList != nullptr)
     {
         pProp->SetOwnerList(m_pWndList);
         m_pWndList->m_bTerminalsDirty = TRUE;
@@ -127,20 +128,20 @@ BOOL CMFCPropertyGridProperty::AddSubItem(CMFCPropertyGridProperty* pProp)
 
 BOOL CMFCPropertyGridProperty::RemoveSubItem(CMFCPropertyGridProperty*& pProp, BOOL bDelete)
 {
-    if (pProp == NULL || pProp->m_pParent != this)
+    if (pProp == nullptr || pProp->m_pParent != this)
         return FALSE;
     pProp->LeaveOwner();
     if (bDelete)
     {
         delete pProp;
-        pProp = NULL;
+        pProp = nullptr;
     }
     return TRUE;
 }
 
 CMFCPropertyGridProperty* CMFCPropertyGridProperty::GetSubItem(int nIndex) const
 {
-    return nIndex >= 0 && nIndex < GetSubItemsCount() ? m_lstSubItems[nIndex] : NULL;
+    return nIndex >= 0 && nIndex < GetSubItemsCount() ? m_lstSubItems[nIndex] : nullptr;
 }
 
 int CMFCPropertyGridProperty::GetExpandedSubItems(BOOL bIncludeHidden) const
@@ -160,14 +161,14 @@ int CMFCPropertyGridProperty::GetExpandedSubItems(BOOL bIncludeHidden) const
 int CMFCPropertyGridProperty::GetHierarchyLevel() const
 {
     int level = 0;
-    for (const CMFCPropertyGridProperty* parent = m_pParent; parent != NULL; parent = parent->m_pParent)
+    for (const CMFCPropertyGridProperty* parent = m_pParent; parent != nullptr; parent = parent->m_pParent)
         ++level;
     return level;
 }
 
 BOOL CMFCPropertyGridProperty::IsParentExpanded() const
 {
-    for (const CMFCPropertyGridProperty* parent = m_pParent; parent != NULL; parent = parent->m_pParent)
+    for (const CMFCPropertyGridProperty* parent = m_pParent; parent != nullptr; parent = parent->m_pParent)
         if (!parent->m_bExpanded)
             return FALSE;
     return TRUE;
@@ -175,12 +176,12 @@ BOOL CMFCPropertyGridProperty::IsParentExpanded() const
 
 BOOL CMFCPropertyGridProperty::IsVisible() const
 {
-    return m_bVisible && (m_pParent == NULL || m_pParent->IsVisible());
+    return m_bVisible && (m_pParent == nullptr || m_pParent->IsVisible());
 }
 
 BOOL CMFCPropertyGridProperty::IsSelected() const
 {
-    return m_pWndList != NULL && m_pWndList->GetCurSel() == this;
+    return m_pWndList != nullptr && m_pWndList->GetCurSel() == this;
 }
 
 BOOL CMFCPropertyGridProperty::HasValueField() const
@@ -191,7 +192,7 @@ BOOL CMFCPropertyGridProperty::HasValueField() const
 void CMFCPropertyGridProperty::SetName(LPCTSTR lpszName, BOOL bRedraw)
 {
     m_strName = lpszName;
-    if (m_pWndList == NULL)
+    if (m_pWndList == nullptr)
         return;
     if (m_pWndList->IsAlphabeticMode())
     {
@@ -207,7 +208,7 @@ void CMFCPropertyGridProperty::SetName(LPCTSTR lpszName, BOOL bRedraw)
 void CMFCPropertyGridProperty::SetDescription(const CString& strDescr)
 {
     m_strDescr = strDescr;
-    if (IsSelected() && m_pWndList->GetSafeHwnd() != NULL)
+    if (IsSelected() && m_pWndList->GetSafeHwnd() != nullptr)
         m_pWndList->Invalidate(FALSE);
 }
 
@@ -217,7 +218,7 @@ void CMFCPropertyGridProperty::Expand(BOOL bExpand)
     if (m_bExpanded == bExpand)
         return;
     PropertyGridWatch self(m_pWatches);
-    if (!bExpand && m_pWndList != NULL)
+    if (!bExpand && m_pWndList != nullptr)
         m_pWndList->KeepSelectionIn(this);
     // The host may have deleted this property when the selection moved.
     if (self.IsGone())
@@ -232,7 +233,7 @@ void CMFCPropertyGridProperty::Show(BOOL bShow, BOOL bAdjustLayout)
     if (m_bVisible == bShow)
         return;
     m_bVisible = bShow;
-    if (m_pWndList == NULL)
+    if (m_pWndList == nullptr)
         return;
     if (!bShow && Contains(m_pWndList->m_pSel))
         m_pWndList->m_pSel->DestroyEditors();
@@ -258,26 +259,26 @@ void CMFCPropertyGridProperty::AllowEdit(BOOL bAllow)
 
 void CMFCPropertyGridProperty::AdjustLayout()
 {
-    if (m_pWndList != NULL)
+    if (m_pWndList != nullptr)
         m_pWndList->RowsChanged(TRUE);
 }
 
 CRect CMFCPropertyGridProperty::GetRect() const
 {
-    const int row = m_pWndList == NULL ? -1 : m_pWndList->RowOf(this);
+    const int row = m_pWndList == nullptr ? -1 : m_pWndList->RowOf(this);
     return row < 0 ? CRect() : m_pWndList->RowRect(row);
 }
 
 void CMFCPropertyGridProperty::Redraw()
 {
-    if (m_pWndList != NULL && m_pWndList->GetSafeHwnd() != NULL)
+    if (m_pWndList != nullptr && m_pWndList->GetSafeHwnd() != nullptr)
         m_pWndList->RedrawRow(m_pWndList->RowOf(this));
 }
 
 // Redraws also the value lists that show this value.
 void CMFCPropertyGridProperty::RedrawWithParents()
 {
-    for (CMFCPropertyGridProperty* prop = this; prop != NULL; prop = prop->m_pParent)
+    for (CMFCPropertyGridProperty* prop = this; prop != nullptr; prop = prop->m_pParent)
         if (prop == this || prop->m_bIsValueList)
             prop->Redraw();
 }

@@ -15,7 +15,7 @@ constexpr int MostListLines = 12;
 
 void DestroyAndDelete(CWnd* window)
 {
-    if (window == NULL)
+    if (window == nullptr)
         return;
     window->DestroyWindow();
     delete window;
@@ -24,7 +24,8 @@ void DestroyAndDelete(CWnd* window)
 bool HasFocus(const CWnd* window)
 {
     const HWND focus = ::GetFocus();
-    return window != NULL && focus != NULL && (focus == window->m_hWnd || ::IsChild(window->m_hWnd, focus));
+    return window != nullptr && focus != nullptr &&
+           (focus == window->m_hWnd || ::IsChild(window->m_hWnd, focus));
 }
 
 // The option after the current one, round the end; with a letter the next that begins with it. -1 for none.
@@ -49,7 +50,7 @@ INT_PTR NextOption(const CStringArray& options, const CString& current, TCHAR le
 
 BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT lptClick)
 {
-    if (m_pWndList == NULL || m_pWndInPlace != NULL)
+    if (m_pWndList == nullptr || m_pWndInPlace != nullptr)
         return FALSE;
     AdjustButtonRect();
     CRect rectEdit = ValueRect();
@@ -57,7 +58,7 @@ BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT lptClick)
     AdjustInPlaceEditRect(rectEdit, rectSpin);
     BOOL defaultFormat = FALSE;
     m_pWndInPlace = CreateInPlaceEdit(rectEdit, defaultFormat);
-    if (m_pWndInPlace == NULL)
+    if (m_pWndInPlace == nullptr)
         return FALSE;
     m_pWndInPlace->SendMessage(WM_SETFONT, m_pWndList->SendMessage(WM_GETFONT), FALSE);
     if (defaultFormat)
@@ -66,14 +67,14 @@ BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT lptClick)
         m_pWndSpin = CreateSpinControl(rectSpin);
     PlaceEditors();
     auto* const own = dynamic_cast<PropertyInPlaceEdit*>(m_pWndInPlace);
-    if (own != nullptr && lptClick != NULL)
+    if (own != nullptr && lptClick != nullptr)
         own->OpenedByClick();
     m_pWndInPlace->SetFocus();
     // Focus messages run the host, which may have closed the editor again.
-    if (m_pWndInPlace == NULL)
+    if (m_pWndInPlace == nullptr)
         return FALSE;
     // The spin button draws itself when its buddy does, which has happened before it had its place.
-    if (m_pWndSpin != NULL)
+    if (m_pWndSpin != nullptr)
         m_pWndSpin->Invalidate();
     m_pWndInPlace->SendMessage(EM_SETSEL, 0, -1);
     return TRUE;
@@ -82,13 +83,13 @@ BOOL CMFCPropertyGridProperty::OnEdit(LPPOINT lptClick)
 CWnd* CMFCPropertyGridProperty::CreateInPlaceEdit(CRect rectEdit, BOOL& bDefaultFormat)
 {
     if (!IsEditable())
-        return NULL;
+        return nullptr;
     auto edit = std::make_unique<PropertyInPlaceEdit>(
         quorfx::EditMask(m_strEditMask.GetString(), m_strEditTempl.GetString(), m_strValidChars.GetString()));
     const DWORD readOnly = IsTypingAllowed() ? 0 : ES_READONLY;
     if (!edit->Create(WS_CHILD | WS_VISIBLE | ES_AUTOHSCROLL | readOnly, rectEdit, m_pWndList,
                       AFX_PROPLIST_ID_INPLACE))
-        return NULL;
+        return nullptr;
     bDefaultFormat = TRUE;
     return edit.release();
 }
@@ -98,7 +99,7 @@ CSpinButtonCtrl* CMFCPropertyGridProperty::CreateSpinControl(CRect rectSpin)
     auto spin = std::make_unique<CSpinButtonCtrl>();
     constexpr DWORD Style = WS_CHILD | WS_VISIBLE | UDS_ARROWKEYS | UDS_SETBUDDYINT | UDS_NOTHOUSANDS;
     if (!spin->Create(Style, rectSpin, m_pWndList, AFX_PROPLIST_ID_INPLACE))
-        return NULL;
+        return nullptr;
     spin->SetBuddy(m_pWndInPlace);
     const bool hasRange = m_nMinValue < m_nMaxValue;
     const bool isUnsigned = m_varValue.vt == VT_UINT || m_varValue.vt == VT_UI4;
@@ -118,7 +119,7 @@ CComboBox* CMFCPropertyGridProperty::CreateCombo(CWnd* pWndParent, CRect rect)
     auto combo = std::make_unique<CComboBox>();
     constexpr DWORD Style = WS_CHILD | WS_VSCROLL | CBS_NOINTEGRALHEIGHT | CBS_DROPDOWNLIST;
     if (!combo->Create(Style, rect, pWndParent, AFX_PROPLIST_ID_INPLACE))
-        return NULL;
+        return nullptr;
     return combo.release();
 }
 
@@ -147,13 +148,13 @@ void CMFCPropertyGridProperty::PlaceEditors()
     rectEdit.IntersectRect(CRect(rectEdit), list);
     rectSpin.IntersectRect(CRect(rectSpin), list);
     m_pWndInPlace->MoveWindow(rectEdit);
-    if (m_pWndSpin != NULL)
+    if (m_pWndSpin != nullptr)
         m_pWndSpin->MoveWindow(rectSpin);
 }
 
 void CMFCPropertyGridProperty::OnPosSizeChanged(CRect)
 {
-    if (m_pWndInPlace != NULL)
+    if (m_pWndInPlace != nullptr)
         PlaceEditors();
 }
 
@@ -165,7 +166,7 @@ void CMFCPropertyGridProperty::ShowText()
 
 BOOL CMFCPropertyGridProperty::OnUpdateValue()
 {
-    if (m_pWndInPlace == NULL)
+    if (m_pWndInPlace == nullptr)
         return TRUE;
     CString text;
     m_pWndInPlace->GetWindowText(text);
@@ -187,12 +188,12 @@ void CMFCPropertyGridProperty::OnDestroyWindow()
 void CMFCPropertyGridProperty::DestroyEditors()
 {
     CWnd* const windows[] = {m_pWndCombo, m_pWndSpin, m_pWndInPlace};
-    if (m_pWndInPlace == NULL && m_pWndCombo == NULL)
+    if (m_pWndInPlace == nullptr && m_pWndCombo == nullptr)
         return;
-    const bool hadFocus = m_pWndList != NULL && (HasFocus(m_pWndCombo) || HasFocus(m_pWndInPlace));
-    m_pWndCombo = NULL;
-    m_pWndSpin = NULL;
-    m_pWndInPlace = NULL;
+    const bool hadFocus = m_pWndList != nullptr && (HasFocus(m_pWndCombo) || HasFocus(m_pWndInPlace));
+    m_pWndCombo = nullptr;
+    m_pWndSpin = nullptr;
+    m_pWndInPlace = nullptr;
     if (hadFocus)
         m_pWndList->SetFocus();
     for (CWnd* window : windows)
@@ -203,20 +204,20 @@ void CMFCPropertyGridProperty::DestroyEditors()
 
 void CMFCPropertyGridProperty::OnClickButton(CPoint)
 {
-    if (m_pWndList == NULL || !HasButton() || m_pWndCombo != NULL)
+    if (m_pWndList == nullptr || !HasButton() || m_pWndCombo != nullptr)
         return;
     PropertyGridWatch self(m_pWatches);
-    if (m_pWndInPlace == NULL && !m_pWndList->EditItem(this))
+    if (m_pWndInPlace == nullptr && !m_pWndList->EditItem(this))
         return;
     if (self.IsGone())
         return;
     m_pWndCombo = CreateCombo(m_pWndList, ValueRect());
-    if (m_pWndCombo == NULL)
+    if (m_pWndCombo == nullptr)
         return;
     FillCombo();
     m_pWndCombo->ShowWindow(SW_SHOW);
     m_pWndCombo->SetFocus();
-    if (!self.IsGone() && m_pWndCombo != NULL)
+    if (!self.IsGone() && m_pWndCombo != nullptr)
         m_pWndCombo->ShowDropDown(TRUE);
 }
 
@@ -247,7 +248,7 @@ void CMFCPropertyGridProperty::FillCombo()
 
 void CMFCPropertyGridProperty::OnSelectCombo()
 {
-    const int chosen = m_pWndCombo == NULL ? -1 : m_pWndCombo->GetCurSel();
+    const int chosen = m_pWndCombo == nullptr ? -1 : m_pWndCombo->GetCurSel();
     if (chosen < 0)
         return;
     CString text;
@@ -258,10 +259,10 @@ void CMFCPropertyGridProperty::OnSelectCombo()
 void CMFCPropertyGridProperty::OnCloseCombo()
 {
     CComboBox* const combo = m_pWndCombo;
-    m_pWndCombo = NULL;
-    if (combo == NULL)
+    m_pWndCombo = nullptr;
+    if (combo == nullptr)
         return;
-    if (combo->m_hWnd == ::GetFocus() && m_pWndInPlace != NULL)
+    if (combo->m_hWnd == ::GetFocus() && m_pWndInPlace != nullptr)
         m_pWndInPlace->SetFocus();
     DestroyAndDelete(combo);
     Redraw();
@@ -270,7 +271,7 @@ void CMFCPropertyGridProperty::OnCloseCombo()
 // The host may delete this property, so nothing may come after it.
 void CMFCPropertyGridProperty::ChooseOption(const CString& strOption)
 {
-    if (m_pWndInPlace == NULL)
+    if (m_pWndInPlace == nullptr)
     {
         ApplyText(strOption);
         return;
@@ -297,14 +298,14 @@ BOOL CMFCPropertyGridProperty::OnDblClk(CPoint)
 
 BOOL CMFCPropertyGridProperty::PushChar(UINT nChar)
 {
-    if (m_pWndList == NULL || !IsEditable())
+    if (m_pWndList == nullptr || !IsEditable())
         return FALSE;
     if (IsTypingAllowed())
     {
         PropertyGridWatch self(m_pWatches);
         if (!m_pWndList->EditItem(this))
             return FALSE;
-        if (!self.IsGone() && m_pWndInPlace != NULL)
+        if (!self.IsGone() && m_pWndInPlace != nullptr)
             m_pWndInPlace->SendMessage(WM_CHAR, nChar, 1);
         return TRUE;
     }

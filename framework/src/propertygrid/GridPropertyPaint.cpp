@@ -25,9 +25,9 @@ BOOL DrawCellText(CDC& dc, const CString& text, const CRect& cell)
 CMFCPropertyGridProperty* CMFCPropertyGridProperty::HitTest(CPoint point,
                                                             CMFCPropertyGridProperty::ClickArea* pnArea)
 {
-    if (m_pWndList == NULL || !GetRect().PtInRect(point))
-        return NULL;
-    if (pnArea != NULL)
+    if (m_pWndList == nullptr || !GetRect().PtInRect(point))
+        return nullptr;
+    if (pnArea != nullptr)
         *pnArea = AreaAt(point);
     return this;
 }
@@ -52,7 +52,7 @@ CRect CMFCPropertyGridProperty::ValueRect() const
 void CMFCPropertyGridProperty::AdjustButtonRect()
 {
     m_rectButton =
-        m_pWndList != NULL && HasButton() ? quorfx::ButtonRectangle(ValueRect()).As<CRect>() : CRect();
+        m_pWndList != nullptr && HasButton() ? quorfx::ButtonRectangle(ValueRect()).As<CRect>() : CRect();
 }
 
 void CMFCPropertyGridProperty::OnDrawName(CDC* pDC, CRect rect)
@@ -62,20 +62,22 @@ void CMFCPropertyGridProperty::OnDrawName(CDC* pDC, CRect rect)
 
 void CMFCPropertyGridProperty::OnDrawValue(CDC* pDC, CRect rect)
 {
-    if (m_pWndList == NULL)
+    if (m_pWndList == nullptr)
         return;
-    CFont* previous = NULL;
+    CFont* previous = nullptr;
     if (m_pWndList->IsMarkModifiedProperties() && IsModified())
         previous = pDC->SelectObject(&m_pWndList->GetBoldFont());
     m_bValueIsTruncated = DrawCellText(*pDC, FormatProperty(), rect);
-    if (previous != NULL)
+    if (previous != nullptr)
         pDC->SelectObject(previous);
 }
 
 void CMFCPropertyGridProperty::OnDrawExpandBox(CDC* pDC, CRect rectExpand)
 {
-    const COLORREF colour = m_pWndList == NULL ? ::GetSysColor(COLOR_WINDOWTEXT) : m_pWndList->GetTextColor();
-    const COLORREF background = m_pWndList == NULL ? ::GetSysColor(COLOR_WINDOW) : m_pWndList->GetBkColor();
+    const COLORREF colour =
+        m_pWndList == nullptr ? ::GetSysColor(COLOR_WINDOWTEXT) : m_pWndList->GetTextColor();
+    const COLORREF background =
+        m_pWndList == nullptr ? ::GetSysColor(COLOR_WINDOW) : m_pWndList->GetBkColor();
     pDC->FillSolidRect(rectExpand, background);
     pDC->Draw3dRect(rectExpand, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNSHADOW));
     const CPoint centre = rectExpand.CenterPoint();
@@ -87,13 +89,13 @@ void CMFCPropertyGridProperty::OnDrawExpandBox(CDC* pDC, CRect rectExpand)
 
 void CMFCPropertyGridProperty::OnDrawButton(CDC* pDC, CRect rectButton)
 {
-    const UINT state = m_pWndCombo != NULL ? DFCS_PUSHED : 0;
+    const UINT state = m_pWndCombo != nullptr ? DFCS_PUSHED : 0;
     pDC->DrawFrameControl(rectButton, DFC_SCROLL, DFCS_SCROLLCOMBOBOX | state);
 }
 
 void CMFCPropertyGridProperty::OnDrawDescription(CDC* pDC, CRect rect)
 {
-    if (m_pWndList == NULL)
+    if (m_pWndList == nullptr)
         return;
     CFont* const previous = pDC->SelectObject(&m_pWndList->GetBoldFont());
     CRect nameRect = rect;
@@ -106,7 +108,7 @@ void CMFCPropertyGridProperty::OnDrawDescription(CDC* pDC, CRect rect)
 
 CString CMFCPropertyGridProperty::GetNameTooltip()
 {
-    if (m_bNameIsTruncated || (m_pWndList != NULL && m_pWndList->IsAlwaysShowUserToolTip()))
+    if (m_bNameIsTruncated || (m_pWndList != nullptr && m_pWndList->IsAlwaysShowUserToolTip()))
         return m_strName;
     return CString();
 }
@@ -114,11 +116,11 @@ CString CMFCPropertyGridProperty::GetNameTooltip()
 CString CMFCPropertyGridProperty::GetValueTooltip()
 {
     const BOOL isWanted =
-        m_bValueIsTruncated || (m_pWndList != NULL && m_pWndList->IsAlwaysShowUserToolTip());
-    return isWanted && m_pWndInPlace == NULL ? FormatProperty() : CString();
+        m_bValueIsTruncated || (m_pWndList != nullptr && m_pWndList->IsAlwaysShowUserToolTip());
+    return isWanted && m_pWndInPlace == nullptr ? FormatProperty() : CString();
 }
 
 HBRUSH CMFCPropertyGridProperty::OnCtlColor(CDC*, UINT)
 {
-    return NULL;
+    return nullptr;
 }

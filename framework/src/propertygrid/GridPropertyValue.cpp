@@ -25,7 +25,7 @@ void CMFCPropertyGridProperty::SetValue(const _variant_t& varValue)
         return;
     }
     m_varValue = varValue;
-    if (m_pWndInPlace != NULL)
+    if (m_pWndInPlace != nullptr)
         ShowText();
     RedrawWithParents();
 }
@@ -41,7 +41,7 @@ void CMFCPropertyGridProperty::ResetOriginalValue()
     m_varValue = static_cast<const VARIANT&>(m_varValueOrig);
     for (INT_PTR i = 0; i < m_lstSubItems.GetCount(); ++i)
         m_lstSubItems[i]->ResetOriginalValue();
-    if (m_pWndInPlace != NULL)
+    if (m_pWndInPlace != nullptr)
         ShowText();
     RedrawWithParents();
 }
@@ -65,14 +65,14 @@ CString CMFCPropertyGridProperty::FormatProperty()
 {
     if (m_bIsValueList)
         return FormatValueList();
-    if (m_pWndList == NULL)
+    if (m_pWndList == nullptr)
         return quorfx::FormatValue(m_varValue, LabelsOf(_T("True"), _T("False")));
     return quorfx::FormatValue(m_varValue, LabelsOf(m_pWndList->m_strTrue, m_pWndList->m_strFalse));
 }
 
 CString CMFCPropertyGridProperty::FormatValueList()
 {
-    const TCHAR delimiter = m_pWndList == NULL ? _T(',') : m_pWndList->m_cListDelimiter;
+    const TCHAR delimiter = m_pWndList == nullptr ? _T(',') : m_pWndList->m_cListDelimiter;
     CString text;
     for (INT_PTR i = 0; i < m_lstSubItems.GetCount(); ++i)
     {
@@ -93,7 +93,7 @@ BOOL CMFCPropertyGridProperty::TextToVar(const CString& strText)
         int start = 0;
         return ReadValueList(strText, start);
     }
-    if (m_pWndList == NULL)
+    if (m_pWndList == nullptr)
         return quorfx::ParseValue(strText, LabelsOf(_T("True"), _T("False")), m_varValue);
     return quorfx::ParseValue(strText, LabelsOf(m_pWndList->m_strTrue, m_pWndList->m_strFalse), m_varValue);
 }
@@ -102,7 +102,7 @@ BOOL CMFCPropertyGridProperty::TextToVar(const CString& strText)
 // is no value, or is not there, leaves its sub-item alone. Returns whether any part was a value.
 BOOL CMFCPropertyGridProperty::ReadValueList(const CString& strText, int& nStart)
 {
-    const TCHAR delimiter = m_pWndList == NULL ? _T(',') : m_pWndList->m_cListDelimiter;
+    const TCHAR delimiter = m_pWndList == nullptr ? _T(',') : m_pWndList->m_cListDelimiter;
     BOOL read = FALSE;
     for (INT_PTR i = 0; i < m_lstSubItems.GetCount() && nStart <= strText.GetLength(); ++i)
     {
@@ -152,14 +152,14 @@ BOOL CMFCPropertyGridProperty::ApplyText(const CString& strText)
     RedrawWithParents();
     for (INT_PTR i = 0; i < m_lstSubItems.GetCount(); ++i)
         m_lstSubItems[i]->Redraw();
-    if (m_pWndList != NULL)
+    if (m_pWndList != nullptr)
         m_pWndList->OnPropertyChanged(this);
     return TRUE;
 }
 
 BOOL CMFCPropertyGridProperty::AddOption(LPCTSTR lpszOption, BOOL bInsertUnique)
 {
-    if (lpszOption == NULL || (bInsertUnique && m_lstOptions.Find(lpszOption) != NULL))
+    if (lpszOption == nullptr || (bInsertUnique && m_lstOptions.Find(lpszOption) != nullptr))
         return FALSE;
     m_lstOptions.AddTail(lpszOption);
     Redraw();
@@ -175,7 +175,7 @@ void CMFCPropertyGridProperty::RemoveAllOptions()
 LPCTSTR CMFCPropertyGridProperty::GetOption(int nIndex) const
 {
     const POSITION position = m_lstOptions.FindIndex(nIndex);
-    return position == NULL ? NULL : m_lstOptions.GetAt(position).GetString();
+    return position == nullptr ? nullptr : m_lstOptions.GetAt(position).GetString();
 }
 
 void CMFCPropertyGridProperty::EnableSpinControl(BOOL bEnable, int nMin, int nMax)
@@ -188,13 +188,13 @@ void CMFCPropertyGridProperty::EnableSpinControl(BOOL bEnable, int nMin, int nMa
 // What the user can choose from: the options, or the two labels of a flag.
 void CMFCPropertyGridProperty::CollectOptions(CStringArray& options) const
 {
-    if (m_varValue.vt == VT_BOOL && m_pWndList != NULL)
+    if (m_varValue.vt == VT_BOOL && m_pWndList != nullptr)
     {
         options.Add(m_pWndList->m_strTrue);
         options.Add(m_pWndList->m_strFalse);
         return;
     }
-    for (POSITION position = m_lstOptions.GetHeadPosition(); position != NULL;)
+    for (POSITION position = m_lstOptions.GetHeadPosition(); position != nullptr;)
         options.Add(m_lstOptions.GetNext(position));
 }
 

@@ -48,7 +48,7 @@ constexpr int FirstDescriptionRows = 3;
 } // namespace
 
 CMFCPropertyGridCtrl::CMFCPropertyGridCtrl()
-    : m_pSel(NULL),
+    : m_pSel(nullptr),
       m_bRowsDirty(TRUE),
       m_bTerminalsDirty(TRUE),
       m_bLayoutDirty(TRUE),
@@ -84,8 +84,8 @@ CMFCPropertyGridCtrl::CMFCPropertyGridCtrl()
       m_clrDescriptionBackground(SystemColor),
       m_clrDescriptionText(SystemColor),
       m_clrLine(SystemColor),
-      m_hFont(NULL),
-      m_pWatches(NULL)
+      m_hFont(nullptr),
+      m_pWatches(nullptr)
 {
     EnableToolTips();
 }
@@ -99,8 +99,9 @@ CMFCPropertyGridCtrl::~CMFCPropertyGridCtrl()
 
 BOOL CMFCPropertyGridCtrl::Create(DWORD dwStyle, const RECT& rect, CWnd* pParentWnd, UINT nID)
 {
-    const LPCTSTR windowClass = AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(NULL, IDC_ARROW), NULL, NULL);
-    return CWnd::Create(windowClass, NULL, dwStyle | WS_CHILD | WS_CLIPCHILDREN, rect, pParentWnd, nID);
+    const LPCTSTR windowClass =
+        AfxRegisterWndClass(CS_DBLCLKS, ::LoadCursor(nullptr, IDC_ARROW), nullptr, nullptr);
+    return CWnd::Create(windowClass, nullptr, dwStyle | WS_CHILD | WS_CLIPCHILDREN, rect, pParentWnd, nID);
 }
 
 void CMFCPropertyGridCtrl::PreSubclassWindow()
@@ -120,7 +121,7 @@ void CMFCPropertyGridCtrl::OnDestroy()
     EndDrag(FALSE);
     m_bEndingEdit = FALSE;
     m_bComboAccepted = FALSE;
-    if (m_pSel != NULL)
+    if (m_pSel != nullptr)
         m_pSel->OnDestroyWindow();
     m_bLayoutDirty = TRUE;
     CWnd::OnDestroy();
@@ -130,7 +131,7 @@ void CMFCPropertyGridCtrl::OnDestroy()
 
 int CMFCPropertyGridCtrl::AddProperty(CMFCPropertyGridProperty* pProp, BOOL bRedraw, BOOL bAdjustLayout)
 {
-    if (pProp == NULL || pProp->m_pParent != NULL || pProp->m_pWndList != NULL)
+    if (pProp == nullptr || pProp->m_pParent != nullptr || pProp->m_pWndList != nullptr)
         return -1;
     const INT_PTR index = m_lstProps.Add(pProp);
     pProp->SetOwnerList(this);
@@ -141,10 +142,10 @@ int CMFCPropertyGridCtrl::AddProperty(CMFCPropertyGridProperty* pProp, BOOL bRed
 
 BOOL CMFCPropertyGridCtrl::DeleteProperty(CMFCPropertyGridProperty*& pProp, BOOL bRedraw, BOOL bAdjustLayout)
 {
-    if (pProp == NULL || pProp->m_pWndList != this)
+    if (pProp == nullptr || pProp->m_pWndList != this)
         return FALSE;
     delete pProp;
-    pProp = NULL;
+    pProp = nullptr;
     RowsChanged(bRedraw || bAdjustLayout);
     return TRUE;
 }
@@ -157,7 +158,7 @@ void CMFCPropertyGridCtrl::RemoveAll()
 
 void CMFCPropertyGridCtrl::DeleteAll()
 {
-    if (m_pSel != NULL)
+    if (m_pSel != nullptr)
         PropertyGone(m_pSel);
     // From the end, where an array forgets an element without moving others.
     while (!m_lstProps.IsEmpty())
@@ -169,11 +170,11 @@ void CMFCPropertyGridCtrl::DeleteAll()
 // A property is taken out of the grid, with all in it.
 void CMFCPropertyGridCtrl::PropertyGone(const CMFCPropertyGridProperty* pProp)
 {
-    if (m_pSel != NULL && pProp->Contains(m_pSel))
+    if (m_pSel != nullptr && pProp->Contains(m_pSel))
     {
         CMFCPropertyGridProperty* const selected = m_pSel;
         selected->DestroyEditors();
-        m_pSel = NULL;
+        m_pSel = nullptr;
     }
     m_bTerminalsDirty = TRUE;
     RowsChanged(TRUE);
@@ -193,7 +194,7 @@ void CMFCPropertyGridCtrl::ForgetTopLevel(const CMFCPropertyGridProperty* pProp)
 
 CMFCPropertyGridProperty* CMFCPropertyGridCtrl::GetProperty(int nIndex) const
 {
-    return nIndex >= 0 && nIndex < GetPropertyCount() ? m_lstProps[nIndex] : NULL;
+    return nIndex >= 0 && nIndex < GetPropertyCount() ? m_lstProps[nIndex] : nullptr;
 }
 
 namespace
@@ -206,7 +207,7 @@ CMFCPropertyGridProperty* FindData(CMFCPropertyGridProperty* prop, DWORD_PTR dat
     for (int i = 0; searchSubItems && i < prop->GetSubItemsCount(); ++i)
         if (CMFCPropertyGridProperty* const found = FindData(prop->GetSubItem(i), data, TRUE))
             return found;
-    return NULL;
+    return nullptr;
 }
 
 void ExpandWithSubItems(CMFCPropertyGridProperty& prop, BOOL expand)
@@ -224,7 +225,7 @@ CMFCPropertyGridProperty* CMFCPropertyGridCtrl::FindItemByData(DWORD_PTR dwData,
     for (INT_PTR i = 0; i < m_lstProps.GetCount(); ++i)
         if (CMFCPropertyGridProperty* const found = FindData(m_lstProps[i], dwData, bSearchSubProps))
             return found;
-    return NULL;
+    return nullptr;
 }
 
 void CMFCPropertyGridCtrl::ExpandAll(BOOL bExpand)
@@ -239,7 +240,7 @@ void CMFCPropertyGridCtrl::ResetOriginalValues(BOOL bRedraw)
 {
     for (INT_PTR i = 0; i < m_lstProps.GetCount(); ++i)
         m_lstProps[i]->ResetOriginalValue();
-    if (bRedraw && m_hWnd != NULL)
+    if (bRedraw && m_hWnd != nullptr)
         Invalidate(FALSE);
 }
 
@@ -263,7 +264,7 @@ void CMFCPropertyGridCtrl::EnableHeaderCtrl(BOOL bEnable, LPCTSTR lpszLeftColumn
     m_bHeaderCtrl = bEnable ? TRUE : FALSE;
     m_strLeftColumn = lpszLeftColumn;
     m_strRightColumn = lpszRightColumn;
-    if (m_wndHeader.GetSafeHwnd() != NULL)
+    if (m_wndHeader.GetSafeHwnd() != nullptr)
         InitHeader();
     AdjustLayout();
 }
@@ -326,7 +327,7 @@ void CMFCPropertyGridCtrl::SetCustomColors(COLORREF clrBackground, COLORREF clrT
     m_clrDescriptionText = clrDescriptionText;
     m_clrLine = clrLine;
     m_brushBackground.DeleteObject();
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         Invalidate(FALSE);
 }
 
@@ -346,8 +347,8 @@ void CMFCPropertyGridCtrl::GetCustomColors(COLORREF& clrBackground, COLORREF& cl
 
 void CMFCPropertyGridCtrl::OnPropertyChanged(CMFCPropertyGridProperty* pProp) const
 {
-    CWnd* const owner = m_hWnd == NULL ? NULL : GetOwner();
-    if (owner != NULL)
+    CWnd* const owner = m_hWnd == nullptr ? nullptr : GetOwner();
+    if (owner != nullptr)
         owner->SendMessage(AFX_WM_PROPERTY_CHANGED, static_cast<WPARAM>(GetDlgCtrlID()),
                            reinterpret_cast<LPARAM>(pProp));
 }

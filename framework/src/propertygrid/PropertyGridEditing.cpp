@@ -8,7 +8,7 @@
 
 void CMFCPropertyGridCtrl::SetCurSel(CMFCPropertyGridProperty* pProp, BOOL bRedraw)
 {
-    if (pProp == NULL || pProp->m_pWndList == this)
+    if (pProp == nullptr || pProp->m_pWndList == this)
         Select(pProp, bRedraw);
 }
 
@@ -17,19 +17,19 @@ BOOL CMFCPropertyGridCtrl::Select(CMFCPropertyGridProperty* pProp, BOOL bRedraw)
 {
     if (pProp == m_pSel)
         return TRUE;
-    PropertyGridWatch* nothing = NULL;
+    PropertyGridWatch* nothing = nullptr;
     PropertyGridWatch self(m_pWatches);
-    PropertyGridWatch wanted(pProp == NULL ? nothing : pProp->m_pWatches);
+    PropertyGridWatch wanted(pProp == nullptr ? nothing : pProp->m_pWatches);
     if (!EndEditItem() || self.IsGone() || wanted.IsGone())
         return FALSE;
     CMFCPropertyGridProperty* const old = m_pSel;
     m_pSel = pProp;
-    if (old != NULL)
+    if (old != nullptr)
         old->OnKillSelection(pProp);
-    if (pProp != NULL)
+    if (pProp != nullptr)
         pProp->OnSetSelection(old);
     OnChangeSelection(pProp, old);
-    if (bRedraw && m_hWnd != NULL)
+    if (bRedraw && m_hWnd != nullptr)
     {
         RedrawRow(RowOf(old));
         RedrawRow(RowOf(pProp));
@@ -44,7 +44,7 @@ BOOL CMFCPropertyGridCtrl::Select(CMFCPropertyGridProperty* pProp, BOOL bRedraw)
 // A property is about to be folded: what it hides is no longer selected.
 void CMFCPropertyGridCtrl::KeepSelectionIn(CMFCPropertyGridProperty* pFolded)
 {
-    if (m_pSel != NULL && m_pSel != pFolded && pFolded->Contains(m_pSel))
+    if (m_pSel != nullptr && m_pSel != pFolded && pFolded->Contains(m_pSel))
         Select(pFolded, TRUE);
 }
 
@@ -52,7 +52,7 @@ void CMFCPropertyGridCtrl::KeepSelectionIn(CMFCPropertyGridProperty* pFolded)
 
 BOOL CMFCPropertyGridCtrl::EditItem(CMFCPropertyGridProperty* pProp, LPPOINT lptClick)
 {
-    if (m_hWnd == NULL || pProp == NULL || pProp->m_pWndList != this)
+    if (m_hWnd == nullptr || pProp == nullptr || pProp->m_pWndList != this)
         return FALSE;
     PropertyGridWatch self(m_pWatches);
     PropertyGridWatch wanted(pProp->m_pWatches);
@@ -69,7 +69,7 @@ BOOL CMFCPropertyGridCtrl::EditItem(CMFCPropertyGridProperty* pProp, LPPOINT lpt
 BOOL CMFCPropertyGridCtrl::EndEditItem(BOOL bUpdateData)
 {
     CMFCPropertyGridProperty* const edited = m_pSel;
-    if (edited == NULL || !edited->IsInPlaceEditing() || m_bEndingEdit)
+    if (edited == nullptr || !edited->IsInPlaceEditing() || m_bEndingEdit)
         return TRUE;
     PropertyGridWatch self(m_pWatches);
     PropertyGridWatch property(edited->m_pWatches);
@@ -87,7 +87,7 @@ BOOL CMFCPropertyGridCtrl::EndEditItem(BOOL bUpdateData)
 
 BOOL CMFCPropertyGridCtrl::HasFocusInside(HWND hWndFocus) const
 {
-    return hWndFocus != NULL && m_hWnd != NULL && (hWndFocus == m_hWnd || ::IsChild(m_hWnd, hWndFocus));
+    return hWndFocus != nullptr && m_hWnd != nullptr && (hWndFocus == m_hWnd || ::IsChild(m_hWnd, hWndFocus));
 }
 
 void CMFCPropertyGridCtrl::EditorLostFocus(HWND hWndNewFocus)
@@ -96,7 +96,7 @@ void CMFCPropertyGridCtrl::EditorLostFocus(HWND hWndNewFocus)
         return;
     PropertyGridWatch self(m_pWatches);
     CMFCPropertyGridProperty* const edited = m_pSel;
-    const BOOL isEditing = edited != NULL && edited->IsInPlaceEditing();
+    const BOOL isEditing = edited != nullptr && edited->IsInPlaceEditing();
     if (!isEditing || (edited->OnKillFocus(CWnd::FromHandle(hWndNewFocus)) && !self.IsGone()))
         EndEditItem(TRUE);
 }
@@ -124,26 +124,26 @@ void CMFCPropertyGridCtrl::OnKillFocus(CWnd* pNewWnd)
 
 void CMFCPropertyGridCtrl::OnClickButton(CPoint point)
 {
-    if (m_pSel != NULL)
+    if (m_pSel != nullptr)
         m_pSel->OnClickButton(point);
 }
 
 void CMFCPropertyGridCtrl::OnSelectCombo()
 {
-    if (m_pSel != NULL)
+    if (m_pSel != nullptr)
         m_pSel->OnSelectCombo();
 }
 
 void CMFCPropertyGridCtrl::OnCloseCombo()
 {
-    if (m_pSel != NULL)
+    if (m_pSel != nullptr)
         m_pSel->OnCloseCombo();
 }
 
 BOOL CMFCPropertyGridCtrl::OnCommand(WPARAM wParam, LPARAM lParam)
 {
     const HWND sender = reinterpret_cast<HWND>(lParam);
-    if (m_pSel == NULL || sender == NULL)
+    if (m_pSel == nullptr || sender == nullptr)
         return CWnd::OnCommand(wParam, lParam);
     const UINT code = HIWORD(wParam);
     if (sender == m_pSel->m_pWndCombo->GetSafeHwnd())
@@ -165,7 +165,7 @@ BOOL CMFCPropertyGridCtrl::OnCommand(WPARAM wParam, LPARAM lParam)
 LRESULT CMFCPropertyGridCtrl::OnFinishCombo(WPARAM, LPARAM)
 {
     CMFCPropertyGridProperty* const prop = m_pSel;
-    if (prop == NULL || prop->m_pWndCombo == NULL || prop->m_pWndCombo->GetDroppedState())
+    if (prop == nullptr || prop->m_pWndCombo == nullptr || prop->m_pWndCombo->GetDroppedState())
         return 0;
     PropertyGridWatch self(m_pWatches);
     const BOOL isAccepted = m_bComboAccepted;
@@ -185,7 +185,7 @@ BOOL CMFCPropertyGridCtrl::OnNotify(WPARAM wParam, LPARAM lParam, LRESULT* pResu
     const bool isHeader = change.hdr.hwndFrom == m_wndHeader.GetSafeHwnd();
     if (!isHeader || change.hdr.code != HDN_ITEMCHANGEDW)
         return CWnd::OnNotify(wParam, lParam, pResult);
-    const bool isWidth = change.pitem != NULL && (change.pitem->mask & HDI_WIDTH) != 0;
+    const bool isWidth = change.pitem != nullptr && (change.pitem->mask & HDI_WIDTH) != 0;
     if (!m_bInLayout && isWidth && change.iItem == 0)
         SetColumnWidth(change.pitem->cxy);
     return TRUE;

@@ -26,8 +26,8 @@ UINT CMFCPropertyGridCtrl::OnGetDlgCode()
     UINT code = DLGC_WANTARROWS | DLGC_WANTCHARS;
     // Enter is wanted only where it does something; else it is the dialog's.
     const MSG* const asked = reinterpret_cast<const MSG*>(GetCurrentMessage()->lParam);
-    const bool isEnter = asked != NULL && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
-    const bool isUsed = m_pSel != NULL && (m_pSel->IsEditable() || !m_pSel->m_lstSubItems.IsEmpty());
+    const bool isEnter = asked != nullptr && asked->message == WM_KEYDOWN && asked->wParam == VK_RETURN;
+    const bool isUsed = m_pSel != nullptr && (m_pSel->IsEditable() || !m_pSel->m_lstSubItems.IsEmpty());
     if (isEnter && isUsed)
         code |= DLGC_WANTMESSAGE;
     return code;
@@ -46,9 +46,9 @@ void CMFCPropertyGridCtrl::OnKeyDown(UINT nChar, UINT nRepCnt, UINT nFlags)
         return;
     if (nChar == VK_F4)
         OpenDropDown();
-    else if (m_pSel != NULL && (nChar == VK_RETURN || nChar == VK_F2))
+    else if (m_pSel != nullptr && (nChar == VK_RETURN || nChar == VK_F2))
     {
-        if (!EditItem(m_pSel) && nChar == VK_RETURN && m_pSel != NULL && !m_pSel->HasValueField())
+        if (!EditItem(m_pSel) && nChar == VK_RETURN && m_pSel != nullptr && !m_pSel->HasValueField())
             FoldSelected(!m_pSel->IsExpanded());
     }
     else
@@ -76,7 +76,7 @@ BOOL CMFCPropertyGridCtrl::OnNavigationKey(UINT nChar)
 void CMFCPropertyGridCtrl::SelectRow(int row)
 {
     CMFCPropertyGridProperty* const prop = PropertyOfRow(row);
-    if (prop == NULL)
+    if (prop == nullptr)
         return;
     PropertyGridWatch wanted(prop->m_pWatches);
     if (Select(prop, TRUE) && !wanted.IsGone())
@@ -85,7 +85,7 @@ void CMFCPropertyGridCtrl::SelectRow(int row)
 
 BOOL CMFCPropertyGridCtrl::OnFoldKey(UINT nChar)
 {
-    if (m_pSel == NULL)
+    if (m_pSel == nullptr)
         return FALSE;
     if (nChar == VK_RIGHT)
         return FoldSelected(TRUE);
@@ -100,7 +100,7 @@ BOOL CMFCPropertyGridCtrl::OnFoldKey(UINT nChar)
 // Returns whether the selected property has anything to fold.
 BOOL CMFCPropertyGridCtrl::FoldSelected(BOOL bExpand)
 {
-    if (m_pSel == NULL || m_pSel->m_lstSubItems.IsEmpty())
+    if (m_pSel == nullptr || m_pSel->m_lstSubItems.IsEmpty())
         return FALSE;
     m_pSel->Expand(bExpand);
     return TRUE;
@@ -108,7 +108,7 @@ BOOL CMFCPropertyGridCtrl::FoldSelected(BOOL bExpand)
 
 void CMFCPropertyGridCtrl::OpenDropDown()
 {
-    if (m_pSel == NULL)
+    if (m_pSel == nullptr)
         return;
     EnsureVisible(m_pSel);
     m_pSel->AdjustButtonRect();
@@ -127,7 +127,7 @@ void CMFCPropertyGridCtrl::OnChar(UINT nChar, UINT nRepCnt, UINT nFlags)
     if (isFold && FoldSelected(nChar == '+'))
         return;
     PropertyGridWatch self(m_pWatches);
-    if ((m_pSel == NULL || !m_pSel->PushChar(nChar)) && !self.IsGone())
+    if ((m_pSel == nullptr || !m_pSel->PushChar(nChar)) && !self.IsGone())
         SelectByLetter(static_cast<TCHAR>(nChar));
 }
 
@@ -151,7 +151,7 @@ void CMFCPropertyGridCtrl::SelectByLetter(TCHAR letter)
 
 BOOL CMFCPropertyGridCtrl::IsEditorMessage(const MSG& message) const
 {
-    if (m_pSel == NULL || m_pSel->m_pWndInPlace == NULL)
+    if (m_pSel == nullptr || m_pSel->m_pWndInPlace == nullptr)
         return FALSE;
     const HWND editor = m_pSel->m_pWndInPlace->m_hWnd;
     return message.hwnd == editor || ::IsChild(editor, message.hwnd);
@@ -165,8 +165,8 @@ BOOL CMFCPropertyGridCtrl::PreTranslateMessage(MSG* pMsg)
         return TRUE;
     if (self.IsGone())
         return TRUE;
-    const CComboBox* const combo = m_pSel == NULL ? NULL : m_pSel->m_pWndCombo;
-    if (isKey && combo != NULL && pMsg->hwnd == combo->m_hWnd && OnComboKey(*pMsg))
+    const CComboBox* const combo = m_pSel == nullptr ? nullptr : m_pSel->m_pWndCombo;
+    if (isKey && combo != nullptr && pMsg->hwnd == combo->m_hWnd && OnComboKey(*pMsg))
         return TRUE;
     return CWnd::PreTranslateMessage(pMsg);
 }
@@ -196,7 +196,7 @@ BOOL CMFCPropertyGridCtrl::OnEditorKey(const MSG& message)
     case VK_UP:
     case VK_DOWN:
         // The spin button has a use for them.
-        return m_pSel->m_pWndSpin == NULL && LeaveEditor(key);
+        return m_pSel->m_pWndSpin == nullptr && LeaveEditor(key);
     case VK_PRIOR:
     case VK_NEXT:
         return LeaveEditor(key);

@@ -31,7 +31,7 @@ void CMFCPropertyGridCtrl::RowsChanged(BOOL bRedraw)
 {
     m_bRowsDirty = TRUE;
     m_bLayoutDirty = TRUE;
-    if (bRedraw && m_hWnd != NULL)
+    if (bRedraw && m_hWnd != nullptr)
         Invalidate(FALSE);
 }
 
@@ -100,20 +100,21 @@ int CMFCPropertyGridCtrl::RowCount() const
 
 CMFCPropertyGridProperty* CMFCPropertyGridCtrl::PropertyOfRow(int row) const
 {
-    return row >= 0 && row < RowCount() ? m_rows[row] : NULL;
+    return row >= 0 && row < RowCount() ? m_rows[row] : nullptr;
 }
 
 // The row number that a property keeps is right only if that row is the property's.
 int CMFCPropertyGridCtrl::RowOf(const CMFCPropertyGridProperty* pProp) const
 {
     PrepareRows();
-    return pProp != NULL && PropertyOfRow(pProp->m_nRow) == pProp ? pProp->m_nRow : -1;
+    return pProp != nullptr && PropertyOfRow(pProp->m_nRow) == pProp ? pProp->m_nRow : -1;
 }
 
 int CMFCPropertyGridCtrl::IndentOf(const CMFCPropertyGridProperty& prop) const
 {
     int level = 0;
-    for (const CMFCPropertyGridProperty* parent = prop.m_pParent; parent != NULL; parent = parent->m_pParent)
+    for (const CMFCPropertyGridProperty* parent = prop.m_pParent; parent != nullptr;
+         parent = parent->m_pParent)
         if (!m_bAlphabeticMode || !parent->m_bGroup || parent->m_bIsValueList)
             ++level;
     return m_bAlphabeticMode ? level : (std::max)(0, level - 1);
@@ -123,7 +124,7 @@ int CMFCPropertyGridCtrl::IndentOf(const CMFCPropertyGridProperty& prop) const
 
 void CMFCPropertyGridCtrl::PrepareLayout() const
 {
-    if (!m_bLayoutDirty || m_bInLayout || m_hWnd == NULL)
+    if (!m_bLayoutDirty || m_bInLayout || m_hWnd == nullptr)
         return;
     CMFCPropertyGridCtrl& self = const_cast<CMFCPropertyGridCtrl&>(*this);
     self.m_bInLayout = TRUE;
@@ -131,18 +132,18 @@ void CMFCPropertyGridCtrl::PrepareLayout() const
     self.m_bLayoutDirty = FALSE;
     self.PlaceChildren();
     self.m_bInLayout = FALSE;
-    if (m_pSel != NULL && m_pSel->IsInPlaceEditing())
+    if (m_pSel != nullptr && m_pSel->IsInPlaceEditing())
         m_pSel->OnPosSizeChanged(m_pSel->GetRect());
 }
 
 void CMFCPropertyGridCtrl::CreateChildren()
 {
-    if (m_wndHeader.m_hWnd == NULL)
+    if (m_wndHeader.m_hWnd == nullptr)
     {
         m_wndHeader.Create(WS_CHILD | HDS_HORZ | HDS_FULLDRAG, CRect(), this, HeaderId);
         InitHeader();
     }
-    if (m_wndScroll.m_hWnd == NULL)
+    if (m_wndScroll.m_hWnd == nullptr)
         m_wndScroll.Create(WS_CHILD | SBS_VERT, CRect(), this, ScrollBarId);
 }
 
@@ -164,7 +165,7 @@ void CMFCPropertyGridCtrl::InitHeader()
 
 int CMFCPropertyGridCtrl::GetHeaderHeight() const
 {
-    if (!m_bHeaderCtrl || m_wndHeader.m_hWnd == NULL)
+    if (!m_bHeaderCtrl || m_wndHeader.m_hWnd == nullptr)
         return 0;
     return HeightOfHeader(const_cast<CMFCHeaderCtrl&>(m_wndHeader));
 }
@@ -203,7 +204,7 @@ void CMFCPropertyGridCtrl::PlaceChildren()
 void CMFCPropertyGridCtrl::PlaceHeader(const CRect& rect)
 {
     const UINT show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
-    m_wndHeader.SetWindowPos(NULL, rect.left, rect.top, rect.Width(), rect.Height(),
+    m_wndHeader.SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                              SWP_NOZORDER | SWP_NOACTIVATE | show);
     const int widths[] = {m_nLeftColumnWidth, (std::max)(0, rect.Width() - m_nLeftColumnWidth)};
     for (int i = 0; i < 2; ++i)
@@ -219,7 +220,7 @@ void CMFCPropertyGridCtrl::PlaceHeader(const CRect& rect)
 void CMFCPropertyGridCtrl::PlaceScrollBar(const CRect& rect)
 {
     const UINT show = rect.IsRectEmpty() ? SWP_HIDEWINDOW : SWP_SHOWWINDOW;
-    m_wndScroll.SetWindowPos(NULL, rect.left, rect.top, rect.Width(), rect.Height(),
+    m_wndScroll.SetWindowPos(nullptr, rect.left, rect.top, rect.Width(), rect.Height(),
                              SWP_NOZORDER | SWP_NOACTIVATE | show);
     SCROLLINFO old = {};
     m_wndScroll.GetScrollInfo(&old);
@@ -235,14 +236,14 @@ void CMFCPropertyGridCtrl::PlaceScrollBar(const CRect& rect)
 CRect CMFCPropertyGridCtrl::GetListRect() const
 {
     PrepareLayout();
-    return m_hWnd == NULL
+    return m_hWnd == nullptr
                ? CRect()
                : AreasOf(*this, RowCount(), m_bDescriptionArea ? m_nDescrRows : 0).list.As<CRect>();
 }
 
 int CMFCPropertyGridCtrl::GetDescriptionHeight() const
 {
-    if (m_hWnd == NULL || !m_bDescriptionArea)
+    if (m_hWnd == nullptr || !m_bDescriptionArea)
         return 0;
     PrepareLayout();
     return AreasOf(*this, RowCount(), m_nDescrRows).description.Height();
@@ -268,7 +269,7 @@ CRect CMFCPropertyGridCtrl::RowRect(int row) const
 
 void CMFCPropertyGridCtrl::RedrawRow(int row)
 {
-    if (m_hWnd != NULL && row >= 0)
+    if (m_hWnd != nullptr && row >= 0)
         InvalidateRect(RowRect(row), FALSE);
 }
 
@@ -297,9 +298,9 @@ LRESULT CMFCPropertyGridCtrl::OnSetFont(WPARAM wParam, LPARAM lParam)
 {
     m_hFont = reinterpret_cast<HFONT>(wParam);
     UpdateFonts();
-    if (m_wndHeader.m_hWnd != NULL)
+    if (m_wndHeader.m_hWnd != nullptr)
         m_wndHeader.SendMessage(WM_SETFONT, wParam, FALSE);
-    if (m_pSel != NULL && m_pSel->m_pWndInPlace != NULL)
+    if (m_pSel != nullptr && m_pSel->m_pWndInPlace != nullptr)
         m_pSel->m_pWndInPlace->SendMessage(WM_SETFONT, wParam, TRUE);
     RowsChanged(LOWORD(lParam) != 0);
     return 0;
@@ -307,34 +308,34 @@ LRESULT CMFCPropertyGridCtrl::OnSetFont(WPARAM wParam, LPARAM lParam)
 
 LRESULT CMFCPropertyGridCtrl::OnGetFont(WPARAM, LPARAM)
 {
-    if (m_hFont == NULL && m_fontOwn.GetSafeHandle() == NULL)
+    if (m_hFont == nullptr && m_fontOwn.GetSafeHandle() == nullptr)
         UpdateFonts();
-    return reinterpret_cast<LRESULT>(m_hFont != NULL ? m_hFont : static_cast<HFONT>(m_fontOwn));
+    return reinterpret_cast<LRESULT>(m_hFont != nullptr ? m_hFont : static_cast<HFONT>(m_fontOwn));
 }
 
 // Makes the bold font and the row height from the font in use.
 void CMFCPropertyGridCtrl::UpdateFonts()
 {
-    if (m_fontOwn.GetSafeHandle() == NULL)
+    if (m_fontOwn.GetSafeHandle() == nullptr)
     {
         NONCLIENTMETRICS metrics = {};
         metrics.cbSize = sizeof(metrics);
         ::SystemParametersInfo(SPI_GETNONCLIENTMETRICS, sizeof(metrics), &metrics, 0);
         m_fontOwn.CreateFontIndirect(&metrics.lfMessageFont);
     }
-    const HFONT font = m_hFont != NULL ? m_hFont : static_cast<HFONT>(m_fontOwn);
+    const HFONT font = m_hFont != nullptr ? m_hFont : static_cast<HFONT>(m_fontOwn);
     LOGFONT description = {};
     ::GetObject(font, sizeof(description), &description);
     description.lfWeight = FW_BOLD;
     m_fontBold.DeleteObject();
     m_fontBold.CreateFontIndirect(&description);
 
-    const HDC screen = ::GetDC(NULL);
+    const HDC screen = ::GetDC(nullptr);
     const HGDIOBJ previous = ::SelectObject(screen, font);
     TEXTMETRIC metrics = {};
     ::GetTextMetrics(screen, &metrics);
     ::SelectObject(screen, previous);
-    ::ReleaseDC(NULL, screen);
+    ::ReleaseDC(nullptr, screen);
     m_nRowHeight = metrics.tmHeight + RowMargin;
 }
 
@@ -342,8 +343,8 @@ void CMFCPropertyGridCtrl::UpdateFonts()
 
 CScrollBar* CMFCPropertyGridCtrl::GetScrollBarCtrl(int nBar) const
 {
-    const bool isThere = nBar == SB_VERT && m_wndScroll.m_hWnd != NULL;
-    return isThere ? const_cast<CScrollBar*>(&m_wndScroll) : NULL;
+    const bool isThere = nBar == SB_VERT && m_wndScroll.m_hWnd != nullptr;
+    return isThere ? const_cast<CScrollBar*>(&m_wndScroll) : nullptr;
 }
 
 int CMFCPropertyGridCtrl::VisibleRows() const
@@ -368,9 +369,9 @@ BOOL CMFCPropertyGridCtrl::ScrollTo(int firstRow)
 
 void CMFCPropertyGridCtrl::EnsureVisible(CMFCPropertyGridProperty* pProp, BOOL bExpandParents)
 {
-    if (pProp == NULL || pProp->m_pWndList != this || m_hWnd == NULL)
+    if (pProp == nullptr || pProp->m_pWndList != this || m_hWnd == nullptr)
         return;
-    for (CMFCPropertyGridProperty* parent = pProp->m_pParent; bExpandParents && parent != NULL;
+    for (CMFCPropertyGridProperty* parent = pProp->m_pParent; bExpandParents && parent != nullptr;
          parent = parent->m_pParent)
         parent->Expand();
     PrepareLayout();
@@ -381,7 +382,7 @@ void CMFCPropertyGridCtrl::EnsureVisible(CMFCPropertyGridProperty* pProp, BOOL b
 
 void CMFCPropertyGridCtrl::OnVScroll(UINT nSBCode, UINT nPos, CScrollBar* pScrollBar)
 {
-    if (pScrollBar == NULL || pScrollBar->m_hWnd != m_wndScroll.m_hWnd)
+    if (pScrollBar == nullptr || pScrollBar->m_hWnd != m_wndScroll.m_hWnd)
     {
         CWnd::OnVScroll(nSBCode, nPos, pScrollBar);
         return;

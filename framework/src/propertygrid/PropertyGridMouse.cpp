@@ -20,21 +20,21 @@ bool IsNear(int left, int right)
 CMFCPropertyGridProperty*
 CMFCPropertyGridCtrl::HitTest(CPoint pt, CMFCPropertyGridProperty::ClickArea* pnArea, BOOL bPropsOnly) const
 {
-    if (m_hWnd == NULL)
-        return NULL;
+    if (m_hWnd == nullptr)
+        return nullptr;
     CRect client;
     GetClientRect(client);
     const CRect list = GetListRect();
     if (!bPropsOnly && m_bDescriptionArea && client.PtInRect(pt) && pt.y >= list.bottom)
     {
-        if (pnArea != NULL)
+        if (pnArea != nullptr)
             *pnArea = CMFCPropertyGridProperty::ClickDescription;
-        return NULL;
+        return nullptr;
     }
     const bool isInList = pt.x >= list.left && pt.x < list.right;
     const int row = quorfx::RowAt(list, m_nRowHeight, m_nFirstRow, RowCount(), pt.y);
-    CMFCPropertyGridProperty* const prop = isInList ? PropertyOfRow(row) : NULL;
-    if (prop != NULL && pnArea != NULL)
+    CMFCPropertyGridProperty* const prop = isInList ? PropertyOfRow(row) : nullptr;
+    if (prop != nullptr && pnArea != nullptr)
         *pnArea = prop->AreaAt(pt);
     return prop;
 }
@@ -48,9 +48,9 @@ CMFCPropertyGridCtrl::DragKind CMFCPropertyGridCtrl::DragAt(CPoint point) const
     if (m_bDescriptionArea && isOverBar)
         return DragDescription;
     const bool isOnLine = list.PtInRect(point) && IsNear(point.x, list.left + m_nLeftColumnWidth);
-    const CMFCPropertyGridProperty* const prop = HitTest(point, NULL, TRUE);
+    const CMFCPropertyGridProperty* const prop = HitTest(point, nullptr, TRUE);
     // A group has no line of its own where its name goes over both columns.
-    const bool isHidden = prop != NULL && IsWide(*prop);
+    const bool isHidden = prop != nullptr && IsWide(*prop);
     return isOnLine && !isHidden ? DragColumns : DragNone;
 }
 
@@ -136,12 +136,12 @@ BOOL CMFCPropertyGridCtrl::OnSetCursor(CWnd* pWnd, UINT nHitTest, UINT message)
     if (kind == DragNone)
     {
         CMFCPropertyGridProperty::ClickArea area = CMFCPropertyGridProperty::ClickName;
-        const CMFCPropertyGridProperty* const prop = isOwn ? HitTest(point, &area, TRUE) : NULL;
-        if (prop != NULL && area == CMFCPropertyGridProperty::ClickValue && prop->OnSetCursor())
+        const CMFCPropertyGridProperty* const prop = isOwn ? HitTest(point, &area, TRUE) : nullptr;
+        if (prop != nullptr && area == CMFCPropertyGridProperty::ClickValue && prop->OnSetCursor())
             return TRUE;
         return CWnd::OnSetCursor(pWnd, nHitTest, message);
     }
-    ::SetCursor(::LoadCursor(NULL, kind == DragColumns ? IDC_SIZEWE : IDC_SIZENS));
+    ::SetCursor(::LoadCursor(nullptr, kind == DragColumns ? IDC_SIZEWE : IDC_SIZENS));
     return TRUE;
 }
 
@@ -162,9 +162,9 @@ void CMFCPropertyGridCtrl::OnLButtonDown(UINT, CPoint point)
         return;
     }
     PropertyGridWatch self(m_pWatches);
-    CMFCPropertyGridProperty* const clicked = HitTest(point, NULL, TRUE);
+    CMFCPropertyGridProperty* const clicked = HitTest(point, nullptr, TRUE);
     // Taking the focus closes an editor of another property, which runs the host.
-    if (clicked == NULL || clicked != m_pSel || !clicked->IsInPlaceEditing())
+    if (clicked == nullptr || clicked != m_pSel || !clicked->IsInPlaceEditing())
     {
         const BOOL closed = EndEditItem();
         if (self.IsGone() || !closed)
@@ -174,7 +174,7 @@ void CMFCPropertyGridCtrl::OnLButtonDown(UINT, CPoint point)
             return;
     }
     // The host may have changed the rows.
-    if (clicked != NULL && HitTest(point, NULL, TRUE) == clicked)
+    if (clicked != nullptr && HitTest(point, nullptr, TRUE) == clicked)
         ClickRow(clicked, point);
 }
 
@@ -211,9 +211,9 @@ void CMFCPropertyGridCtrl::OnLButtonDblClk(UINT nFlags, CPoint point)
     CMFCPropertyGridProperty::ClickArea area = CMFCPropertyGridProperty::ClickName;
     CMFCPropertyGridProperty* const prop = HitTest(point, &area, TRUE);
     const bool isBox = area == CMFCPropertyGridProperty::ClickExpandBox;
-    const bool isButton = prop != NULL && prop == m_pSel && prop->m_rectButton.PtInRect(point);
+    const bool isButton = prop != nullptr && prop == m_pSel && prop->m_rectButton.PtInRect(point);
     // Quick clicks on a box or a button count one by one.
-    if (prop == NULL || prop != m_pSel || isBox || isButton)
+    if (prop == nullptr || prop != m_pSel || isBox || isButton)
         OnLButtonDown(nFlags, point);
     else if (!prop->HasValueField())
         prop->Expand(!prop->IsExpanded());
@@ -226,9 +226,9 @@ void CMFCPropertyGridCtrl::OnRButtonUp(UINT nFlags, CPoint point)
     PropertyGridWatch self(m_pWatches);
     CMFCPropertyGridProperty::ClickArea area = CMFCPropertyGridProperty::ClickName;
     CMFCPropertyGridProperty* const prop = HitTest(point, &area, TRUE);
-    if (prop != NULL && area == CMFCPropertyGridProperty::ClickName)
+    if (prop != nullptr && area == CMFCPropertyGridProperty::ClickName)
         prop->OnRClickName(point);
-    else if (prop != NULL && area == CMFCPropertyGridProperty::ClickValue)
+    else if (prop != nullptr && area == CMFCPropertyGridProperty::ClickValue)
         prop->OnRClickValue(point, prop == m_pSel);
     if (!self.IsGone())
         CWnd::OnRButtonUp(nFlags, point);
@@ -240,14 +240,14 @@ INT_PTR CMFCPropertyGridCtrl::OnToolHitTest(CPoint point, TOOLINFO* pTI) const
 {
     CMFCPropertyGridProperty::ClickArea area = CMFCPropertyGridProperty::ClickName;
     CMFCPropertyGridProperty* const prop = HitTest(point, &area, TRUE);
-    if (prop == NULL || area == CMFCPropertyGridProperty::ClickExpandBox)
+    if (prop == nullptr || area == CMFCPropertyGridProperty::ClickExpandBox)
         return CWnd::OnToolHitTest(point, pTI);
     const bool isValue = area == CMFCPropertyGridProperty::ClickValue;
     const CString text = isValue ? prop->GetValueTooltip() : prop->GetNameTooltip();
     if (text.IsEmpty())
         return -1;
     const CRect row = RowRect(RowOf(prop));
-    if (pTI != NULL)
+    if (pTI != nullptr)
     {
         pTI->hwnd = m_hWnd;
         const quorfx::Box place =

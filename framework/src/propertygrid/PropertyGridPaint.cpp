@@ -121,11 +121,11 @@ void CMFCPropertyGridCtrl::DrawName(CDC& dc, CMFCPropertyGridProperty& prop, con
         if (isFocused)
             color = ::GetSysColor(COLOR_HIGHLIGHTTEXT);
     }
-    CFont* const previous = IsBand(prop) ? dc.SelectObject(const_cast<CFont*>(&m_fontBold)) : NULL;
+    CFont* const previous = IsBand(prop) ? dc.SelectObject(const_cast<CFont*>(&m_fontBold)) : nullptr;
     dc.SetBkMode(TRANSPARENT);
     dc.SetTextColor(color);
     prop.OnDrawName(&dc, name);
-    if (previous != NULL)
+    if (previous != nullptr)
         dc.SelectObject(previous);
 }
 
@@ -146,7 +146,7 @@ void CMFCPropertyGridCtrl::DrawValue(CDC& dc, CMFCPropertyGridProperty& prop, co
 
 int CMFCPropertyGridCtrl::OnDrawProperty(CDC* pDC, CMFCPropertyGridProperty* pProp) const
 {
-    if (pProp == NULL)
+    if (pProp == nullptr)
         return FALSE;
     const CRect row = RowRect(RowOf(pProp));
     DrawRowBackground(*pDC, *pProp, row);
@@ -168,7 +168,7 @@ void CMFCPropertyGridCtrl::OnDrawDescription(CDC* pDC, CRect rect)
     CRect frame = rect;
     frame.top += quorfx::DescriptionBarHeight;
     pDC->Draw3dRect(frame, ::GetSysColor(COLOR_BTNSHADOW), ::GetSysColor(COLOR_BTNSHADOW));
-    if (m_pSel == NULL)
+    if (m_pSel == nullptr)
         return;
     pDC->SetBkMode(TRANSPARENT);
     pDC->SetTextColor(ColorOr(m_clrDescriptionText, COLOR_BTNTEXT));
@@ -232,14 +232,14 @@ void CMFCPropertyGridCtrl::OnSysColorChange()
 // The editors look like the cells they stand on, read-only ones too.
 HBRUSH CMFCPropertyGridCtrl::OnCtlColor(CDC* pDC, CWnd* pWnd, UINT nCtlColor)
 {
-    CWnd* const editor = m_pSel == NULL ? NULL : m_pSel->m_pWndInPlace;
-    if (editor == NULL || pWnd->GetSafeHwnd() != editor->m_hWnd)
+    CWnd* const editor = m_pSel == nullptr ? nullptr : m_pSel->m_pWndInPlace;
+    if (editor == nullptr || pWnd->GetSafeHwnd() != editor->m_hWnd)
         return CWnd::OnCtlColor(pDC, pWnd, nCtlColor);
     pDC->SetTextColor(GetTextColor());
     pDC->SetBkColor(GetBkColor());
     if (const HBRUSH own = m_pSel->OnCtlColor(pDC, nCtlColor))
         return own;
-    if (m_brushBackground.GetSafeHandle() == NULL)
+    if (m_brushBackground.GetSafeHandle() == nullptr)
         m_brushBackground.CreateSolidBrush(GetBkColor());
     return m_brushBackground;
 }

@@ -52,7 +52,7 @@ void PropertyInPlaceEdit::OnLButtonDblClk(UINT nFlags, CPoint point)
     }
     CMFCPropertyGridProperty* const selected = Grid().GetCurSel();
     MapWindowPoints(&Grid(), &point, 1);
-    if (selected != NULL)
+    if (selected != nullptr)
         selected->OnDblClk(point);
 }
 

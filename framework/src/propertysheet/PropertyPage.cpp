@@ -108,8 +108,8 @@ HPROPSHEETPAGE CPropertyPage::MakeHandle()
     if ((page.dwFlags & PSP_DLGINDIRECT) == 0)
     {
         page.hInstance = AfxFindResourceHandle(page.pszTemplate, RT_DIALOG);
-        if (::FindResource(page.hInstance, page.pszTemplate, RT_DIALOG) == NULL)
-            return NULL;
+        if (::FindResource(page.hInstance, page.pszTemplate, RT_DIALOG) == nullptr)
+            return nullptr;
     }
     return ::CreatePropertySheetPage(&page);
 }
@@ -139,20 +139,20 @@ INT_PTR CALLBACK CPropertyPage::PageProc(HWND hWnd, UINT message, WPARAM, LPARAM
 
 void CPropertyPage::CancelToClose()
 {
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         ::SendMessage(::GetParent(m_hWnd), PSM_CANCELTOCLOSE, 0, 0);
 }
 
 void CPropertyPage::SetModified(BOOL bChanged)
 {
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         ::SendMessage(::GetParent(m_hWnd), bChanged ? PSM_CHANGED : PSM_UNCHANGED,
                       reinterpret_cast<WPARAM>(m_hWnd), 0);
 }
 
 LRESULT CPropertyPage::QuerySiblings(WPARAM wParam, LPARAM lParam)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     return ::SendMessage(::GetParent(m_hWnd), PSM_QUERYSIBLINGS, wParam, lParam);
 }
 

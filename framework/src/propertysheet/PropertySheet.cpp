@@ -54,7 +54,7 @@ CPropertySheet::CPropertySheet(LPCTSTR pszCaption, CWnd* pParentWnd, UINT iSelec
 
 CPropertySheet::~CPropertySheet()
 {
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         DestroyWindow();
     delete m_pPages;
 }
@@ -92,17 +92,17 @@ void CPropertySheet::Prepare(const CString& caption, CWnd* pParentWnd, UINT iSel
 
 void CPropertySheet::PreparePictures(HBITMAP hbmWatermark, HPALETTE hpalWatermark, HBITMAP hbmHeader)
 {
-    if (hbmWatermark != NULL)
+    if (hbmWatermark != nullptr)
     {
         m_psh.hbmWatermark = hbmWatermark;
         m_psh.dwFlags |= PSH_USEHBMWATERMARK | PSH_WATERMARK;
     }
-    if (hpalWatermark != NULL)
+    if (hpalWatermark != nullptr)
     {
         m_psh.hplWatermark = hpalWatermark;
         m_psh.dwFlags |= PSH_USEHPLWATERMARK;
     }
-    if (hbmHeader != NULL)
+    if (hbmHeader != nullptr)
     {
         m_psh.hbmHeader = hbmHeader;
         m_psh.dwFlags |= PSH_USEHBMHEADER | PSH_HEADER;
@@ -113,10 +113,10 @@ void CPropertySheet::AddPage(CPropertyPage* pPage)
 {
     ENSURE_ARG(pPage != nullptr);
     m_pPages->list.push_back(pPage);
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
         return;
     const HPROPSHEETPAGE handle = pPage->MakeHandle();
-    if (handle == NULL)
+    if (handle == nullptr)
         AfxThrowMemoryException();
     if (!::SendMessage(m_hWnd, PSM_ADDPAGE, 0, reinterpret_cast<LPARAM>(handle)))
     {
@@ -133,7 +133,7 @@ void CPropertySheet::RemovePage(CPropertyPage* pPage)
 void CPropertySheet::RemovePage(int nPage)
 {
     ENSURE_ARG(nPage >= 0 && nPage < GetPageCount());
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         ::SendMessage(m_hWnd, PSM_REMOVEPAGE, static_cast<WPARAM>(nPage), 0);
     m_pPages->list.erase(m_pPages->list.begin() + nPage);
 }
@@ -157,13 +157,13 @@ int CPropertySheet::GetPageIndex(CPropertyPage* pPage)
 
 int CPropertySheet::GetActiveIndex() const
 {
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
         return static_cast<int>(m_psh.nStartPage);
     // A wizard has no tabs to ask.
     const HWND current = reinterpret_cast<HWND>(::SendMessage(m_hWnd, PSM_GETCURRENTPAGEHWND, 0, 0));
     for (int i = 0; i < GetPageCount(); ++i)
     {
-        if (current != NULL && GetPage(i)->m_hWnd == current)
+        if (current != nullptr && GetPage(i)->m_hWnd == current)
             return i;
     }
     return -1;
@@ -172,14 +172,14 @@ int CPropertySheet::GetActiveIndex() const
 CPropertyPage* CPropertySheet::GetActivePage() const
 {
     const int active = GetActiveIndex();
-    return active >= 0 && active < GetPageCount() ? GetPage(active) : NULL;
+    return active >= 0 && active < GetPageCount() ? GetPage(active) : nullptr;
 }
 
 BOOL CPropertySheet::SetActivePage(int nPage)
 {
     if (nPage < 0 || nPage >= GetPageCount())
         return FALSE;
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
     {
         m_psh.nStartPage = static_cast<UINT>(nPage);
         return TRUE;
@@ -195,7 +195,7 @@ BOOL CPropertySheet::SetActivePage(CPropertyPage* pPage)
 void CPropertySheet::SetTitle(LPCTSTR lpszText, UINT nStyle)
 {
     ASSERT((nStyle & ~PSH_PROPTITLE) == 0);
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
     {
         ::SendMessage(m_hWnd, PSM_SETTITLE, nStyle, reinterpret_cast<LPARAM>(lpszText));
         return;
@@ -211,7 +211,7 @@ void CPropertySheet::EnableStackedTabs(BOOL bStacked)
 
 CTabCtrl* CPropertySheet::GetTabControl() const
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     const HWND tabs = reinterpret_cast<HWND>(::SendMessage(m_hWnd, PSM_GETTABCONTROL, 0, 0));
     return static_cast<CTabCtrl*>(CWnd::FromHandle(tabs));
 }
@@ -228,19 +228,19 @@ void CPropertySheet::SetWizardMode()
 
 void CPropertySheet::SetWizardButtons(DWORD dwFlags)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     // Not at once: while a page gets active the sheet sets the buttons itself.
     ::PostMessage(m_hWnd, PSM_SETWIZBUTTONS, 0, static_cast<LPARAM>(dwFlags));
 }
 
 void CPropertySheet::SetFinishText(LPCTSTR lpszText)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     ::SendMessage(m_hWnd, PSM_SETFINISHTEXT, 0, reinterpret_cast<LPARAM>(lpszText));
 }
 
 void CPropertySheet::MapDialogRect(LPRECT lpRect) const
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     ::MapDialogRect(m_hWnd, lpRect);
 }

@@ -57,12 +57,12 @@ namespace
 // Whether all pages are there. Frees them when not.
 bool CheckPages(const std::vector<HPROPSHEETPAGE>& handles)
 {
-    const HPROPSHEETPAGE missing = NULL;
+    const HPROPSHEETPAGE missing = nullptr;
     if (!handles.empty() && std::find(handles.begin(), handles.end(), missing) == handles.end())
         return true;
     for (const HPROPSHEETPAGE handle : handles)
     {
-        if (handle != NULL)
+        if (handle != nullptr)
             ::DestroyPropertySheetPage(handle);
     }
     return false;
@@ -72,7 +72,7 @@ bool CheckPages(const std::vector<HPROPSHEETPAGE>& handles)
 
 BOOL CPropertySheet::CreateSheet(CWnd* pOwner)
 {
-    ASSERT(m_hWnd == NULL);
+    ASSERT(m_hWnd == nullptr);
     std::vector<HPROPSHEETPAGE> handles;
     for (CPropertyPage* page : m_pPages->list)
         handles.push_back(page->MakeHandle());
@@ -89,7 +89,7 @@ BOOL CPropertySheet::CreateSheet(CWnd* pOwner)
     header.pfnCallback = &CPropertySheet::SheetCallback;
     CreationScope scope(*this);
     const INT_PTR created = ::PropertySheet(&header);
-    return scope.Finish(created == -1 ? NULL : reinterpret_cast<HWND>(created));
+    return scope.Finish(created == -1 ? nullptr : reinterpret_cast<HWND>(created));
 }
 
 BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle)
@@ -102,7 +102,7 @@ BOOL CPropertySheet::Create(CWnd* pParentWnd, DWORD dwStyle, DWORD dwExStyle)
     m_bModeless = true;
     const TemplateStyle style = {dwStyle | DS_3DLOOK | DS_SETFONT, dwExStyle};
     t_templateStyle = &style;
-    const BOOL created = CreateSheet(pParentWnd != NULL ? pParentWnd : m_pParentWnd);
+    const BOOL created = CreateSheet(pParentWnd != nullptr ? pParentWnd : m_pParentWnd);
     t_templateStyle = nullptr;
     return created;
 }
@@ -117,7 +117,7 @@ INT_PTR CPropertySheet::DoModal()
 
 void CPropertySheet::RunModal()
 {
-    HWND topLevel = NULL;
+    HWND topLevel = nullptr;
     CWnd* const owner = CWnd::GetSafeOwner(m_pParentWnd, &topLevel);
     const HWND ownerHandle = owner->GetSafeHwnd();
     ::ReleaseCapture();
@@ -127,11 +127,11 @@ void CPropertySheet::RunModal()
     if (CreateSheet(owner) && ContinueModal())
         RunModalLoop(MLF_SHOWONIDLE);
     m_nFlags &= ~static_cast<UINT>(WF_CONTINUEMODAL);
-    if (m_hWnd != NULL)
+    if (m_hWnd != nullptr)
         ::ShowWindow(m_hWnd, SW_HIDE);
     // The owner must be enabled before the sheet dies, or another program's window would become active.
     blocked.Enable();
-    if (m_hWnd != NULL && ::GetActiveWindow() == m_hWnd)
+    if (m_hWnd != nullptr && ::GetActiveWindow() == m_hWnd)
         ::SetActiveWindow(ownerHandle);
     DestroyWindow();
 }
@@ -166,7 +166,7 @@ void CPropertySheet::HideButtons()
     for (const int id : {IDOK, IDCANCEL, ID_APPLY_NOW, IDHELP})
     {
         const HWND button = ::GetDlgItem(m_hWnd, id);
-        if (button == NULL)
+        if (button == nullptr)
             continue;
         CRect rect;
         ::GetWindowRect(button, &rect);
@@ -175,7 +175,7 @@ void CPropertySheet::HideButtons()
         ::EnableWindow(button, FALSE);
     }
     if (top < window.bottom)
-        SetWindowPos(NULL, 0, 0, window.Width(), top - window.top,
+        SetWindowPos(nullptr, 0, 0, window.Width(), top - window.top,
                      SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
@@ -215,14 +215,14 @@ LRESULT CPropertySheet::HandlePressButton(WPARAM wParam, LPARAM)
 
 void CPropertySheet::PressButton(int nButton)
 {
-    ASSERT(m_hWnd != NULL);
+    ASSERT(m_hWnd != nullptr);
     ::SendMessage(m_hWnd, PSM_PRESSBUTTON, static_cast<WPARAM>(nButton), 0);
 }
 
 // A sheet without a loop of the system's says that it is to be destroyed by having no current page.
 void CPropertySheet::FinishIfEnded(int nEndID)
 {
-    if (m_hWnd != NULL && ::SendMessage(m_hWnd, PSM_GETCURRENTPAGEHWND, 0, 0) == 0)
+    if (m_hWnd != nullptr && ::SendMessage(m_hWnd, PSM_GETCURRENTPAGEHWND, 0, 0) == 0)
         EndDialog(nEndID);
 }
 

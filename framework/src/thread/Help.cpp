@@ -9,7 +9,7 @@ namespace
 CString BesideProgram(LPCTSTR extension)
 {
     TCHAR path[MAX_PATH] = {};
-    ::GetModuleFileName(NULL, path, MAX_PATH - 1);
+    ::GetModuleFileName(nullptr, path, MAX_PATH - 1);
     CString name(path);
     const int dot = name.ReverseFind(_T('.'));
     return (dot > name.ReverseFind(_T('\\')) ? name.Left(dot) : name) + extension;
@@ -18,7 +18,7 @@ CString BesideProgram(LPCTSTR extension)
 HWND HelpOwner()
 {
     CWnd* const main = AfxGetMainWnd();
-    return main->GetSafeHwnd() != NULL ? main->GetTopLevelParent()->GetSafeHwnd() : NULL;
+    return main->GetSafeHwnd() != nullptr ? main->GetTopLevelParent()->GetSafeHwnd() : nullptr;
 }
 
 // The control that shows HTML help need not be installed.
@@ -26,9 +26,9 @@ HWND ShowHtmlHelp(HWND owner, LPCTSTR file, UINT command, DWORD_PTR data)
 {
     using Function = HWND(WINAPI*)(HWND, LPCWSTR, UINT, DWORD_PTR);
     static const HMODULE library = ::LoadLibrary(_T("hhctrl.ocx"));
-    const FARPROC function = library != NULL ? ::GetProcAddress(library, "HtmlHelpW") : NULL;
-    if (function == NULL)
-        return NULL;
+    const FARPROC function = library != nullptr ? ::GetProcAddress(library, "HtmlHelpW") : nullptr;
+    if (function == nullptr)
+        return nullptr;
     return reinterpret_cast<Function>(reinterpret_cast<void*>(function))(owner, file, command, data);
 }
 
@@ -45,7 +45,7 @@ void ShowHelp(CWinApp& app, UINT winHelpCommand, UINT htmlHelpCommand)
 LRESULT AskUpwards(HWND window, UINT message, LPARAM lParam)
 {
     LRESULT answer = 0;
-    while (window != NULL && (answer = ::SendMessage(window, message, 0, lParam)) == 0)
+    while (window != nullptr && (answer = ::SendMessage(window, message, 0, lParam)) == 0)
         window = ::GetParent(window);
     return answer;
 }
@@ -69,7 +69,7 @@ void CWinApp::WinHelp(DWORD_PTR dwData, UINT nCmd)
 void CWinApp::HtmlHelp(DWORD_PTR dwData, UINT nCmd)
 {
     const CWaitCursor wait;
-    if (ShowHtmlHelp(HelpOwner(), m_pszHelpFilePath, nCmd, dwData) == NULL)
+    if (ShowHtmlHelp(HelpOwner(), m_pszHelpFilePath, nCmd, dwData) == nullptr)
         AfxMessageBox(AFX_IDP_FAILED_TO_LAUNCH_HELP);
 }
 
@@ -134,7 +134,7 @@ void CWnd::OnHelpUsing()
 LRESULT ShowHelpContext(DWORD_PTR context)
 {
     CWinApp* const app = AfxGetApp();
-    if (app == NULL || context == 0)
+    if (app == nullptr || context == 0)
         return FALSE;
     if (app->GetHelpMode() == afxHTMLHelp)
         app->HtmlHelp(context);
@@ -169,9 +169,9 @@ void HelpOnPoint(POINT screenPoint)
 bool WaitForClick(HWND window, POINT& clicked)
 {
     const HelpCapture capture(window);
-    ::SetCursor(::LoadCursor(NULL, IDC_HELP));
+    ::SetCursor(::LoadCursor(nullptr, IDC_HELP));
     MSG message;
-    while (::GetCapture() == window && ::GetMessage(&message, NULL, 0, 0) > 0)
+    while (::GetCapture() == window && ::GetMessage(&message, nullptr, 0, 0) > 0)
     {
         if (message.message == WM_LBUTTONDOWN)
         {
@@ -182,7 +182,7 @@ bool WaitForClick(HWND window, POINT& clicked)
             (message.message == WM_KEYDOWN && message.wParam == VK_ESCAPE))
             return false;
         if (message.message == WM_MOUSEMOVE)
-            ::SetCursor(::LoadCursor(NULL, IDC_HELP));
+            ::SetCursor(::LoadCursor(nullptr, IDC_HELP));
         else
             ::DispatchMessage(&message);
     }
@@ -194,7 +194,7 @@ bool WaitForClick(HWND window, POINT& clicked)
 void CWinApp::OnContextHelp()
 {
     const HWND main = m_pMainWnd->GetSafeHwnd();
-    if (m_bHelpMode || main == NULL)
+    if (m_bHelpMode || main == nullptr)
         return;
     m_bHelpMode = TRUE;
     POINT clicked = {};

@@ -24,10 +24,10 @@ UINT WithDefaultIcon(UINT type)
 
 int ShowMessageBox(LPCTSTR text, UINT type)
 {
-    HWND top = NULL;
+    HWND top = nullptr;
     const HWND owner = FrameworkAccess::SafeOwner(&top);
     const int answer = ::MessageBox(owner, text, AfxGetAppName(), WithDefaultIcon(type));
-    if (top != NULL)
+    if (top != nullptr)
         ::EnableWindow(top, TRUE);
     return answer;
 }
@@ -42,7 +42,7 @@ int CWinApp::DoMessageBox(LPCTSTR lpszPrompt, UINT nType, UINT)
 int AFXAPI AfxMessageBox(LPCTSTR lpszText, UINT nType, UINT nIDHelp)
 {
     CWinApp* const app = AfxGetApp();
-    return app != NULL ? app->DoMessageBox(lpszText, nType, nIDHelp) : ShowMessageBox(lpszText, nType);
+    return app != nullptr ? app->DoMessageBox(lpszText, nType, nIDHelp) : ShowMessageBox(lpszText, nType);
 }
 
 int AFXAPI AfxMessageBox(UINT nIDPrompt, UINT nType, UINT nIDHelp)

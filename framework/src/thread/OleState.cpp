@@ -19,7 +19,7 @@ BOOL AFXAPI AfxOleInit()
 {
     // The system counts the calls; the program's end makes up for one only.
     if (!IsOleInitialised())
-        IsOleInitialised() = SUCCEEDED(::OleInitialize(NULL));
+        IsOleInitialised() = SUCCEEDED(::OleInitialize(nullptr));
     return IsOleInitialised();
 }
 

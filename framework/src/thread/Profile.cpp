@@ -13,7 +13,7 @@ public:
     RegistryKey() = default;
     ~RegistryKey()
     {
-        if (m_key != NULL)
+        if (m_key != nullptr)
             ::RegCloseKey(m_key);
     }
     RegistryKey(const RegistryKey&) = delete;
@@ -25,15 +25,15 @@ public:
     }
     bool Create(const CString& path)
     {
-        return ::RegCreateKeyEx(HKEY_CURRENT_USER, path, 0, NULL, 0, KEY_READ | KEY_WRITE, NULL, &m_key,
-                                NULL) == ERROR_SUCCESS;
+        return ::RegCreateKeyEx(HKEY_CURRENT_USER, path, 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr, &m_key,
+                                nullptr) == ERROR_SUCCESS;
     }
     HKEY Get() const { return m_key; }
     // Gives the key to the caller.
-    HKEY Release() { return std::exchange(m_key, static_cast<HKEY>(NULL)); }
+    HKEY Release() { return std::exchange(m_key, static_cast<HKEY>(nullptr)); }
 
 private:
-    HKEY m_key = NULL;
+    HKEY m_key = nullptr;
 };
 
 CString KeyPath(const CWinApp& app, LPCTSTR section)
@@ -42,7 +42,7 @@ CString KeyPath(const CWinApp& app, LPCTSTR section)
     path += app.m_pszRegistryKey;
     path += _T('\\');
     path += app.m_pszProfileName;
-    if (section != NULL)
+    if (section != nullptr)
     {
         path += _T('\\');
         path += section;
@@ -57,10 +57,11 @@ bool ReadValue(const CWinApp& app, LPCTSTR section, LPCTSTR entry, DWORD wantedT
     DWORD type = 0;
     DWORD size = 0;
     if (!key.Open(KeyPath(app, section), KEY_READ) ||
-        ::RegQueryValueEx(key.Get(), entry, NULL, &type, NULL, &size) != ERROR_SUCCESS || type != wantedType)
+        ::RegQueryValueEx(key.Get(), entry, nullptr, &type, nullptr, &size) != ERROR_SUCCESS ||
+        type != wantedType)
         return false;
     value.resize(size);
-    return ::RegQueryValueEx(key.Get(), entry, NULL, &type, value.data(), &size) == ERROR_SUCCESS;
+    return ::RegQueryValueEx(key.Get(), entry, nullptr, &type, value.data(), &size) == ERROR_SUCCESS;
 }
 
 BOOL WriteValue(const CWinApp& app, LPCTSTR section, LPCTSTR entry, DWORD type, const void* bytes,
@@ -75,7 +76,7 @@ BOOL WriteValue(const CWinApp& app, LPCTSTR section, LPCTSTR entry, DWORD type, 
 BOOL DeleteSectionOrEntry(CWinApp& app, LPCTSTR section, LPCTSTR entry)
 {
     const CString path = KeyPath(app, section);
-    if (entry == NULL)
+    if (entry == nullptr)
         return app.DelRegTree(HKEY_CURRENT_USER, path) == ERROR_SUCCESS;
     RegistryKey key;
     return key.Create(path) && ::RegDeleteValue(key.Get(), entry) == ERROR_SUCCESS;
@@ -113,7 +114,7 @@ std::vector<BYTE> BytesOf(const CString& letters)
 
 void CWinApp::SetRegistryKey(LPCTSTR lpszRegistryKey)
 {
-    ASSERT(lpszRegistryKey != NULL);
+    ASSERT(lpszRegistryKey != nullptr);
     Replace(m_pszRegistryKey, lpszRegistryKey);
     Replace(m_pszProfileName, m_pszAppName);
 }
@@ -128,13 +129,13 @@ void CWinApp::SetRegistryKey(UINT nIDRegistryKey)
 
 HKEY CWinApp::GetAppRegistryKey(CAtlTransactionManager* pTM)
 {
-    return GetSectionKey(NULL, pTM);
+    return GetSectionKey(nullptr, pTM);
 }
 
 HKEY CWinApp::GetSectionKey(LPCTSTR lpszSection, CAtlTransactionManager*)
 {
     RegistryKey key;
-    return m_pszRegistryKey != NULL && key.Create(KeyPath(*this, lpszSection)) ? key.Release() : NULL;
+    return m_pszRegistryKey != nullptr && key.Create(KeyPath(*this, lpszSection)) ? key.Release() : nullptr;
 }
 
 LONG CWinApp::DelRegTree(HKEY hParentKey, const CString& strKeyName, CAtlTransactionManager*)
@@ -144,7 +145,7 @@ LONG CWinApp::DelRegTree(HKEY hParentKey, const CString& strKeyName, CAtlTransac
 
 UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault)
 {
-    if (m_pszRegistryKey == NULL)
+    if (m_pszRegistryKey == nullptr)
         return ::GetPrivateProfileInt(lpszSection, lpszEntry, nDefault, m_pszProfileName);
     std::vector<BYTE> bytes;
     UINT value = static_cast<UINT>(nDefault);
@@ -155,7 +156,7 @@ UINT CWinApp::GetProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nDefault
 
 BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue)
 {
-    if (m_pszRegistryKey != NULL)
+    if (m_pszRegistryKey != nullptr)
         return WriteValue(*this, lpszSection, lpszEntry, REG_DWORD, &nValue, sizeof nValue);
     CString text;
     text.Format(_T("%d"), nValue);
@@ -164,9 +165,9 @@ BOOL CWinApp::WriteProfileInt(LPCTSTR lpszSection, LPCTSTR lpszEntry, int nValue
 
 CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszDefault)
 {
-    if (m_pszRegistryKey == NULL)
+    if (m_pszRegistryKey == nullptr)
         return quorfx::ReadText([&](LPTSTR buffer, int size) -> LPCTSTR {
-            const LPCTSTR otherwise = lpszDefault != NULL ? lpszDefault : _T("");
+            const LPCTSTR otherwise = lpszDefault != nullptr ? lpszDefault : _T("");
             ::GetPrivateProfileString(lpszSection, lpszEntry, otherwise, buffer, static_cast<DWORD>(size),
                                       m_pszProfileName);
             return buffer;
@@ -181,9 +182,9 @@ CString CWinApp::GetProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTST
 
 BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR lpszValue)
 {
-    if (m_pszRegistryKey == NULL)
+    if (m_pszRegistryKey == nullptr)
         return ::WritePrivateProfileString(lpszSection, lpszEntry, lpszValue, m_pszProfileName);
-    if (lpszEntry == NULL || lpszValue == NULL)
+    if (lpszEntry == nullptr || lpszValue == nullptr)
         return DeleteSectionOrEntry(*this, lpszSection, lpszEntry);
     return WriteValue(*this, lpszSection, lpszEntry, REG_SZ, lpszValue,
                       (_tcslen(lpszValue) + 1) * sizeof(TCHAR));
@@ -191,14 +192,14 @@ BOOL CWinApp::WriteProfileString(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPCTSTR
 
 BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* ppData, UINT* pBytes)
 {
-    *ppData = NULL;
+    *ppData = nullptr;
     *pBytes = 0;
     std::vector<BYTE> bytes;
-    if (m_pszRegistryKey == NULL)
+    if (m_pszRegistryKey == nullptr)
         bytes = BytesOf(GetProfileString(lpszSection, lpszEntry));
     else if (!ReadValue(*this, lpszSection, lpszEntry, REG_BINARY, bytes))
         return FALSE;
-    if (m_pszRegistryKey == NULL && bytes.empty())
+    if (m_pszRegistryKey == nullptr && bytes.empty())
         return FALSE;
     *ppData = new BYTE[bytes.size()];
     *pBytes = static_cast<UINT>(bytes.size());
@@ -208,7 +209,7 @@ BOOL CWinApp::GetProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE* p
 
 BOOL CWinApp::WriteProfileBinary(LPCTSTR lpszSection, LPCTSTR lpszEntry, LPBYTE pData, UINT nBytes)
 {
-    if (m_pszRegistryKey == NULL)
+    if (m_pszRegistryKey == nullptr)
         return WriteProfileString(lpszSection, lpszEntry, LettersOf(pData, nBytes));
     return WriteValue(*this, lpszSection, lpszEntry, REG_BINARY, pData, nBytes);
 }

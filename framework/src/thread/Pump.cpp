@@ -12,7 +12,7 @@ void AFXAPI AfxPostQuitMessage(int nExitCode)
 BOOL PumpOneMessage()
 {
     MSG& message = CurrentThreadState().pumpedMessage;
-    if (!::GetMessage(&message, NULL, 0, 0))
+    if (!::GetMessage(&message, nullptr, 0, 0))
         return FALSE;
     if (message.message != WM_KICKIDLE && !AfxPreTranslateMessage(&message))
     {
@@ -43,7 +43,7 @@ BOOL PreTranslateForWindows(MSG* message)
     CWnd* const main = AfxGetMainWnd();
     if (FrameworkAccess::WalkPreTranslateTree(main->GetSafeHwnd(), message))
         return TRUE;
-    if (main == NULL || message->hwnd == NULL)
+    if (main == nullptr || message->hwnd == nullptr)
         return FALSE;
     // A main window outside the chain of parents, for instance of a modeless dialog, gets a last chance.
     CWnd* const top = CWnd::FromHandle(message->hwnd)->GetTopLevelParent();
@@ -52,10 +52,10 @@ BOOL PreTranslateForWindows(MSG* message)
 
 BOOL PASCAL CWnd::WalkPreTranslateTree(HWND hWndStop, MSG* pMsg)
 {
-    for (HWND window = pMsg->hwnd; window != NULL; window = ::GetParent(window))
+    for (HWND window = pMsg->hwnd; window != nullptr; window = ::GetParent(window))
     {
         CWnd* const object = FromHandlePermanent(window);
-        if (object != NULL && object->PreTranslateMessage(pMsg))
+        if (object != nullptr && object->PreTranslateMessage(pMsg))
             return TRUE;
         if (window == hWndStop)
             break;
@@ -69,7 +69,7 @@ namespace
 BOOL PreTranslate(MSG* message)
 {
     CWinThread* const thread = AfxGetThread();
-    return thread != NULL ? thread->PreTranslateMessage(message) : PreTranslateForWindows(message);
+    return thread != nullptr ? thread->PreTranslateMessage(message) : PreTranslateForWindows(message);
 }
 
 } // namespace
@@ -93,11 +93,11 @@ BOOL AFXAPI AfxPreTranslateMessage(MSG* pMsg)
 BOOL AFXAPI AfxPumpMessage()
 {
     CWinThread* const thread = AfxGetThread();
-    return thread != NULL ? thread->PumpMessage() : PumpOneMessage();
+    return thread != nullptr ? thread->PumpMessage() : PumpOneMessage();
 }
 
 BOOL AFXAPI AfxIsIdleMessage(MSG* pMsg)
 {
     CWinThread* const thread = AfxGetThread();
-    return thread != NULL ? thread->IsIdleMessage(pMsg) : IsIdleMessageOfThread(*pMsg);
+    return thread != nullptr ? thread->IsIdleMessage(pMsg) : IsIdleMessageOfThread(*pMsg);
 }

@@ -7,11 +7,11 @@ IMPLEMENT_DYNAMIC(CSemaphore, CSyncObject)
 IMPLEMENT_DYNAMIC(CEvent, CSyncObject)
 IMPLEMENT_DYNAMIC(CCriticalSection, CSyncObject)
 
-CSyncObject::CSyncObject(LPCTSTR) : m_hObject(NULL) {}
+CSyncObject::CSyncObject(LPCTSTR) : m_hObject(nullptr) {}
 
 CSyncObject::~CSyncObject()
 {
-    if (m_hObject != NULL)
+    if (m_hObject != nullptr)
         ::CloseHandle(m_hObject);
 }
 
@@ -32,7 +32,7 @@ namespace
 
 HANDLE ThrowIfMissing(HANDLE made)
 {
-    if (made == NULL)
+    if (made == nullptr)
         AfxThrowResourceException();
     return made;
 }
@@ -63,7 +63,7 @@ CSemaphore::~CSemaphore() {}
 
 BOOL CSemaphore::Unlock()
 {
-    return Unlock(1, NULL);
+    return Unlock(1, nullptr);
 }
 
 BOOL CSemaphore::Unlock(LONG lCount, LPLONG lpPrevCount)
@@ -84,7 +84,7 @@ BOOL CEvent::Unlock()
     return TRUE;
 }
 
-CCriticalSection::CCriticalSection() : CSyncObject(NULL)
+CCriticalSection::CCriticalSection() : CSyncObject(nullptr)
 {
     ::InitializeCriticalSection(&m_sect);
 }
@@ -113,7 +113,7 @@ BOOL CCriticalSection::Unlock()
 
 CSingleLock::CSingleLock(CSyncObject* pObject, BOOL bInitialLock) : m_object(pObject), m_isLocked(FALSE)
 {
-    ASSERT(pObject != NULL);
+    ASSERT(pObject != nullptr);
     if (bInitialLock)
         Lock();
 }

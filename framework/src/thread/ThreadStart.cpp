@@ -17,13 +17,13 @@ struct ThreadStart
     HANDLE mayRun;     // set by the creating thread, closed by the new one
 };
 
-CWinThread::CWinThread() : CWinThread(NULL, NULL) {}
+CWinThread::CWinThread() : CWinThread(nullptr, nullptr) {}
 
 CWinThread::CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam)
-    : m_pMainWnd(NULL),
-      m_pActiveWnd(NULL),
+    : m_pMainWnd(nullptr),
+      m_pActiveWnd(nullptr),
       m_bAutoDelete(FALSE),
-      m_hThread(NULL),
+      m_hThread(nullptr),
       m_nThreadID(0),
       m_pfnThreadProc(pfnThreadProc),
       m_pThreadParam(pParam)
@@ -32,7 +32,7 @@ CWinThread::CWinThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam)
 
 CWinThread::~CWinThread()
 {
-    if (m_hThread != NULL)
+    if (m_hThread != nullptr)
         ::CloseHandle(m_hThread);
     ThreadState& state = CurrentThreadState();
     if (state.thread == this)
@@ -41,9 +41,10 @@ CWinThread::~CWinThread()
 
 BOOL CWinThread::CreateThread(DWORD dwCreateFlags, UINT nStackSize, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
 {
-    ASSERT(m_hThread == NULL);
+    ASSERT(m_hThread == nullptr);
     ThreadStart start = {this, CurrentThreadState().moduleState, AfxGetMainWnd()->GetSafeHwnd(),
-                         ::CreateEvent(NULL, TRUE, FALSE, NULL), ::CreateEvent(NULL, TRUE, FALSE, NULL)};
+                         ::CreateEvent(nullptr, TRUE, FALSE, nullptr),
+                         ::CreateEvent(nullptr, TRUE, FALSE, nullptr)};
     // Suspended, so that the handle is there before the thread uses it.
     const uintptr_t created =
         ::_beginthreadex(lpSecurityAttrs, nStackSize, &CWinThread::ThreadMain, &start,
@@ -71,7 +72,7 @@ namespace
 void MakeMessageQueue()
 {
     MSG message;
-    ::PeekMessage(&message, NULL, WM_USER, WM_USER, PM_NOREMOVE);
+    ::PeekMessage(&message, nullptr, WM_USER, WM_USER, PM_NOREMOVE);
 }
 
 // What has to go with a thread, beside its object.
@@ -87,14 +88,14 @@ class BorrowedWindow
 public:
     explicit BorrowedWindow(HWND window)
     {
-        if (window != NULL)
+        if (window != nullptr)
             m_window.Attach(window);
     }
     ~BorrowedWindow() { m_window.Detach(); }
     BorrowedWindow(const BorrowedWindow&) = delete;
     BorrowedWindow& operator=(const BorrowedWindow&) = delete;
 
-    CWnd* Get() { return m_window.m_hWnd != NULL ? &m_window : NULL; }
+    CWnd* Get() { return m_window.m_hWnd != nullptr ? &m_window : nullptr; }
 
 private:
     CWnd m_window;
@@ -116,12 +117,12 @@ unsigned __stdcall CWinThread::ThreadMain(void* start)
     UINT exitCode = 0;
     {
         // Only a worker inherits the window: the loop of another thread must not translate messages for it.
-        BorrowedWindow mainWindow(thread->m_pfnThreadProc != NULL ? given.mainWindow : NULL);
-        if (thread->m_pMainWnd == NULL)
+        BorrowedWindow mainWindow(thread->m_pfnThreadProc != nullptr ? given.mainWindow : nullptr);
+        if (thread->m_pMainWnd == nullptr)
             thread->m_pMainWnd = mainWindow.Get();
         exitCode = thread->RunToEnd();
         if (thread->m_pMainWnd == mainWindow.Get())
-            thread->m_pMainWnd = NULL;
+            thread->m_pMainWnd = nullptr;
     }
     LeaveThread();
     if (thread->m_bAutoDelete)
@@ -131,7 +132,7 @@ unsigned __stdcall CWinThread::ThreadMain(void* start)
 
 UINT CWinThread::RunToEnd()
 {
-    if (m_pfnThreadProc != NULL)
+    if (m_pfnThreadProc != nullptr)
         return m_pfnThreadProc(m_pThreadParam);
     const int exitCode = InitInstance() ? Run() : ExitInstance();
     return static_cast<UINT>(exitCode);
@@ -146,7 +147,7 @@ CWinThread* Start(std::unique_ptr<CWinThread> thread, int priority, UINT stackSi
 {
     thread->m_bAutoDelete = TRUE;
     if (!thread->CreateThread(flags | CREATE_SUSPENDED, stackSize, security))
-        return NULL;
+        return nullptr;
     thread->SetThreadPriority(priority);
     CWinThread* const started = thread.release();
     if ((flags & CREATE_SUSPENDED) == 0)
@@ -159,7 +160,7 @@ CWinThread* Start(std::unique_ptr<CWinThread> thread, int priority, UINT stackSi
 CWinThread* AFXAPI AfxBeginThread(AFX_THREADPROC pfnThreadProc, LPVOID pParam, int nPriority, UINT nStackSize,
                                   DWORD dwCreateFlags, LPSECURITY_ATTRIBUTES lpSecurityAttrs)
 {
-    ASSERT(pfnThreadProc != NULL);
+    ASSERT(pfnThreadProc != nullptr);
     return Start(std::unique_ptr<CWinThread>(new CWinThread(pfnThreadProc, pParam)), nPriority, nStackSize,
                  dwCreateFlags, lpSecurityAttrs);
 }
@@ -169,7 +170,7 @@ CWinThread* AFXAPI AfxBeginThread(CRuntimeClass* pThreadClass, int nPriority, UI
 {
     ASSERT(pThreadClass->IsDerivedFrom(RUNTIME_CLASS(CWinThread)));
     CWinThread* const thread = static_cast<CWinThread*>(pThreadClass->CreateObject());
-    if (thread == NULL)
+    if (thread == nullptr)
         AfxThrowMemoryException();
     return Start(std::unique_ptr<CWinThread>(thread), nPriority, nStackSize, dwCreateFlags, lpSecurityAttrs);
 }
@@ -179,7 +180,7 @@ void AFXAPI AfxEndThread(UINT nExitCode, BOOL bDelete)
     CWinThread* const thread = AfxGetThread();
     LeaveThread();
     CurrentThreadState().thread = nullptr;
-    if (thread != NULL && bDelete && thread->m_bAutoDelete)
+    if (thread != nullptr && bDelete && thread->m_bAutoDelete)
         delete thread;
     ::_endthreadex(nExitCode);
 }

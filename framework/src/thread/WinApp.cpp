@@ -17,16 +17,16 @@ namespace
 CString ProgramName()
 {
     TCHAR path[MAX_PATH] = {};
-    ::GetModuleFileName(NULL, path, MAX_PATH - 1);
+    ::GetModuleFileName(nullptr, path, MAX_PATH - 1);
     const TCHAR* const slash = _tcsrchr(path, _T('\\'));
-    CString name(slash != NULL ? slash + 1 : path);
+    CString name(slash != nullptr ? slash + 1 : path);
     const int dot = name.ReverseFind(_T('.'));
     return dot > 0 ? name.Left(dot) : name;
 }
 
 CString TitleOf(LPCTSTR given, const CString& programName)
 {
-    if (given != NULL)
+    if (given != nullptr)
         return CString(given);
     TCHAR title[256] = {};
     return AfxLoadString(AFX_IDS_APP_TITLE, title) > 0 ? CString(title) : programName;
@@ -35,19 +35,19 @@ CString TitleOf(LPCTSTR given, const CString& programName)
 } // namespace
 
 CWinApp::CWinApp(LPCTSTR lpszAppName)
-    : m_hInstance(::GetModuleHandle(NULL)),
-      m_lpCmdLine(NULL),
+    : m_hInstance(::GetModuleHandle(nullptr)),
+      m_lpCmdLine(nullptr),
       m_nCmdShow(SW_SHOWDEFAULT),
-      m_pszAppName(NULL),
-      m_pszExeName(NULL),
-      m_pszRegistryKey(NULL),
-      m_pszProfileName(NULL),
-      m_pszHelpFilePath(NULL),
+      m_pszAppName(nullptr),
+      m_pszExeName(nullptr),
+      m_pszRegistryKey(nullptr),
+      m_pszProfileName(nullptr),
+      m_pszHelpFilePath(nullptr),
       m_eHelpType(afxWinHelp),
       m_bHelpMode(FALSE),
-      m_pRecentFileList(NULL),
+      m_pRecentFileList(nullptr),
       m_waitCursorCount(0),
-      m_waitCursorRestore(NULL)
+      m_waitCursorRestore(nullptr)
 {
     const CString programName = ProgramName();
     m_pszAppName = _tcsdup(TitleOf(lpszAppName, programName));
@@ -64,14 +64,14 @@ CWinApp::CWinApp(LPCTSTR lpszAppName)
 
 CWinApp::~CWinApp()
 {
-    m_hThread = NULL; // not a handle that is to be closed
+    m_hThread = nullptr; // not a handle that is to be closed
     DeleteDocTemplates();
     delete m_pRecentFileList;
     AFX_MODULE_STATE& state = *AfxGetStaticModuleState();
     if (state.m_pCurrentWinApp == this)
     {
-        state.m_pCurrentWinApp = NULL;
-        state.m_lpszCurrentAppName = NULL;
+        state.m_pCurrentWinApp = nullptr;
+        state.m_lpszCurrentAppName = nullptr;
     }
     for (const LPCTSTR text :
          {m_pszAppName, m_pszExeName, m_pszRegistryKey, m_pszProfileName, m_pszHelpFilePath})
@@ -86,7 +86,7 @@ BOOL CWinApp::InitInstance()
 int CWinApp::Run()
 {
     // Without a main window nothing would ever end the loop.
-    if (m_pMainWnd == NULL)
+    if (m_pMainWnd == nullptr)
         AfxPostQuitMessage(0);
     return CWinThread::Run();
 }
@@ -135,7 +135,7 @@ HICON CWinApp::LoadIcon(UINT nIDResource) const
 
 void CWinApp::DoWaitCursor(int nCode)
 {
-    const HCURSOR hourglass = ::LoadCursor(NULL, IDC_WAIT);
+    const HCURSOR hourglass = ::LoadCursor(nullptr, IDC_WAIT);
     m_waitCursorCount += nCode;
     if (m_waitCursorCount > 0)
     {
@@ -152,6 +152,6 @@ void CWinApp::DoWaitCursor(int nCode)
 
 void CWinApp::OnAppExit()
 {
-    if (m_pMainWnd != NULL)
+    if (m_pMainWnd != nullptr)
         m_pMainWnd->SendMessage(WM_CLOSE);
 }

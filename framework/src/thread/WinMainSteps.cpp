@@ -23,7 +23,7 @@ BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCm
 void DestroyToolTipControl()
 {
     ToolTipState& tips = CurrentThreadState().toolTip;
-    if (tips.control != NULL && ::IsWindow(tips.control))
+    if (tips.control != nullptr && ::IsWindow(tips.control))
         ::DestroyWindow(tips.control);
     tips = ToolTipState();
 }
@@ -36,7 +36,7 @@ int RunThread(CWinThread& thread)
     if (thread.InitInstance())
         return thread.Run();
     // A program that is complete after its dialog returns FALSE; a window it has left open goes too.
-    if (thread.m_pMainWnd != NULL)
+    if (thread.m_pMainWnd != nullptr)
         thread.m_pMainWnd->DestroyWindow();
     return thread.ExitInstance();
 }
@@ -48,7 +48,7 @@ int AFXAPI AfxWinMain(HINSTANCE hInstance, HINSTANCE hPrevInstance, LPTSTR lpCmd
     CWinThread* const thread = AfxGetThread();
     int exitCode = -1;
     const bool initialised = AfxWinInit(hInstance, hPrevInstance, lpCmdLine, nCmdShow) != FALSE;
-    if (thread != NULL && initialised)
+    if (thread != nullptr && initialised)
         exitCode = RunThread(*thread);
     DestroyToolTipControl();
     DeleteTemporaryObjects();

@@ -15,13 +15,13 @@ CWinThread* AFXAPI AfxGetThread()
     if (CWinThread* const thread = CurrentThreadState().thread)
         return thread;
     CWinApp* const app = AfxGetApp();
-    return app != NULL && app->m_nThreadID == ::GetCurrentThreadId() ? app : NULL;
+    return app != nullptr && app->m_nThreadID == ::GetCurrentThreadId() ? app : nullptr;
 }
 
 CWnd* AFXAPI AfxGetMainWnd()
 {
     CWinThread* const thread = AfxGetThread();
-    return thread != NULL ? thread->GetMainWnd() : NULL;
+    return thread != nullptr ? thread->GetMainWnd() : nullptr;
 }
 
 CWnd* CWinThread::GetMainWnd()
@@ -47,7 +47,7 @@ namespace
 bool QueueIsEmpty()
 {
     MSG message;
-    return !::PeekMessage(&message, NULL, 0, 0, PM_NOREMOVE);
+    return !::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE);
 }
 
 } // namespace
@@ -82,7 +82,7 @@ BOOL CWinThread::IsIdleMessage(MSG* pMsg)
 
 BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 {
-    if (pMsg->hwnd == NULL && DispatchThreadMessageEx(pMsg))
+    if (pMsg->hwnd == nullptr && DispatchThreadMessageEx(pMsg))
         return TRUE;
     return PreTranslateForWindows(pMsg);
 }
@@ -90,7 +90,7 @@ BOOL CWinThread::PreTranslateMessage(MSG* pMsg)
 BOOL CWinThread::DispatchThreadMessageEx(MSG* pMsg)
 {
     const AFX_MSGMAP_ENTRY* const entry = FindMessageEntry(GetMessageMap(), pMsg->message);
-    if (entry == NULL)
+    if (entry == nullptr)
         return FALSE;
     using Handler = void (CWinThread::*)(WPARAM, LPARAM);
     const Handler handler = reinterpret_cast<Handler>(static_cast<AFX_PMSGT>(entry->pfn));
@@ -103,7 +103,7 @@ namespace
 
 void UpdateUserInterface(CWnd* main)
 {
-    if (main->GetSafeHwnd() == NULL || !main->IsWindowVisible())
+    if (main->GetSafeHwnd() == nullptr || !main->IsWindowVisible())
         return;
     AfxCallWndProc(main, main->m_hWnd, WM_IDLEUPDATECMDUI, TRUE, 0);
     main->SendMessageToDescendants(WM_IDLEUPDATECMDUI, TRUE, 0, TRUE, TRUE);
@@ -132,6 +132,6 @@ LRESULT CWinThread::ProcessWndProcException(CException*, const MSG* pMsg)
     if (pMsg->message == WM_CREATE)
         return -1;
     if (pMsg->message == WM_PAINT)
-        ::ValidateRect(pMsg->hwnd, NULL);
+        ::ValidateRect(pMsg->hwnd, nullptr);
     return 0;
 }

@@ -82,14 +82,14 @@ LRESULT CALLBACK CreationScope::HookProcedure(int code, WPARAM wParam, LPARAM lP
 
 BOOL CreationScope::Finish(HWND created)
 {
-    if (created != NULL && ::IsWindow(created))
+    if (created != nullptr && ::IsWindow(created))
         return TRUE;
     // An object that is still in the map missed WM_NCDESTROY; one that is not may have been deleted by it.
     const bool neverAttached = m_adopted == nullptr;
     const bool stillAttached = !neverAttached && CWnd::FromHandlePermanent(m_adopted) == m_object;
     if (stillAttached)
     {
-        *m_object->GetSuperWndProcAddr() = NULL;
+        *m_object->GetSuperWndProcAddr() = nullptr;
         m_object->Detach();
     }
     if (neverAttached || stillAttached)

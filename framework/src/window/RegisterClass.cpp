@@ -32,7 +32,7 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     ThreadState& state = CurrentThreadState();
     const HINSTANCE instance = AfxGetInstanceHandle();
     const size_t size = std::size(state.className);
-    if (hCursor == NULL && hbrBackground == NULL && hIcon == NULL)
+    if (hCursor == nullptr && hbrBackground == nullptr && hIcon == nullptr)
     {
         _snwprintf(state.className, size, L"Afx:%Ix:%x", NumberOf(instance), nClassStyle);
     }
@@ -47,9 +47,9 @@ LPCTSTR AFXAPI AfxRegisterWndClass(UINT nClassStyle, HCURSOR hCursor, HBRUSH hbr
     info.style = nClassStyle != 0 ? nClassStyle : static_cast<UINT>(CS_DBLCLKS);
     info.lpfnWndProc = ::DefWindowProc;
     info.hInstance = instance;
-    info.hCursor = hCursor != NULL ? hCursor : ::LoadCursor(NULL, IDC_ARROW);
+    info.hCursor = hCursor != nullptr ? hCursor : ::LoadCursor(nullptr, IDC_ARROW);
     info.hbrBackground = hbrBackground;
-    info.hIcon = hIcon != NULL ? hIcon : ::LoadIcon(NULL, IDI_WINLOGO);
+    info.hIcon = hIcon != nullptr ? hIcon : ::LoadIcon(nullptr, IDI_WINLOGO);
     info.lpszClassName = state.className;
     if (!AfxRegisterClass(&info))
         AfxThrowResourceException();

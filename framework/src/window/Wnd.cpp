@@ -11,9 +11,12 @@ const CWnd CWnd::wndBottom(HWND_BOTTOM);
 const CWnd CWnd::wndTopMost(HWND_TOPMOST);
 const CWnd CWnd::wndNoTopMost(HWND_NOTOPMOST);
 
-CWnd::CWnd() : CWnd(static_cast<HWND>(NULL)) {}
+CWnd::CWnd() : CWnd(static_cast<HWND>(nullptr)) {}
 
-CWnd::CWnd(HWND hWnd) : m_hWnd(hWnd), m_hWndOwner(NULL), m_nFlags(0), m_pfnSuper(NULL), m_nModalResult(0) {}
+CWnd::CWnd(HWND hWnd)
+    : m_hWnd(hWnd), m_hWndOwner(nullptr), m_nFlags(0), m_pfnSuper(nullptr), m_nModalResult(0)
+{
+}
 
 namespace
 {
@@ -39,7 +42,7 @@ void ReleaseModalLoops(const CWnd* window)
 CWnd::~CWnd()
 {
     // The constants outlive the handle map.
-    if (m_hWnd != NULL && !IsPlacementConstant(this) && FromHandlePermanent(m_hWnd) == this)
+    if (m_hWnd != nullptr && !IsPlacementConstant(this) && FromHandlePermanent(m_hWnd) == this)
     {
         TRACE(L"A CWnd is destroyed before its window: overrides of PostNcDestroy are not called.\n");
         DestroyWindow();
@@ -55,7 +58,7 @@ CWnd* PASCAL CWnd::FromHandle(HWND hWnd)
 
 CWnd* PASCAL CWnd::FromHandlePermanent(HWND hWnd)
 {
-    return hWnd == NULL ? NULL : WindowMap::OfThisThread().FindPermanent(hWnd);
+    return hWnd == nullptr ? nullptr : WindowMap::OfThisThread().FindPermanent(hWnd);
 }
 
 void PASCAL CWnd::DeleteTempMap()
@@ -65,7 +68,7 @@ void PASCAL CWnd::DeleteTempMap()
 
 BOOL CWnd::Attach(HWND hWndNew)
 {
-    if (hWndNew == NULL || m_hWnd != NULL || FromHandlePermanent(hWndNew) != NULL)
+    if (hWndNew == nullptr || m_hWnd != nullptr || FromHandlePermanent(hWndNew) != nullptr)
         return FALSE;
     WindowMap::OfThisThread().Attach(hWndNew, this);
     m_hWnd = hWndNew;
@@ -75,9 +78,9 @@ BOOL CWnd::Attach(HWND hWndNew)
 HWND CWnd::Detach()
 {
     const HWND window = m_hWnd;
-    if (window != NULL)
+    if (window != nullptr)
         WindowMap::OfThisThread().Detach(window, this);
-    m_hWnd = NULL;
+    m_hWnd = nullptr;
     return window;
 }
 
@@ -98,15 +101,15 @@ BOOL CWnd::SubclassWindow(HWND hWnd)
 BOOL CWnd::SubclassDlgItem(UINT nID, CWnd* pParent)
 {
     const HWND item = ::GetDlgItem(pParent->GetSafeHwnd(), static_cast<int>(nID));
-    return item != NULL && SubclassWindow(item);
+    return item != nullptr && SubclassWindow(item);
 }
 
 HWND CWnd::UnsubclassWindow()
 {
     WNDPROC* const super = GetSuperWndProcAddr();
-    if (m_hWnd != NULL && *super != NULL)
+    if (m_hWnd != nullptr && *super != nullptr)
         ::SetWindowLongPtr(m_hWnd, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));
-    *super = NULL;
+    *super = nullptr;
     return Detach();
 }
 
@@ -114,7 +117,7 @@ void CWnd::PreSubclassWindow() {}
 
 CWnd* CWnd::GetOwner() const
 {
-    return m_hWndOwner != NULL ? FromHandle(m_hWndOwner) : GetParent();
+    return m_hWndOwner != nullptr ? FromHandle(m_hWndOwner) : GetParent();
 }
 
 namespace
@@ -129,7 +132,7 @@ BOOL ModifyStyleBits(HWND window, int index, DWORD remove, DWORD add, UINT flags
     ::SetWindowLong(window, index, static_cast<LONG>(after));
     if (flags != 0)
     {
-        ::SetWindowPos(window, NULL, 0, 0, 0, 0,
+        ::SetWindowPos(window, nullptr, 0, 0, 0, 0,
                        SWP_NOSIZE | SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE | flags);
     }
     return TRUE;

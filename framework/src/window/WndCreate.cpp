@@ -13,24 +13,24 @@ LPCTSTR DefaultWindowClass()
     info.style = CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
     info.lpfnWndProc = ::DefWindowProc;
     info.hInstance = AfxGetInstanceHandle();
-    info.hCursor = ::LoadCursor(NULL, IDC_ARROW);
+    info.hCursor = ::LoadCursor(nullptr, IDC_ARROW);
     info.lpszClassName = name;
-    return AfxRegisterClass(&info) ? name : NULL;
+    return AfxRegisterClass(&info) ? name : nullptr;
 }
 
 } // namespace
 
 BOOL CWnd::PreCreateWindow(CREATESTRUCT& cs)
 {
-    if (cs.lpszClass == NULL)
+    if (cs.lpszClass == nullptr)
         cs.lpszClass = DefaultWindowClass();
-    return cs.lpszClass != NULL;
+    return cs.lpszClass != nullptr;
 }
 
 BOOL CWnd::Create(LPCTSTR lpszClassName, LPCTSTR lpszWindowName, DWORD dwStyle, const RECT& rect,
                   CWnd* pParentWnd, UINT nID, CCreateContext* pContext)
 {
-    ASSERT(pParentWnd != NULL);
+    ASSERT(pParentWnd != nullptr);
     ASSERT((dwStyle & WS_POPUP) == 0);
     return CreateEx(0, lpszClassName, lpszWindowName, dwStyle | WS_CHILD, rect.left, rect.top,
                     rect.right - rect.left, rect.bottom - rect.top, pParentWnd->GetSafeHwnd(),

@@ -6,7 +6,7 @@
 
 BOOL CWnd::DestroyWindow()
 {
-    if (m_hWnd == NULL)
+    if (m_hWnd == nullptr)
         return FALSE;
     // WM_NCDESTROY may delete this object: afterwards only its former handle and address are used.
     const HWND window = m_hWnd;
@@ -24,13 +24,13 @@ namespace
 void LeaveThread(CWnd* window)
 {
     CWinThread* const thread = AfxGetThread();
-    if (thread == NULL)
+    if (thread == nullptr)
         return;
     if (thread->m_pActiveWnd == window)
-        thread->m_pActiveWnd = NULL;
+        thread->m_pActiveWnd = nullptr;
     if (thread->m_pMainWnd == window)
     {
-        thread->m_pMainWnd = NULL;
+        thread->m_pMainWnd = nullptr;
         AfxPostQuitMessage(0);
     }
 }
@@ -59,9 +59,9 @@ void CWnd::OnNcDestroy()
     Default();
     WNDPROC* const super = GetSuperWndProcAddr();
     const LONG_PTR procedure = ::GetWindowLongPtr(window, GWLP_WNDPROC);
-    if (*super != NULL && reinterpret_cast<WNDPROC>(procedure) == AfxGetAfxWndProc())
+    if (*super != nullptr && reinterpret_cast<WNDPROC>(procedure) == AfxGetAfxWndProc())
         ::SetWindowLongPtr(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(*super));
-    *super = NULL;
+    *super = nullptr;
     Detach();
     PostNcDestroy();
 }

@@ -6,7 +6,7 @@ int CWnd::GetDlgItemText(int nID, CString& rString) const
 {
     rString.Empty();
     const HWND item = ::GetDlgItem(m_hWnd, nID);
-    if (item != NULL)
+    if (item != nullptr)
     {
         const int length = ::GetWindowTextLength(item);
         ::GetWindowText(item, rString.GetBuffer(length), length + 1);
@@ -72,14 +72,14 @@ BOOL CWnd::UpdateData(BOOL bSaveAndValidate)
 
 BOOL CWnd::ExecuteDlgInit(LPCTSTR lpszResourceName)
 {
-    if (lpszResourceName == NULL)
+    if (lpszResourceName == nullptr)
         return TRUE;
     const LPCTSTR type = MAKEINTRESOURCE(240); // RT_DLGINIT
     const HINSTANCE module = AfxFindResourceHandle(lpszResourceName, type);
     const HRSRC found = ::FindResource(module, lpszResourceName, type);
-    const HGLOBAL loaded = found != NULL ? ::LoadResource(module, found) : NULL;
+    const HGLOBAL loaded = found != nullptr ? ::LoadResource(module, found) : nullptr;
     // A dialog without initial contents has no such resource.
-    return loaded == NULL || ExecuteDlgInit(::LockResource(loaded));
+    return loaded == nullptr || ExecuteDlgInit(::LockResource(loaded));
 }
 
 namespace
@@ -114,7 +114,7 @@ UINT MessageOfRecord(WORD message)
 BOOL CWnd::ExecuteDlgInit(LPVOID lpResource)
 {
     const BYTE* position = static_cast<const BYTE*>(lpResource);
-    while (position != NULL)
+    while (position != nullptr)
     {
         DialogInitRecord record = {};
         std::memcpy(&record.controlId, position, sizeof(record.controlId));
@@ -147,16 +147,16 @@ bool IsPushButton(HWND control)
 
 void CWnd::UpdateDialogControls(CCmdTarget* pTarget, BOOL bDisableIfNoHndler)
 {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         CCmdUI state;
         state.m_pOther = FromHandle(child);
         state.m_nID = LOWORD(::GetDlgCtrlID(child));
         CWnd* const attached = FromHandlePermanent(child);
         const int reflectedCode = MAKELONG(LOWORD(CN_UPDATE_COMMAND_UI), WM_COMMAND + WM_REFLECT_BASE);
-        if (attached != NULL && attached->OnCmdMsg(0, reflectedCode, &state, NULL))
+        if (attached != nullptr && attached->OnCmdMsg(0, reflectedCode, &state, nullptr))
             continue;
-        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, NULL))
+        if (CWnd::OnCmdMsg(state.m_nID, static_cast<int>(CN_UPDATE_COMMAND_UI), &state, nullptr))
             continue;
         state.DoUpdate(pTarget, bDisableIfNoHndler && IsPushButton(child));
     }

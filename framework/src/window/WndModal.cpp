@@ -58,7 +58,7 @@ public:
     void Step()
     {
         Show();
-        if (!(m_flags & MLF_NOIDLEMSG) && m_parent != NULL && m_count == 0)
+        if (!(m_flags & MLF_NOIDLEMSG) && m_parent != nullptr && m_count == 0)
             ::SendMessage(m_parent, WM_ENTERIDLE, MSGF_DIALOGBOX, reinterpret_cast<LPARAM>(m_window));
         const bool kick = !(m_flags & MLF_NOKICKIDLE);
         const bool more = kick && ::SendMessage(m_window, WM_KICKIDLE, MSGF_DIALOGBOX, m_count) != 0;
@@ -90,7 +90,7 @@ private:
 bool QueueIsEmpty()
 {
     MSG message;
-    return !::PeekMessage(&message, NULL, 0, 0, PM_NOREMOVE);
+    return !::PeekMessage(&message, nullptr, 0, 0, PM_NOREMOVE);
 }
 
 } // namespace

@@ -6,7 +6,7 @@ namespace
 
 HRGN RegionHandle(const CRgn* region)
 {
-    return region == NULL ? NULL : static_cast<HRGN>(region->GetSafeHandle());
+    return region == nullptr ? nullptr : static_cast<HRGN>(region->GetSafeHandle());
 }
 
 } // namespace
@@ -70,12 +70,13 @@ BOOL CWnd::RedrawWindow(LPCRECT lpRectUpdate, CRgn* prgnUpdate, UINT flags)
 
 void CWnd::CreateCaret(CBitmap* pBitmap)
 {
-    ::CreateCaret(m_hWnd, pBitmap == NULL ? NULL : static_cast<HBITMAP>(pBitmap->GetSafeHandle()), 0, 0);
+    ::CreateCaret(m_hWnd, pBitmap == nullptr ? nullptr : static_cast<HBITMAP>(pBitmap->GetSafeHandle()), 0,
+                  0);
 }
 
 void CWnd::SetFont(CFont* pFont, BOOL bRedraw)
 {
-    const HGDIOBJ font = pFont == NULL ? NULL : pFont->GetSafeHandle();
+    const HGDIOBJ font = pFont == nullptr ? nullptr : pFont->GetSafeHandle();
     ::SendMessage(m_hWnd, WM_SETFONT, reinterpret_cast<WPARAM>(font), bRedraw);
 }
 
@@ -108,7 +109,7 @@ void CWnd::GetWindowText(CString& rString) const
 
 int CWnd::MessageBox(LPCTSTR lpszText, LPCTSTR lpszCaption, UINT nType)
 {
-    return ::MessageBox(m_hWnd, lpszText, lpszCaption != NULL ? lpszCaption : AfxGetAppName(), nType);
+    return ::MessageBox(m_hWnd, lpszText, lpszCaption != nullptr ? lpszCaption : AfxGetAppName(), nType);
 }
 
 void CWnd::DragAcceptFiles(BOOL bAccept)
@@ -120,7 +121,7 @@ BOOL PASCAL CWnd::GrayCtlColor(HDC hDC, HWND, UINT nCtlColor, HBRUSH hbrGray, CO
 {
     const bool isGray = nCtlColor == CTLCOLOR_MSGBOX || nCtlColor == CTLCOLOR_BTN ||
                         nCtlColor == CTLCOLOR_DLG || nCtlColor == CTLCOLOR_STATIC;
-    if (hDC == NULL || !isGray)
+    if (hDC == nullptr || !isGray)
         return FALSE;
     LOGBRUSH brush = {};
     ::GetObject(hbrGray, sizeof(brush), &brush);

@@ -3,12 +3,12 @@
 
 void CWnd::ClientToScreen(LPRECT lpRect) const
 {
-    ::MapWindowPoints(m_hWnd, NULL, reinterpret_cast<LPPOINT>(lpRect), 2);
+    ::MapWindowPoints(m_hWnd, nullptr, reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 void CWnd::ScreenToClient(LPRECT lpRect) const
 {
-    ::MapWindowPoints(NULL, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
+    ::MapWindowPoints(nullptr, m_hWnd, reinterpret_cast<LPPOINT>(lpRect), 2);
 }
 
 BOOL CWnd::GetWindowPlacement(WINDOWPLACEMENT* lpwndpl) const
@@ -51,9 +51,9 @@ void MoveInside(CRect& rect, const CRect& limits)
 // The window to centre a popup over, or NULL for the screen.
 HWND CentreOwner(HWND window, HWND alternate)
 {
-    const HWND owner = alternate != NULL ? alternate : ::GetWindow(window, GW_OWNER);
-    const bool usable = owner != NULL && ::IsWindowVisible(owner) && !::IsIconic(owner);
-    return usable ? owner : NULL;
+    const HWND owner = alternate != nullptr ? alternate : ::GetWindow(window, GW_OWNER);
+    const bool usable = owner != nullptr && ::IsWindowVisible(owner) && !::IsIconic(owner);
+    return usable ? owner : nullptr;
 }
 
 CRect CentreArea(HWND window, HWND alternate, CRect& limits)
@@ -64,7 +64,7 @@ CRect CentreArea(HWND window, HWND alternate, CRect& limits)
         const HWND parent = ::GetParent(window);
         ::GetClientRect(parent, &limits);
         area = limits;
-        if (alternate != NULL)
+        if (alternate != nullptr)
         {
             ::GetClientRect(alternate, &area);
             ::MapWindowPoints(alternate, parent, reinterpret_cast<LPPOINT>(static_cast<LPRECT>(area)), 2);
@@ -72,9 +72,9 @@ CRect CentreArea(HWND window, HWND alternate, CRect& limits)
         return area;
     }
     const HWND owner = CentreOwner(window, alternate);
-    limits = WorkAreaOf(owner != NULL ? owner : window);
+    limits = WorkAreaOf(owner != nullptr ? owner : window);
     area = limits;
-    if (owner != NULL)
+    if (owner != nullptr)
         ::GetWindowRect(owner, &area);
     return area;
 }
@@ -92,7 +92,8 @@ void CWnd::CenterWindow(CWnd* pAlternateOwner)
                   size);
     if (!(GetStyle() & WS_CHILD))
         MoveInside(centred, limits);
-    ::SetWindowPos(m_hWnd, NULL, centred.left, centred.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    ::SetWindowPos(m_hWnd, nullptr, centred.left, centred.top, 0, 0,
+                   SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
 }
 
 namespace
@@ -101,13 +102,13 @@ namespace
 // Lets every bar take its strip of layout.rect; returns the window that is to get the rest.
 HWND PlaceBars(HWND parent, UINT firstId, UINT lastId, UINT leftOverId, AFX_SIZEPARENTPARAMS& layout)
 {
-    HWND leftOver = NULL;
-    for (HWND child = ::GetTopWindow(parent); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    HWND leftOver = nullptr;
+    for (HWND child = ::GetTopWindow(parent); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         const UINT id = LOWORD(::GetDlgCtrlID(child));
         if (id == leftOverId)
             leftOver = child;
-        else if (id >= firstId && id <= lastId && CWnd::FromHandlePermanent(child) != NULL)
+        else if (id >= firstId && id <= lastId && CWnd::FromHandlePermanent(child) != nullptr)
             ::SendMessage(child, WM_SIZEPARENT, 0, reinterpret_cast<LPARAM>(&layout));
     }
     return leftOver;
@@ -120,29 +121,29 @@ void CWnd::RepositionBars(UINT nIDFirst, UINT nIDLast, UINT nIDLeftOver, UINT nF
 {
     AFX_SIZEPARENTPARAMS layout = {};
     layout.bStretch = bStretch;
-    if (lpRectClient != NULL)
+    if (lpRectClient != nullptr)
         layout.rect = *lpRectClient;
     else
         GetClientRect(&layout.rect);
     const bool query = nFlag == reposQuery;
-    layout.hDWP = query ? NULL : ::BeginDeferWindowPos(8);
+    layout.hDWP = query ? nullptr : ::BeginDeferWindowPos(8);
     const HWND leftOver = PlaceBars(m_hWnd, nIDFirst, nIDLast, nIDLeftOver, layout);
     if (query)
     {
         *lpRectParam = layout.rect;
         return;
     }
-    if (layout.hDWP != NULL)
+    if (layout.hDWP != nullptr)
         ::EndDeferWindowPos(layout.hDWP);
-    if (leftOver == NULL)
+    if (leftOver == nullptr)
         return;
     CRect rest(layout.rect);
-    if (nFlag == reposExtra && lpRectParam != NULL)
+    if (nFlag == reposExtra && lpRectParam != nullptr)
     {
         rest.DeflateRect(lpRectParam->left, lpRectParam->top, lpRectParam->right, lpRectParam->bottom);
     }
     if (CWnd* const pane = FromHandlePermanent(leftOver))
         pane->CalcWindowRect(&rest);
-    ::SetWindowPos(leftOver, NULL, rest.left, rest.top, rest.Width(), rest.Height(),
+    ::SetWindowPos(leftOver, nullptr, rest.left, rest.top, rest.Width(), rest.Height(),
                    SWP_NOACTIVATE | SWP_NOZORDER);
 }

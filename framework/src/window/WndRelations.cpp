@@ -3,14 +3,14 @@
 
 void CWnd::SendMessageToDescendants(UINT message, WPARAM wParam, LPARAM lParam, BOOL bDeep, BOOL bOnlyPerm)
 {
-    for (HWND child = ::GetTopWindow(m_hWnd); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = ::GetTopWindow(m_hWnd); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         CWnd* const attached = FromHandlePermanent(child);
         if (!bOnlyPerm)
             ::SendMessage(child, message, wParam, lParam);
-        else if (attached != NULL)
+        else if (attached != nullptr)
             AfxCallWndProc(attached, child, message, wParam, lParam);
-        if (bDeep && ::GetTopWindow(child) != NULL)
+        if (bDeep && ::GetTopWindow(child) != nullptr)
             CWnd(child).SendMessageToDescendants(message, wParam, lParam, bDeep, bOnlyPerm);
     }
 }
@@ -22,21 +22,22 @@ namespace
 HWND FindDescendant(HWND parent, int id, bool onlyPermanent)
 {
     const HWND item = ::GetDlgItem(parent, id);
-    if (item != NULL)
+    if (item != nullptr)
     {
-        const HWND below = ::GetTopWindow(item) != NULL ? FindDescendant(item, id, onlyPermanent) : NULL;
-        if (below != NULL)
+        const HWND below =
+            ::GetTopWindow(item) != nullptr ? FindDescendant(item, id, onlyPermanent) : nullptr;
+        if (below != nullptr)
             return below;
-        if (!onlyPermanent || CWnd::FromHandlePermanent(item) != NULL)
+        if (!onlyPermanent || CWnd::FromHandlePermanent(item) != nullptr)
             return item;
     }
-    for (HWND child = ::GetTopWindow(parent); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = ::GetTopWindow(parent); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         const HWND found = FindDescendant(child, id, onlyPermanent);
-        if (found != NULL)
+        if (found != nullptr)
             return found;
     }
-    return NULL;
+    return nullptr;
 }
 
 // The parent of a child window, the owner of a popup.
@@ -48,7 +49,7 @@ HWND ParentOrOwner(HWND window)
 
 HWND TopLevelParent(HWND window)
 {
-    for (HWND parent = ParentOrOwner(window); parent != NULL; parent = ParentOrOwner(window))
+    for (HWND parent = ParentOrOwner(window); parent != nullptr; parent = ParentOrOwner(window))
         window = parent;
     return window;
 }
@@ -62,52 +63,52 @@ CWnd* CWnd::GetDescendantWindow(int nID, BOOL bOnlyPerm) const
 
 CWnd* CWnd::GetTopLevelParent() const
 {
-    return GetSafeHwnd() == NULL ? NULL : FromHandle(TopLevelParent(m_hWnd));
+    return GetSafeHwnd() == nullptr ? nullptr : FromHandle(TopLevelParent(m_hWnd));
 }
 
 CWnd* CWnd::GetTopLevelOwner() const
 {
-    if (GetSafeHwnd() == NULL)
-        return NULL;
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
     HWND top = m_hWnd;
-    for (HWND owner = ::GetWindow(top, GW_OWNER); owner != NULL; owner = ::GetWindow(top, GW_OWNER))
+    for (HWND owner = ::GetWindow(top, GW_OWNER); owner != nullptr; owner = ::GetWindow(top, GW_OWNER))
         top = owner;
     return FromHandle(top);
 }
 
 CWnd* CWnd::GetParentOwner() const
 {
-    if (GetSafeHwnd() == NULL)
-        return NULL;
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
     HWND window = m_hWnd;
-    while ((::GetWindowLong(window, GWL_STYLE) & WS_CHILD) && ::GetParent(window) != NULL)
+    while ((::GetWindowLong(window, GWL_STYLE) & WS_CHILD) && ::GetParent(window) != nullptr)
         window = ::GetParent(window);
     return FromHandle(window);
 }
 
 CFrameWnd* CWnd::GetParentFrame() const
 {
-    if (GetSafeHwnd() == NULL)
-        return NULL;
-    for (HWND window = ::GetParent(m_hWnd); window != NULL; window = ::GetParent(window))
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
+    for (HWND window = ::GetParent(m_hWnd); window != nullptr; window = ::GetParent(window))
     {
         CWnd* const object = FromHandlePermanent(window);
-        if (object != NULL && object->IsFrameWnd())
+        if (object != nullptr && object->IsFrameWnd())
             return static_cast<CFrameWnd*>(object);
     }
-    return NULL;
+    return nullptr;
 }
 
 CFrameWnd* CWnd::GetTopLevelFrame() const
 {
-    if (GetSafeHwnd() == NULL)
-        return NULL;
+    if (GetSafeHwnd() == nullptr)
+        return nullptr;
     CWnd* const self = const_cast<CWnd*>(this);
     CFrameWnd* frame = IsFrameWnd() ? static_cast<CFrameWnd*>(self) : GetParentFrame();
-    while (frame != NULL)
+    while (frame != nullptr)
     {
         CFrameWnd* const outer = frame->GetParentFrame();
-        if (outer == NULL)
+        if (outer == nullptr)
             break;
         frame = outer;
     }
@@ -119,7 +120,7 @@ namespace
 
 HWND DefaultOwner(HWND wanted)
 {
-    if (wanted != NULL)
+    if (wanted != nullptr)
         return wanted;
     CWnd* const main = AfxGetMainWnd();
     return main->GetSafeHwnd();
@@ -128,7 +129,7 @@ HWND DefaultOwner(HWND wanted)
 HWND TopMostAncestor(HWND window)
 {
     HWND top = window;
-    for (HWND next = window; next != NULL; next = ::GetParent(next))
+    for (HWND next = window; next != nullptr; next = ::GetParent(next))
         top = next;
     return top;
 }
@@ -138,16 +139,16 @@ HWND TopMostAncestor(HWND window)
 HWND PASCAL CWnd::GetSafeOwner_(HWND hWnd, HWND* pWndTop)
 {
     HWND owner = DefaultOwner(hWnd);
-    while (owner != NULL && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD))
+    while (owner != nullptr && (::GetWindowLong(owner, GWL_STYLE) & WS_CHILD))
         owner = ::GetParent(owner);
     HWND top = TopMostAncestor(owner);
     // The popup must be owned by what is in front of the top window, not by the window behind it.
-    if (hWnd == NULL && owner != NULL)
+    if (hWnd == nullptr && owner != nullptr)
         owner = ::GetLastActivePopup(owner);
-    if (pWndTop != NULL)
+    if (pWndTop != nullptr)
     {
-        *pWndTop = top != NULL && ::IsWindowEnabled(top) && top != owner ? top : NULL;
-        if (*pWndTop != NULL)
+        *pWndTop = top != nullptr && ::IsWindowEnabled(top) && top != owner ? top : nullptr;
+        if (*pWndTop != nullptr)
             ::EnableWindow(*pWndTop, FALSE);
     }
     return owner;
@@ -166,7 +167,7 @@ BOOL CWnd::IsTopParentActive() const
 
 void CWnd::ActivateTopParent()
 {
-    if (::GetForegroundWindow() == NULL)
+    if (::GetForegroundWindow() == nullptr)
         return;
     ::SetForegroundWindow(::GetLastActivePopup(TopLevelParent(m_hWnd)));
 }

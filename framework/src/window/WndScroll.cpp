@@ -8,7 +8,7 @@ namespace
 HWND BarControl(const CWnd* window, int bar)
 {
     const CScrollBar* const control = window->GetScrollBarCtrl(bar);
-    return control == NULL ? NULL : reinterpret_cast<const CWnd*>(control)->m_hWnd;
+    return control == nullptr ? nullptr : reinterpret_cast<const CWnd*>(control)->m_hWnd;
 }
 
 // Where a scroll function has to go: the control, or the window's own bar.
@@ -17,8 +17,8 @@ struct BarTarget
     BarTarget(const CWnd* window, int nBar)
     {
         const HWND control = BarControl(window, nBar);
-        handle = control != NULL ? control : window->m_hWnd;
-        bar = control != NULL ? SB_CTL : nBar;
+        handle = control != nullptr ? control : window->m_hWnd;
+        bar = control != nullptr ? SB_CTL : nBar;
     }
     HWND handle;
     int bar;
@@ -35,7 +35,7 @@ void CWnd::EnableScrollBarCtrl(int nBar, BOOL bEnable)
         return;
     }
     const HWND control = BarControl(this, nBar);
-    if (control != NULL)
+    if (control != nullptr)
         ::EnableWindow(control, bEnable);
 }
 
@@ -98,8 +98,8 @@ void CWnd::ShowScrollBar(UINT nBar, BOOL bShow)
         ShowScrollBar(SB_VERT, bShow);
         return;
     }
-    const HWND control = nBar == SB_CTL ? NULL : BarControl(this, static_cast<int>(nBar));
-    if (control != NULL)
+    const HWND control = nBar == SB_CTL ? nullptr : BarControl(this, static_cast<int>(nBar));
+    if (control != nullptr)
         ::ShowWindow(control, bShow ? SW_SHOW : SW_HIDE);
     else
         ::ShowScrollBar(m_hWnd, static_cast<int>(nBar), bShow);
@@ -107,18 +107,19 @@ void CWnd::ShowScrollBar(UINT nBar, BOOL bShow)
 
 void CWnd::ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect, LPCRECT lpClipRect)
 {
-    if (IsWindowVisible() || lpRect != NULL || lpClipRect != NULL)
+    if (IsWindowVisible() || lpRect != nullptr || lpClipRect != nullptr)
     {
         ::ScrollWindow(m_hWnd, xAmount, yAmount, lpRect, lpClipRect);
         return;
     }
     // Windows scrolls no children of a hidden window.
-    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = ::GetWindow(m_hWnd, GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
     {
         CRect rect;
         ::GetWindowRect(child, &rect);
         ScreenToClient(&rect);
-        ::SetWindowPos(child, NULL, rect.left + xAmount, rect.top + yAmount, 0, 0,
+        ::SetWindowPos(child, nullptr, rect.left + xAmount, rect.top + yAmount, 0, 0,
                        SWP_NOSIZE | SWP_NOACTIVATE | SWP_NOZORDER);
     }
 }
@@ -126,6 +127,6 @@ void CWnd::ScrollWindow(int xAmount, int yAmount, LPCRECT lpRect, LPCRECT lpClip
 int CWnd::ScrollWindowEx(int dx, int dy, LPCRECT lpRectScroll, LPCRECT lpRectClip, CRgn* prgnUpdate,
                          LPRECT lpRectUpdate, UINT flags)
 {
-    const HRGN region = prgnUpdate != NULL ? static_cast<HRGN>(prgnUpdate->GetSafeHandle()) : NULL;
+    const HRGN region = prgnUpdate != nullptr ? static_cast<HRGN>(prgnUpdate->GetSafeHandle()) : nullptr;
     return ::ScrollWindowEx(m_hWnd, dx, dy, lpRectScroll, lpRectClip, region, lpRectUpdate, flags);
 }

@@ -44,7 +44,7 @@ ToolTipState& ToolTips()
 HWND ControlOwnedBy(HWND owner)
 {
     ToolTipState& state = ToolTips();
-    if (state.control != NULL && ::IsWindow(state.control))
+    if (state.control != nullptr && ::IsWindow(state.control))
     {
         if (::GetWindow(state.control, GW_OWNER) == owner)
             return state.control;
@@ -52,9 +52,9 @@ HWND ControlOwnedBy(HWND owner)
     }
     INITCOMMONCONTROLSEX classes = {sizeof(classes), ICC_BAR_CLASSES};
     ::InitCommonControlsEx(&classes);
-    state.control = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, NULL, WS_POPUP | TTS_ALWAYSTIP,
-                                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner, NULL,
-                                     AfxGetInstanceHandle(), NULL);
+    state.control = ::CreateWindowEx(WS_EX_TOPMOST, TOOLTIPS_CLASS, nullptr, WS_POPUP | TTS_ALWAYSTIP,
+                                     CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, CW_USEDEFAULT, owner,
+                                     nullptr, AfxGetInstanceHandle(), nullptr);
     state.tool.cbSize = 0;
     return state.control;
 }
@@ -76,7 +76,7 @@ void AddTool(HWND owner, const TOOLINFO& described)
     ToolTipState& state = ToolTips();
     RemoveTool();
     const HWND control = ControlOwnedBy(owner);
-    if (control == NULL)
+    if (control == nullptr)
         return;
     TOOLINFO tool = described;
     // These two are for the framework; the control would take them for flags of its own.
@@ -87,7 +87,7 @@ void AddTool(HWND owner, const TOOLINFO& described)
                    SWP_NOACTIVATE | SWP_NOSIZE | SWP_NOMOVE | SWP_NOOWNERZORDER);
     state.tool = described;
     // The text belonged to the one who described the tool; the control has its own copy.
-    state.tool.lpszText = NULL;
+    state.tool.lpszText = nullptr;
 }
 
 // Passes the mouse message to the control as one of the tool's window, for that is how the control finds the
@@ -123,7 +123,7 @@ bool KeepsTipWithButtonHeld()
 void ForgetHit()
 {
     RemoveTool();
-    ToolTips().window = NULL;
+    ToolTips().window = nullptr;
     ToolTips().hit = -1;
 }
 
@@ -150,7 +150,7 @@ BOOL CWnd::EnableToolTips(BOOL bEnable)
 void PASCAL CWnd::CancelToolTips(BOOL)
 {
     const ToolTipState& state = ToolTips();
-    if (state.control != NULL && ::IsWindow(state.control))
+    if (state.control != nullptr && ::IsWindow(state.control))
         ::SendMessage(state.control, TTM_POP, 0, 0);
 }
 
@@ -162,23 +162,23 @@ HWND ChildAt(HWND window, CPoint clientPoint)
 {
     CPoint screenPoint = clientPoint;
     ::ClientToScreen(window, &screenPoint);
-    for (HWND child = ::GetTopWindow(window); child != NULL; child = ::GetWindow(child, GW_HWNDNEXT))
+    for (HWND child = ::GetTopWindow(window); child != nullptr; child = ::GetWindow(child, GW_HWNDNEXT))
     {
         CRect rect;
         ::GetWindowRect(child, &rect);
         if (LOWORD(::GetDlgCtrlID(child)) != 0xFFFF && ::IsWindowVisible(child) && rect.PtInRect(screenPoint))
             return child;
     }
-    return NULL;
+    return nullptr;
 }
 
 // Whether the window is the innermost one over the message's window that has tool tips.
 bool OwnsToolTipsOf(HWND hitWindow, const CWnd* window, UINT (*flagsOf)(const CWnd*))
 {
-    for (HWND next = hitWindow; next != NULL; next = ::GetParent(next))
+    for (HWND next = hitWindow; next != nullptr; next = ::GetParent(next))
     {
         const CWnd* const object = CWnd::FromHandlePermanent(next);
-        if (object != NULL && (flagsOf(object) & WF_TOOLTIPS) != 0)
+        if (object != nullptr && (flagsOf(object) & WF_TOOLTIPS) != 0)
             return object == window;
     }
     return false;
@@ -189,9 +189,9 @@ bool OwnsToolTipsOf(HWND hitWindow, const CWnd* window, UINT (*flagsOf)(const CW
 INT_PTR CWnd::OnToolHitTest(CPoint point, TOOLINFO* pTI) const
 {
     const HWND child = ChildAt(m_hWnd, point);
-    if (child == NULL)
+    if (child == nullptr)
         return -1;
-    if (pTI != NULL)
+    if (pTI != nullptr)
     {
         pTI->hwnd = m_hWnd;
         pTI->uId = reinterpret_cast<UINT_PTR>(child);

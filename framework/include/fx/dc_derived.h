@@ -1,8 +1,6 @@
 // The device contexts that a window lends: for painting, for its client area, and for the whole window.
 #pragma once
 
-#include "fx/dc.h"
-
 // The device context of WM_PAINT: BeginPaint in the constructor, EndPaint in the destructor. The constructors
 // of this file throw CResourceException when there is no device context.
 class QFX_API CPaintDC : public CDC

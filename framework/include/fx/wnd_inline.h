@@ -1,7 +1,5 @@
-// The members of CWnd about state, messages, position and painting that only pass a call on to Windows.
+// The members of CWnd about state, messages, position and painting that only pass a call on to Windows. A part of fx/wnd.h.
 #pragma once
-
-#include "fx/wnd.h"
 
 inline CWnd::operator HWND() const
 {

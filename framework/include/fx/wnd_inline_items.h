@@ -1,8 +1,6 @@
 // The members of CWnd about input, dialog items and other windows that only pass a call on to Windows.
 #pragma once
 
-#include "fx/wnd.h"
-
 inline BOOL CWnd::IsWindowEnabled() const
 {
     return ::IsWindowEnabled(m_hWnd);

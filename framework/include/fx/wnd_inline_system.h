@@ -1,8 +1,6 @@
 // The members of CWnd that few programs need and that only pass a call on to Windows.
 #pragma once
 
-#include "fx/wnd.h"
-
 inline DWORD CWnd::GetWindowContextHelpId() const
 {
     return ::GetWindowContextHelpId(m_hWnd);

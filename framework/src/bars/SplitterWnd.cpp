@@ -1,7 +1,7 @@
 // CSplitterWnd: creation, panes, sizes and activation.
 #include "bars/BarAccess.h"
 #include "bars/SplitterGeometry.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 using namespace quorfx;
 

@@ -1,6 +1,6 @@
 // CCommonDialog: the hook that attaches objects to the dialogs of the system.
 #include "commondialog/HookScope.h"
-#include "thread/PerThread.h"
+#include "threadstate/PerThread.h"
 
 IMPLEMENT_DYNAMIC(CCommonDialog, CDialog)
 

@@ -1,6 +1,6 @@
 // How each kind of window message handler is called: one decoder per signature kind.
 #include "dispatch/MessageMap.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 #include <iterator>
 

@@ -1,6 +1,6 @@
 // Commands and notifications: which of parent and child sees them, and in which order.
 #include "dispatch/MessageMap.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "FrameworkAccess.h"
 
 namespace

@@ -1,6 +1,6 @@
 // The way of a message: window procedure, current message, CWnd::WindowProc, map or default processing.
 #include "dispatch/MessageMap.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "window/WindowMap.h"
 #include "FrameworkAccess.h"
 

@@ -1,7 +1,7 @@
 // CCtrlView: a view whose window is a control; CListView and CTreeView.
 #include "afxcview.h"
 #include "controls/CommonControls.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 IMPLEMENT_DYNAMIC(CCtrlView, CView)
 IMPLEMENT_DYNCREATE(CListView, CCtrlView)

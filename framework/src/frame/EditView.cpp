@@ -1,6 +1,6 @@
 // CEditView: the text, the commands of the Edit menu, and searching.
 #include "afxext.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 IMPLEMENT_DYNCREATE(CEditView, CCtrlView)
 

@@ -1,7 +1,7 @@
 // CFormView: a view made from a dialog template.
 #include "afxext.h"
 #include "dialog/DialogTemplate.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 IMPLEMENT_DYNAMIC(CFormView, CScrollView)
 

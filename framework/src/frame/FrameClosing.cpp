@@ -1,5 +1,5 @@
 // CFrameWnd: closing, and the end of the session.
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 bool CFrameWnd::IsMainWindow() const
 {

@@ -1,6 +1,6 @@
 // CFrameWnd: commands, menus, accelerators, title and tool tips.
 #include "bars/BarDrag.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 namespace
 {

@@ -2,7 +2,7 @@
 #include "afxpriv.h"
 #include "bars/BarDrag.h"
 #include "bars/FrameBars.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 #include "thread/HelpContext.h"
 
 IMPLEMENT_DYNCREATE(CFrameWnd, CWnd)

@@ -1,6 +1,6 @@
 // CScrollView: bars, positions and scrolling.
 #include "afxext.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 IMPLEMENT_DYNAMIC(CScrollView, CView)
 

@@ -1,5 +1,5 @@
 // CView: the link to document and frame, painting and activation.
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 IMPLEMENT_DYNAMIC(CView, CWnd)
 

@@ -1,6 +1,6 @@
 // CView: a view that is a pane of a splitter.
 #include "afxext.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 namespace
 {

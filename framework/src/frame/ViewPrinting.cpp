@@ -1,7 +1,7 @@
 // CView: the functions that programs override to print. See CView::DoPreparePrinting for what becomes of
 // them.
 #include "fx/printinfo.h"
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 CPrintInfo::CPrintInfo()
     : m_pPD(nullptr),

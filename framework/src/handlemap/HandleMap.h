@@ -6,7 +6,7 @@
 
 #include "fx/config.h"
 #include "handlemap/TemporaryLevel.h"
-#include "thread/PerThread.h"
+#include "threadstate/PerThread.h"
 
 // How a handle map makes and drops the temporary objects of a class. A class that is kept in a handle map
 // specialises it beside its own functions:

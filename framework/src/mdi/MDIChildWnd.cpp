@@ -1,5 +1,5 @@
 // CMDIChildWnd: creation, activation, title and keys of a child frame.
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 #include "window/CreationScope.h"
 
 IMPLEMENT_DYNCREATE(CMDIChildWnd, CFrameWnd)

@@ -1,5 +1,5 @@
 // CMDIFrameWnd: the command route, menus, keys, title and the commands of the Window menu.
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 CFrameWnd* CMDIFrameWnd::GetActiveFrame()
 {

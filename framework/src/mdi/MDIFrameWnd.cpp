@@ -1,5 +1,5 @@
 // CMDIFrameWnd: the client window and the child frames in it.
-#include "frame/FrameMessages.h"
+#include "bars/FrameMessages.h"
 
 IMPLEMENT_DYNCREATE(CMDIFrameWnd, CFrameWnd)
 

@@ -1,6 +1,6 @@
 // The state of the program, and the handles that depend on it.
 #include "afxwin.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 namespace
 {

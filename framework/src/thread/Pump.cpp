@@ -1,7 +1,7 @@
 // The message pump that all loops of a thread share.
 #include "afxpriv.h"
 #include "thread/Pump.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "FrameworkAccess.h"
 
 void AFXAPI AfxPostQuitMessage(int nExitCode)

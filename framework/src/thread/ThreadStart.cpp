@@ -1,7 +1,7 @@
 // CWinThread: the start and the end of threads that the framework creates.
 #include "afxwin.h"
 #include "handlemap/TemporaryLevel.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "window/ToolTips.h"
 
 #include <memory>

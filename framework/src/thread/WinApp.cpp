@@ -1,6 +1,6 @@
 // CWinApp: the application object.
 #include "afxadv.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CWinApp, CWinThread)
 

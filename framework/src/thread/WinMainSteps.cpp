@@ -2,7 +2,7 @@
 #include "afxwin.h"
 #include "handlemap/TemporaryLevel.h"
 #include "thread/OleState.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "window/ToolTips.h"
 
 BOOL AFXAPI AfxWinInit(HINSTANCE hInstance, HINSTANCE, LPTSTR lpCmdLine, int nCmdShow)

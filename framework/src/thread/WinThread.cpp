@@ -3,7 +3,7 @@
 #include "dispatch/MessageMap.h"
 #include "thread/Pump.h"
 #include "handlemap/TemporaryLevel.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 IMPLEMENT_DYNAMIC(CWinThread, CCmdTarget)
 

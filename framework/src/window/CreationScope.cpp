@@ -1,6 +1,6 @@
 // The hook on window creation that gives a CWnd its window.
 #include "window/CreationScope.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "FrameworkAccess.h"
 
 CreationScope::CreationScope(CWnd& object) : m_object(&object), m_outer(CurrentThreadState().creation)

@@ -1,6 +1,6 @@
 // Window classes made from a style, a cursor, a brush and an icon.
 #include "afxwin.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 #include <iterator>
 

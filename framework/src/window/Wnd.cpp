@@ -1,6 +1,6 @@
 // CWnd: construction, the handle map, attaching and subclassing.
 #include "afxwin.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "window/WindowMap.h"
 #include "window/ToolTips.h"
 

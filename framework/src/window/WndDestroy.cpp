@@ -1,6 +1,6 @@
 // CWnd: the end of a window.
 #include "afxwin.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "window/ToolTips.h"
 #include "window/WindowMap.h"
 

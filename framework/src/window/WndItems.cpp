@@ -1,6 +1,6 @@
 // CWnd: dialog items: text, radio groups, data exchange, initial contents and user interface updates.
 #include "afxpriv.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 int CWnd::GetDlgItemText(int nID, CString& rString) const
 {

@@ -1,7 +1,7 @@
 // CWnd: the modal loop.
 #include "afxpriv.h"
 #include "handlemap/TemporaryLevel.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 namespace
 {

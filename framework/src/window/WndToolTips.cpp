@@ -1,6 +1,6 @@
 // CWnd: tool tips. One tip control per thread shows the tool that OnToolHitTest names under the mouse.
 #include "afxwin.h"
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 #include "window/ToolTips.h"
 #include "FrameworkAccess.h"
 

@@ -1,5 +1,5 @@
 // The per-thread state of the framework.
-#include "thread/ThreadState.h"
+#include "threadstate/ThreadState.h"
 
 static_assert(std::is_trivially_destructible_v<ThreadState>);
 

@@ -14,7 +14,7 @@ constexpr DWORD PreparedExtendedStyle = LVS_EX_FULLROWSELECT | LVS_EX_HEADERDRAG
 // Without a header, as in other views, there are no columns.
 std::vector<int> ReadColumnOrder(const CWnd* header)
 {
-    if (!header)
+    if (header == nullptr)
         return {};
     std::vector<int> order(static_cast<size_t>(::SendMessage(header->m_hWnd, HDM_GETITEMCOUNT, 0, 0)));
     if (!order.empty())
@@ -49,7 +49,7 @@ int CGridListCtrl::PositionControl(CWnd* ctrl, int item, int column)
     const HWND control = ctrl->GetSafeHwnd();
     // Scrolling tells the owner, who may then destroy both.
     const auto areThere = [&] { return IsStillWindow(this, window) && ::IsWindow(control); };
-    if (!control || !EnsureVisible(item, TRUE) || !areThere())
+    if (control == nullptr || !EnsureVisible(item, TRUE) || !areThere())
         return 0;
     if (column < 0 || column >= CountColumns() || GetColumnWidth(OrderToIndex(column)) < MinEditableWidth)
         return 0;
@@ -92,7 +92,7 @@ int CGridListCtrl::IndexToOrder(int index)
 int CGridListCtrl::OrderToIndex(int order)
 {
     CWnd* header = GetDlgItem(0);
-    if (!header || order < 0)
+    if (header == nullptr || order < 0)
         return -1;
     return static_cast<int>(header->SendMessage(HDM_ORDERTOINDEX, static_cast<WPARAM>(order)));
 }
@@ -100,7 +100,7 @@ int CGridListCtrl::OrderToIndex(int order)
 int CGridListCtrl::CountColumns()
 {
     CWnd* header = GetDlgItem(0);
-    return header ? static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT)) : 0;
+    return header != nullptr ? static_cast<int>(header->SendMessage(HDM_GETITEMCOUNT)) : 0;
 }
 
 int CGridListCtrl::ColumnOffset(int column)
@@ -226,7 +226,7 @@ void CGridListCtrl::RequestEdit(int row, int column)
     const HWND window = m_hWnd;
     CString text = GetItemText(row, column);
     CWnd* parent = IsStillWindow(this, window) ? GetParent() : nullptr;
-    if (!parent)
+    if (parent == nullptr)
         return;
     NMLVDISPINFO record = {};
     record.hdr.hwndFrom = m_hWnd;

@@ -91,8 +91,8 @@ void CInPlaceEdit::OnKillFocus(CWnd* newFocus)
 void CInPlaceEdit::SendEndOfEdit()
 {
     CWnd* list = GetParent();
-    CWnd* owner = list ? list->GetParent() : nullptr;
-    if (!owner)
+    CWnd* owner = list != nullptr ? list->GetParent() : nullptr;
+    if (owner == nullptr)
         return;
     CString text;
     GetWindowText(text);
@@ -145,7 +145,7 @@ CSize CInPlaceEdit::MeasureText(const CRect& place, const CRect& listClient)
 void CInPlaceEdit::CalculateSize()
 {
     CWnd* parent = GetParent();
-    if (!parent)
+    if (parent == nullptr)
         return;
     const HWND window = m_hWnd;
     CRect place;

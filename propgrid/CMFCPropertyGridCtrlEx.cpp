@@ -45,7 +45,7 @@ CMFCPropertyGridCtrlEx::~CMFCPropertyGridCtrlEx()
 int CMFCPropertyGridCtrlEx::GetItemByTitle(CMFCPropertyGridProperty*& property, CString title)
 {
     property = nullptr;
-    if (!GetSafeHwnd())
+    if (GetSafeHwnd() == nullptr)
         return 0;
     for (int group = 0; group < GetPropertyCount(); ++group)
     {
@@ -129,7 +129,7 @@ void CMFCPropertyGridCtrlEx::AddComboStringSubItem(CMFCPropertyGridProperty* par
                                                    CString value, CArray<CString, const CString&>& options,
                                                    CString description)
 {
-    if (!parent)
+    if (parent == nullptr)
         return;
     CMFCPropertyGridProperty* property = new CPropertyGridComboProperty(*this, name, value, description);
     for (INT_PTR i = 0; i < options.GetCount(); ++i)

@@ -11,14 +11,14 @@ CPropertyGridComboProperty::CPropertyGridComboProperty(CMFCPropertyGridCtrlEx& m
 
 CPropertyGridComboProperty::~CPropertyGridComboProperty()
 {
-    if (grid)
+    if (grid != nullptr)
         grid->lastComboProperty = nullptr;
 }
 
 void CPropertyGridComboProperty::PartFromLast(CMFCPropertyGridCtrlEx& grid)
 {
     // Only the constructor sets it, so it is one of this class.
-    if (grid.lastComboProperty)
+    if (grid.lastComboProperty != nullptr)
         static_cast<CPropertyGridComboProperty*>(grid.lastComboProperty)->grid = nullptr;
     grid.lastComboProperty = nullptr;
 }

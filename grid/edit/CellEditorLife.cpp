@@ -53,7 +53,7 @@ void DropRecord(Record* record)
 void EmptySlot(Record* record)
 {
     TGCellCtrl** slot = std::exchange(record->slot, nullptr);
-    if (!slot || *slot != record->editor)
+    if (slot == nullptr || *slot != record->editor)
         return;
     *slot = nullptr;
     *record->cellSlot = nullptr;
@@ -62,7 +62,7 @@ void EmptySlot(Record* record)
 // Destroys the editor's window, or has the object deleted when it never got one.
 void DestroyNow(Record* record)
 {
-    if (!record->window)
+    if (record->window == nullptr)
     {
         record->deleteWanted = true;
         record->windowGone = true;
@@ -108,7 +108,7 @@ LRESULT CALLBACK WatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
 
 void Watch(Record* record, HWND window)
 {
-    if (window)
+    if (window != nullptr)
         SetWindowSubclass(window, WatchProc, reinterpret_cast<UINT_PTR>(record),
                           reinterpret_cast<DWORD_PTR>(record));
 }
@@ -130,7 +130,7 @@ HWND DropDownList(HWND window)
 void WatchWindows(Record* record)
 {
     record->window = record->editor->GetWnd()->GetSafeHwnd();
-    if (!record->window)
+    if (record->window == nullptr)
         return;
     Watch(record, record->window);
     EnumChildWindows(record->window, WatchChild, reinterpret_cast<LPARAM>(record));
@@ -155,7 +155,7 @@ Creation::~Creation()
         record->windowGone = true;
         EmptySlot(record);
     }
-    else if (record->editor)
+    else if (record->editor != nullptr)
         WatchWindows(record);
     --record->running;
     Settle(record);
@@ -163,13 +163,13 @@ Creation::~Creation()
 
 Use::Use(TGCellCtrl* editor) : record(FindRecord(editor))
 {
-    if (record)
+    if (record != nullptr)
         ++record->running;
 }
 
 Use::~Use()
 {
-    if (!record)
+    if (record == nullptr)
         return;
     --record->running;
     Settle(record);
@@ -177,7 +177,7 @@ Use::~Use()
 
 void DestroyWhenIdle(TGCellCtrl* editor)
 {
-    if (!editor)
+    if (editor == nullptr)
         return;
     if (Record* record = FindRecord(editor))
     {
@@ -190,7 +190,7 @@ void DestroyWhenIdle(TGCellCtrl* editor)
 void NoteDeletion(const TGCellCtrl* editor)
 {
     Record* record = FindRecord(editor);
-    if (!record)
+    if (record == nullptr)
         return;
     EmptySlot(record);
     record->editor = nullptr;
@@ -202,7 +202,7 @@ void NoteDeletion(const TGCellCtrl* editor)
 void DeleteWhenIdle(TGCellCtrl* editor)
 {
     Record* record = FindRecord(editor);
-    if (!record)
+    if (record == nullptr)
     {
         delete editor;
         return;

@@ -32,19 +32,19 @@ bool TGCellButton::Create()
 TGGrid* TGCellButton::SessionGrid() const
 {
     TGGrid* grid = DYNAMIC_DOWNCAST(TGGrid, owner->GetWnd()->GetParent());
-    return grid && grid->editCell == &owner->GetCell() ? grid : nullptr;
+    return grid != nullptr && grid->editCell == &owner->GetCell() ? grid : nullptr;
 }
 
 void TGCellButton::OnBnClicked()
 {
     TGGrid* grid = SessionGrid();
-    if (!grid)
+    if (grid == nullptr)
         return;
     CString text;
     owner->GetNewText(text);
     const bool taken = grid->OnCellButtonDown(owner->GetCell(), text);
     // The hook may have destroyed the windows; the objects live on until this message is done.
-    if (!m_hWnd)
+    if (m_hWnd == nullptr)
         return;
     if (taken)
     {
@@ -59,12 +59,12 @@ void TGCellButton::OnBnClicked()
 INT_PTR TGCellButton::OnToolHitTest(CPoint, TOOLINFO* info) const
 {
     const TGGrid* grid = SessionGrid();
-    if (!grid)
+    if (grid == nullptr)
         return -1;
     const long row = owner->GetCell().GetRowIndex();
     CString tip;
     const CellEditorLife::Use use(owner);
-    if (!grid->OnCellButtonTip(row, owner->GetCell().GetColIndex(), tip) || !m_hWnd)
+    if (!grid->OnCellButtonTip(row, owner->GetCell().GetColIndex(), tip) || m_hWnd == nullptr)
         return -1;
     return AnswerTip(*this, tip, row, TTF_CENTERTIP, info);
 }

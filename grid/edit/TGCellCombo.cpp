@@ -46,7 +46,7 @@ void TGCellCombo::Create(CRect& rect)
     CellWatch watch(grid, &edited);
     grid.OnCellComboString(edited, *this);
     // The hook may have destroyed the windows; the object lives on until its creation is done.
-    if (!m_hWnd || !watch.Cell())
+    if (m_hWnd == nullptr || watch.Cell() == nullptr)
         return;
     const CString text = edited.GetText();
     SendMessage(WM_SETFONT, reinterpret_cast<WPARAM>(grid.GetFont()->GetSafeHandle()), TRUE);
@@ -72,7 +72,7 @@ void TGCellCombo::AfterSelChange() {}
 
 TGGrid* TGCellCombo::GetGrid() const
 {
-    return m_hWnd ? DYNAMIC_DOWNCAST(TGGrid, GetParent()) : nullptr;
+    return m_hWnd != nullptr ? DYNAMIC_DOWNCAST(TGGrid, GetParent()) : nullptr;
 }
 
 void TGCellCombo::PostNcDestroy()
@@ -91,7 +91,7 @@ void TGCellCombo::OnCbnKillfocus()
 {
     const CellEditorLife::Use use(this);
     TGGrid* grid = GetGrid();
-    if (!grid)
+    if (grid == nullptr)
         return;
     if (!grid->IsMyFocus(CWnd::GetFocus()))
         grid->ShowActive(false);

@@ -36,10 +36,10 @@ void TGCellCtrl::Hide()
     // Hiding moves the focus, and whoever hears of that may destroy the window.
     const CellEditorLife::Use use(this);
     CWnd* wnd = GetWnd();
-    if (!wnd->GetSafeHwnd())
+    if (wnd->GetSafeHwnd() == nullptr)
         return;
     wnd->ShowWindow(SW_HIDE);
-    if (wnd->GetSafeHwnd())
+    if (wnd->GetSafeHwnd() != nullptr)
         wnd->EnableWindow(FALSE);
 }
 

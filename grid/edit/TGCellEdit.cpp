@@ -48,7 +48,7 @@ bool TGCellEdit::CreateWithRoom(CRect& rect)
     const int cellHeight = rect.Height();
     TGCellEdit::Create(rect);
     // Taking the focus ends the edit of another grid, whose hooks may do anything to this one.
-    if (!m_hWnd || !watch.Cell())
+    if (m_hWnd == nullptr || watch.Cell() == nullptr)
         return false;
     if (rect.Width() > cellHeight)
     {
@@ -82,7 +82,7 @@ bool TGCellEdit::IsRightEnd()
 
 TGGrid* TGCellEdit::GetGrid() const
 {
-    return m_hWnd ? DYNAMIC_DOWNCAST(TGGrid, GetParent()) : nullptr;
+    return m_hWnd != nullptr ? DYNAMIC_DOWNCAST(TGGrid, GetParent()) : nullptr;
 }
 
 void TGCellEdit::PostNcDestroy()
@@ -100,11 +100,11 @@ void TGCellEdit::OnSetFocus(CWnd* oldFocus)
 
 void TGCellEdit::OnKillFocus(CWnd* newFocus)
 {
-    if (newFocus && IsMyFocus(newFocus))
+    if (newFocus != nullptr && IsMyFocus(newFocus))
         return;
     CEdit::OnKillFocus(newFocus);
     TGGrid* grid = GetGrid();
-    if (!grid)
+    if (grid == nullptr)
         return;
     // Ending the session runs hooks, which may destroy the grid's window: what the notification needs is
     // taken before.

@@ -32,7 +32,7 @@ void TGCellSpinEdit::InitSpin()
     CellWatch watch(grid, &GetCell());
     spin.SetRange32(0, DefaultMaximum);
     grid.OnCellSpinInit(GetCell(), spin);
-    if (!spin.m_hWnd || !watch.Cell() || FollowText(GetCell().GetText()))
+    if (spin.m_hWnd == nullptr || watch.Cell() == nullptr || FollowText(GetCell().GetText()))
         return;
     int lower = 0;
     int upper = 0;
@@ -59,7 +59,7 @@ void TGCellSpinEdit::OnVScroll(UINT code, UINT position, CScrollBar* bar)
     // ones: without that a spin could neither count below zero nor beyond 32767.
     int lower = 0;
     int upper = 0;
-    if (spin.m_hWnd)
+    if (spin.m_hWnd != nullptr)
         spin.GetRange32(lower, upper);
     const WORD bits = LOWORD(position);
     CString text;
@@ -71,7 +71,7 @@ void TGCellSpinEdit::OnVScroll(UINT code, UINT position, CScrollBar* bar)
 
 void TGCellSpinEdit::OnEnChange()
 {
-    if (!spin.m_hWnd)
+    if (spin.m_hWnd == nullptr)
         return;
     CString text;
     GetNewText(text);

@@ -71,17 +71,17 @@ TGCellCtrl* TGGrid::OnGetCellEdit(TGGridCell& cell)
 TGGridCell* TGGrid::EditSession::FindCell(long row, long col)
 {
     TGGridRow* found = grid.IsNewRow(row) ? grid.newRow : grid.IsValidRow(row) ? grid.rows[row] : nullptr;
-    return found && grid.IsValidCol(col) ? found->FindCell(col) : nullptr;
+    return found != nullptr && grid.IsValidCol(col) ? found->FindCell(col) : nullptr;
 }
 
 void TGGrid::BeginEditCell(long row, long col)
 {
-    if (!m_hWnd)
+    if (m_hWnd == nullptr)
         return;
     UnSelect();
     Settle();
     TGGridCell* cell = EditSession(*this).FindCell(row, col);
-    if (!m_hWnd || !cell || cell->IsReadOnly())
+    if (m_hWnd == nullptr || cell == nullptr || cell->IsReadOnly())
         return;
     CellWatch watch(*this, cell);
     bool commitNewRow = false;
@@ -90,10 +90,10 @@ void TGGrid::BeginEditCell(long row, long col)
     {
         // A hook that edits on its own account has its edit committed first.
         Settle();
-        if (m_hWnd && watch.Cell())
+        if (m_hWnd != nullptr && watch.Cell() != nullptr)
             EditSession(*this).OpenEditor(*watch.Cell());
     }
-    else if (wasNewRow && commitNewRow && m_hWnd)
+    else if (wasNewRow && commitNewRow && m_hWnd != nullptr)
         EditSession(*this).AcceptNewRow();
 }
 
@@ -113,14 +113,15 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
 
     CellWatch watch(grid, &cell);
     TGCellCtrl* editor = grid.OnGetCellEdit(cell);
-    if (!editor)
+    if (editor == nullptr)
     {
         if (grid.editCell == &cell)
             grid.editCell = nullptr;
         return;
     }
     // The hook may have ended this session, or opened the cell itself.
-    if (grid.editCell != &cell || !watch.Cell() || !grid.m_hWnd || grid.cellCtrl)
+    if (grid.editCell != &cell || watch.Cell() == nullptr || grid.m_hWnd == nullptr ||
+        grid.cellCtrl != nullptr)
     {
         delete editor;
         return;
@@ -177,7 +178,7 @@ TGGridRow* TGGrid::EditSession::AppendNewRow()
     if (accepted == pending && !watch.IsAlive())
         accepted = grid.newRow;
     std::unique_ptr<TGGridRow> supplied(accepted != grid.newRow ? accepted : nullptr);
-    if (!agreed || !accepted)
+    if (!agreed || accepted == nullptr)
         return nullptr;
     Structure(grid).FitToCols(*accepted);
     accepted->SetIndex(grid.rows.Append(accepted));
@@ -190,7 +191,7 @@ TGGridRow* TGGrid::EditSession::AppendNewRow()
 void TGGrid::EditSession::DropNewRow()
 {
     // A hook may have opened an editor there.
-    if (grid.editCell && &grid.editCell->GetRow() == grid.newRow)
+    if (grid.editCell != nullptr && &grid.editCell->GetRow() == grid.newRow)
         grid.CancelEditCell();
     delete grid.newRow;
     grid.newRow = nullptr;
@@ -198,7 +199,7 @@ void TGGrid::EditSession::DropNewRow()
 
 void TGGrid::Settle()
 {
-    if (editCell)
+    if (editCell != nullptr)
         EndEditCell();
     if (layoutPending)
         FlushLayout();
@@ -206,16 +207,16 @@ void TGGrid::Settle()
 
 void TGGrid::EndEditCell()
 {
-    if (endingEdit || !editCell)
+    if (endingEdit || editCell == nullptr)
         return;
     const ScopedValue guard(endingEdit, true);
-    if (cellCtrl && cellCtrl->IsModified())
+    if (cellCtrl != nullptr && cellCtrl->IsModified())
         EditSession(*this).CommitEdit(*cellCtrl);
     // Also what a hook has opened meanwhile.
     editCell = nullptr;
     EditSession(*this).HideEditor();
     // The commit used the new-row line up, as a row or not at all: the layout makes another one.
-    if (!newRow)
+    if (newRow == nullptr)
         RecalcLayout(1);
 }
 
@@ -224,7 +225,7 @@ void TGGrid::EditSession::CommitEdit(TGCellCtrl& editor)
     CellWatch watch(grid, grid.editCell);
     CString text;
     editor.GetNewText(text);
-    if (!grid.OnModified(*grid.editCell, text) || !watch.Cell())
+    if (!grid.OnModified(*grid.editCell, text) || watch.Cell() == nullptr)
         return;
     if (&watch.Cell()->GetRow() == grid.newRow)
         CommitNewRow(*watch.Cell(), text);
@@ -254,7 +255,7 @@ void TGGrid::EditSession::StoreText(TGGridCell& cell, const CString& text)
 
 void TGGrid::CancelEditCell()
 {
-    if (!editCell)
+    if (editCell == nullptr)
         return;
     editCell = nullptr;
     EditSession(*this).HideEditor();
@@ -262,7 +263,7 @@ void TGGrid::CancelEditCell()
 
 void TGGrid::EditSession::HideEditor()
 {
-    if (grid.cellCtrl)
+    if (grid.cellCtrl != nullptr)
         grid.cellCtrl->Hide();
 }
 
@@ -275,15 +276,15 @@ void TGGrid::EditSession::DestroyLastEditor()
 
 void TGGrid::AutoEditCell(TGGridCell* cell)
 {
-    if (!m_hWnd || cellLock)
+    if (m_hWnd == nullptr || cellLock != nullptr)
         return;
-    cellLock = !cell && editCell ? editCell : cell;
+    cellLock = cell == nullptr && editCell != nullptr ? editCell : cell;
     SetTimer(OpenTimer, 0, nullptr);
 }
 
 void TGGrid::AutoCloseCell(int ms)
 {
-    if (m_hWnd)
+    if (m_hWnd != nullptr)
         SetTimer(CloseTimer, static_cast<UINT>(ms), nullptr);
 }
 
@@ -302,7 +303,7 @@ void TGGrid::OnTimer(UINT_PTR id)
 void TGGrid::EditSession::OpenLockedCell()
 {
     grid.KillTimer(OpenTimer);
-    if (!grid.cellLock)
+    if (grid.cellLock == nullptr)
         return;
     const long row = grid.cellLock->GetRowIndex();
     const long col = grid.cellLock->GetColIndex();
@@ -313,7 +314,7 @@ void TGGrid::EditSession::OpenLockedCell()
 
 void TGGrid::OnCbnSelchange()
 {
-    if (!editCell || !cellCtrl)
+    if (editCell == nullptr || cellCtrl == nullptr)
         return;
     OnCmbSelchange(*editCell, static_cast<CComboBox*>(cellCtrl->GetWnd()));
     OnDataChanged();
@@ -322,13 +323,13 @@ void TGGrid::OnCbnSelchange()
 void TGGrid::OnCbnEditChange()
 {
     CComboBox* combo = static_cast<CComboBox*>(GetDlgItem(CellEditorId));
-    if (!editCell || !combo)
+    if (editCell == nullptr || combo == nullptr)
         return;
     CellWatch watch(*this, editCell);
     // The hook may destroy the combo box, and the object with it.
     const HWND comboWindow = combo->m_hWnd;
     OnCmbEditchange(*editCell, combo);
-    if (watch.Cell() && ::IsWindow(comboWindow))
+    if (watch.Cell() != nullptr && ::IsWindow(comboWindow))
     {
         CString text;
         CWnd::FromHandle(comboWindow)->GetWindowText(text);

@@ -46,7 +46,7 @@ void GridKeyMap::Run(UINT key)
 
 void GridKeyMap::EditNextCell()
 {
-    if (!grid.editCell)
+    if (grid.editCell == nullptr)
         return;
     if (grid.GetColNum() > 1)
         grid.BeginEditCell(grid.editCell->GetRowIndex(),
@@ -57,7 +57,7 @@ void GridKeyMap::EditNextCell()
 
 void GridKeyMap::EditOrGoDown()
 {
-    if (!grid.editCell)
+    if (grid.editCell == nullptr)
     {
         if (grid.GetRowSelNum() == 1 && grid.GetColNum() >= 1)
             grid.BeginEditCell(grid.rowSel[0], 0);
@@ -73,13 +73,13 @@ void GridKeyMap::EditOrGoDown()
 
 void GridKeyMap::Cancel()
 {
-    if (!grid.editCell)
+    if (grid.editCell == nullptr)
     {
         grid.UnSelect();
         return;
     }
     grid.CancelEditCell();
-    if (grid.m_hWnd)
+    if (grid.m_hWnd != nullptr)
         grid.SetFocus();
 }
 
@@ -117,7 +117,7 @@ void GridKeyMap::MoveRowSelection(long step, UINT scrollCode)
 
 void GridKeyMap::GoLeft()
 {
-    if (grid.editCell && grid.GetColNum() > 1)
+    if (grid.editCell != nullptr && grid.GetColNum() > 1)
         MoveEditSideways(-1);
     else
         MoveColSelection(-1, SB_LINEUP);
@@ -125,7 +125,7 @@ void GridKeyMap::GoLeft()
 
 void GridKeyMap::GoRight()
 {
-    if (grid.editCell && grid.GetColNum() > 1)
+    if (grid.editCell != nullptr && grid.GetColNum() > 1)
         MoveEditSideways(1);
     else
         MoveColSelection(1, SB_LINEDOWN);
@@ -133,7 +133,7 @@ void GridKeyMap::GoRight()
 
 void GridKeyMap::GoUp()
 {
-    if (!grid.editCell)
+    if (grid.editCell == nullptr)
     {
         MoveRowSelection(-1, SB_LINEUP);
         return;
@@ -152,7 +152,7 @@ void GridKeyMap::GoUp()
 
 void GridKeyMap::GoDown()
 {
-    if (!grid.editCell)
+    if (grid.editCell == nullptr)
     {
         MoveRowSelection(1, SB_LINEDOWN);
         return;

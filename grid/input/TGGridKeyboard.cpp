@@ -44,7 +44,8 @@ BOOL TGGrid::PreTranslateMessage(MSG* message)
     if (message->message == WM_KEYDOWN)
     {
         const UINT key = static_cast<UINT>(message->wParam);
-        if (editCell ? Keyboard(*this).RouteEditorKey(key) : Keyboard(*this).RouteIdleKey(*message))
+        if (editCell != nullptr ? Keyboard(*this).RouteEditorKey(key)
+                                : Keyboard(*this).RouteIdleKey(*message))
             return TRUE;
     }
     else if (message->message == WM_COMMAND && message->hwnd == m_hWnd && HIWORD(message->wParam) == 0 &&
@@ -56,7 +57,7 @@ BOOL TGGrid::PreTranslateMessage(MSG* message)
 // Keys that leave or steer the open editor go to the grid's key map; the editor gets the others.
 bool TGGrid::Keyboard::RouteEditorKey(UINT key)
 {
-    if (!grid.cellCtrl || !LeavesEditor(key))
+    if (grid.cellCtrl == nullptr || !LeavesEditor(key))
         return false;
     GridKeyMap(grid).Run(key);
     return true;
@@ -91,7 +92,7 @@ bool TGGrid::Keyboard::RouteIdleKey(const MSG& message)
     switch (message.wParam)
     {
     case VK_TAB:
-        if (CWnd::GetFocus() != &grid || !parent)
+        if (CWnd::GetFocus() != &grid || parent == nullptr)
             return false;
         parent->SetFocus();
         return true;

@@ -20,7 +20,7 @@ public:
     explicit FoldedRoots(PDList<TGGridRow>& rows)
     {
         for (TGGridRow* row : rows)
-            if (row && row->IsParentRow() && !row->IsChildRow() &&
+            if (row != nullptr && row->IsParentRow() && !row->IsChildRow() &&
                 !static_cast<TGGridTreeRow*>(row)->IsFold())
                 roots.push_back(static_cast<TGGridTreeRow*>(row));
         for (TGGridTreeRow* root : roots)
@@ -71,7 +71,7 @@ void TGGrid::Arrange(bool ascending)
         Structure(*this).SortRows(ascending);
         std::vector<long> moved;
         for (const TGGridRow* row : selected)
-            if (row && row->GetIndex() >= 0)
+            if (row != nullptr && row->GetIndex() >= 0)
                 moved.push_back(row->GetIndex());
         std::sort(moved.begin(), moved.end());
         SelectedIndices::Assign(rowSel, moved);
@@ -94,7 +94,7 @@ void TGGrid::Structure::SortRows(bool ascending)
     grid.rows.Sort(ascending);
     NumberRows(0);
     for (TGGridRow* row : grid.rows)
-        if (row && row->IsParentRow())
+        if (row != nullptr && row->IsParentRow())
             static_cast<TGGridTreeRow*>(row)->ArrangeChild(ascending);
     folded.UnFold();
 }

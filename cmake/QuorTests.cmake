@@ -24,11 +24,20 @@ function(_quor_build_googletest)
     endif()
 endfunction()
 
+function(_quor_compile_as_test target)
+    target_include_directories(${target} PRIVATE ${PROJECT_SOURCE_DIR})
+    target_compile_options(${target} PRIVATE ${QUOR_TEST_OPTIMISATION})
+    target_precompile_headers(${target} REUSE_FROM QuorTestHeaders)
+endfunction()
+
 # quor_add_test(name [CONSOLE] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
 #
 # Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder, which is <name> unless given) and adds
 # it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and
 # get the harness of tests/support; CONSOLE programs use neither. A folder that has no sources yet is skipped.
+#
+# Files whose names begin with a capital are what several tests share, such as hosts and references. They become a library,
+# <name>_hosts, which other programs may name among their LIBRARIES.
 function(quor_add_test name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
     if(NOT arg_FOLDER)
@@ -45,15 +54,25 @@ function(quor_add_test name)
     endif()
     if(arg_CONSOLE)
         set(main QuorTestConsoleMain)
+        set(harness gtest)
     else()
         set(main QuorTestMain)
+        set(harness QuorTestSupport)
+    endif()
+
+    set(hosts ${arg_SOURCES})
+    list(FILTER hosts INCLUDE REGEX "/[A-Z][A-Za-z]*\\.cpp$")
+    if(hosts)
+        list(REMOVE_ITEM arg_SOURCES ${hosts})
+        add_library(${name}_hosts STATIC ${hosts})
+        _quor_compile_as_test(${name}_hosts)
+        target_link_libraries(${name}_hosts PRIVATE QuorFlags PUBLIC ${harness} ${arg_LIBRARIES})
+        list(PREPEND arg_LIBRARIES ${name}_hosts)
     endif()
 
     add_executable(${name}_test ${arg_SOURCES})
-    target_include_directories(${name}_test PRIVATE ${PROJECT_SOURCE_DIR})
+    _quor_compile_as_test(${name}_test)
     target_link_libraries(${name}_test PRIVATE QuorFlags ${main} ${arg_LIBRARIES})
-    target_compile_options(${name}_test PRIVATE ${QUOR_TEST_OPTIMISATION})
-    target_precompile_headers(${name}_test REUSE_FROM QuorTestHeaders)
     add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
     # A crash that the debugger of Wine reports may end with the exit code 0.
     set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT}

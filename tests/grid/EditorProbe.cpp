@@ -1,7 +1,7 @@
 // Looks over the shoulder of cell editors while they are made.
-#include "EditorProbe.h"
+#include "tests/grid/EditorProbe.h"
 
-#include "ModelGrid.h"
+#include "tests/grid/ModelGrid.h"
 
 #include <cstdio>
 

@@ -1,5 +1,5 @@
 // Very many edits leave nothing behind.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 #include "tests/guard/Guard.h"
 #include "tests/support/GuiHandles.h"

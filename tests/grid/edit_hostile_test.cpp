@@ -1,5 +1,5 @@
 // Every hook that editing and painting call, with everything that a host could do to the grid inside it.
-#include "HostileGrid.h"
+#include "tests/grid/HostileGrid.h"
 
 #include "grid/TGCellCtrl.h"
 #include "tests/support/Input.h"

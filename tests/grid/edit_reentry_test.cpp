@@ -1,5 +1,5 @@
 // Hooks that edit, insert, delete or destroy in the middle of an edit must not break the grid.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 #include "tests/support/GuiHandles.h"
 

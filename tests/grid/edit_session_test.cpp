@@ -1,5 +1,5 @@
 // The edit session: opening, committing, dropping, the new-row line.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 #include "grid/TGCellEdit.h"
 

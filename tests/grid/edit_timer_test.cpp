@@ -1,5 +1,5 @@
 // The timers of the edit session: a cell that is opened later, an edit that is closed later.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 using namespace QuorUiCtr;
 

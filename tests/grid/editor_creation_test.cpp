@@ -1,6 +1,6 @@
 // What the cell editors' windows are made with: classes, styles, ids, places, fonts, texts.
-#include "EditGrid.h"
-#include "EditorProbe.h"
+#include "tests/grid/EditGrid.h"
+#include "tests/grid/EditorProbe.h"
 
 #include "grid/TGCellButtonEdit.h"
 #include "grid/TGCellCombo.h"

@@ -1,5 +1,5 @@
 // Cell editors and the focus: who ends the session, what the grid's parent is told, what the corner shows.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 using namespace QuorUiCtr;
 

@@ -1,5 +1,5 @@
 // The pixels of open editors: inside the cell's lines, the text where the cell drew it.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 using namespace QuorUiCtr;
 

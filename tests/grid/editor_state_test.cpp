@@ -1,5 +1,5 @@
 // What cell editors answer about caret, text and changes; spins and combo boxes at work.
-#include "EditGrid.h"
+#include "tests/grid/EditGrid.h"
 
 #include "grid/TGCellCombo.h"
 

@@ -1,5 +1,5 @@
 // A user who edits cells with mouse and keyboard.
-#include "EditDriver.h"
+#include "tests/grid_input/EditDriver.h"
 #include "rules/GridGeometry.h"
 
 #include <stdexcept>

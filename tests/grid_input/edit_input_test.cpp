@@ -1,5 +1,5 @@
 // Editing cells with the real mouse and keyboard, one way at a time.
-#include "EditDriver.h"
+#include "tests/grid_input/EditDriver.h"
 
 using namespace QuorUiCtr;
 

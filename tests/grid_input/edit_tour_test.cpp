@@ -1,5 +1,5 @@
 // A long edit with the real mouse and keyboard: twenty cells of all kinds and the new-row line.
-#include "EditDriver.h"
+#include "tests/grid_input/EditDriver.h"
 
 using namespace QuorUiCtr;
 

@@ -1,6 +1,6 @@
 // A program that commits the mistake named by its argument, for the tests of the checked build. Without a
 // mistake it returns 0.
-#include "VictimLibrary.h"
+#include "tests/guard_test/VictimLibrary.h"
 #include "tests/guard/Guard.h"
 
 #include <climits>

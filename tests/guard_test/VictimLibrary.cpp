@@ -1,5 +1,5 @@
 // The DLL of the guard's victim program.
-#include "VictimLibrary.h"
+#include "tests/guard_test/VictimLibrary.h"
 
 int* MakeArray(int count)
 {

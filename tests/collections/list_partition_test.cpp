@@ -1,5 +1,5 @@
 // Searches of ordered lists, with and without the cursor, and inserting where an element belongs.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"

@@ -1,5 +1,5 @@
 // The cursor and the positional reads, which the singly and the doubly linked list answer alike.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"

@@ -1,5 +1,5 @@
 // The memory behind the lists: when they allocate, and the places a long list remembers.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/NodeStore.h"

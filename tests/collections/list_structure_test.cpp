@@ -1,5 +1,5 @@
 // Inserting, removing, moving and growing, which the singly and the doubly linked list do alike.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"

@@ -1,5 +1,5 @@
 // What the doubly linked list adds: copying, bulk insertion and removal.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/PDList.h"

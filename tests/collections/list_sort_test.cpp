@@ -1,5 +1,5 @@
 // The sorts: the order of a stable insertion sort, with the comparisons of a merge sort.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"

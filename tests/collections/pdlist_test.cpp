@@ -1,5 +1,5 @@
 // Ownership: which operations of the owning list delete objects, and what destructors see meanwhile.
-#include "ListText.h"
+#include "tests/collections/ListText.h"
 
 #include "grid/collections/PDList.h"
 

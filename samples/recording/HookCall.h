@@ -3,8 +3,8 @@
 
 #include "grid/TGGrid.h"
 
-#include <afxcmn.h>
 #include <afxwin.h>
+#include <afxcmn.h>
 
 #include <initializer_list>
 #include <string_view>

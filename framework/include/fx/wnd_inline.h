@@ -1,4 +1,5 @@
-// The members of CWnd about state, messages, position and painting that only pass a call on to Windows. A part of fx/wnd.h.
+// The members of CWnd about state, messages, position and painting that only pass a call on to Windows. A
+// part of fx/wnd.h.
 #pragma once
 
 inline CWnd::operator HWND() const

@@ -6,60 +6,10 @@
 namespace
 {
 
-struct ProcessResult
-{
-    DWORD exitCode = 0;
-    std::string errorText;
-};
+// What a failed assertion ends the process with.
+constexpr int AssertionExitCode = 87;
 
-std::string ReadToEnd(HANDLE pipe)
-{
-    std::string text;
-    char buffer[512];
-    DWORD count = 0;
-    while (ReadFile(pipe, buffer, sizeof(buffer), &count, nullptr) && count > 0)
-        text.append(buffer, count);
-    return text;
-}
-
-// Runs one disabled test of this program in a process of its own and collects what it writes on stderr.
-ProcessResult RunDisabledTest(const wchar_t* test)
-{
-    SECURITY_ATTRIBUTES inheritable = {sizeof(inheritable), nullptr, TRUE};
-    HANDLE readEnd = nullptr;
-    HANDLE writeEnd = nullptr;
-    CreatePipe(&readEnd, &writeEnd, &inheritable, 0);
-    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
-
-    wchar_t program[MAX_PATH];
-    GetModuleFileName(nullptr, program, MAX_PATH);
-    CString command;
-    command.Format(L"\"%s\" --gtest_also_run_disabled_tests --gtest_repeat=1 --gtest_filter=%s", program,
-                   test);
-    STARTUPINFO startup = {};
-    startup.cb = sizeof(startup);
-    startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdError = writeEnd;
-    PROCESS_INFORMATION process = {};
-    const BOOL started = CreateProcess(nullptr, command.GetBuffer(), nullptr, nullptr, TRUE, 0, nullptr,
-                                       nullptr, &startup, &process);
-    CloseHandle(writeEnd);
-    ProcessResult result;
-    if (started)
-    {
-        result.errorText = ReadToEnd(readEnd);
-        WaitForSingleObject(process.hProcess, INFINITE);
-        GetExitCodeProcess(process.hProcess, &result.exitCode);
-        CloseHandle(process.hThread);
-        CloseHandle(process.hProcess);
-    }
-    CloseHandle(readEnd);
-    return result;
-}
-
-} // namespace
-
-TEST(AssertionVictim, DISABLED_Fails)
+void FailAssertion()
 {
 #ifdef _DEBUG
     ASSERT(1 + 1 == 3);
@@ -68,24 +18,18 @@ TEST(AssertionVictim, DISABLED_Fails)
 #endif
 }
 
-TEST(AssertionVictim, DISABLED_InvalidObject)
+} // namespace
+
+TEST(AssertionDeathTest, Failure_EndsTheProcessWithFileLineAndCondition)
 {
-    AfxAssertValidObject(nullptr, "victim.cpp", 12);
+    EXPECT_EXIT(FailAssertion(), testing::ExitedWithCode(AssertionExitCode),
+                "diagnostics_test.cpp:.*1 . 1 == 3");
 }
 
-TEST(Assertion, Failure_EndsTheProcessWithFileAndLine)
+TEST(AssertionDeathTest, InvalidObject_EndsTheProcess)
 {
-    const ProcessResult result = RunDisabledTest(L"AssertionVictim.DISABLED_Fails");
-    EXPECT_EQ(87u, result.exitCode);
-    EXPECT_NE(std::string::npos, result.errorText.find("diagnostics_test.cpp:")) << result.errorText;
-    EXPECT_NE(std::string::npos, result.errorText.find("1 + 1 == 3")) << result.errorText;
-}
-
-TEST(Assertion, InvalidObject_EndsTheProcess)
-{
-    const ProcessResult result = RunDisabledTest(L"AssertionVictim.DISABLED_InvalidObject");
-    EXPECT_EQ(87u, result.exitCode);
-    EXPECT_NE(std::string::npos, result.errorText.find("victim.cpp:12")) << result.errorText;
+    EXPECT_EXIT(AfxAssertValidObject(nullptr, "victim.cpp", 12), testing::ExitedWithCode(AssertionExitCode),
+                "victim.cpp:12");
 }
 
 TEST(Assertion, Verify_EvaluatesInEveryBuildAndAssertOnlyWithChecks)

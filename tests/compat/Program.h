@@ -11,7 +11,8 @@
 // The longest wait for another process in milliseconds.
 constexpr DWORD deadline = 30'000;
 
-// Asks until the condition holds. Other processes give no event to wait for.
+// Asks until the condition holds. There is no event to wait for: hooks for the accessibility events of other
+// processes hear nothing under Wine when the focus moves there, a window goes or a text changes.
 inline bool WaitUntil(const std::function<bool()>& condition)
 {
     const ULONGLONG end = ::GetTickCount64() + deadline;

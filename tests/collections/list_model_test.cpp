@@ -1,6 +1,7 @@
 // Random operations on lists, compared with a vector and an index after each step.
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"
+#include "tests/collections/ReferenceList.h"
 
 #include <gtest/gtest.h>
 
@@ -21,59 +22,7 @@ constexpr int stepsPerRun = 20000;
 constexpr int stepsPerRun = 500000;
 #endif
 
-// The list's contract over a vector and an index.
-struct Model
-{
-    std::vector<long> elements;
-    long cursor = -1;
-
-    long GetNum() const { return static_cast<long>(elements.size()); }
-    bool Has(long i) const { return i >= 0 && i < GetNum(); }
-    void MoveTo(long i) { cursor = Has(i) ? i : -1; }
-    void MoveToNext() { MoveTo(cursor + 1); }
-    void MoveToPre() { cursor = cursor < 0 ? GetNum() - 1 : cursor - 1; }
-    void InsertAt(long i, long element)
-    {
-        elements.insert(elements.begin() + i, element);
-        cursor = i;
-    }
-    void Insert(long element) { InsertAt(cursor < 0 ? GetNum() : cursor, element); }
-    void InsertAfter(long element) { InsertAt(cursor + 1, element); }
-    void Grow(long n) { elements.resize(static_cast<std::size_t>((std::max)(n, GetNum()))); }
-    void Del()
-    {
-        if (cursor >= 0)
-            elements.erase(elements.begin() + cursor--);
-    }
-    bool Move(long from, long to)
-    {
-        if (!Has(from) || to < 0 || to > GetNum() || to == from || to == from + 1)
-            return false;
-        const long element = elements[static_cast<std::size_t>(from)];
-        elements.insert(elements.begin() + to, element);
-        elements.erase(elements.begin() + (from < to ? from : from + 1));
-        cursor = from < to ? to - 1 : to;
-        return true;
-    }
-    void Splice(long at, const std::vector<long>& added)
-    {
-        const long position = Has(at) ? at : GetNum();
-        elements.insert(elements.begin() + position, added.begin(), added.end());
-        if (cursor >= position)
-            cursor += static_cast<long>(added.size());
-    }
-    long RemoveRange(long first, long number)
-    {
-        const long present = Has(first) ? std::clamp(number, 0L, GetNum() - first) : 0;
-        elements.erase(elements.begin() + (present ? first : 0),
-                       elements.begin() + (present ? first + present : 0));
-        if (cursor >= first + present)
-            cursor -= present;
-        else if (cursor >= first && present > 0)
-            cursor = first - 1;
-        return present;
-    }
-};
+using Model = quor::test::ReferenceList<long>;
 
 // One list and its model under the same random operations. Lists stay around `usualNum` elements long.
 template <class AnyList> class ModelRun

@@ -1,6 +1,6 @@
 // List and DualList against a vector: every operation, the cursor after each, the order of sorting.
 #include "tests/fuzz/native/Bytes.h"
-#include "tests/fuzz/native/ReferenceList.h"
+#include "tests/collections/ReferenceList.h"
 
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"
@@ -318,7 +318,7 @@ private:
 
     Bytes& bytes;
     AnyList list;
-    ReferenceList<Item> model;
+    quor::test::ReferenceList<Item> model;
     int next = 1;
 };
 

@@ -1,6 +1,6 @@
 // PDList: who deletes which object, in lists and their copies; and the queue and the array.
 #include "tests/fuzz/native/Bytes.h"
-#include "tests/fuzz/native/ReferenceList.h"
+#include "tests/collections/ReferenceList.h"
 
 #include "grid/collections/Array.h"
 #include "grid/collections/ListQuene.h"
@@ -197,7 +197,7 @@ private:
 
     Bytes& bytes;
     PDList<Counted> list;
-    ReferenceList<Counted*> model;
+    quor::test::ReferenceList<Counted*> model;
     long last = -1;
 };
 

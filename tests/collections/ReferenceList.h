@@ -3,9 +3,10 @@
 
 #include <algorithm>
 #include <cstddef>
+#include <utility>
 #include <vector>
 
-namespace quor::fuzz
+namespace quor::test
 {
 
 template <class T> struct ReferenceList
@@ -93,4 +94,4 @@ template <class T> struct ReferenceList
     }
 };
 
-} // namespace quor::fuzz
+} // namespace quor::test

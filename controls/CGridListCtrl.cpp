@@ -1,4 +1,4 @@
-// The report list's columns, mouse, keys and requests to edit; painting is in CGridListCtrlPaint.cpp.
+// The report list's columns, mouse, keys and requests to edit; painting is in ListPainting.cpp.
 #include "controls/CGridListCtrl.h"
 
 #include "controls/WindowLife.h"

@@ -681,7 +681,7 @@ private:
     bool showPending = false;
     CRect pendingShowRect;
 
-    // Editing (TGGridEdit.cpp).
+    // Editing (EditSession.cpp).
     // What a click and an edit begin with, and go on with after a hook: ends an edit that is open and does a
     // layout that is postponed. Runs the hooks of these, none when there is nothing to do.
     void Settle();

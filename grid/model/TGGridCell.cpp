@@ -1,4 +1,4 @@
-// A cell's text, read-only rule and rectangles; its drawing is in TGGridCellPaint.cpp.
+// A cell's text, read-only rule and rectangles; its drawing is in CellPainting.cpp.
 #include "grid/TGGridCell.h"
 
 #include "grid/TGGrid.h"

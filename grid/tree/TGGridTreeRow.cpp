@@ -1,5 +1,5 @@
 // A tree row's place in its tree: copies, navigation, counts, search and the plus or minus box. What changes
-// the tree is in TGGridTreeStructure.cpp.
+// the tree is in TreeStructure.cpp.
 #include "grid/TGGridTreeRow.h"
 
 #include "grid/model/RowWatch.h"

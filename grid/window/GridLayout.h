@@ -14,16 +14,16 @@ class TGGrid::Layout
 public:
     explicit Layout(TGGrid& servedGrid) : grid(servedGrid) {}
 
-    // Creation (TGGridWindow.cpp).
+    // Creation (WindowCreation.cpp).
     void CreateFont();
     void AdoptFont(HFONT source, BYTE quality);
     void CreateHeaders();
 
-    // Layout (TGGridLayout.cpp).
+    // Layout (GridLayout.cpp).
     void PerformLayout(int redraw);
     void MapDC();
 
-    // Scrolling (TGGridScroll.cpp).
+    // Scrolling (Scrolling.cpp).
     // What of the content is in view, in logical coordinates.
     CRect ViewRect();
     // MoveView with the layout up to date; may run hooks.

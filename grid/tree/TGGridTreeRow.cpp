@@ -1,5 +1,5 @@
-// A tree row's place in its tree: copies, navigation, counts, search and the plus or minus box. What changes
-// the tree is in TreeStructure.cpp.
+// A tree row's place in its tree: cells, navigation, counts, search and the plus or minus box. What changes
+// the tree is in TreeChildren.cpp, TreeCopies.cpp and TreeFolding.cpp, each with one kind of change.
 #include "grid/TGGridTreeRow.h"
 
 #include "grid/model/RowWatch.h"

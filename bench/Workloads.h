@@ -27,4 +27,7 @@ void RunTreeGrid(Report& report);
 // The property grid: filling, look-up by title, paints with few and with many properties.
 void RunPropGrid(Report& report);
 
+// Growth of what is done with rows: filling, clearing, sorting.
+void RunRowGrowth(Report& report);
+
 } // namespace bench

@@ -17,7 +17,7 @@ long Scattered(long i)
 
 } // namespace
 
-// ---- The tree grid ----------------------------------------------------------------------------------------
+// ---- The tree grid
 
 TreeGridSubject::TreeGridSubject(CWnd& parent) : grid(true)
 {
@@ -76,7 +76,7 @@ void TreeGridSubject::FoldAll()
         group->Fold();
 }
 
-// ---- The tree view ----------------------------------------------------------------------------------------
+// ---- The tree view
 
 TreeViewSubject::TreeViewSubject(CWnd& parent)
     : view(::CreateWindowEx(0, WC_TREEVIEW, L"",

@@ -69,7 +69,7 @@ public:
     TGGrid(const TGGrid&) = delete;
     TGGrid& operator=(const TGGrid&) = delete;
 
-    // ---- Window -----------------------------------------------------------------------------------------
+    // ---- Window
 
     // Creates the window in `rect` (client coordinates of `parent`) with the window style `windowStyle` and
     // control id 0. Returns FALSE on failure. WS_CHILD and WS_VISIBLE are the caller's to give; scroll bars
@@ -137,7 +137,7 @@ public:
     CFont* GetFont() { return &font; }
     CBrush& GetBrush() { return backBrush; }
 
-    // ---- Style word, see TGGridStyle --------------------------------------------------------------------
+    // ---- Style word, see TGGridStyle
 
     // The style word, not the window's style, which is CWnd::GetStyle().
     using TGGridStyle::GetStyle;
@@ -148,7 +148,7 @@ public:
     // Tree rows are joined by lines; repaints grid and headers.
     void SetTreeLine(bool on);
 
-    // ---- Counts and access ------------------------------------------------------------------------------
+    // ---- Counts and access
 
     // The rows that stand in the grid, without the children of folded rows and the new-row line; the columns.
     long GetRowNum() const { return rows.GetNum(); }
@@ -188,7 +188,7 @@ public:
     // own. Its rows have the grid's columns and follow them.
     PDList<TGGridRow>& GetRowPaste() { return rowPaste; }
 
-    // ---- Row cursor -------------------------------------------------------------------------------------
+    // ---- Row cursor
     // The cursor of the row list. Structure operations and GetSel move it.
 
     // A host's loop over the rows:
@@ -208,7 +208,7 @@ public:
     TGGridRow& CurRow();
     TGGridTreeRow& CurTreeRow();
 
-    // ---- Sort keys --------------------------------------------------------------------------------------
+    // ---- Sort keys
 
     // Adds a column index behind the keys present; the first key is the main key. Without keys the selected
     // columns take their place. Keys are column indices, which do not follow columns that come, go or move.
@@ -218,7 +218,7 @@ public:
     // The main key, -1 when there is none.
     long GetMainKey();
 
-    // ---- Structure --------------------------------------------------------------------------------------
+    // ---- Structure
     // But for the moves, these end an open cell edit, and all show the outcome at once; they call no
     // confirmation hook and notify nobody. A null row or column makes the grid create a plain one. The grid
     // owns what it is given, and deletes it when there is no memory to take it in; then the grid is as it was
@@ -271,7 +271,7 @@ public:
     // Deletes all rows and empties the selection; columns, keys and paste buffer stay.
     void Clear();
 
-    // ---- Selection --------------------------------------------------------------------------------------
+    // ---- Selection
     // Rows or columns are selected, never both: selecting one kind unselects the other.
 
     // Adds a row to the selection (scrolling it into view) or takes it out; ends with OnCurChanged(). An
@@ -313,7 +313,7 @@ public:
     // `wnd` is the grid or one of its descendants.
     bool IsMyFocus(const CWnd* wnd) const;
 
-    // ---- Cell editing -----------------------------------------------------------------------------------
+    // ---- Cell editing
 
     // A cell editor is open. An editor whose window somebody else destroys takes the session with it: what it
     // has not committed by then, as an edit does that loses the focus, is dropped.
@@ -338,7 +338,7 @@ public:
     // and need no more input. A second call starts the time anew.
     void AutoCloseCell(int ms);
 
-    // ---- Commands ---------------------------------------------------------------------------------------
+    // ---- Commands
     // What the user does: these check the style word and the selection, ask the OnBefore... hooks and report
     // the change. They return false, changing nothing, when refused. A row that a tree command hands to a
     // hook prepared stays the grid's also when the hook replaces it, and a row, child or column that a hook
@@ -382,7 +382,7 @@ public:
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
 protected:
-    // ---- Hooks, in their fixed order --------------------------------------------------------------------
+    // ---- Hooks, in their fixed order
     // The order is part of the binary interface: a derived grid fills the same places of the table through
     // which the compiled library calls, and so do hosts that were built against earlier versions. Hooks are
     // therefore neither inserted nor moved, whatever belongs together; TGTreeGrid's follow the last.

@@ -37,7 +37,7 @@ public:
     explicit TGTreeGrid(bool tree);
     ~TGTreeGrid() override;
 
-    // ---- Identifiers ------------------------------------------------------------------------------------
+    // ---- Identifiers
     // Both walk all leaves once and leave the row cursor past the last row.
 
     // The identifier for a leaf that now has `id`: `id` itself when at most one leaf has it, one greater than
@@ -48,7 +48,7 @@ public:
     // A null label counts as empty.
     bool IsRightLabel(const wchar_t* label);
 
-    // ---- State ------------------------------------------------------------------------------------------
+    // ---- State
 
     // The tree grid's own flag, which OnDataChanged() sets and only the host clears. There are two flags:
     // these two functions hide TGGrid::IsModified() and stand beside TGGrid::SetModify(), and none of them is
@@ -65,7 +65,7 @@ protected:
     // For hosts with menus of their own; the grid's context menus do not come here.
     void OnMenuCommand(UINT id);
 
-    // ---- The grid's hooks -------------------------------------------------------------------------------
+    // ---- The grid's hooks
 
     // Accepts every text.
     bool OnModified(TGGridCell& cell, CString& text) override;
@@ -92,7 +92,7 @@ protected:
     // Gives the pasted items whose identifier is in use a new one.
     void OnEndPaste() override;
 
-    // ---- Hooks of the tree grid, behind those of the grid -----------------------------------------------
+    // ---- Hooks of the tree grid, behind those of the grid
     // In this order: compiled hosts call them by their place behind the last hook of TGGrid.
 
 public:

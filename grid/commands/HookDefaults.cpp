@@ -7,7 +7,7 @@
 namespace QuorUiCtr
 {
 
-// ---- Observing hooks --------------------------------------------------------------------------------------
+// ---- Observing hooks
 
 void TGGrid::OnDblClick(TGGridRow&) {}
 void TGGrid::OnRClickCell(TGGridCell&, CPoint) {}
@@ -22,7 +22,7 @@ void TGGrid::OnEndCopy() {}
 void TGGrid::OnEndPaste() {}
 void TGGrid::OnEndMoveRow() {}
 
-// ---- Vetoing hooks ----------------------------------------------------------------------------------------
+// ---- Vetoing hooks
 
 bool TGGrid::OnBeforeEdit(TGGridCell&, bool&)
 {
@@ -119,7 +119,7 @@ bool TGGrid::OnMoveRow(long position)
     return OnMovingRow(position);
 }
 
-// ---- Information hooks ------------------------------------------------------------------------------------
+// ---- Information hooks
 
 bool TGGrid::OnCellButtonDown(TGGridCell&, CString&)
 {
@@ -151,7 +151,7 @@ bool TGGrid::OnActiveQuadTip(CString&) const
     return false;
 }
 
-// ---- Hooks with an effect of their own --------------------------------------------------------------------
+// ---- Hooks with an effect of their own
 
 void TGGrid::OnInsertCol(TGGridCol&)
 {
@@ -203,7 +203,7 @@ void TGGrid::OnBeforeRefresh(TGGridCell& cell)
     dc->SetBkMode(TRANSPARENT);
 }
 
-// ---- Notification -----------------------------------------------------------------------------------------
+// ---- Notification
 
 void TGGrid::SendParentNotify(unsigned short code) const
 {

@@ -13,7 +13,7 @@
 namespace QuorUiCtr
 {
 
-// ---- Selecting --------------------------------------------------------------------------------------------
+// ---- Selecting
 
 void TGGrid::SelectRow(long row, bool select)
 {
@@ -176,7 +176,7 @@ void TGGrid::Selecting::ShowBand(const CRect& band)
     grid.showPending = true;
 }
 
-// ---- Queries ----------------------------------------------------------------------------------------------
+// ---- Queries
 
 bool TGGrid::IsRowSelected(long i)
 {
@@ -234,7 +234,7 @@ bool TGGrid::IsSelFold()
     return true;
 }
 
-// ---- Search -----------------------------------------------------------------------------------------------
+// ---- Search
 
 bool TGGrid::FindAndSel(const wchar_t* text, long col)
 {

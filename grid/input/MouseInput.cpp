@@ -22,7 +22,7 @@ private:
     TGGrid& grid;
 };
 
-// ---- Hit tests --------------------------------------------------------------------------------------------
+// ---- Hit tests
 
 CPoint TGGrid::ClientToLogical(CPoint point) const
 {
@@ -64,7 +64,7 @@ INT_PTR TGGrid::OnToolHitTest(CPoint point, TOOLINFO* info) const
     return AnswerTip(*this, tip, static_cast<INT_PTR>(row) * 10 + col, 0, info);
 }
 
-// ---- Clicks -----------------------------------------------------------------------------------------------
+// ---- Clicks
 
 void TGGrid::OnLButtonDown(UINT flags, CPoint point)
 {
@@ -140,7 +140,7 @@ BOOL TGGrid::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message)
     return CWnd::OnSetCursor(wnd, hitTest, message);
 }
 
-// ---- Focus ------------------------------------------------------------------------------------------------
+// ---- Focus
 
 bool TGGrid::IsMyFocus(const CWnd* wnd) const
 {

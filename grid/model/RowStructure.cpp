@@ -15,7 +15,7 @@
 namespace QuorUiCtr
 {
 
-// ---- Rows -------------------------------------------------------------------------------------------------
+// ---- Rows
 
 TGGridRow* TGGrid::Structure::MakeRow()
 {
@@ -171,7 +171,7 @@ void TGGrid::Structure::NumberRows(long first)
             row->SetIndex(grid.rows.GetCur());
 }
 
-// ---- Tree rows --------------------------------------------------------------------------------------------
+// ---- Tree rows
 
 // Leaves the cursor there, so that a walk over the rows takes one step for each.
 bool TGGrid::Structure::IsOffspringAt(long i, const TGGridTreeRow& top)

@@ -36,7 +36,7 @@ TGGrid::~TGGrid()
     cols.Clear();
 }
 
-// ---- Style word -------------------------------------------------------------------------------------------
+// ---- Style word
 
 void TGGrid::SetRowSel(bool on)
 {
@@ -56,7 +56,7 @@ void TGGrid::SetTreeLine(bool on)
     Invalidate(1);
 }
 
-// ---- Access -----------------------------------------------------------------------------------------------
+// ---- Access
 
 TGGridRow& TGGrid::GetRow(long i)
 {
@@ -120,7 +120,7 @@ void TGGrid::SetCurRowIndex(long i)
         rowHeader->OnCurRowChanged();
 }
 
-// ---- Row cursor -------------------------------------------------------------------------------------------
+// ---- Row cursor
 
 bool TGGrid::IsOut() const
 {
@@ -138,7 +138,7 @@ TGGridTreeRow& TGGrid::CurTreeRow()
     return static_cast<TGGridTreeRow&>(CurRow());
 }
 
-// ---- Sort keys --------------------------------------------------------------------------------------------
+// ---- Sort keys
 
 long TGGrid::GetMainKey()
 {

@@ -18,7 +18,7 @@ TGGridTreeRow::~TGGridTreeRow()
     children.Clear();
 }
 
-// ---- Columns ----------------------------------------------------------------------------------------------
+// ---- Columns
 
 // Gives the children a cell more by `add`. Takes the cell at `position` away from all of them and from this
 // row when one cannot have it.
@@ -72,7 +72,7 @@ void TGGridTreeRow::MoveCol(long from, long to)
             child->MoveCol(from, to);
 }
 
-// ---- Navigation -------------------------------------------------------------------------------------------
+// ---- Navigation
 
 bool TGGridTreeRow::IsParentRow()
 {
@@ -149,7 +149,7 @@ bool TGGridTreeRow::IsBelow(const TGGridTreeRow* ancestor) const
     return row != nullptr;
 }
 
-// ---- Counts -----------------------------------------------------------------------------------------------
+// ---- Counts
 
 long TGGridTreeRow::GetChildIndex(TGGridTreeRow* child)
 {
@@ -198,7 +198,7 @@ long TGGridTreeRow::GetGlobalChildIndex(long position)
     return rowIndex;
 }
 
-// ---- Search -----------------------------------------------------------------------------------------------
+// ---- Search
 
 TGGridTreeRow* TGGridTreeRow::FindOffspring(const wchar_t* text, long col)
 {
@@ -229,7 +229,7 @@ bool TGGridTreeRow::FindAndSel(const wchar_t* text, long col)
     return true;
 }
 
-// ---- The plus or minus box --------------------------------------------------------------------------------
+// ---- The plus or minus box
 
 void TGGridTreeRow::GetTreeQuad(CRect& rect)
 {

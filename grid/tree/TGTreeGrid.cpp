@@ -46,7 +46,7 @@ void TGTreeGrid::OnMenuCommand(UINT id)
     }
 }
 
-// ---- Changes and editing ----------------------------------------------------------------------------------
+// ---- Changes and editing
 
 bool TGTreeGrid::OnModified(TGGridCell&, CString&)
 {
@@ -69,7 +69,7 @@ void TGTreeGrid::Open(const wchar_t*) {}
 void TGTreeGrid::OnSave() {}
 void TGTreeGrid::OnReload() {}
 
-// ---- Drawing ----------------------------------------------------------------------------------------------
+// ---- Drawing
 
 // The hooks of a cell may delete the row or change its cells.
 bool TGTreeGrid::OnRefresh(TGGridRow& row)
@@ -93,7 +93,7 @@ bool TGTreeGrid::OnRefresh(TGGridRow& row)
     return false;
 }
 
-// ---- New rows ---------------------------------------------------------------------------------------------
+// ---- New rows
 
 TGGridTreeRow* TGTreeGrid::SelectedItem()
 {
@@ -124,7 +124,7 @@ bool TGTreeGrid::OnBeforeInsertChild(TGGridTreeRow&, long, TGGridTreeRow*& child
 
 void TGTreeGrid::OnInsertRow(TGGridRow&) {}
 
-// ---- Identifiers of groups that become items --------------------------------------------------------------
+// ---- Identifiers of groups that become items
 
 bool TGTreeGrid::OnBeforeDeleteRow()
 {

@@ -7,7 +7,7 @@
 namespace QuorUiCtr
 {
 
-// ---- The walk ---------------------------------------------------------------------------------------------
+// ---- The walk
 
 TGGridRow* TGTreeGrid::Leaves::Next()
 {
@@ -33,7 +33,7 @@ void TGTreeGrid::AddAllLeaves(Leaves& leaves)
             leaves.Add(*row);
 }
 
-// ---- The rule ---------------------------------------------------------------------------------------------
+// ---- The rule
 
 TGTreeGrid::Identifiers::Identifiers(Leaves& leaves)
 {
@@ -76,7 +76,7 @@ void TGTreeGrid::Identifiers::Renumber(TGGridRow& leaf)
     Count(valid);
 }
 
-// ---- The services -----------------------------------------------------------------------------------------
+// ---- The services
 
 // Counts what one answer needs; the table of all identifiers is for the rare case that they are exhausted.
 int TGTreeGrid::GetAutoId(int id)

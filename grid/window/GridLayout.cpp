@@ -36,7 +36,7 @@ void InvalidateChild(CWnd* child)
 
 } // namespace
 
-// ---- Measures ---------------------------------------------------------------------------------------------
+// ---- Measures
 
 long TGGrid::GetBottom()
 {
@@ -98,7 +98,7 @@ bool TGGrid::FitLastCol()
     return true;
 }
 
-// ---- Layout -----------------------------------------------------------------------------------------------
+// ---- Layout
 
 void TGGrid::RecalcLayout(int redraw)
 {
@@ -264,7 +264,7 @@ void TGGrid::Invalidate(int erase)
     InvalidateChild(rowHeader);
 }
 
-// ---- Many changes as one ----------------------------------------------------------------------------------
+// ---- Many changes as one
 
 void TGGrid::BeginUpdate()
 {
@@ -295,7 +295,7 @@ void TGGrid::FlushLayout()
         Layout(*this).PerformLayout(0);
 }
 
-// ---- Drawing context --------------------------------------------------------------------------------------
+// ---- Drawing context
 
 void TGGrid::PrepareDC(CDC* context)
 {

@@ -51,7 +51,7 @@ CountryGrid::CountryGrid(LogPane& logPane, std::function<void()> whenChanged)
 {
 }
 
-// ---- Rows -------------------------------------------------------------------------------------------------
+// ---- Rows
 
 bool CountryGrid::Fill(const gallery::CsvTable& table)
 {
@@ -96,7 +96,7 @@ std::vector<CountryGrid::TGGridTreeRow*> CountryGrid::Roots()
     return roots;
 }
 
-// ---- Editing ----------------------------------------------------------------------------------------------
+// ---- Editing
 
 bool CountryGrid::Note(const samples::HookCall& call) const
 {
@@ -134,7 +134,7 @@ void CountryGrid::OnDataChanged()
     changed();
 }
 
-// ---- Numbers ----------------------------------------------------------------------------------------------
+// ---- Numbers
 
 void CountryGrid::AddNumbers(Row& row, Numbers& numbers)
 {

@@ -54,7 +54,7 @@ BOOL GalleryGrid::OnMouseWheel(UINT, short delta, CPoint)
     return TRUE;
 }
 
-// ---- Editing ----------------------------------------------------------------------------------------------
+// ---- Editing
 
 QuorUiCtr::TGCellCtrl* GalleryGrid::OnGetCellEdit(Cell& cell)
 {
@@ -118,7 +118,7 @@ void GalleryGrid::OnCmbEditchange(Cell& cell, CComboBox* combo)
     HookRecorder::OnCmbEditchange(cell, combo);
 }
 
-// ---- Tips -------------------------------------------------------------------------------------------------
+// ---- Tips
 // A tip shows 19 characters.
 
 bool GalleryGrid::OnCellTip(long row, long col, CString& text) const

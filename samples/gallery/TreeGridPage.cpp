@@ -105,7 +105,7 @@ bool TreeGridPage::ShowPictureView(size_t view, CString& nameSuffix)
     return view < 3;
 }
 
-// ---- Commands ---------------------------------------------------------------------------------------------
+// ---- Commands
 
 void TreeGridPage::OnGridCommand(UINT id)
 {
@@ -157,7 +157,7 @@ void TreeGridPage::OnQuery()
     SetBanner(answer);
 }
 
-// ---- Keys -------------------------------------------------------------------------------------------------
+// ---- Keys
 
 BOOL TreeGridPage::PreTranslateMessage(MSG* message)
 {

@@ -90,7 +90,7 @@ void CommandGrid::SelectCols(std::initializer_list<long> indices)
     TakeLog();
 }
 
-// ---- Hooks ------------------------------------------------------------------------------------------------
+// ---- Hooks
 
 bool CommandGrid::Note(const HookCall& call) const
 {

@@ -64,7 +64,7 @@ bool HostileGrid::OnCellButtonDown(Cell& cell, CString& text)
     return true;
 }
 
-// ---- Tips -------------------------------------------------------------------------------------------------
+// ---- Tips
 
 bool HostileGrid::OnCellTip(long row, long col, CString& text) const
 {

@@ -47,7 +47,7 @@ void ReferenceGrid::CurChanged()
     curRow = rowSel.size() == 1 ? rowSel[0] : -1;
 }
 
-// ---- Rows -------------------------------------------------------------------------------------------------
+// ---- Rows
 
 void ReferenceGrid::InsertRow(long i, ReferenceRow* row)
 {
@@ -116,7 +116,7 @@ void ReferenceGrid::Clear()
     colSel.clear();
 }
 
-// ---- Columns ----------------------------------------------------------------------------------------------
+// ---- Columns
 
 template <class Change> void ReferenceGrid::ForTree(ReferenceRow* row, Change change)
 {
@@ -172,7 +172,7 @@ void ReferenceGrid::MoveCol(long from, long to)
             ForTree(row, [from, to](ReferenceRow& r) { MoveElement(r.cells, from, to); });
 }
 
-// ---- Selection --------------------------------------------------------------------------------------------
+// ---- Selection
 
 void ReferenceGrid::SelectRow(long i, bool select)
 {
@@ -222,7 +222,7 @@ void ReferenceGrid::UnSelect()
     CurChanged();
 }
 
-// ---- Trees ------------------------------------------------------------------------------------------------
+// ---- Trees
 
 long ReferenceGrid::RowNum(const ReferenceRow* row) const
 {
@@ -380,7 +380,7 @@ bool ReferenceGrid::FindAndSel(const std::string& text, long col, bool tree)
     return false;
 }
 
-// ---- State ------------------------------------------------------------------------------------------------
+// ---- State
 
 std::string DescribeRow(const ReferenceRow& row)
 {

@@ -81,7 +81,7 @@ std::wstring NumberText(long number)
     return number == 0 ? std::wstring() : std::to_wstring(number);
 }
 
-// ---- Rows -------------------------------------------------------------------------------------------------
+// ---- Rows
 
 std::vector<Node*> ReferenceTree::Shown() const
 {
@@ -172,7 +172,7 @@ void ReferenceTree::Number(Node& node, bool inserted)
         Number(*child, inserted);
 }
 
-// ---- Identifiers ------------------------------------------------------------------------------------------
+// ---- Identifiers
 
 long ReferenceTree::AutoId(long id) const
 {
@@ -211,7 +211,7 @@ void ReferenceTree::Repair(const std::vector<Node*>& parents)
             parent->id = AutoId(parent->id);
 }
 
-// ---- New rows ---------------------------------------------------------------------------------------------
+// ---- New rows
 
 std::unique_ptr<Node> ReferenceTree::NewRow() const
 {
@@ -267,7 +267,7 @@ bool ReferenceTree::AppendChild()
     return true;
 }
 
-// ---- Delete, copy, cut, paste, move -----------------------------------------------------------------------
+// ---- Delete, copy, cut, paste, move
 
 bool ReferenceTree::Delete()
 {
@@ -386,7 +386,7 @@ void ReferenceTree::Move(long to)
     Repair(touched);
 }
 
-// ---- Order, search, folding -------------------------------------------------------------------------------
+// ---- Order, search, folding
 
 void ReferenceTree::Arrange(bool ascending, long col)
 {

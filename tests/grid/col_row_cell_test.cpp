@@ -30,7 +30,7 @@ protected:
     OpenRow* row;
 };
 
-// ---- Columns ----------------------------------------------------------------------------------------------
+// ---- Columns
 
 TEST_F(GridParts, AColumnStartsWhiteOnBlackTextWithoutStyle)
 {
@@ -122,7 +122,7 @@ TEST_F(GridParts, AColumnCanBeRenamedAndMoved)
     EXPECT_EQ(Col(0).GetWidth(), 50);
 }
 
-// ---- Rows -------------------------------------------------------------------------------------------------
+// ---- Rows
 
 TEST_F(GridParts, ANewRowHasNoDataIndexOrStyle)
 {
@@ -238,7 +238,7 @@ TEST_F(GridParts, SelectingAndRefreshingWithoutAWindowDoesNothing)
     EXPECT_EQ(grid.GetSafeHwnd(), nullptr);
 }
 
-// ---- Order of rows ----------------------------------------------------------------------------------------
+// ---- Order of rows
 
 struct Comparison
 {
@@ -291,7 +291,7 @@ TEST_F(GridParts, WithoutKeysTheSelectedColumnsDecideTheOrder)
     EXPECT_TRUE(first < *row);
 }
 
-// ---- Cells ------------------------------------------------------------------------------------------------
+// ---- Cells
 
 TEST_F(GridParts, ACellConvertsItsText)
 {

@@ -324,7 +324,7 @@ TEST_F(CommandEdges, AppendRow_ScrollsToTheNewRowLineOrToTheSelectedRow)
     EXPECT_EQ(grid.VScroll(), 0);
 }
 
-// ---- Deletion ---------------------------------------------------------------------------------------------
+// ---- Deletion
 
 TEST_F(CommandEdges, Delete_KeepsRowsThatMayNotBeDeleted)
 {

@@ -12,7 +12,7 @@ class HeaderDrags : public HeaderFixture
 {
 };
 
-// ---- Rows -------------------------------------------------------------------------------------------------
+// ---- Rows
 
 TEST_F(HeaderDrags, SelectedRows_MoveBeforeTheRowTheyAreDroppedOn)
 {
@@ -252,7 +252,7 @@ TEST_F(HeaderDrags, ScrollingUnderTheMark_TakesItAlong)
     EXPECT_TRUE(ShowsNoTrace(grid));
 }
 
-// ---- Drags that end before the button does ----------------------------------------------------------------
+// ---- Drags that end before the button does
 
 TEST_F(HeaderDrags, LostCapture_CancelsARowDrag)
 {
@@ -341,7 +341,7 @@ TEST_F(HeaderDrags, GridThatIsDestroyedDuringADrag_LeavesNoCapture)
     EXPECT_EQ(::GetCapture(), nullptr);
 }
 
-// ---- Columns ----------------------------------------------------------------------------------------------
+// ---- Columns
 
 TEST_F(HeaderDrags, SelectedColumns_MoveBeforeTheColumnTheyAreDroppedOn)
 {

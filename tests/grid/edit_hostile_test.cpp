@@ -14,7 +14,6 @@ namespace
 {
 
 // ---- The grid that is played with
-// --------------------------------------------------------------------------
 
 enum Column : long
 {
@@ -48,7 +47,6 @@ void FillHostile(HostileGrid& grid)
 }
 
 // ---- What the user does
-// ------------------------------------------------------------------------------------
 
 void OpenCell(HostileGrid& grid, long row, long col)
 {
@@ -242,7 +240,6 @@ const Scenario Scenarios[] = {
 };
 
 // ---- What the hook does
-// ------------------------------------------------------------------------------------
 
 struct Action
 {
@@ -346,7 +343,6 @@ const Action Actions[] = {
 };
 
 // ---- The table
-// ---------------------------------------------------------------------------------------------
 
 class HostileHook : public testing::TestWithParam<size_t>
 {

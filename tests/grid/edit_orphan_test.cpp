@@ -35,7 +35,7 @@ protected:
     }
 };
 
-// ---- The cell goes ----------------------------------------------------------------------------------------
+// ---- The cell goes
 
 TEST_F(EditOrphan, RowDeletedThatAHookBeginsToEdit_TakesTheEditorAlong)
 {
@@ -105,7 +105,7 @@ TEST_F(EditOrphan, ParentThatTheHiddenEditorTells_MayDeleteTheRowItself)
     ExpectNoEditor(inner);
 }
 
-// ---- The editor goes --------------------------------------------------------------------------------------
+// ---- The editor goes
 
 enum class Kind
 {

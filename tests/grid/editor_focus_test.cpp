@@ -228,7 +228,6 @@ TEST_F(EditorFocus, CommitOfOneGrid_LeavesTheSessionOfAnotherOpen)
 }
 
 // ---- Button
-// ------------------------------------------------------------------------------------------------
 
 TEST_F(EditorFocus, PressedButton_HandsTheEditorsTextToTheHookAndGivesTheFocusBack)
 {
@@ -285,7 +284,6 @@ TEST_F(EditorFocus, DialogOfTheButtonHook_LeavesTheSessionOpen)
 }
 
 // ---- Tip of the button
-// -------------------------------------------------------------------------------------
 
 class ButtonTip : public EditorFocus
 {

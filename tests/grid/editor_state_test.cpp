@@ -114,7 +114,6 @@ TEST_F(EditorState, ModifyMark_IsTheEditsOwn)
 }
 
 // ---- Spin
-// --------------------------------------------------------------------------------------------------
 
 TEST_F(EditorState, Spin_CountsFromZeroToOneHundredThousandByDefault)
 {
@@ -246,7 +245,6 @@ TEST_F(EditorState, TypedNumber_MovesTheSpinWhileItIsInTheRange)
 }
 
 // ---- Combo boxes
-// -------------------------------------------------------------------------------------------
 
 TEST_F(EditorState, ListCombo_SelectsTheFirstItemThatBeginsWithTheTextIgnoringCase)
 {

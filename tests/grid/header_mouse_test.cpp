@@ -20,7 +20,7 @@ protected:
     CommandGrid grid;
 };
 
-// ---- Row header -------------------------------------------------------------------------------------------
+// ---- Row header
 
 TEST_F(HeaderClicks, Row_BecomesTheOnlySelectedOne)
 {
@@ -228,7 +228,7 @@ TEST_F(HeaderClicks, ClosingTheWindowInAHook_EndsEveryClick)
         }
 }
 
-// ---- Column header ----------------------------------------------------------------------------------------
+// ---- Column header
 
 TEST_F(HeaderClicks, Column_BecomesTheOnlySelectedOne)
 {
@@ -291,7 +291,7 @@ TEST_F(HeaderClicks, DoubleClickOnAColumn_DoesNothing)
     EXPECT_EQ(grid.TakeText(), "");
 }
 
-// ---- Corner -----------------------------------------------------------------------------------------------
+// ---- Corner
 
 TEST_F(HeaderClicks, Corner_TakesTheFocusAndSelectsOnlyOnADoubleClick)
 {

@@ -296,7 +296,7 @@ TEST_F(GridHeaders, SystemHeaders_RepaintAPartLikeTheWhole)
     }
 }
 
-// ---- Points -----------------------------------------------------------------------------------------------
+// ---- Points
 
 TEST_F(GridHeaders, PtToCell_FindsRowAndColumn)
 {
@@ -329,7 +329,7 @@ TEST_F(GridHeaders, PointBesideTheCells_IsTheColumnCountAndARowBelow)
     EXPECT_EQ(2, col);
 }
 
-// ---- Tips -------------------------------------------------------------------------------------------------
+// ---- Tips
 
 TEST_F(GridHeaders, CellTip_IsNumberedByRowAndColumn)
 {

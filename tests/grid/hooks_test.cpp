@@ -214,7 +214,7 @@ TEST_F(GridHooks, ChoosingAnItemStoresItsTextAndChoosingNothingStoresNothing)
     EXPECT_FALSE(grid.IsModified());
 }
 
-// ---- Notification of the parent ---------------------------------------------------------------------------
+// ---- Notification of the parent
 
 using Log = std::vector<std::string>;
 

@@ -219,7 +219,7 @@ INSTANTIATE_TEST_SUITE_P(Keys, KeyMap, testing::ValuesIn(keyCases),
                              return std::string(test.param.name);
                          });
 
-// ---- Scrolling keys ---------------------------------------------------------------------------------------
+// ---- Scrolling keys
 
 class ScrollKeys : public HeaderFixture
 {

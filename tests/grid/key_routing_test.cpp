@@ -28,7 +28,7 @@ std::string Edited(CommandGrid& grid)
     return grid.GetCurCell(row, col) ? std::to_string(row) + "," + std::to_string(col) : "-";
 }
 
-// ---- With an editor open ----------------------------------------------------------------------------------
+// ---- With an editor open
 
 class EditorKeys : public HeaderFixture
 {
@@ -105,7 +105,7 @@ TEST_F(EditorKeys, DialogCode_WantsAllKeys)
     EXPECT_EQ(grid.SendMessage(WM_GETDLGCODE), DLGC_WANTALLKEYS);
 }
 
-// ---- In dialogs and forms ---------------------------------------------------------------------------------
+// ---- In dialogs and forms
 
 class KeyDialog : public CDialog
 {
@@ -212,7 +212,7 @@ TEST(FormKeys, EnterAndEscape_AreHandedToTheForm)
     frame->DestroyWindow();
 }
 
-// ---- Menu commands ----------------------------------------------------------------------------------------
+// ---- Menu commands
 
 class MenuCommands : public HeaderFixture
 {

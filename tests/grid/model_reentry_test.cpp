@@ -169,7 +169,7 @@ TEST_F(ModelReentry, FoldAllAndAssignmentOfARowThatTheHookDeletesEnd)
     EXPECT_TRUE(grid.IsEmpty());
 }
 
-// ---- Random operations inside random operations -----------------------------------------------------------
+// ---- Random operations inside random operations
 
 class ReentryFuzzer
 {

@@ -272,7 +272,7 @@ TEST_F(GridMouse, CellEditor_CountsAsTheGridsFocus)
     EXPECT_NE(active, corner());
 }
 
-// ---- Colours of the editor --------------------------------------------------------------------------------
+// ---- Colours of the editor
 
 TEST_F(GridMouse, Editor_HasTheColumnsColours)
 {
@@ -310,7 +310,7 @@ TEST_F(GridMouse, OtherControls_HaveTheDefaultColours)
     grid.CancelEditCell();
 }
 
-// ---- Tips -------------------------------------------------------------------------------------------------
+// ---- Tips
 
 // The text of the tool that a tool-tip control of this thread holds.
 std::wstring ShownTip()

@@ -182,7 +182,7 @@ TEST(RemovalMomentsPlain, AHookMayPasteTheRowThatIsBeingCut)
     EXPECT_TRUE(grid.GetRowPaste().IsEmpty());
 }
 
-// ---- The current row --------------------------------------------------------------------------------------
+// ---- The current row
 
 TEST_P(RemovalMoments, TheCurrentRowFollowsItsRowWhenOthersComeAndGo)
 {
@@ -208,7 +208,7 @@ TEST_P(TreeRemovalMoments, TheCurrentRowFollowsItsRowWhenChildrenAreShownAndDele
     EXPECT_EQ(Selection(grid), "rows 3 | cur 3,-1");
 }
 
-// ---- Many rows --------------------------------------------------------------------------------------------
+// ---- Many rows
 
 double Milliseconds(const std::function<void()>& work)
 {
@@ -287,7 +287,7 @@ TEST(RemovalOfManyRows, TakesTimeInProportion)
     });
 }
 
-// ---- Pasting at the end -----------------------------------------------------------------------------------
+// ---- Pasting at the end
 
 class PasteWhileEditing : public EditTest
 {

@@ -143,7 +143,7 @@ TEST_F(GridSelectionWindow, SelectAll_LeavesThePictureToARepaintOfEverything)
     EXPECT_EQ(black, At(99, 22));
 }
 
-// ---- Postponed painting -----------------------------------------------------------------------------------
+// ---- Postponed painting
 
 TEST_F(GridSelectionWindow, SelectingInsideAnUpdate_ShowsAtItsEnd)
 {
@@ -190,7 +190,7 @@ TEST_F(GridSelectionWindow, SelectionChangedWhilePainting_IsShownAsItIs)
         EXPECT_EQ(white, At(99, row * 20 + 2)) << row;
 }
 
-// ---- Cells drawn by themselves ----------------------------------------------------------------------------
+// ---- Cells drawn by themselves
 
 TEST_F(GridSelectionWindow, CellDrawnInASelectedRow_StaysInverted)
 {

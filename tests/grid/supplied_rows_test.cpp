@@ -182,7 +182,7 @@ TEST_F(SuppliedOnTheNewRowLine, ARowFitsTheColumnsThatTheHookLeaves)
     EXPECT_EQ(Cells(grid, grid.GetRow(1)), "|n|");
 }
 
-// ---- Columns that change between the making of a row and its insertion ------------------------------------
+// ---- Columns that change between the making of a row and its insertion
 
 void ExpectCellsFit(TGGrid& grid)
 {

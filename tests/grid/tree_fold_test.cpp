@@ -230,7 +230,7 @@ TEST_F(TreeFold, SetRowNumDeletesShownRowsOfTheTreeFromTheEnd)
     EXPECT_EQ(b->GetChildNum(), 1);
 }
 
-// ---- Rows whose flag does not tell what is shown ----------------------------------------------------------
+// ---- Rows whose flag does not tell what is shown
 
 TEST_F(TreeFold, FoldHidesChildrenThatAreShownWhateverTheFlagSays)
 {
@@ -251,7 +251,7 @@ TEST_F(TreeFold, AChildAddedToARowMarkedUnfoldedWithHiddenChildrenCanBeFoldedAnd
     EXPECT_EQ(Texts(grid), "a f");
 }
 
-// ---- Sorting children -------------------------------------------------------------------------------------
+// ---- Sorting children
 
 TEST_F(TreeFold, ArrangeChildSortsEveryLevelAndLeavesTheGridUntilItIsShownAgain)
 {
@@ -275,7 +275,7 @@ TEST_F(TreeFold, ArrangeChildOfALeafDoesNothing)
     EXPECT_EQ(g->GetChildNum(), 0);
 }
 
-// ---- Search -----------------------------------------------------------------------------------------------
+// ---- Search
 
 TEST_F(TreeFold, FindAndSelOfARowSearchesItsDescendantsOnlyAndUnfoldsTheWay)
 {

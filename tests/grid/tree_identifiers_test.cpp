@@ -139,7 +139,7 @@ TEST(TreeIdentifiers, Services_LeaveTheRowCursorPastTheLastRow)
     EXPECT_TRUE(grid.IsOut());
 }
 
-// ---- The rule for many rows, against the rule step by step ------------------------------------------------
+// ---- The rule for many rows, against the rule step by step
 
 void CollectLeaves(TGGridRow& row, std::vector<TGGridRow*>& leaves)
 {

@@ -130,7 +130,7 @@ TEST_F(TreeRow, TheGridIndexOfAChildCountsTheRowsOfItsSiblingsBefore)
     EXPECT_EQ((a->*indexOf)(2), 5);
 }
 
-// ---- Inserting and deleting children ----------------------------------------------------------------------
+// ---- Inserting and deleting children
 
 TEST_F(TreeRow, AChildInsertedIntoAFoldedRowStaysHidden)
 {
@@ -245,7 +245,7 @@ TEST_F(TreeRow, DelRowExRemovesChildrenThroughTheirParentAndParentsFolded)
     EXPECT_EQ(Texts(grid), "");
 }
 
-// ---- Columns ----------------------------------------------------------------------------------------------
+// ---- Columns
 
 TEST_F(TreeRow, ColumnsReachEveryRowOfTheTreeOnce)
 {
@@ -265,7 +265,7 @@ TEST_F(TreeRow, ColumnsReachEveryRowOfTheTreeOnce)
     EXPECT_EQ(Cells(grid, *a), "|a");
 }
 
-// ---- Copies -----------------------------------------------------------------------------------------------
+// ---- Copies
 
 TEST_F(TreeRow, AssigningATreeRowAddsCopiesOfTheChildrenBehindThoseOfTheTarget)
 {
@@ -339,7 +339,7 @@ TEST_F(TreeRow, TransferringARowToItselfKeepsItsHostData)
     EXPECT_EQ(CountedData::alive, 1);
 }
 
-// ---- The plus or minus box --------------------------------------------------------------------------------
+// ---- The plus or minus box
 
 TEST_F(TreeRow, TheBoxOfARootRowIsInsetByTwoAndChildrenAreIndented)
 {

@@ -145,7 +145,7 @@ TEST_F(HeaderInput, AnotherWindowThatTakesTheCapture_CancelsTheDrag)
     EXPECT_EQ(grid.Rows(), "a b c* d e f g h");
 }
 
-// ---- Menus ------------------------------------------------------------------------------------------------
+// ---- Menus
 
 class MenuInput : public HeaderInput
 {

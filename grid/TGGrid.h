@@ -537,7 +537,7 @@ protected:
     // Converts a point from client to logical coordinates; unchanged without a drawing context.
     CPoint ClientToLogical(CPoint point) const;
     // The first column whose left <= `logicalX` < right, the column count when there is none.
-    long ColAt(long logicalX) const;
+    long ColAtX(long logicalX) const;
     // Does a layout that is postponed between BeginUpdate and EndUpdate now; the repaint stays postponed. The
     // layout ends an open cell edit, which may run hooks.
     void FlushLayout();
@@ -687,7 +687,7 @@ private:
     void Settle();
 
     // The row or column in a slot; null outside and for an empty slot.
-    TGGridRow* RowAt(long i);
+    TGGridRow* RowAtIndex(long i);
     TGGridCol* ColAtIndex(long i);
 
     // Makes a shown row the only one selected.

@@ -51,7 +51,7 @@ public:
     bool InsertRowAtSelection(CommandPlace place, bool asTree);
     bool InsertRootRow(long selected, CommandPlace place, bool asTree);
     bool InsertSibling(long selected, CommandPlace place, bool asTree);
-    void FoldRowAt(long i);
+    void FoldRowAtIndex(long i);
     bool AskForRow(long position, bool asTree, TGGridRow*& row);
     bool AskForChild(TGGridTreeRow& parent, long position, bool asTree, TGGridTreeRow*& child);
     bool ReportInsertedRow(long position);
@@ -176,7 +176,7 @@ bool TGGrid::Commands::InsertRootRow(long selected, CommandPlace place, bool asT
     if (!AskForRow(position, asTree, row))
         return false;
     if (place == CommandPlace::After)
-        FoldRowAt(selected);
+        FoldRowAtIndex(selected);
     grid.InsertRow((std::min)(position, grid.GetRowNum()), row);
     return true;
 }
@@ -199,7 +199,7 @@ bool TGGrid::Commands::InsertSibling(long selected, CommandPlace place, bool asT
     }
     const RowWatch watch(grid, parent);
     if (place == CommandPlace::After)
-        FoldRowAt(selected);
+        FoldRowAtIndex(selected);
     if (!watch.IsAlive())
     {
         delete child;
@@ -209,7 +209,7 @@ bool TGGrid::Commands::InsertSibling(long selected, CommandPlace place, bool asT
     return true;
 }
 
-void TGGrid::Commands::FoldRowAt(long i)
+void TGGrid::Commands::FoldRowAtIndex(long i)
 {
     if (grid.IsTreeGrid() && grid.GetRow(i).IsTreeRow())
         grid.GetTreeRow(i).Fold();
@@ -328,10 +328,10 @@ void TGGrid::Commands::DeleteRows(const std::vector<long>& indices)
 {
     const TGGridUpdate update(grid);
     const LateNumbers late(grid);
-    const std::vector<const TGGridRow*> doomed = Structure(grid).RowsAt(indices);
+    const std::vector<const TGGridRow*> doomed = Structure(grid).RowsAtIndices(indices);
     grid.ClearSel();
     for (std::size_t k = indices.size(); k-- > 0;)
-        if (doomed[k] != nullptr && grid.RowAt(indices[k]) == doomed[k])
+        if (doomed[k] != nullptr && grid.RowAtIndex(indices[k]) == doomed[k])
             grid.DelRowEx(indices[k]);
 }
 

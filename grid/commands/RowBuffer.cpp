@@ -59,7 +59,7 @@ void TGGrid::RowBuffer::CopySelection()
     std::vector<std::unique_ptr<TGGridRow>> copies;
     std::vector<TGGridRow*> added;
     for (const long i : grid.rowSel)
-        if (TGGridRow* row = grid.RowAt(i))
+        if (TGGridRow* row = grid.RowAtIndex(i))
         {
             copies.push_back(CopyOfRow(*row));
             added.push_back(copies.back().get());
@@ -117,13 +117,13 @@ void TGGrid::RowBuffer::CutSelection()
     FoldSelectedRows();
     const LateNumbers late(grid);
     const std::vector<long> indices(grid.rowSel.begin(), grid.rowSel.end());
-    const std::vector<const TGGridRow*> cut = Structure(grid).RowsAt(indices);
+    const std::vector<const TGGridRow*> cut = Structure(grid).RowsAtIndices(indices);
     grid.rowPaste.Reserve(static_cast<long>(indices.size()));
     grid.ClearSel();
     for (std::size_t k = indices.size(); k-- > 0;)
     {
         grid.EndEditCell();
-        TGGridRow* row = grid.RowAt(indices[k]);
+        TGGridRow* row = grid.RowAtIndex(indices[k]);
         if (row == nullptr || row != cut[k])
             continue;
         if (row->IsTreeRow())
@@ -139,7 +139,7 @@ void TGGrid::RowBuffer::FoldSelectedRows()
 {
     for (long k = 0; k < grid.GetRowSelNum(); ++k)
     {
-        TGGridRow* row = grid.RowAt(grid.rowSel[k]);
+        TGGridRow* row = grid.RowAtIndex(grid.rowSel[k]);
         if (row != nullptr && row->IsParentRow())
             static_cast<TGGridTreeRow*>(row)->Fold();
     }
@@ -241,7 +241,7 @@ void TGGrid::RowBuffer::PutBack(Rows taken)
 // first, which turns their order around.
 void TGGrid::RowBuffer::PlaceAll(long row)
 {
-    TGGridRow* follower = grid.RowAt(row);
+    TGGridRow* follower = grid.RowAtIndex(row);
     if (follower != nullptr && follower->IsChildRow())
     {
         TGGridTreeRow& sibling = static_cast<TGGridTreeRow&>(*follower);

@@ -81,7 +81,7 @@ long TGColSelector::PtToCol(CPoint point) const
         return point.x;
     if (grid->IsRowSel())
         point.x += grid->GetRowHeight();
-    return grid->ColAt(grid->ClientToLogical(point).x);
+    return grid->ColAtX(grid->ClientToLogical(point).x);
 }
 
 INT_PTR TGColSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const

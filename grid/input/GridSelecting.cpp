@@ -132,7 +132,7 @@ void TGGrid::Selecting::ChangeRowBand(long row, bool select)
 {
     if (!CanInvertNow())
         grid.Invalidate(0);
-    else if (TGGridRow* changed = grid.GetSafeHwnd() != nullptr ? grid.RowAt(row) : nullptr)
+    else if (TGGridRow* changed = grid.GetSafeHwnd() != nullptr ? grid.RowAtIndex(row) : nullptr)
         changed->Select(select);
 }
 
@@ -227,7 +227,7 @@ bool TGGrid::IsSelFold()
         return true;
     for (const long i : rowSel)
     {
-        TGGridRow* row = RowAt(i);
+        TGGridRow* row = RowAtIndex(i);
         if (row != nullptr && row->IsParentRow() && row->HasFlag(TGGridRow::UnfoldFlag))
             return false;
     }

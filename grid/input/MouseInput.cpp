@@ -35,10 +35,10 @@ void TGGrid::PtToCell(CPoint point, long& row, long& col) const
 {
     const CPoint logical = ClientToLogical(point);
     row = logical.y / GetRowHeight();
-    col = ColAt(logical.x);
+    col = ColAtX(logical.x);
 }
 
-long TGGrid::ColAt(long logicalX) const
+long TGGrid::ColAtX(long logicalX) const
 {
     long index = 0;
     for (const TGGridCol* col : cols)

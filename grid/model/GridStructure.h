@@ -41,7 +41,7 @@ public:
     // Runs these hooks for the row at `i` and takes it out, unless they did; its index becomes -1.
     void HideRow(long i);
     // The rows at `indices`, to be compared with what stands there after hooks and for nothing else.
-    std::vector<const TGGridRow*> RowsAt(std::span<const long> indices);
+    std::vector<const TGGridRow*> RowsAtIndices(std::span<const long> indices);
     // Takes a row out of its parent's children and its shown offspring out of the rows.
     void DetachFromTree(TGGridRow& row);
     // Leaves the child rows to their parents: empties their slots.

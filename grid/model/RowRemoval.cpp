@@ -17,24 +17,24 @@ bool TGGrid::Structure::PrepareToGo(TGGridRow& row)
         grid.SelectRow(row.GetIndex(), false);
     // What the hook has opened may stand on the row.
     grid.CancelEditCell();
-    return watch.IsAlive() && grid.RowAt(row.GetIndex()) == &row;
+    return watch.IsAlive() && grid.RowAtIndex(row.GetIndex()) == &row;
 }
 
 void TGGrid::Structure::HideRow(long i)
 {
-    TGGridRow* row = grid.RowAt(i);
+    TGGridRow* row = grid.RowAtIndex(i);
     if (row == nullptr || !PrepareToGo(*row))
         return;
     RemoveRows(row->GetIndex(), 1);
     row->SetIndex(-1);
 }
 
-std::vector<const TGGridRow*> TGGrid::Structure::RowsAt(std::span<const long> indices)
+std::vector<const TGGridRow*> TGGrid::Structure::RowsAtIndices(std::span<const long> indices)
 {
     std::vector<const TGGridRow*> found;
     found.reserve(indices.size());
     for (const long i : indices)
-        found.push_back(grid.RowAt(i));
+        found.push_back(grid.RowAtIndex(i));
     return found;
 }
 
@@ -42,7 +42,7 @@ void TGGrid::Structure::RemoveRows(long at, long number)
 {
     if (number <= 0)
         return;
-    const TGGridRow* single = number == 1 ? grid.RowAt(at) : nullptr;
+    const TGGridRow* single = number == 1 ? grid.RowAtIndex(at) : nullptr;
     const long stored = single != nullptr ? single->index : -1;
     const long before = grid.GetRowNum();
     grid.rows.Release(at, number);

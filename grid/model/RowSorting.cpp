@@ -63,7 +63,7 @@ void TGGrid::Arrange(bool ascending)
     {
         TGGridUpdate update(*this);
         // Folding and unfolding run hooks, which may choose another current row or delete this one.
-        TGGridRow* const current = RowAt(curRowIndex);
+        TGGridRow* const current = RowAtIndex(curRowIndex);
         const RowWatch currentWatch(*this, current);
         std::vector<TGGridRow*> selected;
         for (long i : rowSel)

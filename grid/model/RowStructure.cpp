@@ -64,11 +64,11 @@ void TGGrid::DelRow(long i)
     ASSERT(IsValidRow(i));
     if (!IsValidRow(i))
         return;
-    TGGridRow* row = RowAt(i);
+    TGGridRow* row = RowAtIndex(i);
     if (row == nullptr)
     {
         SelectRow(i, false);
-        if (!IsValidRow(i) || RowAt(i) != nullptr)
+        if (!IsValidRow(i) || RowAtIndex(i) != nullptr)
             return;
     }
     else
@@ -86,7 +86,7 @@ void TGGrid::DelRow(long i)
 void TGGrid::DelRowEx(long i)
 {
     ASSERT(IsValidRow(i));
-    TGGridRow* row = RowAt(i);
+    TGGridRow* row = RowAtIndex(i);
     const RowWatch watch(*this, row);
     const TGGridUpdate update(*this);
     if (row != nullptr && row->IsTreeRow())
@@ -201,14 +201,14 @@ void TGGrid::Structure::RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden
         return;
     }
     for (long i = hidden.last; i >= hidden.first; --i)
-        if (const TGGridRow* row = grid.RowAt(i); row != nullptr && row->GetIndex() == -1)
+        if (const TGGridRow* row = grid.RowAtIndex(i); row != nullptr && row->GetIndex() == -1)
             RemoveRows(i, 1);
 }
 
 void TGGrid::Structure::HideTree(TGGridTreeRow& top)
 {
     RemoveOffspring(top);
-    if (grid.RowAt(top.GetIndex()) != &top)
+    if (grid.RowAtIndex(top.GetIndex()) != &top)
         return;
     RemoveRows(top.GetIndex(), 1);
     top.SetIndex(-1);
@@ -220,11 +220,11 @@ void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
     std::vector<TGGridRow*> shown;
     top.CollectOffspring(shown);
     const bool partlyShown = top.HasShownOffspring();
-    const TGGridRow* const current = grid.RowAt(grid.curRowIndex);
+    const TGGridRow* const current = grid.RowAtIndex(grid.curRowIndex);
     if (partlyShown)
     {
         for (const long i : grid.rowSel)
-            selected.push_back(grid.RowAt(i));
+            selected.push_back(grid.RowAtIndex(i));
         grid.rows.Reserve(grid.GetRowNum() + static_cast<long>(shown.size()));
         RemoveOffspring(top);
     }

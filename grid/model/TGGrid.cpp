@@ -61,7 +61,7 @@ void TGGrid::SetTreeLine(bool on)
 TGGridRow& TGGrid::GetRow(long i)
 {
     ASSERT(IsValidRow(i));
-    if (TGGridRow* row = RowAt(i))
+    if (TGGridRow* row = RowAtIndex(i))
     {
         rows.MoveTo(i);
         return *row;
@@ -92,7 +92,7 @@ TGGridCell& TGGrid::GetCell(long row, long col)
 }
 
 // The row or column in a slot, without moving the cursor; null outside and for an empty slot.
-TGGridRow* TGGrid::RowAt(long i)
+TGGridRow* TGGrid::RowAtIndex(long i)
 {
     const auto slot = rows.IteratorAt(i);
     return slot == rows.end() ? nullptr : *slot;

@@ -11,7 +11,7 @@ TGGridTreeRow* TGGrid::Structure::ParentOf(TGGridRow* row)
 
 long TGGrid::Structure::EndOfTree(long i)
 {
-    TGGridRow* row = grid.RowAt(i++);
+    TGGridRow* row = grid.RowAtIndex(i++);
     if (row != nullptr && row->IsTreeRow())
         while (IsOffspringAt(i, static_cast<TGGridTreeRow&>(*row)))
             ++i;
@@ -25,8 +25,8 @@ bool TGGrid::Structure::PlaceMovingRow(long from, long to)
     const long end = EndOfTree(from);
     if (to >= from && to <= end)
         return false;
-    TGGridRow* const row = grid.RowAt(from);
-    TGGridRow* const next = grid.RowAt(to);
+    TGGridRow* const row = grid.RowAtIndex(from);
+    TGGridRow* const next = grid.RowAtIndex(to);
     TGGridTreeRow* const parent = ParentOf(row);
     const bool beforeSibling = to < grid.GetRowNum() && ParentOf(next) == parent;
     if (!beforeSibling && to != (parent != nullptr ? EndOfTree(parent->GetIndex()) : grid.GetRowNum()))

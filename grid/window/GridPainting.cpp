@@ -101,7 +101,7 @@ void TGGrid::Painting::InvertSelectedRows()
     const RowRange visible = VisibleRows();
     auto entry = SelectedIndices::FindNotBelow(grid.rowSel, visible.first);
     for (; entry != grid.rowSel.end() && *entry <= visible.last; ++entry)
-        if (TGGridRow* row = grid.RowAt(*entry))
+        if (TGGridRow* row = grid.RowAtIndex(*entry))
             row->Select(true);
 }
 
@@ -122,7 +122,7 @@ void TGGrid::Painting::InvertSelectionIn(const CRect& drawn)
             invertPart(*col);
     auto entry = SelectedIndices::FindNotBelow(grid.rowSel, drawn.top / grid.GetRowHeight());
     for (; entry != grid.rowSel.end() && *entry <= drawn.bottom / grid.GetRowHeight(); ++entry)
-        if (TGGridRow* row = grid.RowAt(*entry))
+        if (TGGridRow* row = grid.RowAtIndex(*entry))
             invertPart(*row);
     if (grid.rowHeader != nullptr)
         grid.rowHeader->RestoreDropMark(drawn);

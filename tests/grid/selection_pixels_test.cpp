@@ -72,7 +72,7 @@ private:
             return white;
         if (y % GetRowHeight() == 0 || x == GetRight())
             return lineColour;
-        TGGridCol& col = GetCol(ColAt(x));
+        TGGridCol& col = GetCol(ColAtX(x));
         CRect edges;
         GetEdges(col, edges);
         return x == edges.left ? lineColour : col.GetBackColor();
@@ -82,7 +82,7 @@ private:
     {
         if (x >= GetRight() || y >= GetBottom())
             return false;
-        return IsColSelected() ? IsColSelected(ColAt(x)) : IsRowSelected(y / GetRowHeight());
+        return IsColSelected() ? IsColSelected(ColAtX(x)) : IsRowSelected(y / GetRowHeight());
     }
 
     // The edges follow from the widths of the columns before.

@@ -61,13 +61,13 @@ TEST(PropertyGridGeometry, RowsAndPointsFitTogether)
     for (int row = 3; row < 8; ++row)
     {
         const Box rect = RowRectangle(List, 20, 3, row);
-        EXPECT_EQ(RowAt(List, 20, 3, 100, rect.top), row);
-        EXPECT_EQ(RowAt(List, 20, 3, 100, rect.bottom - 1), row);
+        EXPECT_EQ(RowAtY(List, 20, 3, 100, rect.top), row);
+        EXPECT_EQ(RowAtY(List, 20, 3, 100, rect.bottom - 1), row);
     }
-    EXPECT_EQ(RowAt(List, 20, 3, 100, 19), -1);
-    EXPECT_EQ(RowAt(List, 20, 3, 100, 120), -1);
-    EXPECT_EQ(RowAt(List, 20, 3, 5, 60), -1) << "below the last row";
-    EXPECT_EQ(RowAt(List, 0, 0, 5, 60), -1) << "no font yet";
+    EXPECT_EQ(RowAtY(List, 20, 3, 100, 19), -1);
+    EXPECT_EQ(RowAtY(List, 20, 3, 100, 120), -1);
+    EXPECT_EQ(RowAtY(List, 20, 3, 5, 60), -1) << "below the last row";
+    EXPECT_EQ(RowAtY(List, 0, 0, 5, 60), -1) << "no font yet";
 }
 
 TEST(PropertyGridGeometry, ScrollingKeepsTheListFull)

@@ -32,7 +32,7 @@ CMFCPropertyGridCtrl::HitTest(CPoint pt, CMFCPropertyGridProperty::ClickArea* pn
         return nullptr;
     }
     const bool isInList = pt.x >= list.left && pt.x < list.right;
-    const int row = quorfx::RowAt(list, m_nRowHeight, m_nFirstRow, RowCount(), pt.y);
+    const int row = quorfx::RowAtY(list, m_nRowHeight, m_nFirstRow, RowCount(), pt.y);
     CMFCPropertyGridProperty* const prop = isInList ? PropertyOfRow(row) : nullptr;
     if (prop != nullptr && pnArea != nullptr)
         *pnArea = prop->AreaAt(pt);

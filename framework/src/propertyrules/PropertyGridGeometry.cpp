@@ -65,7 +65,7 @@ Box RowRectangle(const Box& list, int rowHeight, int firstRow, int row)
     return Box(list.left, top, list.right, top + rowHeight);
 }
 
-int RowAt(const Box& list, int rowHeight, int firstRow, int rowCount, int y)
+int RowAtY(const Box& list, int rowHeight, int firstRow, int rowCount, int y)
 {
     if (rowHeight <= 0 || y < list.top || y >= list.bottom)
         return -1;

@@ -37,7 +37,7 @@ int FullRows(const Box& list, int rowHeight);
 // The row's rectangle, also for rows outside the list.
 Box RowRectangle(const Box& list, int rowHeight, int firstRow, int row);
 // The row at `y`, or -1.
-int RowAt(const Box& list, int rowHeight, int firstRow, int rowCount, int y);
+int RowAtY(const Box& list, int rowHeight, int firstRow, int rowCount, int y);
 // The nearest first row that leaves no room below the last one.
 int ClampFirstRow(int firstRow, int rowCount, int fullRows);
 // The first row after the least scroll that shows `row`.

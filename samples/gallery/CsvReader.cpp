@@ -1,8 +1,10 @@
-// The CSV reader: UTF-8 decoding, the line parser with its recovery after bad lines, and file reading.
+// The CSV reader: the line parser with its recovery after bad lines, and file reading.
 #include "CsvReader.h"
 
+#include "TextBytes.h"
+
+#include <algorithm>
 #include <cstddef>
-#include <cstdint>
 #include <fstream>
 #include <iterator>
 #include <system_error>
@@ -24,94 +26,24 @@ bool IsLineBreak(wchar_t c)
     return c == L'\r' || c == L'\n';
 }
 
-// The length of the UTF-8 sequence that a lead byte announces, or 0 when it announces none.
-std::size_t SequenceLength(unsigned char lead)
+// What separates the fields: of comma, semicolon and tab the one that stands most often, outside quotes, in
+// the first line that is not blank; the comma where none does.
+wchar_t SeparatorOf(std::wstring_view text)
 {
-    if (lead < 0x80)
-        return 1;
-    if (lead >= 0xC2 && lead <= 0xDF)
-        return 2;
-    if (lead >= 0xE0 && lead <= 0xEF)
-        return 3;
-    return lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
-}
-
-// Decodes the sequence at the start of the bytes. Its length is 0 when it is malformed, overlong, cut off, a
-// surrogate or beyond U+10FFFF.
-struct Decoded
-{
-    std::uint32_t codePoint;
-    std::size_t length;
-};
-
-Decoded DecodeSequence(std::string_view bytes)
-{
-    static constexpr std::uint32_t leadMask[] = {0, 0x7F, 0x1F, 0x0F, 0x07};
-    static constexpr std::uint32_t smallest[] = {0, 0, 0x80, 0x800, 0x10000};
-    const auto lead = static_cast<unsigned char>(bytes.front());
-    const std::size_t length = SequenceLength(lead);
-    if (length == 0 || length > bytes.size())
-        return {0, 0};
-    std::uint32_t codePoint = lead & leadMask[length];
-    for (std::size_t i = 1; i < length; ++i)
+    constexpr std::wstring_view Separators = L",;\t";
+    const std::size_t start = text.find_first_not_of(L" \t\r\n");
+    std::size_t counts[Separators.size()] = {};
+    bool quoted = false;
+    for (std::size_t i = start; i < text.size() && (quoted || !IsLineBreak(text[i])); ++i)
     {
-        const auto next = static_cast<unsigned char>(bytes[i]);
-        if ((next & 0xC0) != 0x80)
-            return {0, 0};
-        codePoint = codePoint << 6 | (next & 0x3Fu);
+        if (text[i] == L'"')
+            quoted = !quoted;
+        const std::size_t separator = quoted ? std::wstring_view::npos : Separators.find(text[i]);
+        if (separator != std::wstring_view::npos)
+            ++counts[separator];
     }
-    const bool isSurrogate = codePoint >= 0xD800 && codePoint <= 0xDFFF;
-    if (codePoint < smallest[length] || codePoint > 0x10FFFF || isSurrogate)
-        return {0, 0};
-    return {codePoint, length};
-}
-
-void AppendCodePoint(std::wstring& text, std::uint32_t codePoint)
-{
-    if (sizeof(wchar_t) > 2 || codePoint < 0x10000)
-    {
-        text.push_back(static_cast<wchar_t>(codePoint));
-        return;
-    }
-    text.push_back(static_cast<wchar_t>(0xD800 + ((codePoint - 0x10000) >> 10)));
-    text.push_back(static_cast<wchar_t>(0xDC00 + ((codePoint - 0x10000) & 0x3FF)));
-}
-
-std::size_t LineOfByte(std::string_view bytes, std::size_t offset)
-{
-    std::size_t line = 1;
-    for (std::size_t i = 0; i < offset; ++i)
-    {
-        const bool isFirstOfPair = bytes[i] == '\r' && i + 1 < bytes.size() && bytes[i + 1] == '\n';
-        if (bytes[i] == '\n' || (bytes[i] == '\r' && !isFirstOfPair))
-            ++line;
-    }
-    return line;
-}
-
-std::wstring BadByte(std::string_view bytes, std::size_t offset, const wchar_t* reason)
-{
-    return std::wstring(reason) + L" at byte " + std::to_wstring(offset + 1) + L" (line " +
-           std::to_wstring(LineOfByte(bytes, offset)) + L")";
-}
-
-// Decodes all bytes into the text. Returns an empty string, or what is wrong with the bytes.
-std::wstring DecodeUtf8(std::string_view bytes, std::wstring& text)
-{
-    static constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-    text.reserve(bytes.size());
-    std::size_t offset = bytes.substr(0, byteOrderMark.size()) == byteOrderMark ? byteOrderMark.size() : 0;
-    while (offset < bytes.size())
-    {
-        const Decoded decoded = DecodeSequence(bytes.substr(offset));
-        if (decoded.length == 0)
-            return BadByte(bytes, offset, L"not UTF-8");
-        if (decoded.codePoint == 0)
-            return BadByte(bytes, offset, L"not text: a NUL");
-        AppendCodePoint(text, decoded.codePoint);
-        offset += decoded.length;
-    }
-    return {};
+    return Separators[static_cast<std::size_t>(std::max_element(std::begin(counts), std::end(counts)) -
+                                               std::begin(counts))];
 }
 
 // Walks over the text once, field by field; only the lines under a quote that is not closed properly are read
@@ -119,7 +51,10 @@ std::wstring DecodeUtf8(std::string_view bytes, std::wstring& text)
 class CsvParser
 {
 public:
-    explicit CsvParser(std::wstring_view wholeText) : text(wholeText) {}
+    CsvParser(std::wstring_view wholeText, const CsvProgress& whomToAsk)
+        : text(wholeText), separator(SeparatorOf(wholeText)), progress(whomToAsk)
+    {
+    }
 
     CsvTable Parse();
 
@@ -132,8 +67,9 @@ private:
 
     bool IsAtEnd() const { return place.offset == text.size(); }
     bool IsAt(wchar_t c) const { return !IsAtEnd() && text[place.offset] == c; }
-    bool IsAtEndOfField() const { return IsAtEnd() || IsAt(L',') || IsLineBreak(text[place.offset]); }
+    bool IsAtEndOfField() const { return IsAtEnd() || IsAt(separator) || IsLineBreak(text[place.offset]); }
     bool IsBlankLine() const;
+    bool MayGoOn();
     void StepOverLineBreak();
     void SkipRestOfLine();
 
@@ -148,7 +84,12 @@ private:
     void Report(std::size_t line, const std::wstring& reason);
     bool FailAt(const Place& badLine, const std::wstring& reason);
 
+    static constexpr std::size_t CharactersBetweenQuestions = 1 << 18;
+
     std::wstring_view text;
+    wchar_t separator;
+    const CsvProgress& progress;
+    std::size_t nextQuestion = CharactersBetweenQuestions;
     Place place{0, 1};
     CsvTable table;
 };
@@ -157,6 +98,8 @@ CsvTable CsvParser::Parse()
 {
     while (!IsAtEnd() && !(table.header.empty() && !table.errors.empty()))
     {
+        if (!MayGoOn())
+            return Refused(L"stopped");
         if (IsBlankLine())
             SkipRestOfLine();
         else
@@ -167,8 +110,19 @@ CsvTable CsvParser::Parse()
     return std::move(table);
 }
 
+bool CsvParser::MayGoOn()
+{
+    if (!progress || place.offset < nextQuestion)
+        return true;
+    nextQuestion = place.offset + CharactersBetweenQuestions;
+    return progress(static_cast<double>(place.offset) / static_cast<double>(text.size()));
+}
+
+// A line of nothing but separators that are blanks is a line of empty fields.
 bool CsvParser::IsBlankLine() const
 {
+    if (IsAt(separator))
+        return false;
     const std::size_t end = text.find_first_not_of(L" \t", place.offset);
     return end == std::wstring_view::npos || IsLineBreak(text[end]);
 }
@@ -202,7 +156,7 @@ bool CsvParser::ReadFields(CsvRow& fields)
     {
         if (!ReadField(fields.emplace_back()))
             return false;
-        if (!IsAt(L','))
+        if (!IsAt(separator))
             break;
         ++place.offset;
     }
@@ -288,13 +242,13 @@ bool CsvParser::FailAt(const Place& badLine, const std::wstring& reason)
 }
 } // namespace
 
-CsvTable ParseCsv(std::string_view bytes)
+CsvTable ParseCsv(std::string_view bytes, const CsvProgress& progress)
 {
     std::wstring text;
-    std::wstring problem = DecodeUtf8(bytes, text);
+    std::wstring problem = DecodeText(bytes, text);
     if (!problem.empty())
         return Refused(std::move(problem));
-    return CsvParser(text).Parse();
+    return CsvParser(text, progress).Parse();
 }
 
 std::optional<std::string> ReadFileBytes(const std::filesystem::path& path)
@@ -309,11 +263,11 @@ std::optional<std::string> ReadFileBytes(const std::filesystem::path& path)
     return bytes;
 }
 
-CsvTable ReadCsvFile(const std::filesystem::path& path)
+CsvTable ReadCsvFile(const std::filesystem::path& path, const CsvProgress& progress)
 {
     const std::optional<std::string> bytes = ReadFileBytes(path);
     if (!bytes)
         return Refused(L"cannot read the file " + path.wstring());
-    return ParseCsv(*bytes);
+    return ParseCsv(*bytes, progress);
 }
 } // namespace gallery

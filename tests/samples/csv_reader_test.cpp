@@ -142,11 +142,6 @@ INSTANTIATE_TEST_SUITE_P(
                     Case{"OverlongFourBytes", "\xF0\x80\x80\xAF", L" ! not UTF-8 at byte 1 (line 1)"},
                     Case{"Surrogate", "\xED\xA0\x80", L" ! not UTF-8 at byte 1 (line 1)"},
                     Case{"BeyondTheLastCodePoint", "\xF4\x90\x80\x80", L" ! not UTF-8 at byte 1 (line 1)"},
-                    Case{"Utf16WithMark",
-                         std::string("\xFF\xFE"
-                                     "a\0",
-                                     4),
-                         L" ! not UTF-8 at byte 1 (line 1)"},
                     Case{"Nul", std::string("a,b\n1,\0\n", 8), L" ! not text: a NUL at byte 7 (line 2)"}),
     CaseName);
 

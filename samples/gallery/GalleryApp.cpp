@@ -49,12 +49,15 @@ public:
     BOOL InitInstance() override
     {
         CWinApp::InitInstance();
+        SetRegistryKey(L"QuorUiCtrl");
         const CommandLine line = ReadCommandLine();
         SetLanguage(line.language);
         dialog = std::make_unique<MainDialog>();
         m_pMainWnd = dialog.get();
         if (!dialog->Create(IDD_MAIN, nullptr))
             return FALSE;
+        if (line.pictureFolder.IsEmpty())
+            dialog->Restore();
         dialog->ShowWindow(SW_SHOW);
         dialog->UpdateWindow();
         const CString problem = line.tablePath.IsEmpty() ? CString() : dialog->OpenTable(line.tablePath);
@@ -68,6 +71,13 @@ public:
     BOOL PreTranslateMessage(MSG* message) override
     {
         return (dialog && dialog->RunKey(*message)) || CWinApp::PreTranslateMessage(message);
+    }
+
+    BOOL OnIdle(LONG count) override
+    {
+        if (dialog)
+            dialog->ShowStatus();
+        return CWinApp::OnIdle(count);
     }
 
     int ExitInstance() override

@@ -2,6 +2,7 @@
 #include "GridPage.h"
 
 #include "ColumnEditors.h"
+#include "CsvWriter.h"
 #include "GridFill.h"
 #include "Language.h"
 #include "LogPane.h"
@@ -48,34 +49,85 @@ BOOL GridPage::OnInitDialog()
     return TRUE;
 }
 
+// Reading is half the work, showing the other.
 CString GridPage::OpenFile(const CString& path)
 {
-    const gallery::CsvTable table = gallery::ReadCsvFile(path.GetString());
+    CString text;
+    text.Format(Tr(L"Opening %s"), PathFindFileName(path));
+    ProgressBox progress(*AfxGetMainWnd(), text);
+    const gallery::CsvTable table = gallery::ReadCsvFile(
+        path.GetString(), [&progress](double done) { return progress.Report(done / 2); });
+    if (progress.IsCancelled())
+        return CString();
     for (const std::wstring& problem : table.errors)
         Log().Add(problem.c_str());
     if (table.IsRefused())
         return table.errors.front().c_str();
-    ShowTable(table);
-    CString summary;
-    summary.Format(Tr(L"%s: %d rows"), PathFindFileName(path), static_cast<int>(table.rows.size()));
-    if (!table.errors.empty())
-        summary.AppendFormat(Tr(L", %d lines with errors, see below"), static_cast<int>(table.errors.size()));
-    SetBanner(summary);
+    const size_t shown = ShowTable(table, progress);
+    SetBanner(Summary(path, shown, table));
     return CString();
 }
 
-void GridPage::ShowTable(const gallery::CsvTable& table)
+CString GridPage::Summary(const CString& path, size_t shown, const gallery::CsvTable& table) const
 {
-    QuorUiCtr::TGGridUpdate update(grid);
+    CString summary;
+    summary.Format(Tr(L"%s: %d rows"), PathFindFileName(path), static_cast<int>(shown));
+    if (shown < table.rows.size())
+        summary.AppendFormat(Tr(L" of %d, then stopped"), static_cast<int>(table.rows.size()));
+    if (!table.errors.empty())
+        summary.AppendFormat(Tr(L", %d lines with errors, see below"), static_cast<int>(table.errors.size()));
+    return summary;
+}
+
+size_t GridPage::ShowTable(const gallery::CsvTable& table, ProgressBox& progress)
+{
+    constexpr size_t RowsBetweenReports = 2000;
+    const QuorUiCtr::TGGridUpdate update(grid);
     grid.Clear();
     MakeColumns(grid, table);
     SetColumnEditors(grid);
+    size_t shown = 0;
     for (const gallery::CsvRow& texts : table.rows)
     {
+        const double part = static_cast<double>(shown) / static_cast<double>(table.rows.size());
+        if (shown % RowsBetweenReports == 0 && !progress.Report((1 + part) / 2))
+            break;
         grid.AppendRow(nullptr);
         FillRow(grid.GetRow(grid.GetRowNum() - 1), texts);
+        ++shown;
     }
     grid.SetModify(false);
+    return shown;
+}
+
+CString GridPage::SaveFile(const CString& path)
+{
+    constexpr long RowsBetweenReports = 2000;
+    CString text;
+    text.Format(Tr(L"Saving %s"), PathFindFileName(path));
+    ProgressBox progress(*AfxGetMainWnd(), text);
+    gallery::CsvWriter writer(path.GetString());
+    const long rowCount = grid.GetRowNum();
+    for (long col = 0; col < grid.GetColNum(); ++col)
+        writer.AddField(grid.GetCol(col).GetName().GetString());
+    writer.EndLine();
+    for (long row = 0; row < rowCount; ++row)
+    {
+        if (row % RowsBetweenReports == 0 && !progress.Report(static_cast<double>(row) / rowCount))
+            return Tr(L"Stopped; the file is as it was.");
+        for (long col = 0; col < grid.GetColNum(); ++col)
+            writer.AddField(grid.GetCell(row, col).GetText().GetString());
+        writer.EndLine();
+    }
+    if (!writer.Finish())
+        return Tr(L"The file cannot be written.");
+    grid.SetModify(false);
+    return CString();
+}
+
+UINT GridPage::GetSourceId() const
+{
+    return IDR_SOURCE_GRID;
 }
 
 bool GridPage::ShowPictureView(size_t view, CString& nameSuffix)

@@ -1,6 +1,7 @@
 // GridPage: the page with a plain grid, showing the chemical elements or a file of the user's.
 #pragma once
 
+#include "ProgressBox.h"
 #include "TableFile.h"
 #include "TablePage.h"
 
@@ -16,6 +17,8 @@ public:
     bool CanOpenFiles() const override { return true; }
     // Shows the table of a CSV file; the log names every line that was left out.
     CString OpenFile(const CString& path) override;
+    CString SaveFile(const CString& path) override;
+    UINT GetSourceId() const override;
 
 protected:
     BOOL OnInitDialog() override;
@@ -24,5 +27,7 @@ protected:
     afx_msg void OnFitLast();
 
 private:
-    void ShowTable(const gallery::CsvTable& table);
+    // Returns how many rows it has shown before the user stopped it.
+    size_t ShowTable(const gallery::CsvTable& table, ProgressBox& progress);
+    CString Summary(const CString& path, size_t shown, const gallery::CsvTable& table) const;
 };

@@ -51,6 +51,11 @@ CString ListPage::GetTitle() const
     return Tr(L"Report list");
 }
 
+UINT ListPage::GetSourceId() const
+{
+    return IDR_SOURCE_LIST;
+}
+
 void ListPage::DoDataExchange(CDataExchange* exchange)
 {
     Page::DoDataExchange(exchange);
@@ -60,6 +65,25 @@ void ListPage::DoDataExchange(CDataExchange* exchange)
     DDX_Control(exchange, IDC_LIST_EDIT_2, selectAllEdits[1]);
     DDX_Control(exchange, IDC_LIST_EDIT_3, selectAllEdits[2]);
     DDX_Control(exchange, IDC_LIST_PLAIN_EDIT, plainEdit);
+}
+
+// An editor that loses the focus reports its end.
+bool ListPage::EndEditing()
+{
+    if (editor)
+        list.SetFocus();
+    return !editor;
+}
+
+Page::Status ListPage::GetStatus()
+{
+    Status status;
+    const int row = list.GetNextItem(-1, LVNI_SELECTED);
+    if (row >= 0)
+        status.position.Format(Tr(L"Row %ld"), static_cast<long>(row) + 1);
+    status.count.Format(Tr(L"%ld rows, %ld columns"), static_cast<long>(list.GetItemCount()),
+                        static_cast<long>(list.GetHeaderCtrl()->GetItemCount()));
+    return status;
 }
 
 BOOL ListPage::OnInitDialog()
@@ -150,7 +174,10 @@ void ListPage::OnEndEdit(NMHDR* header, LRESULT* result)
     if (!editor)
         return;
     if (item.pszText)
+    {
         list.SetItemText(item.iItem, item.iSubItem, item.pszText);
+        MarkChanged();
+    }
     editor->ShowWindow(SW_HIDE);
     endedEditor = std::move(editor);
     PostMessage(DestroyEditorMessage);

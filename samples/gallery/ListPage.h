@@ -25,7 +25,10 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"list"; }
+    UINT GetSourceId() const override;
     CWnd& MainControl() override { return list; }
+    bool EndEditing() override;
+    Status GetStatus() override;
     // Also the page with a grown editor of one line, and of several.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

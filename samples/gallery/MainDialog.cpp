@@ -5,24 +5,21 @@
 #include "ListPage.h"
 #include "PictureWriter.h"
 #include "PropertiesPage.h"
-#include "QuorVersion.h"
 #include "TreeGridPage.h"
 #include "TreePage.h"
 #include "TreeRowsPage.h"
+#include "WindowPlace.h"
 #include "resource.h"
 
 #include <algorithm>
-
-#include <shlwapi.h>
+#include <iterator>
 
 namespace
 {
 
-constexpr int Margin = 6;
-constexpr int PageListWidth = 140;
-constexpr int LogHeight = 130;
-const CSize MinimumSize(640, 420);
 const CSize FirstSize(1100, 760);
+// What is below this is reached by scrolling: a window of 800 by 600 pixels, without its frame.
+const CSize SmallestContents(780, 520);
 
 void DrainMessages()
 {
@@ -34,34 +31,27 @@ void DrainMessages()
     }
 }
 
-// Moves without the old picture: where a neighbour has grown over it already, that is what would be copied.
-void Place(CWnd& window, int left, int top, int width, int height)
-{
-    window.SetWindowPos(nullptr, left, top, (std::max)(0, width), (std::max)(0, height),
-                        SWP_NOZORDER | SWP_NOACTIVATE | SWP_NOCOPYBITS);
-    window.Invalidate();
-}
-
-bool IsControlDown()
-{
-    return GetKeyState(VK_CONTROL) < 0;
-}
-
 } // namespace
 
 BEGIN_MESSAGE_MAP(MainDialog, CDialog)
     ON_WM_CLOSE()
+    ON_WM_QUERYENDSESSION()
     ON_WM_SIZE()
     ON_WM_GETMINMAXINFO()
+    ON_WM_HSCROLL()
+    ON_WM_VSCROLL()
+    ON_WM_INITMENUPOPUP()
     ON_LBN_SELCHANGE(IDC_PAGES, &MainDialog::OnPageChosen)
     ON_COMMAND(ID_FILE_OPEN_TABLE, &MainDialog::OnOpenTable)
+    ON_COMMAND(ID_FILE_SAVE_TABLE, &MainDialog::OnSaveTable)
     ON_COMMAND(ID_FILE_QUIT, &MainDialog::OnQuit)
     ON_COMMAND(ID_VIEW_CLEAR_LOG, &MainDialog::OnClearLog)
+    ON_COMMAND(ID_VIEW_SOURCE, &MainDialog::OnShowSource)
     ON_COMMAND_RANGE(ID_VIEW_ENGLISH, ID_VIEW_CHINESE, &MainDialog::OnLanguage)
     ON_COMMAND(ID_HELP_ABOUT_GALLERY, &MainDialog::OnAbout)
 END_MESSAGE_MAP()
 
-MainDialog::MainDialog() : CDialog(IDD_MAIN) {}
+MainDialog::MainDialog() : CDialog(IDD_MAIN), area(SmallestContents) {}
 
 MainDialog::~MainDialog() = default;
 
@@ -77,11 +67,20 @@ BOOL MainDialog::OnInitDialog()
     CDialog::OnInitDialog();
     SetIcon(AfxGetApp()->LoadIcon(1), TRUE);
     ShowTexts();
+    statusBar.Create(WS_CHILD | WS_VISIBLE | CCS_BOTTOM | SBARS_SIZEGRIP, CRect(), this, IDC_STATUS);
     SetWindowPos(nullptr, 0, 0, FirstSize.cx, FirstSize.cy, SWP_NOMOVE | SWP_NOZORDER);
     CenterWindow();
     MakePages();
     ShowPage(0);
     return TRUE;
+}
+
+void MainDialog::Restore()
+{
+    RestoreWindowPlace(*this);
+    const size_t page = RememberedPage();
+    if (page < pages.size() && page != shownPage)
+        ShowPage(page);
 }
 
 // ---- Pages and texts.
@@ -109,13 +108,15 @@ void MainDialog::AddPage(std::unique_ptr<Page> page)
 
 void MainDialog::ShowPage(size_t index)
 {
+    const CWnd* const focus = GetFocus();
+    const bool hadFocus = focus != nullptr && pages[shownPage]->IsChild(focus);
     pageList.SetCurSel(static_cast<int>(index));
     pages[shownPage]->ShowWindow(SW_HIDE);
     shownPage = index;
-    CRect client;
-    GetClientRect(client);
-    LayOut(client.Width(), client.Height());
+    LayOut();
     pages[shownPage]->ShowWindow(SW_SHOW);
+    if (hadFocus)
+        pages[shownPage]->MainControl().SetFocus();
 }
 
 // Caption, menu and labels in the language in use.
@@ -155,128 +156,27 @@ void MainDialog::OnLanguage(UINT command)
     const Language chosen = command == ID_VIEW_CHINESE ? Language::Chinese : Language::English;
     if (chosen == CurrentLanguage())
         return;
-    const bool changed = std::any_of(pages.begin(), pages.end(),
-                                     [](const std::unique_ptr<Page>& page) { return page->IsChanged(); });
     constexpr const wchar_t* Question =
         L"The pages start anew in the other language, and what was changed in them is lost. Go on?";
-    if (!changed || AfxMessageBox(Tr(Question), MB_YESNO | MB_ICONQUESTION) == IDYES)
+    if (ChangedPages().IsEmpty() || AfxMessageBox(Tr(Question), MB_YESNO | MB_ICONQUESTION) == IDYES)
         ChangeLanguage(chosen);
 }
 
-// ---- Place and focus.
-
-void MainDialog::LayOut(int width, int height)
+void MainDialog::ShowStatus()
 {
-    if (!pageList.GetSafeHwnd() || pages.empty())
+    if (m_hWnd == nullptr || pages.empty())
         return;
-    const int logTop = height - LogHeight;
-    const int captionHeight = 16;
-    const int pageHeight = logTop - captionHeight - 2 * Margin;
-    const int pageLeft = PageListWidth + 2 * Margin;
-    Place(pageList, Margin, Margin, PageListWidth, pageHeight);
-    Place(*pages[shownPage], pageLeft, Margin, width - pageLeft - Margin, pageHeight);
-    Place(*GetDlgItem(IDC_LOG_CAPTION), Margin, logTop - captionHeight, width - 2 * Margin, captionHeight);
-    Place(log, Margin, logTop, width - 2 * Margin, LogHeight - Margin);
-}
-
-void MainDialog::OnSize(UINT type, int width, int height)
-{
-    CDialog::OnSize(type, width, height);
-    if (type != SIZE_MINIMIZED)
-        LayOut(width, height);
-}
-
-void MainDialog::OnGetMinMaxInfo(MINMAXINFO* info)
-{
-    CDialog::OnGetMinMaxInfo(info);
-    info->ptMinTrackSize = CPoint(MinimumSize.cx, MinimumSize.cy);
-}
-
-void MainDialog::FocusNextPane(bool backwards)
-{
-    CWnd* const panes[] = {&pageList, &pages[shownPage]->MainControl(), &log};
-    constexpr size_t Count = std::size(panes);
-    const CWnd* const focus = GetFocus();
-    size_t current = 1;
-    if (focus == &pageList)
-        current = 0;
-    else if (focus == &log)
-        current = 2;
-    panes[(current + (backwards ? Count - 1 : 1)) % Count]->SetFocus();
-}
-
-bool MainDialog::RunKey(const MSG& message)
-{
-    if (message.message != WM_KEYDOWN || GetSafeHwnd() == nullptr || !::IsChild(m_hWnd, message.hwnd))
-        return false;
-    if (message.wParam == 'O' && IsControlDown())
-        OnOpenTable();
-    else if (message.wParam == VK_F6)
-        FocusNextPane(GetKeyState(VK_SHIFT) < 0);
-    else
-        return false;
-    return true;
-}
-
-// ---- Commands.
-
-void MainDialog::OnClose()
-{
-    DestroyWindow();
-}
-
-void MainDialog::OnQuit()
-{
-    DestroyWindow();
-}
-
-void MainDialog::OnPageChosen()
-{
-    const int chosen = pageList.GetCurSel();
-    if (chosen != LB_ERR)
-        ShowPage(static_cast<size_t>(chosen));
-}
-
-CString MainDialog::OpenTable(const CString& path)
-{
-    const CWaitCursor wait;
-    if (!pages[shownPage]->CanOpenFiles())
-        ShowPage(0);
-    const CString problem = pages[shownPage]->OpenFile(path);
-    CString sentence;
-    if (!problem.IsEmpty())
-        sentence.Format(Tr(L"%s cannot be shown:\n%s"), PathFindFileName(path), problem.GetString());
-    return sentence;
-}
-
-void MainDialog::OnOpenTable()
-{
-    wchar_t path[MAX_PATH] = L"";
-    CString filter;
-    filter.Format(L"%s|*.csv|%s|*.*|", Tr(L"CSV files (*.csv)"), Tr(L"All files (*.*)"));
-    filter.Replace(L'|', L'\0');
-    OPENFILENAME dialog = {};
-    dialog.lStructSize = sizeof(dialog);
-    dialog.hwndOwner = m_hWnd;
-    dialog.lpstrFilter = filter;
-    dialog.lpstrFile = path;
-    dialog.nMaxFile = MAX_PATH;
-    dialog.Flags = OFN_FILEMUSTEXIST | OFN_HIDEREADONLY;
-    if (!GetOpenFileName(&dialog))
+    ShowFocus();
+    const Page::Status status = pages[shownPage]->GetStatus();
+    const CString texts[] = {status.position, status.selection, status.count};
+    CString all;
+    for (const CString& text : texts)
+        all += text + L'\n';
+    if (all == shownStatus)
         return;
-    const CString problem = OpenTable(path);
-    if (!problem.IsEmpty())
-        AfxMessageBox(problem, MB_OK | MB_ICONWARNING);
-}
-
-void MainDialog::OnClearLog()
-{
-    log.RemoveAll();
-}
-
-void MainDialog::OnAbout()
-{
-    AfxMessageBox(CString(Tr(L"QuorUiCtrl gallery")) + L" " + QUOR_VERSION, MB_OK | MB_ICONINFORMATION);
+    shownStatus = all;
+    for (int part = 0; part < static_cast<int>(std::size(texts)); ++part)
+        statusBar.SetText(texts[part], part, 0);
 }
 
 bool MainDialog::WritePictures(const CString& folder)

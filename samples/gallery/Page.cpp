@@ -53,6 +53,11 @@ CString Page::OpenFile(const CString&)
     return CString();
 }
 
+CString Page::SaveFile(const CString&)
+{
+    return CString();
+}
+
 BOOL Page::OnInitDialog()
 {
     CDialog::OnInitDialog();

@@ -22,19 +22,36 @@ public:
     virtual bool ShowPictureView(size_t view, CString& nameSuffix);
     // The control that the page is about, which gets the focus with the page.
     virtual CWnd& MainControl() = 0;
-    // Whether the user has changed what the page shows.
-    virtual bool IsChanged() { return false; }
-    // Whether the page can show table files.
+    // Whether the user has changed what the page shows, since it was filled or saved.
+    virtual bool IsChanged() { return isMarkedChanged; }
+    // Commits an open editor; returns false when it stays open.
+    virtual bool EndEditing() { return true; }
+    // Whether the page can show table files, and write what it shows.
     virtual bool CanOpenFiles() const { return false; }
     // Shows a table file and returns an empty text, or leaves the page as it is and returns what is wrong
-    // with the file.
+    // with the file. The user may stop the work, which leaves the rows read so far.
     virtual CString OpenFile(const CString& path);
+    // Writes a table file and returns an empty text, or what is wrong; a file that was there is then as it
+    // was.
+    virtual CString SaveFile(const CString& path);
+    // Where the user is, what is selected, and how much there is, for the status line; empty texts for what
+    // the page does not have. Asked whenever the program has nothing else to do.
+    struct Status
+    {
+        CString position;
+        CString selection;
+        CString count;
+    };
+    virtual Status GetStatus() { return {}; }
+    // The resource with the source of the page's host code.
+    virtual UINT GetSourceId() const = 0;
 
     // Creates the hidden page as a child of `parent`.
     bool CreateIn(CWnd& parent);
 
 protected:
     LogPane& Log() { return log; }
+    void MarkChanged() { isMarkedChanged = true; }
     // Places the page's control after the page was resized; sizes in pixels.
     virtual void LayOut(int width, int height) = 0;
 
@@ -52,4 +69,5 @@ protected:
 private:
     UINT templateId;
     LogPane& log;
+    bool isMarkedChanged = false;
 };

@@ -32,6 +32,26 @@ CString PropertiesPage::GetTitle() const
     return Tr(L"Properties");
 }
 
+UINT PropertiesPage::GetSourceId() const
+{
+    return IDR_SOURCE_PROPERTIES;
+}
+
+bool PropertiesPage::EndEditing()
+{
+    return grid.EndEditItem(TRUE) != FALSE;
+}
+
+Page::Status PropertiesPage::GetStatus()
+{
+    Status status;
+    const CMFCPropertyGridProperty* const selected = grid.GetCurSel();
+    if (selected != nullptr)
+        status.position = selected->GetName();
+    status.count.Format(Tr(L"%d groups"), grid.GetPropertyCount());
+    return status;
+}
+
 BOOL PropertiesPage::OnInitDialog()
 {
     Page::OnInitDialog();
@@ -74,6 +94,7 @@ LRESULT PropertiesPage::OnPropertyChanged(WPARAM id, LPARAM property)
     line.Format(L"AFX_WM_PROPERTY_CHANGED  id %u  %s = %s", static_cast<UINT>(id), changed->GetName(),
                 static_cast<LPCTSTR>(changed->FormatProperty()));
     Log().Add(line);
+    MarkChanged();
     return 0;
 }
 

@@ -19,7 +19,10 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"properties"; }
+    UINT GetSourceId() const override;
     CWnd& MainControl() override { return grid; }
+    bool EndEditing() override;
+    Status GetStatus() override;
     // Unfolded with the description, folded, with an open list, in alphabetic order.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

@@ -1,6 +1,7 @@
 // What the pages with a grid have in common.
 #include "TablePage.h"
 
+#include "Language.h"
 #include "resource.h"
 
 #include <algorithm>
@@ -52,6 +53,28 @@ BOOL TablePage::OnInitDialog()
     grid.Create(this, IDC_GRID, WS_CHILD | WS_VISIBLE | WS_BORDER | WS_TABSTOP | WS_CLIPCHILDREN);
     SetRoomyFont(grid, font);
     return TRUE;
+}
+
+bool TablePage::EndEditing()
+{
+    grid.EndEditCell();
+    return !grid.IsEditing();
+}
+
+Page::Status TablePage::GetStatus()
+{
+    Status status;
+    if (grid.GetCurRowIndex() >= 0 && grid.GetCurColIndex() >= 0)
+        status.position.Format(Tr(L"Row %ld, column %ld"), grid.GetCurRowIndex() + 1,
+                               grid.GetCurColIndex() + 1);
+    else if (grid.GetCurRowIndex() >= 0)
+        status.position.Format(Tr(L"Row %ld"), grid.GetCurRowIndex() + 1);
+    if (grid.IsRowSelected())
+        status.selection.Format(Tr(L"Rows selected: %ld"), grid.GetRowSelNum());
+    else if (grid.IsColSelected())
+        status.selection.Format(Tr(L"Columns selected: %ld"), grid.GetColSelNum());
+    status.count.Format(Tr(L"%ld rows, %ld columns"), grid.GetRowNum(), grid.GetColNum());
+    return status;
 }
 
 void TablePage::SetBanner(const CString& text)

@@ -11,6 +11,9 @@ class TablePage : public Page
 {
 public:
     CWnd& MainControl() override { return grid; }
+    bool IsChanged() override { return grid.IsModified(); }
+    bool EndEditing() override;
+    Status GetStatus() override;
 
 protected:
     // `grid` is a member of the derived page.
@@ -34,9 +37,6 @@ private:
 // A page with the gallery's grid, with a check box for the log of its painting and a panel of its styles.
 class StyledTablePage : public TablePage
 {
-public:
-    bool IsChanged() override { return grid.IsModified(); }
-
 protected:
     StyledTablePage(UINT templateId, LogPane& log, bool tree);
 

@@ -68,6 +68,11 @@ CString TreeGridPage::GetTitle() const
     return Tr(L"Tree grid");
 }
 
+UINT TreeGridPage::GetSourceId() const
+{
+    return IDR_SOURCE_TREE_GRID;
+}
+
 BOOL TreeGridPage::OnInitDialog()
 {
     TablePage::OnInitDialog();

@@ -11,7 +11,7 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-grid"; }
-    bool IsChanged() override { return grid.IsModified(); }
+    UINT GetSourceId() const override;
     // Unfolded to the third level, then folded, then with a copied item pasted beside itself.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

@@ -60,11 +60,33 @@ CString TreePage::GetTitle() const
     return Tr(L"Drag tree");
 }
 
+UINT TreePage::GetSourceId() const
+{
+    return IDR_SOURCE_TREE;
+}
+
 void TreePage::DoDataExchange(CDataExchange* exchange)
 {
     Page::DoDataExchange(exchange);
     DDX_Control(exchange, IDC_BANNER, banner);
     DDX_Control(exchange, IDC_TREE, tree);
+}
+
+bool TreePage::EndEditing()
+{
+    if (tree.GetEditControl() != nullptr)
+        TreeView_EndEditLabelNow(tree.m_hWnd, FALSE);
+    return tree.GetEditControl() == nullptr;
+}
+
+Page::Status TreePage::GetStatus()
+{
+    Status status;
+    const HTREEITEM selected = tree.GetSelectedItem();
+    if (selected != nullptr)
+        status.position = tree.GetItemText(selected);
+    status.count.Format(Tr(L"%d items"), static_cast<int>(tree.GetCount()));
+    return status;
 }
 
 BOOL TreePage::OnInitDialog()
@@ -194,12 +216,14 @@ void TreePage::AddToLog(const CString& message, HTREEITEM item, HTREEITEM place)
 
 LRESULT TreePage::OnItemInserted(WPARAM wParam, LPARAM lParam)
 {
+    MarkChanged();
     AddToLog(L"TDM_ITEM_INSERTED", ItemIn(wParam), PlaceIn(lParam));
     return 0;
 }
 
 LRESULT TreePage::OnItemDeleted(WPARAM wParam, LPARAM)
 {
+    MarkChanged();
     AddToLog(L"TDM_ITEM_DELETED", ItemIn(wParam), nullptr);
     return 0;
 }
@@ -212,6 +236,7 @@ LRESULT TreePage::OnBeginLabelEdit(WPARAM wParam, LPARAM)
 
 LRESULT TreePage::OnItemRenamed(WPARAM wParam, LPARAM)
 {
+    MarkChanged();
     AddToLog(L"TDM_ITEM_RENAMED", ItemIn(wParam), nullptr);
     return 0;
 }

@@ -12,7 +12,10 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree"; }
+    UINT GetSourceId() const override;
     CWnd& MainControl() override { return tree; }
+    bool EndEditing() override;
+    Status GetStatus() override;
     // Also the page in the middle of a drag: to a country, and to an empty folder.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

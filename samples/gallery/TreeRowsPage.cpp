@@ -44,6 +44,11 @@ CString TreeRowsPage::GetTitle() const
     return Tr(L"Tree rows");
 }
 
+UINT TreeRowsPage::GetSourceId() const
+{
+    return IDR_SOURCE_TREE_ROWS;
+}
+
 BOOL TreeRowsPage::OnInitDialog()
 {
     StyledTablePage::OnInitDialog();

@@ -11,6 +11,7 @@ public:
 
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-rows"; }
+    UINT GetSourceId() const override;
     // The page, then an editor in the column of the tree.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 

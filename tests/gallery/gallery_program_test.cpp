@@ -1,14 +1,20 @@
 // Uses the gallery from outside, as a person would.
+#include "QuorVersion.h"
 #include "samples/gallery/resource.h"
 #include "tests/compat/Program.h"
 
 #include <windows.h>
+#include <commctrl.h>
 
 #include <gtest/gtest.h>
 
 #include <set>
 #include <string>
 #include <vector>
+
+#define QUOR_WIDE_TEXT(text) L##text
+#define QUOR_WIDE(text) QUOR_WIDE_TEXT(text)
+#define QUOR_WIDE_VERSION QUOR_WIDE(QUOR_VERSION)
 
 namespace
 {
@@ -153,6 +159,133 @@ TEST_F(Gallery, Enlarging_LeavesNoRemainsInTheLog)
         return ColoursOf(Item(IDC_LOG), area) == std::set<COLORREF>{RGB(255, 255, 255)};
     })) << ColoursOf(Item(IDC_LOG), area).size()
         << " colours";
+}
+
+// Changes the name of an element and leaves the editor open.
+void TypeIntoTheGrid(HWND window, HWND grid)
+{
+    ::SendMessageW(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200, 60));
+    ::SendMessageW(grid, WM_LBUTTONUP, 0, MAKELPARAM(200, 60));
+    ASSERT_TRUE(WaitUntil([&] { return ::GetParent(FocusOf(window)) == grid; }));
+    ::SendMessageW(FocusOf(window), WM_CHAR, L'x', 1);
+}
+
+TEST_F(Gallery, WithChanges_AsksBeforeItCloses_AnOpenEditorIncluded)
+{
+    ASSERT_NO_FATAL_FAILURE(TypeIntoTheGrid(window, ::GetDlgItem(Page(), IDC_GRID)));
+    for (const int answer : {IDNO, IDYES})
+    {
+        ::PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+        HWND box = nullptr;
+        ASSERT_TRUE(WaitUntil([&] {
+            box = ::GetLastActivePopup(window);
+            return box != window && ::IsWindowVisible(box) && ::GetDlgItem(box, answer) != nullptr;
+        }));
+        EXPECT_NE(TextOf(::GetDlgItem(box, 0xFFFF)).find(L"not saved:\n    Grid\n"), std::wstring::npos);
+        EXPECT_TRUE(::IsWindowVisible(window));
+        ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), 0);
+        ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    }
+    EXPECT_EQ(program.ExitCode(), 0u);
+}
+
+TEST_F(Gallery, StatusLine_SaysWhereTheUserIsAndHowMuchThereIs)
+{
+    const auto part = [this](WPARAM index) {
+        // Texts of a status bar do not cross the border of a process.
+        return static_cast<int>(LOWORD(::SendMessageW(Item(IDC_STATUS), SB_GETTEXTLENGTHW, index, 0)));
+    };
+    const int whole = static_cast<int>(wcslen(L"118 rows, 11 columns"));
+    ASSERT_TRUE(WaitUntil([&] { return part(2) == whole; }));
+    EXPECT_EQ(part(1), 0);
+    ::SendMessageW(::GetDlgItem(Page(), IDC_GRID), WM_KEYDOWN, 'A', 1);
+    const int selected = static_cast<int>(wcslen(L"Rows selected: 118"));
+    EXPECT_TRUE(WaitUntil([&] { return part(1) == selected; }));
+}
+
+TEST_F(Gallery, BelowItsSmallestContents_Scrolls_AndShowsWhatHasTheFocus)
+{
+    const auto hasBars = [this] {
+        return (::GetWindowLongPtrW(window, GWL_STYLE) & (WS_HSCROLL | WS_VSCROLL)) != 0;
+    };
+    ::SetWindowPos(window, nullptr, 0, 0, 1000, 800, SWP_NOZORDER);
+    EXPECT_FALSE(hasBars());
+    ::SetWindowPos(window, nullptr, 0, 0, 420, 320, SWP_NOZORDER);
+    EXPECT_TRUE(hasBars());
+    ::SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_PAGES)), TRUE);
+    ASSERT_TRUE(MoveFocus(VK_F6));
+    ASSERT_TRUE(MoveFocus(VK_F6));
+    RECT place = {};
+    RECT client = {};
+    ::GetClientRect(window, &client);
+    EXPECT_TRUE(WaitUntil([&] {
+        ::GetWindowRect(Item(IDC_LOG), &place);
+        ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
+        return place.top >= 0 && place.bottom <= client.bottom;
+    })) << place.top
+        << " to " << place.bottom << " of " << client.bottom;
+}
+
+TEST_F(Gallery, ShowsTheSourceOfThePage)
+{
+    ::PostMessageW(window, WM_COMMAND, ID_VIEW_SOURCE, 0);
+    HWND box = nullptr;
+    ASSERT_TRUE(WaitUntil([&] {
+        box = ::GetLastActivePopup(window);
+        return box != window && ::IsWindowVisible(box);
+    }));
+    EXPECT_EQ(TextOf(::GetDlgItem(box, IDC_SOURCE_TEXT)).rfind(L"// The page with a plain grid.\r\n", 0), 0u);
+    ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+}
+
+TEST_F(Gallery, AboutBox_NamesTheVersions)
+{
+    ::PostMessageW(window, WM_COMMAND, ID_HELP_ABOUT_GALLERY, 0);
+    HWND box = nullptr;
+    ASSERT_TRUE(WaitUntil([&] {
+        box = ::GetLastActivePopup(window);
+        return box != window && ::IsWindowVisible(box);
+    }));
+    const std::wstring versions = TextOf(::GetDlgItem(box, IDC_ABOUT_VERSIONS));
+    EXPECT_NE(versions.find(L"Library " QUOR_WIDE_VERSION L"\n"), std::wstring::npos);
+    EXPECT_NE(versions.find(L"MFC 12.0\n"), std::wstring::npos);
+    ::PostMessageW(box, WM_COMMAND, IDOK, 0);
+    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+}
+
+TEST(GalleryWindow, OpensWhereItWasClosed_OnThePageOfThatTime)
+{
+    const auto close = [](const Program& program, HWND window) {
+        ::PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+        EXPECT_EQ(program.ExitCode(), 0u);
+    };
+    const auto page = [](HWND window) {
+        return ::SendMessageW(::GetDlgItem(window, IDC_PAGES), LB_GETCURSEL, 0, 0);
+    };
+    for (const WPARAM chosen : {2, 0})
+    {
+        {
+            const Program program(L"gallery.exe", L"/language en");
+            const HWND window = program.Window(L"QuorUiCtrl gallery");
+            ASSERT_NE(window, nullptr);
+            ::SetWindowPos(window, nullptr, 30 + static_cast<int>(chosen), 40, 1100, 760, SWP_NOZORDER);
+            ::SendMessageW(::GetDlgItem(window, IDC_PAGES), LB_SETCURSEL, chosen, 0);
+            ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDC_PAGES, LBN_SELCHANGE),
+                           reinterpret_cast<LPARAM>(::GetDlgItem(window, IDC_PAGES)));
+            close(program, window);
+        }
+        const Program program(L"gallery.exe", L"/language en");
+        const HWND window = program.Window(L"QuorUiCtrl gallery");
+        ASSERT_NE(window, nullptr);
+        RECT place = {};
+        ::GetWindowRect(window, &place);
+        EXPECT_EQ(place.left, 30 + static_cast<int>(chosen));
+        EXPECT_EQ(place.top, 40);
+        EXPECT_EQ(place.right - place.left, 1100);
+        EXPECT_EQ(static_cast<WPARAM>(page(window)), chosen);
+        close(program, window);
+    }
 }
 
 TEST(GalleryFile, ThatCannotBeShown_IsNamedInAMessageBox)

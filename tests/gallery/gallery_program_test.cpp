@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
 #include <set>
 #include <string>
 #include <vector>
@@ -286,6 +288,40 @@ TEST(GalleryWindow, OpensWhereItWasClosed_OnThePageOfThatTime)
         EXPECT_EQ(static_cast<WPARAM>(page(window)), chosen);
         close(program, window);
     }
+}
+
+// A table that takes a while to read.
+std::filesystem::path WriteLongTable()
+{
+    const std::filesystem::path path = std::filesystem::temp_directory_path() / "quor_gallery_long.csv";
+    std::ofstream file(path, std::ios::binary);
+    file << "first,second,third\n";
+    for (int row = 0; row < 1'000'000; ++row)
+        file << row << ",some text,some other text\n";
+    return path;
+}
+
+TEST(GalleryFile, ThatTakesLong_ShowsAProgressBar_AndCanBeStopped)
+{
+    const std::filesystem::path path = WriteLongTable();
+    {
+        const Program program(L"gallery.exe", L"/language en \"" + path.wstring() + L"\"");
+        const HWND window = program.Window(L"QuorUiCtrl gallery");
+        ASSERT_NE(window, nullptr);
+        HWND box = nullptr;
+        ASSERT_TRUE(WaitUntil([&] {
+            box = ::GetLastActivePopup(window);
+            return box != window && ::GetDlgItem(box, IDC_PROGRESS_BAR) != nullptr;
+        }));
+        EXPECT_FALSE(::IsWindowEnabled(window));
+        EXPECT_EQ(TextOf(::GetDlgItem(box, IDC_PROGRESS_TEXT)), L"Opening quor_gallery_long.csv");
+        ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+        ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+        EXPECT_TRUE(::IsWindowEnabled(window));
+        ::PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
+        EXPECT_EQ(program.ExitCode(), 0u);
+    }
+    std::filesystem::remove(path);
 }
 
 TEST(GalleryFile, ThatCannotBeShown_IsNamedInAMessageBox)

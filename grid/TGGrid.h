@@ -702,7 +702,7 @@ private:
     // The serial number of the column that was made last.
     unsigned lastColSerial = 0;
 
-    // Knows the indices of the rows while others leave one by one; null else.
+    // Knows the indices of the rows, owned; null when they are those stored.
     LateNumbers* lateNumbers = nullptr;
 
     // The cells and rows that operations on the stack are working on.

@@ -1,6 +1,5 @@
 // The user's row and column commands: insert, append, delete.
 #include "grid/model/GridStructure.h"
-#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
 
@@ -327,7 +326,6 @@ bool TGGrid::Commands::DeleteSelectedRows()
 void TGGrid::Commands::DeleteRows(const std::vector<long>& indices)
 {
     const TGGridUpdate update(grid);
-    const LateNumbers late(grid);
     const std::vector<const TGGridRow*> doomed = Structure(grid).RowsAtIndices(indices);
     grid.ClearSel();
     for (std::size_t k = indices.size(); k-- > 0;)

@@ -1,6 +1,5 @@
 // Copy, cut and paste through the grid's row buffer.
 #include "grid/model/GridStructure.h"
-#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
 
@@ -115,7 +114,6 @@ void TGGrid::RowBuffer::CutSelection()
 {
     const TGGridUpdate update(grid);
     FoldSelectedRows();
-    const LateNumbers late(grid);
     const std::vector<long> indices(grid.rowSel.begin(), grid.rowSel.end());
     const std::vector<const TGGridRow*> cut = Structure(grid).RowsAtIndices(indices);
     grid.rowPaste.Reserve(static_cast<long>(indices.size()));

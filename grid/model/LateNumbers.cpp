@@ -1,18 +1,59 @@
 // The indices of rows while others leave one by one.
 #include "grid/model/LateNumbers.h"
 
+#include "grid/model/MakeOrNull.h"
+
+#include <algorithm>
 #include <cstddef>
+#include <memory>
 #include <new>
+#include <utility>
 
 namespace QuorUiCtr
 {
 namespace
 {
 
-bool PushNothrow(std::vector<long>& numbers, long number) noexcept
+// The last element up to which `precedes` holds, null without any. The library's search looks at all of them
+// in the checked build.
+template <class Element, class Precedes>
+const Element* LastOf(const std::vector<Element>& elements, Precedes precedes)
+{
+    std::size_t first = 0;
+    std::size_t end = elements.size();
+    if (end > 0 && precedes(elements.back()))
+        return &elements.back();
+    while (first < end)
+    {
+        const std::size_t middle = first + (end - first) / 2;
+        if (precedes(elements[middle]))
+            first = middle + 1;
+        else
+            end = middle;
+    }
+    return first == 0 ? nullptr : &elements[first - 1];
+}
+
+} // namespace
+
+bool TGGrid::LateNumbers::Note(TGGrid& grid, long stored) noexcept
+{
+    if (!grid.IsUpdating() || stored < 0)
+        return false;
+    if (grid.lateNumbers == nullptr)
+        grid.lateNumbers = MakeOrNull([] { return new LateNumbers; });
+    return grid.lateNumbers != nullptr && grid.lateNumbers->Add(stored);
+}
+
+bool TGGrid::LateNumbers::Add(long stored)
 try
 {
-    numbers.push_back(number);
+    if (rising.empty() || stored >= rising.back().end)
+        Append(rising, stored);
+    else if (falling.empty() || stored < falling.back().first)
+        Append(falling, stored);
+    else
+        return false;
     return true;
 }
 catch (const std::bad_alloc&)
@@ -20,72 +61,49 @@ catch (const std::bad_alloc&)
     return false;
 }
 
-// How many of the numbers, for which `precedes` holds first, it holds for. The library's search looks at all
-// of them in the checked build.
-template <class Precedes> long CountFirst(const std::vector<long>& numbers, Precedes precedes)
+void TGGrid::LateNumbers::Append(Runs& runs, long stored)
 {
-    std::size_t first = 0;
-    std::size_t end = numbers.size();
-    while (first < end)
-    {
-        const std::size_t middle = first + (end - first) / 2;
-        if (precedes(numbers[middle]))
-            first = middle + 1;
-        else
-            end = middle;
-    }
-    return static_cast<long>(first);
-}
-
-} // namespace
-
-TGGrid::LateNumbers::LateNumbers(TGGrid& servedGrid) : grid(servedGrid)
-{
-    if (grid.lateNumbers == nullptr)
-        grid.lateNumbers = this;
-}
-
-TGGrid::LateNumbers::~LateNumbers()
-{
-    if (grid.lateNumbers != this)
-        return;
-    Settle();
-    grid.lateNumbers = nullptr;
-}
-
-bool TGGrid::LateNumbers::Note(long stored) noexcept
-{
-    if (stored < 0)
-        return false;
-    if (rising.empty() || stored > rising.back())
-        return PushNothrow(rising, stored);
-    if (falling.empty() || stored < falling.back())
-        return PushNothrow(falling, stored);
-    return false;
+    if (!runs.empty() && stored == runs.back().end)
+        ++runs.back().end;
+    else if (!runs.empty() && stored == runs.back().first - 1)
+        --runs.back().first;
+    else
+        runs.push_back({stored, stored + 1, Total(runs)});
 }
 
 long TGGrid::LateNumbers::TrueIndex(long stored) const
 {
-    const long before = CountFirst(rising, [stored](long number) { return number < stored; });
-    const long notBelow = CountFirst(falling, [stored](long number) { return number >= stored; });
-    return stored - before - (static_cast<long>(falling.size()) - notBelow);
+    return stored - CountGoneBelow(stored);
+}
+
+long TGGrid::LateNumbers::CountGoneBelow(long stored) const
+{
+    long number = Total(falling);
+    if (const Run* run = LastOf(rising, [stored](const Run& candidate) { return candidate.first < stored; }))
+        number += run->before + (std::min)(stored, run->end) - run->first;
+    if (const Run* run = LastOf(falling, [stored](const Run& candidate) { return candidate.end > stored; }))
+        number -= run->before + run->end - (std::max)(stored, run->first);
+    return number;
+}
+
+long TGGrid::LateNumbers::LowestGone() const
+{
+    if (rising.empty())
+        return 0;
+    return falling.empty() ? rising.front().first : (std::min)(rising.front().first, falling.back().first);
 }
 
 // A row that has no index in spite of its slot is just coming or going, and is numbered by who does that. The
 // row cursor is in use.
-void TGGrid::LateNumbers::Settle()
+void TGGrid::LateNumbers::Settle(TGGrid& grid)
 {
-    if (rising.empty())
+    const std::unique_ptr<LateNumbers> settled(std::exchange(grid.lateNumbers, nullptr));
+    if (settled == nullptr)
         return;
-    rising.clear();
-    falling.clear();
-    long i = 0;
-    for (TGGridRow* row : grid.rows)
-    {
-        if (row != nullptr && row->index != -1)
+    long i = settled->LowestGone();
+    for (auto slot = grid.rows.IteratorAt(i); slot != grid.rows.end(); ++slot, ++i)
+        if (TGGridRow* row = *slot; row != nullptr && row->index != -1)
             row->index = i;
-        ++i;
-    }
 }
 
 } // namespace QuorUiCtr

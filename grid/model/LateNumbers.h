@@ -9,30 +9,44 @@ namespace QuorUiCtr
 {
 
 // Hooks run between the rows that leave, and see the indices of that moment; to store them anew in all rows
-// behind each row that goes would take quadratic time. While this object lives, the rows behind one that is
-// taken out keep the index that is stored in them, and TGGridRow::GetIndex subtracts the rows that have gone
-// from before it. The first row that gets an index of its own, or the end of the scope, has the true indices
-// stored. Scopes nest; the outermost one does the work. The row list is out of date in nothing.
+// behind each row that goes would take quadratic time. Between BeginUpdate and EndUpdate the rows behind one
+// that is taken out therefore keep the index that is stored in them, and TGGridRow::GetIndex subtracts the
+// rows that have gone from before it. The first row that gets an index of its own, or the last EndUpdate, has
+// the true indices stored. The row list is out of date in nothing.
+//
+// The grid has such an object as long as stored indices are not true.
 class TGGrid::LateNumbers
 {
 public:
-    explicit LateNumbers(TGGrid& servedGrid);
-    ~LateNumbers();
-    LateNumbers(const LateNumbers&) = delete;
-    LateNumbers& operator=(const LateNumbers&) = delete;
-
     // A row with this stored index has been taken out. False when the rows behind must be numbered now.
-    bool Note(long stored) noexcept;
-    long TrueIndex(long stored) const;
+    static bool Note(TGGrid& grid, long stored) noexcept;
     // Stores the true indices.
-    void Settle();
+    static void Settle(TGGrid& grid);
+    long TrueIndex(long stored) const;
 
 private:
-    TGGrid& grid;
-    // Stored indices of rows that have gone, in ascending and in descending order: rows leave from the first
-    // to the last or the other way round.
-    std::vector<long> rising;
-    std::vector<long> falling;
+    // Stored indices from `first` to before `end`; `before` is the number of those in the runs in front of
+    // this one in its list.
+    struct Run
+    {
+        long first;
+        long end;
+        long before;
+
+        long Total() const { return before + end - first; }
+    };
+    using Runs = std::vector<Run>;
+
+    bool Add(long stored);
+    static void Append(Runs& runs, long stored);
+    static long Total(const Runs& runs) { return runs.empty() ? 0 : runs.back().Total(); }
+    long LowestGone() const;
+    long CountGoneBelow(long stored) const;
+
+    // Of rows that have gone, in ascending and in descending order: rows leave from the first to the last or
+    // the other way round.
+    Runs rising;
+    Runs falling;
 };
 
 } // namespace QuorUiCtr

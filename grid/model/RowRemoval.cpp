@@ -46,7 +46,7 @@ void TGGrid::Structure::RemoveRows(long at, long number)
     const long stored = single != nullptr ? single->index : -1;
     const long before = grid.GetRowNum();
     grid.rows.Release(at, number);
-    if (grid.lateNumbers != nullptr && grid.lateNumbers->Note(stored))
+    if (LateNumbers::Note(grid, stored))
         grid.rows.MoveTo(-1);
     else
         NumberRows(at);

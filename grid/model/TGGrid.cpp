@@ -1,6 +1,7 @@
 // TGGrid itself: construction and destruction, the writers of the style word that have an effect, access to
 // rows, columns and cells, the row cursor and the sort keys.
 #include "grid/model/GridStructure.h"
+#include "grid/model/LateNumbers.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
@@ -32,6 +33,7 @@ TGGrid::~TGGrid()
         DestroyWindow();
     delete std::exchange(newRow, nullptr);
     rows.Clear();
+    LateNumbers::Settle(*this);
     rowPaste.Clear();
     cols.Clear();
 }

@@ -52,7 +52,7 @@ long TGGridRow::GetIndex() const
 void TGGridRow::SetIndex(long newIndex)
 {
     if (newIndex >= 0 && grid->lateNumbers != nullptr)
-        grid->lateNumbers->Settle();
+        TGGrid::LateNumbers::Settle(*grid);
     index = newIndex;
 }
 

@@ -5,7 +5,6 @@
 #include "grid/TGGridTreeRow.h"
 
 #include "grid/model/GridStructure.h"
-#include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 
 #include <algorithm>
@@ -89,7 +88,6 @@ void TGGridTreeRow::HideOffspring()
     const RowWatch self(owner, this);
     const TGGridUpdate update(owner);
     const CursorGuard cursor(owner.rows);
-    const TGGrid::LateNumbers late(owner);
     TGGrid::Structure structure(owner);
     owner.EndEditCell();
     // As many as there are at first: hooks may show others.

@@ -3,6 +3,7 @@
 #include "grid/window/GridLayout.h"
 #include "grid/headers/HeaderBox.h"
 #include "grid/model/GridStructure.h"
+#include "grid/model/LateNumbers.h"
 #include "grid/model/MakeOrNull.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
@@ -275,6 +276,7 @@ void TGGrid::EndUpdate()
 {
     if (updateDepth == 0 || --updateDepth > 0)
         return;
+    LateNumbers::Settle(*this);
     const bool layout = layoutPending;
     const bool redraw = redrawPending;
     const bool show = showPending;

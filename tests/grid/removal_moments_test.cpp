@@ -97,6 +97,27 @@ TEST_P(TreeRemovalMoments, ARowsIndexIsTheOneOfTheMoment)
     EXPECT_EQ(last.GetIndex(), 1);
 }
 
+TEST_P(TreeRemovalMoments, IndicesAreTrueBetweenTheFoldsOfOneUpdate)
+{
+    TGGridTreeRow& second = AddRoot(grid, L"t");
+    AddChild(second, L"u");
+    second.UnFold();
+    TGGridTreeRow& last = AddRoot(grid, L"v");
+    const TGGridUpdate update(grid);
+    root->Fold();
+    EXPECT_EQ(second.GetIndex(), 2);
+    EXPECT_EQ(last.GetIndex(), 4);
+    second.Fold();
+    EXPECT_EQ(last.GetIndex(), 3);
+    grid.DelRow(0);
+    EXPECT_EQ(last.GetIndex(), 2);
+    root = nullptr;
+    grid.AppendRow(nullptr);
+    EXPECT_EQ(second.GetIndex(), 1);
+    EXPECT_EQ(last.GetIndex(), 2);
+    EXPECT_EQ(grid.GetRow(3).GetIndex(), 3);
+}
+
 TEST_P(TreeRemovalMoments, AHookMayInsertRowsWhileOthersGo)
 {
     int calls = 0;

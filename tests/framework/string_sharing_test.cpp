@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <thread>
 #include <vector>
 
@@ -188,4 +189,55 @@ TEST(StringSharing, EmptyText_CanBeLocked)
     text.UnlockBuffer();
     EXPECT_STREQ(L"filled", text);
     EXPECT_TRUE(CString().IsEmpty());
+}
+
+// Texts of every length around the sizes of the blocks, so many that a block is used for several of them.
+TEST(StringSharing, TextsOfAllLengths_KeepApart)
+{
+    constexpr int LongestText = 70;
+    const auto textOf = [](int i) { return CString(static_cast<wchar_t>(L'a' + i % 26), i % LongestText); };
+    const auto narrowOf = [](int i) { return CStringA(static_cast<char>('a' + i % 26), i % LongestText); };
+    std::vector<CString> texts(20000);
+    std::vector<CStringA> narrow(texts.size());
+    for (int round = 0; round < 3; ++round)
+        for (int i = round; i < static_cast<int>(texts.size()); i += round + 1)
+        {
+            texts[static_cast<size_t>(i)] = textOf(i + round);
+            narrow[static_cast<size_t>(i)] = narrowOf(i + round);
+        }
+    for (int i = 0; i < static_cast<int>(texts.size()); ++i)
+    {
+        const int round = i >= 2 && (i - 2) % 3 == 0 ? 2 : i % 2 == 1 ? 1 : 0;
+        ASSERT_STREQ(textOf(i + round), texts[static_cast<size_t>(i)]) << i;
+        ASSERT_STREQ(narrowOf(i + round), narrow[static_cast<size_t>(i)]) << i;
+    }
+}
+
+// Texts are made and freed by different threads at the same time.
+TEST(StringSharing, ThreadsHandTextsToEachOther)
+{
+    constexpr int Threads = 4;
+    constexpr size_t Texts = 5000;
+    std::vector<std::vector<CString>> made(Threads, std::vector<CString>(Texts));
+    const auto run = [&made](auto work) {
+        std::vector<std::thread> threads;
+        for (int i = 0; i < Threads; ++i)
+            threads.emplace_back([&made, work, i] {
+                for (size_t text = 0; text < Texts; ++text)
+                    work(made[static_cast<size_t>((i + 1) % Threads)][text], i);
+            });
+        for (std::thread& thread : threads)
+            thread.join();
+    };
+    run([](CString& text, int i) { text = CString(static_cast<wchar_t>(L'0' + i), 8); });
+    run([](CString& text, int i) { text.Append(i % 2 == 0 ? L"" : L" and more of it"); });
+    for (int i = 0; i < Threads; ++i)
+        for (const CString& text : made[static_cast<size_t>((i + 1) % Threads)])
+            ASSERT_STREQ(CString(static_cast<wchar_t>(L'0' + i), 8) + (i % 2 == 0 ? L"" : L" and more of it"),
+                         text);
+    std::rotate(made.begin(), made.begin() + 1, made.end());
+    run([](CString& text, int) { text.Empty(); });
+    for (const std::vector<CString>& texts : made)
+        for (const CString& text : texts)
+            ASSERT_TRUE(text.IsEmpty());
 }

@@ -6,6 +6,7 @@
 #include <afxwin.h>
 
 #include <cstdlib>
+#include <new>
 
 namespace QuorUiCtr
 {
@@ -31,9 +32,20 @@ public:
     TGGridCell(TGGrid& grid, TGGridRow& row, TGGridCol& col);
     // Copies text, style and the three references. The copy is no cell of the row, which goes on owning the
     // original; it must be gone before grid, row and column are.
-    TGGridCell(const TGGridCell& other) = default;
+    TGGridCell(const TGGridCell& other);
     // The grid forgets the cell, also when it is under edit.
     virtual ~TGGridCell();
+
+    // Deletes a cell, also one that shares its memory with the other cells of its row.
+    static void operator delete(TGGridCell* cell, std::destroying_delete_t)
+    {
+        const unsigned place = cell->place;
+        cell->~TGGridCell();
+        if (place == 0)
+            ::operator delete(cell);
+        else
+            GiveBack(cell, place);
+    }
 
     // Copies text and style; the cell stays where it stands and is not repainted.
     TGGridCell& operator=(const TGGridCell& other);
@@ -103,9 +115,14 @@ private:
     long DrawTreeDecoration(CDC& context, const CRect& cell) const;
     void DrawChildLines(CDC& context, const CRect& cell, const CRect& parentBox) const;
 
+    // Gives back the memory of a cell that stood at `place` of its row's block.
+    static void GiveBack(void* memory, unsigned place);
+
     // The fields keep this order: compiled hosts that derive were built with it.
     CString text;
     int style = 0;
+    // Where in its row's block of cells the cell stands, counted from 1; 0 when it has memory of its own.
+    unsigned place = 0;
     // Never null and never owned.
     TGGridRow* row;
     TGGridCol* col;

@@ -11,6 +11,7 @@
 namespace QuorUiCtr
 {
 
+class CellBlock;
 class TGGrid;
 class TGGridCol;
 
@@ -139,6 +140,8 @@ private:
     int CompareByKeys(TGGridRow& other);
     // Appends an empty cell; an empty slot for a null column.
     void AddCell(TGGridCol* col);
+    // The same at a place of the row's block of cells.
+    void AddCell(TGGridCol* col, CellBlock& block, unsigned place);
     bool FitsCols() const;
     // Gives the row one cell for each column of the grid, in their order: the cells that it has for them, and
     // empty ones. For a row that was made before the columns changed. Changes nothing when it throws.

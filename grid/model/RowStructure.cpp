@@ -39,7 +39,8 @@ void TGGrid::InsertRow(long i, TGGridRow* row)
     ASSERT(i >= 0 && i <= GetRowNum());
     if (inserted == nullptr)
         inserted.reset(Structure(*this).MakeRow());
-    Structure(*this).FitToCols(*inserted);
+    else
+        Structure(*this).FitToCols(*inserted);
     TGGridRow* const entered = inserted.get();
     Structure(*this).InsertRows(std::clamp(i, 0L, GetRowNum()), {&entered, 1});
     inserted.release();
@@ -52,7 +53,8 @@ void TGGrid::AppendRow(TGGridRow* row)
     EndEditCell();
     if (appended == nullptr)
         appended.reset(Structure(*this).MakeRow());
-    Structure(*this).FitToCols(*appended);
+    else
+        Structure(*this).FitToCols(*appended);
     appended->SetIndex(rows.Append(appended.get()));
     appended.release();
     RecalcLayout(1);

@@ -2,6 +2,7 @@
 #include "grid/TGGridCell.h"
 
 #include "grid/TGGrid.h"
+#include "grid/model/CellBlock.h"
 
 namespace QuorUiCtr
 {
@@ -11,9 +12,19 @@ TGGridCell::TGGridCell(TGGrid& owner, TGGridRow& ownRow, TGGridCol& ownCol)
 {
 }
 
+TGGridCell::TGGridCell(const TGGridCell& other)
+    : text(other.text), style(other.style), row(other.row), col(other.col), grid(other.grid)
+{
+}
+
 TGGridCell::~TGGridCell()
 {
     grid->ForgetCell(this);
+}
+
+void TGGridCell::GiveBack(void* memory, unsigned place)
+{
+    CellBlock::Of(memory, place)->GiveBack();
 }
 
 TGGridCell& TGGridCell::operator=(const TGGridCell& other)

@@ -1,6 +1,7 @@
 // A row's cells, host data, read-only rules, order and geometry.
 #include "grid/TGGridRow.h"
 
+#include "grid/model/CellBlock.h"
 #include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
@@ -18,8 +19,17 @@ TGGridRow::TGGridRow(TGGrid& owner) : grid(&owner), colsSeen(owner.lastColSerial
 {
     PDList<TGGridCol>& cols = owner.cols;
     cells.Reserve(cols.GetNum());
+    CellBlock* const block = CellBlock::isUsed && !cols.IsEmpty()
+                                 ? CellBlock::Make(static_cast<unsigned>(cols.GetNum()))
+                                 : nullptr;
+    unsigned place = 0;
     for (cols.MoveToFirst(); !cols.IsOut(); cols.MoveToNext())
-        AddCell(cols.Cur());
+    {
+        if (block == nullptr)
+            AddCell(cols.Cur());
+        else
+            AddCell(cols.Cur(), *block, ++place);
+    }
 }
 
 TGGridRow::~TGGridRow()
@@ -126,6 +136,20 @@ void TGGridRow::AddCell(TGGridCol* col)
     auto cell = col != nullptr ? std::make_unique<TGGridCell>(*grid, *this, *col) : nullptr;
     cells.Append(cell.get());
     cell.release();
+}
+
+// There is memory for the slot.
+void TGGridRow::AddCell(TGGridCol* col, CellBlock& block, unsigned place)
+{
+    TGGridCell* cell = nullptr;
+    if (col != nullptr)
+    {
+        cell = ::new (block.MemoryAt(place)) TGGridCell(*grid, *this, *col);
+        cell->place = place;
+    }
+    else
+        block.GiveBack();
+    cells.Append(cell);
 }
 
 bool TGGridRow::FitsCols() const

@@ -356,6 +356,35 @@ TEST_F(GridParts, CellsAreComparedCaseSensitively)
     EXPECT_FALSE(first > second);
 }
 
+// A copy must not be taken for one of the cells that share memory.
+TEST_F(GridParts, ACopyOfACellOnTheHeapIsDeletedByItself)
+{
+    TGGridCell& cell = (*row)[1];
+    cell.SetText(L"kept");
+    delete new TGGridCell(cell);
+    delete new TGGridCell(grid, *row, grid.GetCol(0));
+    EXPECT_EQ(Narrow((*row)[1].GetText()), "kept");
+}
+
+// Cells that a row was made with leave one by one, and others come.
+TEST_F(GridParts, TheCellsOfARowOutliveEachOther)
+{
+    grid.GetCell(1, 0).SetText(L"first");
+    grid.GetCell(1, 1).SetText(L"second");
+    grid.InsertCol(1, L"between", 10);
+    grid.GetCell(1, 1).SetText(L"new");
+    grid.DelCol(0);
+    EXPECT_EQ(Narrow(grid.GetCell(1, 0).GetText()) + " " + Narrow(grid.GetCell(1, 1).GetText()),
+              "new second");
+    grid.DelCol(1);
+    grid.AppendCol(L"last", 10);
+    grid.GetCell(1, 1).SetText(L"newest");
+    EXPECT_EQ(Narrow(grid.GetCell(1, 0).GetText()) + " " + Narrow(grid.GetCell(1, 1).GetText()),
+              "new newest");
+    grid.DelRow(1);
+    EXPECT_EQ(grid.GetRowNum(), 1);
+}
+
 TEST_F(GridParts, CopyingACellTakesItsPlaceAndAssigningOneDoesNot)
 {
     TGGridCell& source = (*row)[1];

@@ -294,7 +294,7 @@ private:
 
     void DestroyAll()
     {
-        if constexpr (!NodeStore::usesBlocks || !std::is_trivially_destructible_v<T>)
+        if constexpr (!NodeStore::UsesBlocks || !std::is_trivially_destructible_v<T>)
         {
             for (Node* node = head.next; node != &head;)
                 node = Destroy(node);
@@ -370,7 +370,7 @@ private:
         if (cursor >= 0)
             nearest = NearestOf(nearest, {current, cursor}, index);
         const long distance = std::abs(index - nearest.index);
-        if (distance > shortWalk)
+        if (distance > ShortWalk)
             if (const auto* known = places.Find(head.next, count, distance))
                 nearest = NearestOf(nearest, known->FindNearest(index, backLinks), index);
         return nearest.WalkTo(index);
@@ -384,7 +384,7 @@ private:
     }
 
     // Walks of at most this many steps are not worth looking for a better one.
-    static constexpr long shortWalk = 8;
+    static constexpr long ShortWalk = 8;
 
     long count = 0;
     long cursor = -1;

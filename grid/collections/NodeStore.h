@@ -20,9 +20,9 @@ class NodeStore
 {
 public:
 #ifdef _DEBUG
-    static constexpr bool usesBlocks = false;
+    static constexpr bool UsesBlocks = false;
 #else
-    static constexpr bool usesBlocks = true;
+    static constexpr bool UsesBlocks = true;
 #endif
 
     NodeStore() = default;
@@ -36,7 +36,7 @@ public:
     // A slot of `slotSize` bytes, which must be the same in every call. Throws std::bad_alloc.
     void* Take(std::size_t slotSize)
     {
-        if constexpr (!usesBlocks)
+        if constexpr (!UsesBlocks)
             return TakeSingle(slotSize);
         if (newest == nullptr || (newest->freeSlots == nullptr && newest->used == newest->capacity))
             AddBlock(NextCapacity(), slotSize);
@@ -51,7 +51,7 @@ public:
     // Takes back a slot whose node has been destroyed.
     void Give(void* slot) noexcept
     {
-        if constexpr (!usesBlocks)
+        if constexpr (!UsesBlocks)
         {
             --newest->used;
             --newest->total;
@@ -64,7 +64,7 @@ public:
     // Makes room for `slots` slots in all, those in use included.
     void Reserve(std::size_t slots, std::size_t slotSize)
     {
-        if constexpr (!usesBlocks)
+        if constexpr (!UsesBlocks)
         {
             while (newest == nullptr || newest->total < slots)
                 AddSpare(slotSize);
@@ -78,7 +78,7 @@ public:
     // Frees every block. Every node must have been destroyed, or need no destruction.
     void Release() noexcept
     {
-        while (!usesBlocks && newest != nullptr && newest->freeSlots != nullptr)
+        while (!UsesBlocks && newest != nullptr && newest->freeSlots != nullptr)
             ::operator delete(std::exchange(newest->freeSlots, newest->freeSlots->next));
         while (newest != nullptr)
         {

@@ -26,9 +26,9 @@ public:
     using Node = ChainNode<T>;
     using Place = ChainPlace<T>;
 
-    static constexpr long largestChunk = 64;
+    static constexpr long LargestChunk = 64;
     // Chains of at most this many elements do without.
-    static constexpr long smallestUse = 512;
+    static constexpr long SmallestUse = 512;
 
     bool IsBuilt() const { return !starts.empty(); }
     long GetChunkNum() const { return static_cast<long>(starts.size()); }
@@ -49,7 +49,7 @@ public:
     {
         Forget();
         total = number;
-        if (!Reserve(static_cast<std::size_t>(number / (largestChunk / 2)) + 1) || !MakeRoom(0, 1))
+        if (!Reserve(static_cast<std::size_t>(number / (LargestChunk / 2)) + 1) || !MakeRoom(0, 1))
             return false;
         SetChunk(0, {first, 0});
         SplitIfLarge(0);
@@ -206,17 +206,17 @@ private:
     // Without memory for it the chunk stays too large, which only costs time.
     void SplitIfLarge(std::size_t chunk) noexcept
     {
-        constexpr long half = largestChunk / 2;
+        constexpr long Half = LargestChunk / 2;
         const long size = SizeOf(chunk);
-        if (size <= largestChunk)
+        if (size <= LargestChunk)
             return;
-        const auto added = static_cast<std::size_t>(size / half - 1);
+        const auto added = static_cast<std::size_t>(size / Half - 1);
         if (!MakeRoom(chunk + 1, added))
             return;
         Place place = PlaceOf(chunk);
         for (std::size_t i = chunk + 1; i <= chunk + added; ++i)
         {
-            place = {place.WalkTo(place.index + half), place.index + half};
+            place = {place.WalkTo(place.index + Half), place.index + Half};
             SetChunk(i, place);
         }
     }
@@ -224,7 +224,7 @@ private:
     // Joins a chunk and the one behind it.
     void MergeIfSmall(std::size_t chunk)
     {
-        if (chunk + 1 < starts.size() && SizeOf(chunk) + SizeOf(chunk + 1) <= largestChunk / 2)
+        if (chunk + 1 < starts.size() && SizeOf(chunk) + SizeOf(chunk + 1) <= LargestChunk / 2)
             Erase(chunk + 1, chunk + 2);
     }
 

@@ -21,7 +21,7 @@ public:
     // saves a walk of `distance` steps. Null otherwise, and when there is no memory for it.
     const Index* Find(Node* first, long number, long distance) noexcept
     {
-        if (number <= Index::smallestUse)
+        if (number <= Index::SmallestUse)
             return nullptr;
         if (!index)
             index.reset(new (std::nothrow) Index);

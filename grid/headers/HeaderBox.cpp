@@ -7,12 +7,12 @@ namespace QuorUiCtr
 namespace
 {
 
-const COLORREF flatLight = RGB(240, 240, 240);
-const COLORREF flatDark = RGB(80, 80, 80);
+constexpr COLORREF FlatLight = RGB(240, 240, 240);
+constexpr COLORREF FlatDark = RGB(80, 80, 80);
 
 // Passed on as they are, although the type is none of the platform's named frame controls.
-const UINT frameControlType = 8;
-const UINT frameControlState = 0;
+constexpr UINT FrameControlType = 8;
+constexpr UINT FrameControlState = 0;
 
 } // namespace
 
@@ -20,9 +20,9 @@ void DrawHeaderBox(CDC& context, const CRect& box, bool flat)
 {
     CRect frame = box;
     if (flat)
-        context.Draw3dRect(&frame, flatLight, flatDark);
+        context.Draw3dRect(&frame, FlatLight, FlatDark);
     else
-        ::DrawFrameControl(context.GetSafeHdc(), &frame, frameControlType, frameControlState);
+        ::DrawFrameControl(context.GetSafeHdc(), &frame, FrameControlType, FrameControlState);
 }
 
 } // namespace QuorUiCtr

@@ -7,7 +7,7 @@ namespace QuorUiCtr
 {
 
 // Length in pixels of the header bands along the grid's edges; the grid clips them.
-const int headerExtent = 10000;
+constexpr int HeaderExtent = 10000;
 
 // Control identifiers of the header windows, children of the grid.
 constexpr unsigned int QuadId = 102;

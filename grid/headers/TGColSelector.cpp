@@ -33,7 +33,7 @@ void TGColSelector::MakeWindow()
     resizeCol = -1;
     markX = -1;
     const long left = grid->IsRowSel() ? grid->GetRowHeight() : 0;
-    const CRect place(left, 0, headerExtent, grid->GetColHeaderHeight());
+    const CRect place(left, 0, HeaderExtent, grid->GetColHeaderHeight());
     const CString& className = windowClass.Register(bkBrush);
     if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, ColHeaderId))
         EnableToolTips(TRUE);

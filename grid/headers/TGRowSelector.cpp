@@ -44,7 +44,7 @@ void TGRowSelector::MakeWindow()
     dragRow = -1;
     markedRow = -1;
     const long top = grid->IsColSel() ? grid->GetColHeaderHeight() : 0;
-    const CRect place(0, top, grid->GetRowHeight(), headerExtent);
+    const CRect place(0, top, grid->GetRowHeight(), HeaderExtent);
     const CString& className = windowClass.Register(bkBrush);
     if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, RowHeaderId))
         EnableToolTips(TRUE);

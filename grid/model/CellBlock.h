@@ -18,7 +18,7 @@ class CellBlock
 {
 public:
     // With _DEBUG defined each cell is an allocation of its own, so that a guarding allocator sees it.
-    static constexpr bool isUsed = Detail::NodeStore::usesBlocks;
+    static constexpr bool IsUsed = Detail::NodeStore::UsesBlocks;
 
     // `cells` places, at least one, all of them in use. Throws std::bad_alloc.
     static CellBlock* Make(std::uint32_t cells)

@@ -19,7 +19,7 @@ TGGridRow::TGGridRow(TGGrid& owner) : grid(&owner), colsSeen(owner.lastColSerial
 {
     PDList<TGGridCol>& cols = owner.cols;
     cells.Reserve(cols.GetNum());
-    CellBlock* const block = CellBlock::isUsed && !cols.IsEmpty()
+    CellBlock* const block = CellBlock::IsUsed && !cols.IsEmpty()
                                  ? CellBlock::Make(static_cast<unsigned>(cols.GetNum()))
                                  : nullptr;
     unsigned place = 0;

@@ -19,12 +19,12 @@ public:
     TGGridRow* Next();
 
     // The identifier text of a leaf: its cell in column 1, null when it has none.
-    static TGGridCell* IdentifierCell(TGGridRow& leaf) { return leaf.FindCell(identifierCol); }
+    static TGGridCell* IdentifierCell(TGGridRow& leaf) { return leaf.FindCell(IdentifierCol); }
     // The number that the cell reads as; 0 for a null cell.
     static int IdentifierOf(const TGGridCell* cell) { return cell != nullptr ? _wtoi(cell->GetText()) : 0; }
 
 private:
-    static constexpr long identifierCol = 1;
+    static constexpr long IdentifierCol = 1;
 
     // A queue whose front is at `front`: what has been taken stays, which is quicker than taking it out.
     std::vector<TGGridRow*> waiting;

@@ -7,7 +7,7 @@ namespace QuorUiCtr
 namespace
 {
 
-const UINT classStyle = CS_SAVEBITS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
+constexpr UINT ClassStyle = CS_SAVEBITS | CS_DBLCLKS | CS_HREDRAW | CS_VREDRAW;
 
 } // namespace
 
@@ -20,7 +20,7 @@ BrushWindowClass::~BrushWindowClass()
 const CString& BrushWindowClass::Register(CBrush& background)
 {
     if (name.IsEmpty())
-        name = AfxRegisterWndClass(classStyle, ::LoadCursor(nullptr, IDC_ARROW), background, nullptr);
+        name = AfxRegisterWndClass(ClassStyle, ::LoadCursor(nullptr, IDC_ARROW), background, nullptr);
     return name;
 }
 

@@ -213,8 +213,8 @@ void TGGrid::Layout::PlaceHeaders()
     const long left = grid.IsRowSel() ? measure.cx : 0;
     const long top = grid.IsColSel() ? measure.cy : 0;
     PlaceChild(grid.quad, CRect(0, 0, measure.cx, measure.cy));
-    PlaceChild(grid.colHeader, CRect(left, 0, headerExtent, measure.cy));
-    PlaceChild(grid.rowHeader, CRect(0, top, measure.cx, headerExtent));
+    PlaceChild(grid.colHeader, CRect(left, 0, HeaderExtent, measure.cy));
+    PlaceChild(grid.rowHeader, CRect(0, top, measure.cx, HeaderExtent));
 }
 
 void TGGrid::Layout::RenewNewRow()

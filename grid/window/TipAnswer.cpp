@@ -21,17 +21,17 @@ constexpr int FormatterLimit = 1025;
 
 // Shows the tip in inactive windows too, where the framework knows the flag.
 #ifdef TTF_ALWAYSTIP
-const UINT alwaysTip = static_cast<UINT>(TTF_ALWAYSTIP);
+constexpr UINT AlwaysTip = static_cast<UINT>(TTF_ALWAYSTIP);
 #else
-const UINT alwaysTip = 0;
+constexpr UINT AlwaysTip = 0;
 #endif
 
 // What the formatter reads as arguments. No piece can ask for more.
-const std::uint64_t zeroArguments[LongestTipPiece] = {};
+constexpr std::uint64_t Zeros[LongestTipPiece] = {};
 
 va_list ZeroArguments()
 {
-    return reinterpret_cast<va_list>(const_cast<std::uint64_t*>(zeroArguments));
+    return reinterpret_cast<va_list>(const_cast<std::uint64_t*>(Zeros));
 }
 
 std::wstring FormatWithZeros(const std::wstring& piece)
@@ -63,7 +63,7 @@ INT_PTR AnswerTip(const CWnd& window, const CString& tip, INT_PTR id, UINT extra
         return -1;
     info->hwnd = window.GetSafeHwnd();
     info->uId = reinterpret_cast<UINT_PTR>(window.GetSafeHwnd());
-    info->uFlags |= TTF_IDISHWND | TTF_NOTBUTTON | alwaysTip | extraFlags;
+    info->uFlags |= TTF_IDISHWND | TTF_NOTBUTTON | AlwaysTip | extraFlags;
     info->lpszText = text;
     return id;
 }

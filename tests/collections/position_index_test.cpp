@@ -54,7 +54,7 @@ public:
             const auto before = index.FindNearest(position, false);
             const auto nearest = index.FindNearest(position, true);
             right = right && before.index <= position && before.node == At(before.index) &&
-                    nearest.node == At(nearest.index) && position - before.index < Index::largestChunk &&
+                    nearest.node == At(nearest.index) && position - before.index < Index::LargestChunk &&
                     std::abs(nearest.index - position) <= position - before.index;
         }
         return right;
@@ -133,7 +133,7 @@ TEST(PositionIndex, FindPartition_StandsLessThanAChunkBeforeIt)
     {
         const auto place = nodes.index.FindPartition([first](long element) { return element < first; });
         EXPECT_LE(place.index, first);
-        EXPECT_LE(first - place.index, Index::largestChunk) << first;
+        EXPECT_LE(first - place.index, Index::LargestChunk) << first;
         EXPECT_EQ(place.node, nodes.At(place.index));
     }
 }

@@ -11,7 +11,7 @@ namespace QuorUiCtr
 class TGGrid;
 
 // Shows whether the grid has the keyboard focus, by the colour of active captions; a double click selects all
-// rows. The grid makes one (control id 102) when both headers are enabled and owns it. It is as wide as the
+// rows. The grid makes one (control QuadId) when both headers are enabled and owns it. It is as wide as the
 // row header and as high as the column header; the grid places it.
 //
 // Hosts reach it through hooks only: OnActiveQuadTip gives it a tip, OnRClickQuad a menu.

@@ -13,7 +13,7 @@ class HeaderDrag;
 class TGGrid;
 class TGGridCol;
 
-// Draws one caption box per column. The grid makes one (control id 103) when the column header is enabled and
+// Draws one caption box per column. The grid makes one (control ColHeaderId) when the column header is enabled and
 // owns it. It scrolls horizontally with the grid.
 //
 // Clicks select columns: one; with Ctrl one more or one less; with Shift all from the one that is selected.

@@ -14,7 +14,7 @@ class HeaderDrag;
 class TGGrid;
 
 // Draws one box per row, as wide as one row is high, with icons in the current row and in the new-row line.
-// The grid makes one (control id 104) when the row header is enabled and owns it. It scrolls vertically with
+// The grid makes one (control RowHeaderId) when the row header is enabled and owns it. It scrolls vertically with
 // the grid.
 //
 // Clicks select rows: one; with Ctrl one more or one less; with Shift all up to a selection without gaps. A

@@ -9,11 +9,6 @@ namespace QuorUiCtr
 // Length in pixels of the header bands along the grid's edges; the grid clips them.
 constexpr int HeaderExtent = 10000;
 
-// Control identifiers of the header windows, children of the grid.
-constexpr unsigned int QuadId = 102;
-constexpr unsigned int ColHeaderId = 103;
-constexpr unsigned int RowHeaderId = 104;
-
 // Draws the frame of a header box into `box` (logical coordinates of `context`): a raised line of one pixel
 // when `flat`, else the platform's frame control. The inside of the box is left as it is.
 void DrawHeaderBox(CDC& context, const CRect& box, bool flat);

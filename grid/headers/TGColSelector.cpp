@@ -2,6 +2,7 @@
 #include "grid/TGColSelector.h"
 
 #include "grid/headers/HeaderBox.h"
+#include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
 

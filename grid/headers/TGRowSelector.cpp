@@ -2,21 +2,15 @@
 #include "grid/TGRowSelector.h"
 
 #include "grid/headers/HeaderBox.h"
+#include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
+#include "module/resource.h"
 
 #include <algorithm>
 
 namespace QuorUiCtr
 {
-
-namespace
-{
-
-const UINT currentRowIconId = 1000;
-const UINT newRowIconId = 1001;
-
-} // namespace
 
 BEGIN_MESSAGE_MAP(TGRowSelector, CWnd)
     ON_WM_PAINT()
@@ -29,7 +23,7 @@ BEGIN_MESSAGE_MAP(TGRowSelector, CWnd)
 END_MESSAGE_MAP()
 
 TGRowSelector::TGRowSelector(TGGrid& owner)
-    : grid(&owner), currentRowIcon(currentRowIconId), newRowIcon(newRowIconId)
+    : grid(&owner), currentRowIcon(IDI_CURRENT_ROW), newRowIcon(IDI_NEW_ROW)
 {
     bkBrush.CreateSolidBrush(::GetSysColor(COLOR_BTNFACE));
     MakeWindow();

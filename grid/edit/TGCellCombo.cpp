@@ -11,10 +11,13 @@ namespace QuorUiCtr
 namespace
 {
 
-// The combo covers the cell's lines; below the field of one cell height the dropped list is eleven high.
+// The combo begins on the cell's left and upper lines. The height that its window is made with is that of the
+// field and of the list that drops below it.
 CRect ComboWindowRect(const CRect& cell)
 {
-    return CRect(cell.left - 1, cell.top - 1, cell.right, 12 * cell.bottom - 11 * cell.top - 1);
+    constexpr int DroppedCellHeights = 11;
+    const long fieldBottom = cell.bottom - 1;
+    return CRect(cell.left - 1, cell.top - 1, cell.right, fieldBottom + DroppedCellHeights * cell.Height());
 }
 
 } // namespace

@@ -11,8 +11,8 @@
 namespace QuorUiCtr
 {
 
-// A row of a tree grid. A parent row shows a plus or minus box in the first column; while it is shown and
-// unfolded, its children stand in the grid's row list right below it, each followed by its own shown
+// A row of a tree grid. A parent row shows a fold box (plus or minus) in the first column; while it is shown
+// and unfolded, its children stand in the grid's row list right below it, each followed by its own shown
 // descendants. Folded descendants live only in their parent's child list and have the index -1. A row owns
 // its children; the grid's row list refers to the shown ones. The unfold flag is remembered while a row is
 // hidden.
@@ -126,7 +126,7 @@ public:
     // changes nothing otherwise. A null `text` finds an empty cell.
     bool FindAndSel(const wchar_t* text, long col);
 
-    // Whether a point in logical coordinates lies in the plus or minus box; false without children. The point
+    // Whether a point in logical coordinates lies in the fold box; false without children. The point
     // is not changed.
     bool IsPtInTreeQuad(CPoint& point);
 
@@ -155,8 +155,8 @@ protected:
     long GetChildIndex(TGGridTreeRow* child);
     // The grid row index at which the child at `position` is or would be shown, counted by the unfold flags.
     long GetGlobalChildIndex(long position);
-    // The plus or minus box in logical coordinates: a square three pixels smaller than the row is high, one
-    // step further right for each ancestor. Leaves `rect` untouched without children.
+    // The fold box (the quad of a tree row) in logical coordinates: a square three pixels smaller than the
+    // row is high, one step further right for each ancestor. Leaves `rect` untouched without children.
     void GetTreeQuad(CRect& rect);
 
 private:

@@ -133,7 +133,7 @@ Box CellTextRect(const Box& cell, int rowSpace)
     return Box(inside.left + 2, inside.top + rowSpace, inside.right, inside.bottom);
 }
 
-Box TreeQuadRect(int firstColumnLeft, int row, int depth, int rowHeight)
+Box FoldBoxRect(int firstColumnLeft, int row, int depth, int rowHeight)
 {
     const int size = rowHeight - 3;
     const int left = firstColumnLeft + 2 + depth * size;

@@ -70,7 +70,7 @@ Box CellOutlineRect(const Box& cell);
 Box CellInsideRect(const Box& cell);
 Box CellTextRect(const Box& cell, int rowSpace);
 
-// The plus or minus box of a parent row at `row` with `depth` ancestors.
-Box TreeQuadRect(int firstColumnLeft, int row, int depth, int rowHeight);
+// The fold box of a parent row, its plus or minus, at `row` with `depth` ancestors.
+Box FoldBoxRect(int firstColumnLeft, int row, int depth, int rowHeight);
 
 } // namespace QuorUiCtr

@@ -25,7 +25,7 @@ public:
     explicit EditSession(TGGrid& servedGrid) : grid(servedGrid) {}
 
     TGGridCell* FindCell(long row, long col);
-    void SkipTreeQuad(TGGridCell& cell, CRect& rect);
+    void SkipFoldBox(TGGridCell& cell, CRect& rect);
 
     // All others run hooks, or hide or destroy an editor, of which its parents hear: whoever goes on
     // afterwards with a cell or a row watches it.
@@ -108,7 +108,7 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
     grid.ShowRect(rect);
     grid.editCell = &cell;
     rect.DeflateRect(1, 1, 0, 0);
-    SkipTreeQuad(cell, rect);
+    SkipFoldBox(cell, rect);
     grid.dc->LPtoDP(rect);
 
     CellWatch watch(grid, &cell);
@@ -134,23 +134,23 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
     grid.OnCurChanged();
 }
 
-// In the tree's column the editor begins right of the plus or minus box, or one step right of the parent's.
-void TGGrid::EditSession::SkipTreeQuad(TGGridCell& cell, CRect& rect)
+// In the tree's column the editor begins right of the fold box, or one step right of the parent's.
+void TGGrid::EditSession::SkipFoldBox(TGGridCell& cell, CRect& rect)
 {
     TGGridRow& row = cell.GetRow();
     if (cell.GetColIndex() != 0 || !row.IsTreeRow())
         return;
     TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(row);
-    CRect quadRect;
+    CRect foldBox;
     if (treeRow.IsParentRow())
     {
-        treeRow.GetTreeQuad(quadRect);
-        rect.left = quadRect.right;
+        treeRow.GetTreeQuad(foldBox);
+        rect.left = foldBox.right;
     }
     else if (treeRow.IsChildRow())
     {
-        treeRow.GetParent().GetTreeQuad(quadRect);
-        rect.left = 2 * quadRect.right - quadRect.left;
+        treeRow.GetParent().GetTreeQuad(foldBox);
+        rect.left = 2 * foldBox.right - foldBox.left;
     }
 }
 

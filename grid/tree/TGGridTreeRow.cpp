@@ -1,4 +1,4 @@
-// A tree row's place in its tree: cells, navigation, counts, search and the plus or minus box. What changes
+// A tree row's place in its tree: cells, navigation, counts, search and the fold box. What changes
 // the tree is in TreeChildren.cpp, TreeCopies.cpp and TreeFolding.cpp, each with one kind of change.
 #include "grid/TGGridTreeRow.h"
 
@@ -229,7 +229,7 @@ bool TGGridTreeRow::FindAndSel(const wchar_t* text, long col)
     return true;
 }
 
-// ---- The plus or minus box
+// ---- The fold box
 
 void TGGridTreeRow::GetTreeQuad(CRect& rect)
 {
@@ -238,7 +238,7 @@ void TGGridTreeRow::GetTreeQuad(CRect& rect)
     TGGrid& owner = GetGrid();
     const auto first = owner.cols.begin();
     const long left = first != owner.cols.end() && *first != nullptr ? (*first)->GetLeft() : 0;
-    rect = TreeQuadRect(left, GetIndex(), GetParentNum(), owner.GetRowHeight()).As<CRect>();
+    rect = FoldBoxRect(left, GetIndex(), GetParentNum(), owner.GetRowHeight()).As<CRect>();
 }
 
 bool TGGridTreeRow::IsPtInTreeQuad(CPoint& point)

@@ -88,7 +88,7 @@ void EditDriver::ChooseItem(int item)
 
 void EditDriver::ClickFoldBox(long row, long depth)
 {
-    const CRect box = QuorUiCtr::TreeQuadRect(0, row, depth, grid.GetRowHeight()).As<CRect>();
+    const CRect box = QuorUiCtr::FoldBoxRect(0, row, depth, grid.GetRowHeight()).As<CRect>();
     Click(grid, grid.ToClient(box.CenterPoint().x, box.CenterPoint().y));
 }
 

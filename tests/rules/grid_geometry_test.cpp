@@ -212,15 +212,15 @@ TEST(GridGeometry, CellRectangles_ShareTheBorderWithTheNeighbours)
     EXPECT_EQ("103,44-180,60", Text(CellTextRect(cell, 3)));
 }
 
-TEST(GridGeometry, TreeQuad_OfARootRow)
+TEST(GridGeometry, FoldBox_OfARootRow)
 {
-    EXPECT_EQ("2,62-19,79", Text(TreeQuadRect(0, 3, 0, 20)));
+    EXPECT_EQ("2,62-19,79", Text(FoldBoxRect(0, 3, 0, 20)));
 }
 
-TEST(GridGeometry, TreeQuad_OfAChild_StartsOneBoxFurtherRight)
+TEST(GridGeometry, FoldBox_OfAChild_StartsOneBoxFurtherRight)
 {
-    EXPECT_EQ("19,82-36,99", Text(TreeQuadRect(0, 4, 1, 20)));
-    EXPECT_EQ("66,22-83,39", Text(TreeQuadRect(30, 1, 2, 20)));
+    EXPECT_EQ("19,82-36,99", Text(FoldBoxRect(0, 4, 1, 20)));
+    EXPECT_EQ("66,22-83,39", Text(FoldBoxRect(30, 1, 2, 20)));
 }
 
 } // namespace

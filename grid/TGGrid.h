@@ -6,6 +6,7 @@
 #include "grid/TGGridRow.h"
 #include "grid/TGGridStyle.h"
 #include "grid/TGGridTreeRow.h"
+#include "grid/TGGridUpdate.h"
 #include "grid/collections/DualList.h"
 #include "grid/collections/List.h"
 #include "grid/collections/PDList.h"
@@ -708,40 +709,6 @@ private:
     // The cells and rows that operations on the stack are working on.
     CellWatch* cellWatches = nullptr;
     RowWatch* rowWatches = nullptr;
-};
-
-// BeginUpdate and EndUpdate of a grid for the length of a scope:
-//
-//     {
-//         const TGGridUpdate update(grid);
-//         for (const Part& part : parts)
-//             grid.AppendRow(MakeRow(part));
-//     }                                       // one layout, one repaint
-class TGGridUpdate
-{
-public:
-    // The grid must outlive the scope; its window need not.
-    explicit TGGridUpdate(TGGrid& updatedGrid) : grid(updatedGrid) { grid.BeginUpdate(); }
-    ~TGGridUpdate()
-    {
-        // A layout that gets no memory is made up for by the next one.
-        try
-        {
-            grid.EndUpdate();
-        }
-        catch (CException* exception)
-        {
-            exception->Delete();
-        }
-        catch (...)
-        {
-        }
-    }
-    TGGridUpdate(const TGGridUpdate&) = delete;
-    TGGridUpdate& operator=(const TGGridUpdate&) = delete;
-
-private:
-    TGGrid& grid;
 };
 
 } // namespace QuorUiCtr

@@ -9,12 +9,13 @@
 namespace QuorUiCtr
 {
 
+class HeaderBand;
 class HeaderDrag;
 class TGGrid;
 class TGGridCol;
 
-// Draws one caption box per column. The grid makes one (control ColHeaderId) when the column header is enabled and
-// owns it. It scrolls horizontally with the grid.
+// Draws one caption box per column. The grid makes one (control ColHeaderId) when the column header is
+// enabled and owns it. It scrolls horizontally with the grid.
 //
 // Clicks select columns: one; with Ctrl one more or one less; with Shift all from the one that is selected.
 // Dragging a right edge, seen by the cursor, resizes a column and asks nobody. Dragging a selected column
@@ -67,13 +68,12 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* newCapture);
 
 private:
-    // Moves the origin of `context` to the grid's horizontal scroll position.
-    void PrepareContext(CDC& context) const;
-    // The box of a column and its caption, in the column's alignment.
+    // Where the header stands, and how its boxes are drawn.
+    HeaderBand Band() const;
+    // The caption of a column, in the column's alignment.
     void DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const;
 
     // Mouse.
-    long LogicalX(CPoint point) const;
     long ColWithEdgeAt(long x) const;
     void ClickCol(long col);
     void ExtendSelection(long col);

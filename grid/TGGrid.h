@@ -19,6 +19,7 @@ namespace QuorUiCtr
 {
 
 class CellWatch;
+class HeaderBand;
 class HeaderDrag;
 class TGActiveQuad;
 class TGCellCtrl;
@@ -497,6 +498,7 @@ protected:
 protected:
     friend class CellWatch;
     friend class GridKeyMap;
+    friend class HeaderBand;
     friend class HeaderDrag;
     friend class RowWatch;
     friend class TGActiveQuad;

@@ -10,12 +10,14 @@
 namespace QuorUiCtr
 {
 
+class HeaderBand;
 class HeaderDrag;
+class HeaderPainter;
 class TGGrid;
 
 // Draws one box per row, as wide as one row is high, with icons in the current row and in the new-row line.
-// The grid makes one (control RowHeaderId) when the row header is enabled and owns it. It scrolls vertically with
-// the grid.
+// The grid makes one (control RowHeaderId) when the row header is enabled and owns it. It scrolls vertically
+// with the grid.
 //
 // Clicks select rows: one; with Ctrl one more or one less; with Shift all up to a selection without gaps. A
 // click on the box of the new-row line appends a row, or ends the edit that is open there and so enters its
@@ -72,14 +74,14 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* newCapture);
 
 private:
-    // Moves the origin of `context` to the grid's vertical scroll position.
-    void PrepareContext(CDC& context) const;
+    // Where the header stands, and how its boxes are drawn.
+    HeaderBand Band() const;
     // The box of a row in logical coordinates.
-    CRect BoxRect(long row) const;
-    void DrawRow(CDC& context, long row);
-    void DrawNewRow(CDC& context);
+    CRect BoxRect(const HeaderPainter& painter, long row) const;
+    // The box of a row and the icon in it, which may be null.
+    void DrawBox(const HeaderPainter& painter, long row, HeaderIcon* icon);
     // Draws a row's box over what stands there; nothing for an index outside the rows.
-    void RedrawRow(CDC& context, long row);
+    void RedrawRow(const HeaderPainter& painter, long row);
 
     // Mouse.
     void ClickNewRowBox();

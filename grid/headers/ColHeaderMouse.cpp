@@ -17,17 +17,7 @@ constexpr long ResizeMarkWidth = 1;
 
 HeaderDrag TGColSelector::Drag()
 {
-    return HeaderDrag(*grid, HeaderDrag::Axis::Cols, markX, moving ? MoveMarkWidth : ResizeMarkWidth);
-}
-
-// The logical x of a point in client coordinates.
-long TGColSelector::LogicalX(CPoint point) const
-{
-    if (grid->GetDC() == nullptr)
-        return point.x;
-    if (grid->IsRowSel())
-        point.x += grid->GetRowHeight();
-    return grid->ClientToLogical(point).x;
+    return HeaderDrag(*grid, HeaderAxis::Cols, markX, moving ? MoveMarkWidth : ResizeMarkWidth);
 }
 
 // The column whose right edge or the pixel before it is at `x`; -1 when there is none. With coinciding edges
@@ -48,9 +38,9 @@ BOOL TGColSelector::OnSetCursor(CWnd* wnd, UINT hitTest, UINT message)
     CPoint point;
     ::GetCursorPos(&point);
     ScreenToClient(&point);
-    if (ColWithEdgeAt(LogicalX(point)) == -1)
+    if (ColWithEdgeAt(Band().LogicalPlace(point)) == -1)
         return CWnd::OnSetCursor(wnd, hitTest, message);
-    ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
+    Drag().ShowCursor();
     return TRUE;
 }
 
@@ -63,7 +53,7 @@ void TGColSelector::OnLButtonDown(UINT flags, CPoint point)
     if (m_hWnd == nullptr)
         return;
     SetCapture();
-    const long edgeCol = ColWithEdgeAt(LogicalX(point));
+    const long edgeCol = ColWithEdgeAt(Band().LogicalPlace(point));
     if (edgeCol != -1)
     {
         resizeCol = edgeCol;
@@ -114,7 +104,7 @@ void TGColSelector::OnLButtonUp(UINT flags, CPoint point)
     if (GetCapture() == this)
         ::ReleaseCapture();
     if (wasResizing)
-        ResizeTo(LogicalX(point));
+        ResizeTo(Band().LogicalPlace(point));
     else if (wasMoving)
         DropAt(PtToCol(point));
     if (m_hWnd != nullptr)
@@ -158,7 +148,7 @@ void TGColSelector::OnMouseMove(UINT flags, CPoint point)
     if (moving)
         MarkMoveTarget(PtToCol(point));
     else if (resizing)
-        Drag().MoveMark(LogicalX(point));
+        Drag().MoveMark(Band().LogicalPlace(point));
     if (m_hWnd != nullptr)
         CWnd::OnMouseMove(flags, point);
 }
@@ -175,7 +165,7 @@ long TGColSelector::CutColumnWidth(CPoint point) const
 
 void TGColSelector::MarkMoveTarget(long col)
 {
-    ::SetCursor(::LoadCursor(nullptr, IDC_SIZEWE));
+    Drag().ShowCursor();
     if (col < 0 || col > grid->GetColNum() || !grid->OnMovingCol(col) || !moving)
         return;
     Drag().MoveMark(grid->IsValidCol(col) ? grid->GetCol(col).GetLeft() : grid->GetRight());

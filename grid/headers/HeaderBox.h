@@ -6,9 +6,6 @@
 namespace QuorUiCtr
 {
 
-// Length in pixels of the header bands along the grid's edges; the grid clips them.
-constexpr int HeaderExtent = 10000;
-
 // Draws the frame of a header box into `box` (logical coordinates of `context`): a raised line of one pixel
 // when `flat`, else the platform's frame control. The inside of the box is left as it is.
 void DrawHeaderBox(CDC& context, const CRect& box, bool flat);

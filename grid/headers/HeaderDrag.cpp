@@ -24,6 +24,11 @@ CRect HeaderDrag::MarkRect() const
                          : CRect(place, 0, place + markThickness, MarkLength);
 }
 
+void HeaderDrag::ShowCursor() const
+{
+    ::SetCursor(::LoadCursor(nullptr, IsAlongRows() ? IDC_SIZENS : IDC_SIZEWE));
+}
+
 void HeaderDrag::MoveMark(long to)
 {
     if (to == place)

@@ -1,7 +1,7 @@
 // HeaderDrag: the mark that a drag in a header shows across the cells, and how it scrolls the grid.
 #pragma once
 
-#include "grid/TGGrid.h"
+#include "grid/headers/HeaderBand.h"
 
 namespace QuorUiCtr
 {
@@ -17,19 +17,15 @@ inline bool IsKeyHeld(int key)
 class HeaderDrag
 {
 public:
-    enum class Axis
-    {
-        Rows,
-        Cols
-    };
-
     // `markPlace` is the logical coordinate of the mark along the axis, -1 while none is shown; the mark is
     // `thickness` pixels thick.
-    HeaderDrag(TGGrid& draggedGrid, Axis dragAxis, long& markPlace, long thickness)
+    HeaderDrag(TGGrid& draggedGrid, HeaderAxis dragAxis, long& markPlace, long thickness)
         : grid(draggedGrid), axis(dragAxis), place(markPlace), markThickness(thickness)
     {
     }
 
+    // The arrow with two heads along the axis as cursor, until the mouse is moved again.
+    void ShowCursor() const;
     // Moves the mark, -1 takes it off the screen.
     void MoveMark(long to);
     // Shows the mark again after the grid has drawn its cells, or what stands in `drawn` (logical
@@ -43,10 +39,10 @@ public:
 private:
     CRect MarkRect() const;
     void InvertMark();
-    bool IsAlongRows() const { return axis == Axis::Rows; }
+    bool IsAlongRows() const { return axis == HeaderAxis::Rows; }
 
     TGGrid& grid;
-    Axis axis;
+    HeaderAxis axis;
     long& place;
     long markThickness;
 };

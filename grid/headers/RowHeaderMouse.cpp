@@ -16,7 +16,7 @@ constexpr long DropMarkHeight = 3;
 
 HeaderDrag TGRowSelector::Drag()
 {
-    return HeaderDrag(*grid, HeaderDrag::Axis::Rows, dropMarkY, DropMarkHeight);
+    return HeaderDrag(*grid, HeaderAxis::Rows, dropMarkY, DropMarkHeight);
 }
 
 // ---- Buttons
@@ -151,7 +151,7 @@ void TGRowSelector::OnMouseMove(UINT flags, CPoint point)
 
 void TGRowSelector::DragTo(long row)
 {
-    ::SetCursor(::LoadCursor(nullptr, IDC_SIZENS));
+    Drag().ShowCursor();
     if (row == dragRow || row < 0 || row > grid->GetRowNum() || !grid->OnMovingRow(row) || !dragging)
         return;
     Drag().MoveMark(row * grid->GetRowHeight());

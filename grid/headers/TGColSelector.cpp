@@ -1,7 +1,7 @@
 // The column header: its caption boxes, the column under a point and its tool tips.
 #include "grid/TGColSelector.h"
 
-#include "grid/headers/HeaderBox.h"
+#include "grid/headers/HeaderBand.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
@@ -33,10 +33,8 @@ void TGColSelector::MakeWindow()
     resizing = false;
     resizeCol = -1;
     markX = -1;
-    const long left = grid->IsRowSel() ? grid->GetRowHeight() : 0;
-    const CRect place(left, 0, HeaderExtent, grid->GetColHeaderHeight());
     const CString& className = windowClass.Register(bkBrush);
-    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, ColHeaderId))
+    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, Band().WindowRect(), grid, ColHeaderId))
         EnableToolTips(TRUE);
 }
 
@@ -45,32 +43,28 @@ TGColSelector::~TGColSelector()
     DestroyWindow();
 }
 
-void TGColSelector::PrepareContext(CDC& context) const
+HeaderBand TGColSelector::Band() const
 {
-    CPoint corner;
-    grid->GetUpCorner(corner);
-    context.SetViewportOrg(corner.x - (grid->IsRowSel() ? grid->GetRowHeight() : 0), 0);
+    return HeaderBand(*grid, HeaderAxis::Cols);
 }
 
 void TGColSelector::OnPaint()
 {
     CPaintDC context(this);
-    PrepareContext(context);
+    const HeaderPainter painter(context, Band());
     context.SetTextColor(RGB(0, 0, 0));
     context.SetBkMode(TRANSPARENT);
     context.SelectObject(grid->GetFont());
-    const long height = grid->GetColHeaderHeight();
-    for (TGGridCol* col : grid->cols)
+    for (const TGGridCol* col : grid->cols)
     {
-        const CRect box(col->GetLeft(), 0, col->GetRight(), height);
-        if (context.RectVisible(&box))
+        const CRect box = painter.Box(col->GetLeft(), col->GetRight());
+        if (painter.DrawFrame(box))
             DrawCaption(context, *col, box);
     }
 }
 
 void TGColSelector::DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const
 {
-    DrawHeaderBox(context, box, grid->IsFlatButton());
     CRect text(box.left + 2, grid->GetRowSpace(), box.right, box.bottom - 1);
     const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
     context.DrawText(col.GetName(), &text, DT_EDITCONTROL | alignment);
@@ -80,9 +74,7 @@ long TGColSelector::PtToCol(CPoint point) const
 {
     if (grid->GetDC() == nullptr)
         return point.x;
-    if (grid->IsRowSel())
-        point.x += grid->GetRowHeight();
-    return grid->ColAtX(grid->ClientToLogical(point).x);
+    return grid->ColAtX(Band().LogicalPlace(point));
 }
 
 INT_PTR TGColSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const

@@ -1,7 +1,7 @@
 // The row header: its boxes and icons, the row under a point and its tool tips.
 #include "grid/TGRowSelector.h"
 
-#include "grid/headers/HeaderBox.h"
+#include "grid/headers/HeaderBand.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
@@ -37,10 +37,8 @@ void TGRowSelector::MakeWindow()
     dropMarkY = -1;
     dragRow = -1;
     markedRow = -1;
-    const long top = grid->IsColSel() ? grid->GetColHeaderHeight() : 0;
-    const CRect place(0, top, grid->GetRowHeight(), HeaderExtent);
     const CString& className = windowClass.Register(bkBrush);
-    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, place, grid, RowHeaderId))
+    if (CreateEx(0, className, nullptr, WS_CHILD | WS_VISIBLE, Band().WindowRect(), grid, RowHeaderId))
         EnableToolTips(TRUE);
 }
 
@@ -49,48 +47,37 @@ TGRowSelector::~TGRowSelector()
     DestroyWindow();
 }
 
-void TGRowSelector::PrepareContext(CDC& context) const
+HeaderBand TGRowSelector::Band() const
 {
-    CPoint corner;
-    grid->GetUpCorner(corner);
-    context.SetViewportOrg(0, corner.y - (grid->IsColSel() ? grid->GetColHeaderHeight() : 0));
-}
-
-CRect TGRowSelector::BoxRect(long row) const
-{
-    const long height = grid->GetRowHeight();
-    return CRect(0, row * height, height, (row + 1) * height);
+    return HeaderBand(*grid, HeaderAxis::Rows);
 }
 
 void TGRowSelector::OnPaint()
 {
     CPaintDC context(this);
-    PrepareContext(context);
+    const HeaderPainter painter(context, Band());
     CRect clip;
     context.GetClipBox(&clip);
     const long height = grid->GetRowHeight();
     const long first = (std::max)(0L, clip.top / height);
     const long last = (std::min)(grid->GetRowNum() - 1, clip.bottom / height);
     for (long row = first; row <= last; ++row)
-        DrawRow(context, row);
+        DrawBox(painter, row, row == markedRow ? &currentRowIcon : nullptr);
     if (grid->IsAppendRowShown())
-        DrawNewRow(context);
+        DrawBox(painter, grid->GetRowNum(), &newRowIcon);
 }
 
-void TGRowSelector::DrawRow(CDC& context, long row)
+CRect TGRowSelector::BoxRect(const HeaderPainter& painter, long row) const
 {
-    DrawHeaderBox(context, BoxRect(row), grid->IsFlatButton());
-    if (row == markedRow)
-        currentRowIcon.Draw(context, BoxRect(row).TopLeft(), grid->GetRowHeight());
+    const long height = grid->GetRowHeight();
+    return painter.Box(row * height, (row + 1) * height);
 }
 
-void TGRowSelector::DrawNewRow(CDC& context)
+void TGRowSelector::DrawBox(const HeaderPainter& painter, long row, HeaderIcon* icon)
 {
-    const CRect box = BoxRect(grid->GetRowNum());
-    if (!context.RectVisible(&box))
-        return;
-    DrawHeaderBox(context, box, grid->IsFlatButton());
-    newRowIcon.Draw(context, box.TopLeft(), grid->GetRowHeight());
+    const CRect box = BoxRect(painter, row);
+    if (painter.DrawFrame(box) && icon != nullptr)
+        icon->Draw(painter.Context(), box.TopLeft(), grid->GetRowHeight());
 }
 
 void TGRowSelector::OnCurRowChanged()
@@ -108,28 +95,26 @@ void TGRowSelector::OnCurRowChanged()
         return;
     }
     CClientDC context(this);
-    PrepareContext(context);
-    RedrawRow(context, unmarked);
-    RedrawRow(context, markedRow);
+    const HeaderPainter painter(context, Band());
+    RedrawRow(painter, unmarked);
+    RedrawRow(painter, markedRow);
 }
 
 // The frame leaves the inside of a box as it is, so that an icon has to be wiped out first.
-void TGRowSelector::RedrawRow(CDC& context, long row)
+void TGRowSelector::RedrawRow(const HeaderPainter& painter, long row)
 {
     if (!grid->IsValidRow(row))
         return;
-    const CRect box = BoxRect(row);
-    context.FillRect(&box, &bkBrush);
-    DrawRow(context, row);
+    const CRect box = BoxRect(painter, row);
+    painter.Context().FillRect(&box, &bkBrush);
+    DrawBox(painter, row, row == markedRow ? &currentRowIcon : nullptr);
 }
 
 long TGRowSelector::PtToRow(CPoint point) const
 {
     if (grid->GetDC() == nullptr)
         return point.y;
-    if (grid->IsColSel())
-        point.y += grid->GetColHeaderHeight();
-    return grid->ClientToLogical(point).y / grid->GetRowHeight();
+    return Band().LogicalPlace(point) / grid->GetRowHeight();
 }
 
 INT_PTR TGRowSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const

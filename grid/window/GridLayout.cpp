@@ -1,7 +1,7 @@
 // TGGrid's layout: measures, scroll bars, header placement, the new-row line, the prepared drawing context
 // and the bracket that makes many changes as one.
 #include "grid/window/GridLayout.h"
-#include "grid/headers/HeaderBox.h"
+#include "grid/headers/HeaderBand.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/LateNumbers.h"
 #include "grid/model/MakeOrNull.h"
@@ -210,11 +210,9 @@ void TGGrid::Layout::PlaceHeaders()
     if (measure.cx == grid.headerMeasure.cx && measure.cy == grid.headerMeasure.cy)
         return;
     grid.headerMeasure = measure;
-    const long left = grid.IsRowSel() ? measure.cx : 0;
-    const long top = grid.IsColSel() ? measure.cy : 0;
     PlaceChild(grid.quad, CRect(0, 0, measure.cx, measure.cy));
-    PlaceChild(grid.colHeader, CRect(left, 0, HeaderExtent, measure.cy));
-    PlaceChild(grid.rowHeader, CRect(0, top, measure.cx, HeaderExtent));
+    PlaceChild(grid.colHeader, HeaderBand(grid, HeaderAxis::Cols).WindowRect());
+    PlaceChild(grid.rowHeader, HeaderBand(grid, HeaderAxis::Rows).WindowRect());
 }
 
 void TGGrid::Layout::RenewNewRow()

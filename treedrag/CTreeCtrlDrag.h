@@ -259,7 +259,17 @@ private:
     void ScrollHorizontally(CPoint point);
     HTREEITEM ItemBelowView() const;
     void ShowDropTarget(HTREEITEM item, CPoint point);
-    void SetDropTarget(HTREEITEM target, BOOL above);
+    // A place for a drop: an item, and whether the drop goes before it.
+    struct DropSpot
+    {
+        HTREEITEM target;
+        BOOL above;
+    };
+    // GetDragTarget as one value.
+    DropSpot DropSpotAt(HTREEITEM item, CPoint point);
+    void SetDropTarget(const DropSpot& spot);
+    // Makes what is at a point of `item` the drop target and shows it.
+    void AimAt(HTREEITEM item, CPoint point);
     void Repaint();
 
     bool IsDropWithoutEffect();

@@ -81,12 +81,11 @@ void CTreeCtrlDrag::TrackDrag(CPoint point)
     if (const HTREEITEM item = HitTest(point))
     {
         CImageList::DragLeave(this);
-        BOOL above = FALSE;
-        const HTREEITEM target = GetDragTarget(item, point, above);
-        if (target != dropTarget || above != dropAbove)
+        const DropSpot spot = DropSpotAt(item, point);
+        if (spot.target != dropTarget || spot.above != dropAbove)
         {
-            SetDropTarget(target, above);
-            EnsureVisible(target);
+            SetDropTarget(spot);
+            EnsureVisible(spot.target);
             Repaint();
         }
         CImageList::DragEnter(this, point);
@@ -96,11 +95,24 @@ void CTreeCtrlDrag::TrackDrag(CPoint point)
     CImageList::DragShowNolock(TRUE);
 }
 
-void CTreeCtrlDrag::SetDropTarget(HTREEITEM target, BOOL above)
+CTreeCtrlDrag::DropSpot CTreeCtrlDrag::DropSpotAt(HTREEITEM item, CPoint point)
 {
-    SelectDropTarget(target);
-    dropTarget = target;
-    dropAbove = above;
+    BOOL above = FALSE;
+    const HTREEITEM target = GetDragTarget(item, point, above);
+    return {target, above};
+}
+
+void CTreeCtrlDrag::SetDropTarget(const DropSpot& spot)
+{
+    SelectDropTarget(spot.target);
+    dropTarget = spot.target;
+    dropAbove = spot.above;
+}
+
+void CTreeCtrlDrag::AimAt(HTREEITEM item, CPoint point)
+{
+    SetDropTarget(DropSpotAt(item, point));
+    Repaint();
 }
 
 void CTreeCtrlDrag::Repaint()
@@ -140,10 +152,7 @@ void CTreeCtrlDrag::ToggleHoveredItem()
     Expand(item, TVE_TOGGLE);
     if (watch.IsGone(item))
         return;
-    BOOL above = FALSE;
-    const HTREEITEM target = GetDragTarget(item, hoverPoint, above);
-    SetDropTarget(target, above);
-    Repaint();
+    AimAt(item, hoverPoint);
 }
 
 void CTreeCtrlDrag::ScrollDuringDrag()
@@ -153,13 +162,12 @@ void CTreeCtrlDrag::ScrollDuringDrag()
     ScreenToClient(&point);
     if (const HTREEITEM item = HitTest(point))
     {
-        BOOL above = FALSE;
-        const HTREEITEM target = GetDragTarget(item, point, above);
-        if (target != dropTarget)
+        const DropSpot spot = DropSpotAt(item, point);
+        if (spot.target != dropTarget)
         {
             const HiddenDragImage hidden;
-            EnsureVisible(target);
-            SetDropTarget(target, above);
+            EnsureVisible(spot.target);
+            SetDropTarget(spot);
         }
     }
     else
@@ -199,10 +207,7 @@ void CTreeCtrlDrag::ShowDropTarget(HTREEITEM item, CPoint point)
         return;
     const HiddenDragImage hidden;
     EnsureVisible(item);
-    BOOL above = FALSE;
-    const HTREEITEM target = GetDragTarget(item, point, above);
-    SetDropTarget(target, above);
-    Repaint();
+    AimAt(item, point);
 }
 
 void CTreeCtrlDrag::ScrollHorizontally(CPoint point)

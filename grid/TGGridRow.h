@@ -111,6 +111,7 @@ protected:
     // Gives the host data away: the caller owns it, the row has none.
     TGRowData* ReleaseExtendData();
 
+    // For the grid, which numbers its rows; nothing moves.
     void SetIndex(long newIndex);
     // The row's band in logical coordinates, in pixels; rows that are not shown lie above the first one.
     long GetLeft() const { return 0; }
@@ -132,6 +133,7 @@ protected:
         DelUnableFlag = 0x02,
         UnfoldFlag = 0x10
     };
+    // The row's own bit; nothing that it implies follows, nothing is repainted.
     bool HasFlag(Flag flag) const { return (style & flag) != 0; }
     void SetFlag(Flag flag, bool on) { style = on ? style | flag : style & ~flag; }
 

@@ -11,6 +11,7 @@ namespace QuorUiCtr
 class HeaderIcon
 {
 public:
+    // The icon with that identifier, which is looked for along the chain of modules when it is drawn.
     explicit HeaderIcon(UINT resource) : id(resource) {}
     ~HeaderIcon();
     HeaderIcon(const HeaderIcon&) = delete;

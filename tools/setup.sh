@@ -31,6 +31,9 @@ clang-format clang-format-14 clang-format
 clang-tidy clang-tidy
 python3-clang /usr/lib/python3/dist-packages/clang/__init__.py
 shellcheck shellcheck
+doxygen doxygen
+hunspell hunspell
+hunspell-en-gb /usr/share/hunspell/en_GB.dic
 xdotool xdotool
 LIST
 }

@@ -16,6 +16,8 @@ import layout
 
 # What the compilers warn of is their business.
 QUIET = ['-Wno-everything']
+# Every source in these is a program of its own.
+PROGRAMS = ('samples/recipes',)
 
 
 def write_version(root, work):
@@ -36,7 +38,8 @@ def joined_folders(root, work, wanted):
         arguments[arguments.index(framework) - 1] = '-isystem'
         folders = collections.defaultdict(list)
         for path in layout.sources(root, part):
-            folders[os.path.dirname(path)].append(path)
+            folder = os.path.dirname(path)
+            folders[path if folder in PROGRAMS else folder].append(path)
         for folder, paths in folders.items():
             if wanted and folder not in wanted:
                 continue

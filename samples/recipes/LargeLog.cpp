@@ -56,6 +56,7 @@ public:
     {
         Create(nullptr, L"Large log", WS_OVERLAPPEDWINDOW, CRect(40, 40, 480, 400));
         grid.Create(CRect(), WS_CHILD | WS_VISIBLE, this);
+        grid.SetFlatButton(true);
         grid.SetReadOnly(true);
         grid.AppendCol(L"Line", 80);
         grid.AppendCol(L"Text", 300);

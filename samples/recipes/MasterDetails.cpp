@@ -38,6 +38,7 @@ public:
     {
         Create(nullptr, L"Master and details", WS_OVERLAPPEDWINDOW, CRect(40, 40, 500, 420));
         master.Create(CRect(), WS_CHILD | WS_VISIBLE | WS_BORDER, this);
+        master.SetFlatButton(true);
         master.SetRowFixLength(true);
         master.AppendCol(L"Order", 100);
         master.AppendCol(L"Customer", 240);
@@ -45,6 +46,7 @@ public:
         AddOrder(L"1002", L"Smith", {{L"Shaft 20 mm", L"1"}});
         details.Create(CRect(), WS_CHILD | WS_VISIBLE | WS_BORDER, this);
         details.SetDlgCtrlID(DetailsId);
+        details.SetFlatButton(true);
         details.AppendCol(L"Article", 240);
         details.AppendCol(L"Quantity", 100);
         master.SelectRow(0, true);

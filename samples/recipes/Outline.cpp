@@ -40,12 +40,11 @@ void LoadOutline(TGGrid& grid, CArchive& archive)
     for (CString line; archive.ReadString(line);)
     {
         const CString text = CString(line).TrimLeft(L'\t');
-        const size_t level =
-            (std::min)(static_cast<size_t>(line.GetLength() - text.GetLength()), path.size());
+        const int tabs = line.GetLength() - text.GetLength();
         auto* row = new TGGridTreeRow(grid);
         (*row)[0].SetText(text);
         row->SetUnFoldFlag(true);
-        path.resize(level);
+        path.resize((std::min)(static_cast<size_t>(tabs), path.size()));
         if (path.empty())
             grid.AppendRow(row);
         else
@@ -68,6 +67,7 @@ public:
         bar.Detach(); // the window's now
         grid.Create(CRect(), WS_CHILD | WS_VISIBLE, this);
         grid.SetDlgCtrlID(AFX_IDW_PANE_FIRST);
+        grid.SetFlatButton(true);
         grid.AppendCol(L"Outline", 360);
         grid.AppendRow(nullptr);
         TGGridTreeRow& root = grid.GetTreeRow(0);

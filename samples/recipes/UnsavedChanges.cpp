@@ -21,6 +21,7 @@ public:
         bar.Detach(); // the window's now
         grid.Create(CRect(), WS_CHILD | WS_VISIBLE, this);
         grid.SetDlgCtrlID(AFX_IDW_PANE_FIRST);
+        grid.SetFlatButton(true);
         grid.AppendCol(L"Name", 160);
         grid.AppendCol(L"Telephone", 160);
         grid.AppendRow(nullptr);

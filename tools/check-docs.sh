@@ -37,6 +37,8 @@ find_headers() {
 check_texts() {
     script tables "$quor_root"
     script links "$quor_root"
+    git -C "$quor_root" apply --check docs/contributing/first-change.patch 2>/dev/null ||
+        die "docs/contributing/first-change.patch no longer fits the sources"
     command -v hunspell >/dev/null || die "please run tools/setup.sh --checks"
     script spelling "$quor_root" "${public[@]}"
 }

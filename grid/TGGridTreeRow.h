@@ -162,7 +162,7 @@ protected:
 private:
     using OwnedRows = std::vector<std::unique_ptr<TGGridTreeRow>>;
 
-    // The indices of a number of shown rows.
+    // The indices of a number of shown rows, as they are stored.
     struct IndexRange
     {
         long number = 0;
@@ -194,7 +194,9 @@ private:
     void HideOffspring();
     void ShowOffspring();
     bool HasShownOffspring() const;
-    long CountShownOffspring() const;
+    // Takes the shown offspring out of the rows one by one, each with its hooks.
+    void HideOneByOne();
+    void CollectVisible(std::vector<const TGGridRow*>& visible) const;
     // Sets the index of all offspring to -1 and adds the indices that they had to `hidden`.
     void MarkHidden(IndexRange& hidden);
     // This row and its offspring, as far as they are folded.

@@ -170,7 +170,7 @@ void TGGrid::RowBuffer::CutRow(TGGridRow& row)
     grid.OnCurChanged();
     if (!watch.IsAlive() || !Structure(grid).PrepareToGo(*left))
         return;
-    Structure(grid).RemoveRows(left->GetIndex(), 1);
+    Structure(grid).RemoveRow(left->GetIndex());
     left->SetIndex(-1);
     substitute.reset(left);
 }

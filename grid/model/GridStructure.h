@@ -23,9 +23,11 @@ public:
     // Makes rows at the end, all or none.
     void AppendRows(long number);
     // Enters rows before the row at `at`, or takes rows out without deleting them; numbers the rows behind
-    // and shifts the selection.
+    // and shifts the selection. `stored` is what stood in the first row that goes, where the others followed
+    // it, else -1.
     void InsertRows(long at, std::span<TGGridRow* const> added);
-    void RemoveRows(long at, long number);
+    void RemoveRow(long at);
+    void RemoveRows(long at, long number, long stored);
     // Gives the rows from `first` on their indices; the row cursor ends past the last row.
     void NumberRows(long first);
     bool IsOffspringAt(long i, const TGGridTreeRow& top);
@@ -75,7 +77,7 @@ private:
     long EndOfTree(long i);
     // The parent of a tree row; null for a root row, a plain row and no row.
     static TGGridTreeRow* ParentOf(TGGridRow* row);
-    void RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden);
+    void RemoveHiddenRows(const TGGridTreeRow::IndexRange& stored);
     // Moves the columns from `first` to before `last` by `distance` pixels.
     void MoveColEdges(long first, long last, long distance);
 

@@ -36,22 +36,22 @@ const Element* LastOf(const std::vector<Element>& elements, Precedes precedes)
 
 } // namespace
 
-bool TGGrid::LateNumbers::Note(TGGrid& grid, long stored) noexcept
+bool TGGrid::LateNumbers::Note(TGGrid& grid, long stored, long number) noexcept
 {
     if (!grid.IsUpdating() || stored < 0)
         return false;
     if (grid.lateNumbers == nullptr)
         grid.lateNumbers = MakeOrNull([] { return new LateNumbers; });
-    return grid.lateNumbers != nullptr && grid.lateNumbers->Add(stored);
+    return grid.lateNumbers != nullptr && grid.lateNumbers->Add(stored, number);
 }
 
-bool TGGrid::LateNumbers::Add(long stored)
+bool TGGrid::LateNumbers::Add(long stored, long number) noexcept
 try
 {
     if (rising.empty() || stored >= rising.back().end)
-        Append(rising, stored);
-    else if (falling.empty() || stored < falling.back().first)
-        Append(falling, stored);
+        Append(rising, stored, number);
+    else if (falling.empty() || stored + number <= falling.back().first)
+        Append(falling, stored, number);
     else
         return false;
     return true;
@@ -61,19 +61,14 @@ catch (const std::bad_alloc&)
     return false;
 }
 
-void TGGrid::LateNumbers::Append(Runs& runs, long stored)
+void TGGrid::LateNumbers::Append(Runs& runs, long stored, long number)
 {
     if (!runs.empty() && stored == runs.back().end)
-        ++runs.back().end;
-    else if (!runs.empty() && stored == runs.back().first - 1)
-        --runs.back().first;
+        runs.back().end += number;
+    else if (!runs.empty() && stored + number == runs.back().first)
+        runs.back().first = stored;
     else
-        runs.push_back({stored, stored + 1, Total(runs)});
-}
-
-long TGGrid::LateNumbers::TrueIndex(long stored) const
-{
-    return stored - CountGoneBelow(stored);
+        runs.push_back({stored, stored + number, Total(runs)});
 }
 
 long TGGrid::LateNumbers::CountGoneBelow(long stored) const

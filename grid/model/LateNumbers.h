@@ -18,11 +18,15 @@ namespace QuorUiCtr
 class TGGrid::LateNumbers
 {
 public:
-    // A row with this stored index has been taken out. False when the rows behind must be numbered now.
-    static bool Note(TGGrid& grid, long stored) noexcept;
+    // The rows with the `number` stored indices from `stored` on have been taken out. False when the rows
+    // behind must be numbered now.
+    static bool Note(TGGrid& grid, long stored, long number) noexcept;
     // Stores the true indices.
     static void Settle(TGGrid& grid);
-    long TrueIndex(long stored) const;
+    static long TrueIndex(const TGGrid& grid, long stored)
+    {
+        return grid.lateNumbers == nullptr ? stored : stored - grid.lateNumbers->CountGoneBelow(stored);
+    }
 
 private:
     // Stored indices from `first` to before `end`; `before` is the number of those in the runs in front of
@@ -37,8 +41,8 @@ private:
     };
     using Runs = std::vector<Run>;
 
-    bool Add(long stored);
-    static void Append(Runs& runs, long stored);
+    bool Add(long stored, long number) noexcept;
+    static void Append(Runs& runs, long stored, long number);
     static long Total(const Runs& runs) { return runs.empty() ? 0 : runs.back().Total(); }
     long LowestGone() const;
     long CountGoneBelow(long stored) const;

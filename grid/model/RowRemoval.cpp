@@ -25,7 +25,7 @@ void TGGrid::Structure::HideRow(long i)
     TGGridRow* row = grid.RowAtIndex(i);
     if (row == nullptr || !PrepareToGo(*row))
         return;
-    RemoveRows(row->GetIndex(), 1);
+    RemoveRow(row->GetIndex());
     row->SetIndex(-1);
 }
 
@@ -38,15 +38,17 @@ std::vector<const TGGridRow*> TGGrid::Structure::RowsAtIndices(std::span<const l
     return found;
 }
 
-void TGGrid::Structure::RemoveRows(long at, long number)
+void TGGrid::Structure::RemoveRow(long at)
 {
-    if (number <= 0)
-        return;
-    const TGGridRow* single = number == 1 ? grid.RowAtIndex(at) : nullptr;
-    const long stored = single != nullptr ? single->index : -1;
+    const TGGridRow* row = grid.RowAtIndex(at);
+    RemoveRows(at, 1, row != nullptr ? row->index : -1);
+}
+
+void TGGrid::Structure::RemoveRows(long at, long number, long stored)
+{
     const long before = grid.GetRowNum();
     grid.rows.Release(at, number);
-    if (LateNumbers::Note(grid, stored))
+    if (LateNumbers::Note(grid, stored, number))
         grid.rows.MoveTo(-1);
     else
         NumberRows(at);

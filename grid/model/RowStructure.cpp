@@ -3,6 +3,7 @@
 // Ending an edit and deselecting run hooks, which may change the structure or delete the object at hand:
 // indices and pointers are looked up, or their watches asked, again afterwards.
 #include "grid/model/GridStructure.h"
+#include "grid/model/LateNumbers.h"
 
 #include "grid/model/MakeOrNull.h"
 #include "grid/model/RowWatch.h"
@@ -80,7 +81,7 @@ void TGGrid::DelRow(long i)
         Structure(*this).DetachFromTree(*row);
         i = row->GetIndex();
     }
-    Structure(*this).RemoveRows(i, 1);
+    Structure(*this).RemoveRow(i);
     delete row;
     RecalcLayout(1);
 }
@@ -168,9 +169,11 @@ void TGGrid::Structure::InsertRows(long at, std::span<TGGridRow* const> added)
 
 void TGGrid::Structure::NumberRows(long first)
 {
-    for (grid.rows.MoveTo(first); !grid.rows.IsOut(); grid.rows.MoveToNext())
-        if (TGGridRow* row = grid.rows.Cur())
-            row->SetIndex(grid.rows.GetCur());
+    LateNumbers::Settle(grid);
+    for (auto slot = grid.rows.IteratorAt(first); slot != grid.rows.end(); ++slot, ++first)
+        if (TGGridRow* row = *slot)
+            row->index = first;
+    grid.rows.MoveTo(-1);
 }
 
 // ---- Tree rows
@@ -195,16 +198,18 @@ bool TGGrid::Structure::RemoveOffspring(TGGridTreeRow& top)
 
 // Hidden rows stood in one run, unless the host has moved rows about: then they are taken out one by one,
 // from the last, because taking out numbers the rows behind.
-void TGGrid::Structure::RemoveHiddenRows(const TGGridTreeRow::IndexRange& hidden)
+void TGGrid::Structure::RemoveHiddenRows(const TGGridTreeRow::IndexRange& stored)
 {
-    if (hidden.IsRun())
+    const long first = LateNumbers::TrueIndex(grid, stored.first);
+    const long last = LateNumbers::TrueIndex(grid, stored.last);
+    if (last - first + 1 == stored.number)
     {
-        RemoveRows(hidden.first, hidden.number);
+        RemoveRows(first, stored.number, stored.IsRun() ? stored.first : -1);
         return;
     }
-    for (long i = hidden.last; i >= hidden.first; --i)
+    for (long i = last; i >= first; --i)
         if (const TGGridRow* row = grid.RowAtIndex(i); row != nullptr && row->GetIndex() == -1)
-            RemoveRows(i, 1);
+            RemoveRow(i);
 }
 
 void TGGrid::Structure::HideTree(TGGridTreeRow& top)
@@ -212,7 +217,7 @@ void TGGrid::Structure::HideTree(TGGridTreeRow& top)
     RemoveOffspring(top);
     if (grid.RowAtIndex(top.GetIndex()) != &top)
         return;
-    RemoveRows(top.GetIndex(), 1);
+    RemoveRow(top.GetIndex());
     top.SetIndex(-1);
 }
 
@@ -220,6 +225,7 @@ void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
 {
     std::vector<TGGridRow*> selected;
     std::vector<TGGridRow*> shown;
+    shown.reserve(static_cast<std::size_t>(top.GetChildNum()));
     top.CollectOffspring(shown);
     const bool partlyShown = top.HasShownOffspring();
     const TGGridRow* const current = grid.RowAtIndex(grid.curRowIndex);

@@ -56,7 +56,7 @@ TGGridRow& TGGridRow::operator=(TGGridRow& other)
 
 long TGGridRow::GetIndex() const
 {
-    return index < 0 || grid->lateNumbers == nullptr ? index : grid->lateNumbers->TrueIndex(index);
+    return index < 0 ? index : TGGrid::LateNumbers::TrueIndex(*grid, index);
 }
 
 void TGGridRow::SetIndex(long newIndex)

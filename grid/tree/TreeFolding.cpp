@@ -6,12 +6,25 @@
 
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
+#include "grid/TGTreeGrid.h"
 
 #include <algorithm>
+#include <typeinfo>
 #include <vector>
 
 namespace QuorUiCtr
 {
+namespace
+{
+
+// Grids of the library's own classes have no hook that sees rows go one after the other.
+bool HidesUnseen(TGGrid& grid)
+{
+    const std::type_info& kind = typeid(grid);
+    return !grid.IsEditing() && (kind == typeid(TGGrid) || kind == typeid(TGTreeGrid));
+}
+
+} // namespace
 
 void TGGridTreeRow::Fold()
 {
@@ -53,8 +66,10 @@ void TGGridTreeRow::UnFoldAll()
     try
     {
         std::vector<TGGridRow*> all;
-        CollectShown(all);
-        if (IsVisible() && static_cast<long>(all.size()) - 1 != CountShownOffspring())
+        std::vector<const TGGridRow*> visible;
+        CollectOffspring(all);
+        CollectVisible(visible);
+        if (IsVisible() && all.size() != visible.size())
             ShowOffspring();
     }
     catch (...)
@@ -88,16 +103,36 @@ void TGGridTreeRow::HideOffspring()
     const RowWatch self(owner, this);
     const TGGridUpdate update(owner);
     const CursorGuard cursor(owner.rows);
-    TGGrid::Structure structure(owner);
     owner.EndEditCell();
-    // As many as there are at first: hooks may show others.
-    long shown = self.IsAlive() ? CountShownOffspring() : 0;
-    for (; shown > 0 && self.IsAlive() && structure.IsOffspringAt(GetIndex() + 1, *this); --shown)
-        structure.HideRow(GetIndex() + 1);
+    const bool unseen = HidesUnseen(owner);
+    if (self.IsAlive() && !unseen)
+        HideOneByOne();
     if (!self.IsAlive())
         return;
-    structure.RemoveOffspring(*this);
+    const bool hidden = TGGrid::Structure(owner).RemoveOffspring(*this);
+    if (hidden && unseen)
+        owner.OnCurChanged();
     owner.RecalcLayout(1);
+}
+
+// Knows the rows in advance and looks only at those that hooks have put in their place. As many as there are
+// at first: hooks may show others.
+void TGGridTreeRow::HideOneByOne()
+{
+    TGGrid& owner = GetGrid();
+    TGGrid::Structure structure(owner);
+    const RowWatch self(owner, this);
+    std::vector<const TGGridRow*> expected;
+    CollectVisible(expected);
+    for (const TGGridRow* next : expected)
+    {
+        const long place = GetIndex() + 1;
+        if (owner.RowAtIndex(place) != next && !structure.IsOffspringAt(place, *this))
+            return;
+        structure.HideRow(place);
+        if (!self.IsAlive())
+            return;
+    }
 }
 
 void TGGridTreeRow::ShowOffspring()
@@ -116,18 +151,21 @@ void TGGridTreeRow::ShowOffspring()
 bool TGGridTreeRow::HasShownOffspring() const
 {
     for (const TGGridTreeRow* child : children)
-        if (child != nullptr && child->IsVisible())
+        if (child != nullptr && child->index != -1)
             return true;
     return false;
 }
 
-long TGGridTreeRow::CountShownOffspring() const
+void TGGridTreeRow::CollectVisible(std::vector<const TGGridRow*>& visible) const
 {
-    long number = 0;
     for (const TGGridTreeRow* child : children)
-        if (child != nullptr)
-            number += (child->IsVisible() ? 1 : 0) + child->CountShownOffspring();
-    return number;
+    {
+        if (child == nullptr)
+            continue;
+        if (child->index != -1)
+            visible.push_back(child);
+        child->CollectVisible(visible);
+    }
 }
 
 void TGGridTreeRow::IndexRange::Add(long index)
@@ -143,9 +181,9 @@ void TGGridTreeRow::MarkHidden(IndexRange& hidden)
     {
         if (child == nullptr)
             continue;
-        if (child->IsVisible())
-            hidden.Add(child->GetIndex());
-        child->SetIndex(-1);
+        if (child->index != -1)
+            hidden.Add(child->index);
+        child->index = -1;
         child->MarkHidden(hidden);
     }
 }

@@ -676,6 +676,10 @@ private:
 
     // Refresh() is drawing the rows; the selection follows.
     bool refreshing = false;
+    // Cells outside this part of the logical space are not visible on the prepared drawing context; while it
+    // is not drawn on by Refresh(), no such part is known.
+    static constexpr RECT Everywhere = {LONG_MIN, LONG_MIN, LONG_MAX, LONG_MAX};
+    CRect visiblePart = Everywhere;
 
     // Postponed work between BeginUpdate and EndUpdate.
     int updateDepth = 0;
@@ -683,6 +687,15 @@ private:
     bool redrawPending = false;
     bool showPending = false;
     CRect pendingShowRect;
+
+    // When the picture of a scroll bar was drawn last, in ticks, and whether it waits to be drawn again; by
+    // the bar's number.
+    struct BarPicture
+    {
+        DWORD drawn = 0;
+        bool waits = false;
+    };
+    BarPicture barPictures[2];
 
     // Editing (EditSession.cpp).
     // What a click and an edit begin with, and go on with after a hook: ends an edit that is open and does a

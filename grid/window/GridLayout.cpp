@@ -164,12 +164,12 @@ void TGGrid::Layout::LayOutBar(int bar, bool needed, int position, int maximum)
     int oldMinimum = 0;
     int oldMaximum = 0;
     grid.GetScrollRange(bar, &oldMinimum, &oldMaximum);
-    if (oldMinimum != 0 || oldMaximum != maximum)
-    {
+    const bool changesRange = oldMinimum != 0 || oldMaximum != maximum;
+    if (changesRange)
         grid.SetScrollRange(bar, 0, maximum, FALSE);
+    const bool moves = SetBarPosition(bar, (std::min)(position, maximum));
+    if (changesRange || moves)
         RepaintBar(bar);
-    }
-    SetBarPosition(bar, (std::min)(position, maximum));
 }
 
 bool TGGrid::Layout::IsBarShown(int bar) const
@@ -182,23 +182,12 @@ int TGGrid::Layout::BarPosition(int bar) const
     return IsBarShown(bar) ? grid.GetScrollPos(bar) : 0;
 }
 
-void TGGrid::Layout::SetBarPosition(int bar, int position)
+bool TGGrid::Layout::SetBarPosition(int bar, int position)
 {
     if (grid.GetScrollPos(bar) == position)
-        return;
+        return false;
     grid.SetScrollPos(bar, position, FALSE);
-    RepaintBar(bar);
-}
-
-void TGGrid::Layout::RepaintBar(int bar)
-{
-    CRect place;
-    grid.CWnd::GetClientRect(&place);
-    if (bar == SB_VERT)
-        place = CRect(place.right, place.top, place.right + ::GetSystemMetrics(SM_CXVSCROLL), place.bottom);
-    else
-        place = CRect(place.left, place.bottom, place.right, place.bottom + ::GetSystemMetrics(SM_CYHSCROLL));
-    grid.RedrawWindow(&place, nullptr, RDW_FRAME | RDW_INVALIDATE | RDW_NOCHILDREN);
+    return true;
 }
 
 // The header windows follow the row height and the header height, which change with the font, the row space
@@ -313,6 +302,7 @@ void TGGrid::PrepareDC(CDC* context)
             return;
         ownsDC = true;
     }
+    visiblePart = Everywhere;
     dc->SetROP2(R2_COPYPEN);
     dc->SelectObject(&font);
     dc->SelectObject(&gridPen);

@@ -28,14 +28,24 @@ public:
     CRect ViewRect();
     // MoveView with the layout up to date; may run hooks.
     void ScrollView(int dx, int dy);
-    // The position of a bar, 0 while it is not shown; setting it leaves the contents where they are.
+    // The position of a bar, 0 while it is not shown. Setting it leaves contents and picture as they are and
+    // returns whether it was another one.
     int BarPosition(int bar) const;
-    void SetBarPosition(int bar, int position);
+    bool SetBarPosition(int bar, int position);
     void ScrollContents(int dx, int dy);
     ScrollRequest ReadScrollRequest(int bar, UINT trackMask);
 
-private:
+    // The pictures of the bars (BarPictures.cpp).
+    // Has a bar drawn with the next paint.
     void RepaintBar(int bar);
+    // The same for a bar that may move again at once: not more often than a frame has time for.
+    void RepaintBarSoon(int bar);
+    // Has the bars drawn that wait for it.
+    void FinishBars();
+
+private:
+    static void CALLBACK OnFrame(HWND window, UINT message, UINT_PTR timer, DWORD time);
+    UINT_PTR FrameTimer() const;
     void PlaceHeaders();
     void LayOutScrollBars();
     void LayOutBar(int bar, bool needed, int position, int maximum);

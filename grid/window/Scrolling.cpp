@@ -49,8 +49,10 @@ void TGGrid::Layout::ScrollView(int dx, int dy)
         dy = ClampScroll(vPosition, dy, grid.GetBottom() - area.Height());
     if (dx == 0 && dy == 0)
         return;
-    SetBarPosition(SB_HORZ, hPosition + dx);
-    SetBarPosition(SB_VERT, vPosition + dy);
+    if (SetBarPosition(SB_HORZ, hPosition + dx))
+        RepaintBarSoon(SB_HORZ);
+    if (SetBarPosition(SB_VERT, vPosition + dy))
+        RepaintBarSoon(SB_VERT);
     grid.ClearDC();
     grid.PrepareDC(nullptr);
     // What the end of an edit draws stands where it is to be after the scrolling already.
@@ -70,9 +72,9 @@ void TGGrid::Layout::ScrollContents(int dx, int dy)
     CRect area;
     grid.GetClientRect(&area);
     grid.ScrollWindow(-dx, -dy, &area, &area);
-    if (grid.IsColSel() && grid.colHeader->GetSafeHwnd() != nullptr)
+    if (dx != 0 && grid.IsColSel() && grid.colHeader->GetSafeHwnd() != nullptr)
         grid.colHeader->ScrollWindow(-dx, 0);
-    if (grid.IsRowSel() && grid.rowHeader->GetSafeHwnd() != nullptr)
+    if (dy != 0 && grid.IsRowSel() && grid.rowHeader->GetSafeHwnd() != nullptr)
         grid.rowHeader->ScrollWindow(0, -dy);
 }
 
@@ -119,6 +121,8 @@ void TGGrid::OnVScroll(UINT code, UINT position, CScrollBar* bar)
     request.line = GetRowHeight();
     request.page = area.Height();
     MoveView(0, VerticalScrollTarget(static_cast<ScrollCode>(code), request) - request.position);
+    if (code == SB_THUMBPOSITION || code == SB_ENDSCROLL)
+        Layout(*this).FinishBars();
     CWnd::OnVScroll(code, position, bar);
     SetFocus();
 }
@@ -131,6 +135,8 @@ void TGGrid::OnHScroll(UINT code, UINT position, CScrollBar* bar)
     request.line = GetDefaultWidth();
     request.page = area.Width();
     MoveView(HorizontalScrollTarget(static_cast<ScrollCode>(code), request) - request.position, 0);
+    if (code == SB_THUMBPOSITION || code == SB_ENDSCROLL)
+        Layout(*this).FinishBars();
     CWnd::OnHScroll(code, position, bar);
     SetFocus();
 }

@@ -172,6 +172,8 @@ void TGGrid::PostNcDestroy()
     layoutPending = false;
     redrawPending = false;
     showPending = false;
+    for (BarPicture& picture : barPictures)
+        picture = {};
     CWnd::PostNcDestroy();
 }
 

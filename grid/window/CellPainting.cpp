@@ -63,7 +63,8 @@ void TGGridCell::Draw(CDC& context) const
     CRect cell;
     GetRect(cell);
     const CRect outline = CellOutlineRect(cell).As<CRect>();
-    if (!context.RectVisible(&outline))
+    // Most cells of a view that scrolls need not be drawn, and the context takes its time to say so.
+    if (CRect part; !part.IntersectRect(&outline, &grid->visiblePart) || !context.RectVisible(&outline))
         return;
     context.Rectangle(&outline);
     const CRect inside = CellInsideRect(cell).As<CRect>();

@@ -43,6 +43,7 @@ void TGGrid::Refresh()
     }
     {
         const ScopedValue guard(refreshing, true);
+        const ScopedValue part(visiblePart, Painting(*this).VisiblePart());
         Painting(*this).DrawVisibleRows();
     }
     if (IsColSelected())
@@ -62,6 +63,14 @@ void TGGrid::Painting::DrawVisibleRows()
     DrawRows(visible.first, visible.last);
     if (grid.GetRowNum() <= visible.last && grid.IsAppendRowShown() && grid.newRow != nullptr)
         grid.newRow->Refresh();
+}
+
+CRect TGGrid::Painting::VisiblePart()
+{
+    CRect part = Everywhere;
+    if (grid.dc != nullptr)
+        grid.dc->GetClipBox(&part);
+    return part;
 }
 
 // All rows without a drawing context.

@@ -13,6 +13,8 @@ class TGGrid::Painting
 public:
     explicit Painting(TGGrid& servedGrid) : grid(servedGrid) {}
 
+    // What the drawing context shows of the logical space.
+    CRect VisiblePart();
     // Draws the rows in the view and the new-row line.
     void DrawVisibleRows();
     void InvertSelectedCols();

@@ -37,6 +37,9 @@ public:
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
 protected:
+    // Extensions of the grid see a message first.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     DECLARE_MESSAGE_MAP()
     // A header box with a coloured inside.
     afx_msg void OnPaint();

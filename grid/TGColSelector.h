@@ -51,6 +51,9 @@ protected:
     // without the grid's drawing context.
     long PtToCol(CPoint point) const;
 
+    // Extensions of the grid see a message first.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     DECLARE_MESSAGE_MAP()
     // The boxes in the clip box, with captions of several lines.
     afx_msg void OnPaint();
@@ -71,7 +74,9 @@ private:
     // Where the header stands, and how its boxes are drawn.
     HeaderBand Band() const;
     // The caption of a column, in the column's alignment.
-    void DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const;
+    void DrawCaption(CDC& context, TGGridCol& col, const CRect& box) const;
+    // The caption as extensions want it.
+    void DrawExtended(CDC& context, TGGridCol& col, const CRect& box, CRect place) const;
 
     // Mouse.
     long ColWithEdgeAt(long x) const;

@@ -19,6 +19,8 @@ namespace QuorUiCtr
 {
 
 class CellWatch;
+class GridExtensions;
+enum class TGGridPlace;
 class HeaderBand;
 class HeaderDrag;
 class TGActiveQuad;
@@ -380,7 +382,7 @@ public:
     // Keys that leave or steer an open editor, Tab, Enter and Esc in forms, and the commands of the context
     // menus.
     BOOL PreTranslateMessage(MSG* message) override;
-    // Asks OnCellTip; -1 beside the cells and without a tip.
+    // Asks OnCellTip and the extensions; -1 beside the cells and without a tip.
     INT_PTR OnToolHitTest(CPoint point, TOOLINFO* info) const override;
 
 protected:
@@ -497,6 +499,7 @@ protected:
 
 protected:
     friend class CellWatch;
+    friend class GridExtensions;
     friend class GridKeyMap;
     friend class HeaderBand;
     friend class HeaderDrag;
@@ -509,6 +512,7 @@ protected:
     friend class TGColSelector;
     friend class TGGridCell;
     friend class TGGridCol;
+    friend class TGGridExtension;
     friend class TGGridRow;
     friend class TGGridTreeRow;
     friend class TGRowSelector;
@@ -554,6 +558,8 @@ protected:
     // anew. Not CWnd::GetDC(): nothing is to be released.
     CDC* GetDC() { return dc; }
 
+    // Extensions see a message first.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     // The window is gone: forgets what belonged to it. The object and its model stay, for another Create().
     void PostNcDestroy() override;
 
@@ -706,6 +712,12 @@ private:
     TGGridRow* RowAtIndex(long i);
     TGGridCol* ColAtIndex(long i);
 
+    // An extension has a tip for a place.
+    bool HasExtensionTip(TGGridPlace place, long row, long col, CString& tip) const;
+    // Extensions add their entries.
+    void ExtendMenu(TGGridPlace place, CMenu& menu);
+    // Tells extensions that the selection has changed.
+    void TellSelected();
     // Makes a shown row the only one selected.
     void SelectOnly(TGGridRow& row);
     // Inverts a rectangle in logical coordinates on the drawing context; nothing without one.
@@ -724,6 +736,9 @@ private:
     // The cells and rows that operations on the stack are working on.
     CellWatch* cellWatches = nullptr;
     RowWatch* rowWatches = nullptr;
+
+    // What hosts have attached, see TGGridExtension; null without any.
+    GridExtensions* extensions = nullptr;
 };
 
 } // namespace QuorUiCtr

@@ -55,7 +55,8 @@ public:
     const CString& GetText() const { return text; }
     // Stores the text (null counts as empty); nothing is repainted and no hook is called. An open editor over
     // the cell goes on with its own text.
-    void SetText(const wchar_t* newText) { text = newText; }
+    // Extensions are told.
+    void SetText(const wchar_t* newText);
     // Valid until the text is changed.
     operator const wchar_t*() const { return text; }
     // The leading decimal number of the text, 0 when there is none; what follows it is ignored.
@@ -107,8 +108,15 @@ private:
         ReadOnlyFlag = 0x01
     };
 
-    // Draws the cell in the colours of the context, unless it lies outside what is being painted.
-    void Draw(CDC& context) const;
+    // Draws frame, background and tree decoration in the colours of the context, and returns the place of the
+    // text.
+    CRect DrawBox(CDC& context, const CRect& cell) const;
+    // Whether any of the rectangle is being painted.
+    bool IsPainted(CDC& context, const CRect& outline) const;
+    // Draws box and text as extensions want them.
+    void DrawExtended(CDC& context);
+    // How CDC::DrawText draws the text.
+    UINT TextFormat() const;
     // Draws the text as one line, at the top of the rectangle and in the column's alignment.
     void DrawCellText(CDC& context, CRect textRect) const;
     // Draw the fold box and the lines of a tree row; the first returns the x from which its text starts.

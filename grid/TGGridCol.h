@@ -86,6 +86,7 @@ protected:
     friend class TGGridRow;
     friend class TGGridTreeRow;
     friend class TGGridCell;
+    friend class TGGridExtension;
     friend class TGColSelector;
 
     // For the grid, which numbers its columns and lays them side by side; a derived column reads.

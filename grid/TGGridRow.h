@@ -71,6 +71,7 @@ public:
 protected:
     friend class TGGrid;
     friend class TGGridCell;
+    friend class TGGridExtension;
     friend class TGGridTreeRow;
     friend class TGRowSelector;
     friend class TGTreeGrid;

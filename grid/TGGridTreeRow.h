@@ -199,8 +199,10 @@ private:
     void CollectVisible(std::vector<const TGGridRow*>& visible) const;
     // Sets the index of all offspring to -1 and adds the indices that they had to `hidden`.
     void MarkHidden(IndexRange& hidden);
-    // This row and its offspring, as far as they are folded.
-    void CollectFolded(std::vector<TGGridTreeRow*>& folded);
+    // Sets or clears the unfold flag and tells extensions of the change.
+    void MarkFolded(bool folded);
+    // This row and its offspring, as far as their unfold flag is set or clear.
+    void CollectMarked(bool unfolded, std::vector<TGGridTreeRow*>& marked);
     // Sets or clears the unfold flag of this row and all offspring.
     void MarkAll(bool unfolded);
     // The rows below this one that the unfold flags show, in grid order; the second form begins with the row.

@@ -57,6 +57,9 @@ protected:
     // drawing context.
     long PtToRow(CPoint point) const;
 
+    // Extensions of the grid see a message first.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
+
     DECLARE_MESSAGE_MAP()
     // The boxes in the clip box.
     afx_msg void OnPaint();

@@ -1,4 +1,5 @@
 // The context menus of the grid and the commands that they stand for.
+#include "grid/model/GridExtensions.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
 
@@ -53,9 +54,8 @@ constexpr MenuEntry MenuCommands[] = {InsertRowEntry,  DeleteRowsEntry, AppendRo
                                       DeleteColsEntry, AppendColEntry};
 
 // A popup menu that is filled, shown once and destroyed.
-class ContextMenu
+struct ContextMenu
 {
-public:
     ContextMenu() { menu.CreatePopupMenu(); }
 
     void Add(const MenuEntry& entry) { menu.AppendMenu(MF_STRING, entry.id, entry.caption); }
@@ -74,7 +74,6 @@ public:
             menu.TrackPopupMenu(TPM_RIGHTBUTTON, point.x, point.y, &owner);
     }
 
-private:
     CMenu menu;
 };
 
@@ -106,6 +105,7 @@ void TGGrid::OnRClickRow(TGGridRow& row, CPoint point)
         if (!IsNoPaste())
             menu.AddBufferEntries(GetRowSelNum() == 1 && !rowPaste.IsEmpty());
     }
+    ExtendMenu(TGGridPlace::RowHeader, menu.menu);
     menu.Track(point, *this);
 }
 
@@ -125,6 +125,7 @@ void TGGrid::OnRClickCol(TGGridCol& col, CPoint point)
         menu.Add(DeleteColEntry);
     }
     menu.Add(AppendColEntry);
+    ExtendMenu(TGGridPlace::ColHeader, menu.menu);
     menu.Track(point, *this);
 }
 
@@ -149,7 +150,14 @@ void TGGrid::OnRClickQuad(CPoint point)
         menu.Add(PasteEntry);
     if (!IsEmpty())
         menu.Add(SelectAllEntry);
+    ExtendMenu(TGGridPlace::Corner, menu.menu);
     menu.Track(point, *this);
+}
+
+void TGGrid::ExtendMenu(TGGridPlace place, CMenu& menu)
+{
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::Menu, place, menu);
 }
 
 bool TGGrid::RunMenuCommand(UINT id)

@@ -358,6 +358,7 @@ void TGGrid::FilterDelUnable()
             kept.push_back(i);
     SelectedIndices::Assign(rowSel, kept);
     Invalidate(TRUE);
+    TellSelected();
 }
 
 bool TGGrid::IsSelDelUnable()

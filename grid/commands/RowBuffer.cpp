@@ -1,4 +1,5 @@
 // Copy, cut and paste through the grid's row buffer.
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
@@ -166,13 +167,18 @@ void TGGrid::RowBuffer::CutRow(TGGridRow& row)
     grid.rows.SetCur(left);
     left->index = std::exchange(row.index, -1);
 
+    const RowWatch buffered(grid, &row);
     const RowWatch watch(grid, left);
     grid.OnCurChanged();
     if (!watch.IsAlive() || !Structure(grid).PrepareToGo(*left))
         return;
-    Structure(grid).RemoveRow(left->GetIndex());
+    const long place = left->GetIndex();
+    Structure(grid).RemoveRow(place);
     left->SetIndex(-1);
     substitute.reset(left);
+    // The buffer may have been changed by the hooks.
+    if (grid.extensions != nullptr && buffered.IsAlive())
+        grid.extensions->TellRemoved(nullptr, place, {&row}, true);
 }
 
 bool TGGrid::DoPaste()
@@ -252,9 +258,11 @@ void TGGrid::RowBuffer::PlaceAll(long row)
         Structure(grid).FitToCols(*taken);
     if (row >= grid.GetRowNum())
         std::reverse(pasted.begin(), pasted.end());
-    Structure(grid).InsertRows(std::clamp(row, 0L, grid.GetRowNum()), pasted);
+    row = std::clamp(row, 0L, grid.GetRowNum());
+    Structure(grid).InsertRows(row, pasted);
     grid.rowPaste.Release(0, grid.rowPaste.GetNum());
     grid.RecalcLayout(1);
+    Structure(grid).TellInserted(row, pasted);
 }
 
 // Only tree rows can be children: a plain one hands its texts and, at last, its host data to one. The end of
@@ -279,7 +287,8 @@ void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
             pasted.push_back(made.back().get());
             replaced.emplace_back(row, made.back().get());
         }
-    parent.AddChildren((std::min)(position, parent.GetChildNum()), pasted);
+    position = (std::min)(position, parent.GetChildNum());
+    parent.AddChildren(position, pasted);
     for (std::unique_ptr<TGGridTreeRow>& row : made)
         static_cast<void>(row.release());
     grid.rowPaste.Release(0, grid.rowPaste.GetNum());
@@ -288,6 +297,7 @@ void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
         treeRow->SetExtendData(plain->ReleaseExtendData());
         delete plain;
     }
+    Structure(grid).TellChildren(parent, position, pasted);
 }
 
 bool TGGrid::DoPasteChild()

@@ -181,10 +181,12 @@ TGGridRow* TGGrid::EditSession::AppendNewRow()
     if (!agreed || accepted == nullptr)
         return nullptr;
     Structure(grid).FitToCols(*accepted);
-    accepted->SetIndex(grid.rows.Append(accepted));
+    const long place = grid.rows.Append(accepted);
+    accepted->SetIndex(place);
     if (!supplied)
         grid.newRow = nullptr;
     supplied.release();
+    Structure(grid).TellInserted(place, {&accepted, 1});
     return accepted;
 }
 

@@ -2,6 +2,7 @@
 #include "grid/TGActiveQuad.h"
 
 #include "grid/headers/HeaderBox.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
@@ -88,10 +89,18 @@ void TGActiveQuad::OnRButtonUp(UINT flags, CPoint point)
     grid->OnRClickQuad(point);
 }
 
+LRESULT TGActiveQuad::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    LRESULT result = 0;
+    if (grid->extensions != nullptr && grid->extensions->Answer(*this, message, wParam, lParam, result))
+        return result;
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
 INT_PTR TGActiveQuad::OnToolHitTest(CPoint, TOOLINFO* info) const
 {
     CString tip;
-    if (!grid->OnActiveQuadTip(tip))
+    if (!grid->OnActiveQuadTip(tip) && !grid->HasExtensionTip(TGGridPlace::Corner, -1, -1, tip))
         return -1;
     return AnswerTip(*this, tip, 0, TTF_CENTERTIP, info);
 }

@@ -2,6 +2,7 @@
 #include "grid/TGColSelector.h"
 
 #include "grid/headers/HeaderBand.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
@@ -55,19 +56,44 @@ void TGColSelector::OnPaint()
     context.SetTextColor(RGB(0, 0, 0));
     context.SetBkMode(TRANSPARENT);
     context.SelectObject(grid->GetFont());
-    for (const TGGridCol* col : grid->cols)
+    for (TGGridCol* col : grid->cols)
     {
         const CRect box = painter.Box(col->GetLeft(), col->GetRight());
         if (painter.DrawFrame(box))
+        {
             DrawCaption(context, *col, box);
+            if (m_hWnd == nullptr)
+                return;
+        }
     }
 }
 
-void TGColSelector::DrawCaption(CDC& context, const TGGridCol& col, const CRect& box) const
+void TGColSelector::DrawCaption(CDC& context, TGGridCol& col, const CRect& box) const
 {
     CRect text(box.left + 2, grid->GetRowSpace(), box.right, box.bottom - 1);
     const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
-    context.DrawText(col.GetName(), &text, DT_EDITCONTROL | alignment);
+    if (grid->extensions != nullptr)
+        DrawExtended(context, col, box, text);
+    else
+        context.DrawText(col.GetName(), &text, DT_EDITCONTROL | alignment);
+}
+
+void TGColSelector::DrawExtended(CDC& context, TGGridCol& col, const CRect& box, CRect place) const
+{
+    const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
+    TGTextLook look{col.GetName(), context.GetTextColor(), context.GetBkColor(), DT_EDITCONTROL | alignment};
+    grid->extensions->Tell(GridExtensions::CaptionLook, col, look);
+    const COLORREF textColor = context.SetTextColor(look.textColor);
+    CFont* const font = look.font != nullptr ? context.SelectObject(look.font) : nullptr;
+    context.DrawText(look.text, &place, look.format);
+    if (font != nullptr)
+        context.SelectObject(font);
+    context.SetTextColor(textColor);
+    if (grid->extensions == nullptr)
+        return;
+    const int saved = context.SaveDC();
+    grid->extensions->Tell(GridExtensions::CaptionDrawing, col, context, box);
+    context.RestoreDC(saved);
 }
 
 long TGColSelector::PtToCol(CPoint point) const
@@ -77,11 +103,20 @@ long TGColSelector::PtToCol(CPoint point) const
     return grid->ColAtX(Band().LogicalPlace(point));
 }
 
+LRESULT TGColSelector::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    LRESULT result = 0;
+    if (grid->extensions != nullptr && grid->extensions->Answer(*this, message, wParam, lParam, result))
+        return result;
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
 INT_PTR TGColSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const
 {
     const long col = PtToCol(point);
     CString tip;
-    if (!grid->IsValidCol(col) || !grid->OnColTip(col, tip))
+    if (!grid->IsValidCol(col) ||
+        !(grid->OnColTip(col, tip) || grid->HasExtensionTip(TGGridPlace::ColHeader, -1, col, tip)))
         return -1;
     return AnswerTip(*this, tip, col, 0, info);
 }

@@ -2,6 +2,7 @@
 #include "grid/TGRowSelector.h"
 
 #include "grid/headers/HeaderBand.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
@@ -117,11 +118,20 @@ long TGRowSelector::PtToRow(CPoint point) const
     return Band().LogicalPlace(point) / grid->GetRowHeight();
 }
 
+LRESULT TGRowSelector::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    LRESULT result = 0;
+    if (grid->extensions != nullptr && grid->extensions->Answer(*this, message, wParam, lParam, result))
+        return result;
+    return CWnd::WindowProc(message, wParam, lParam);
+}
+
 INT_PTR TGRowSelector::OnToolHitTest(CPoint point, TOOLINFO* info) const
 {
     const long row = PtToRow(point);
     CString tip;
-    if (!grid->IsValidRow(row) || !grid->OnRowTip(row, tip))
+    if (!grid->IsValidRow(row) ||
+        !(grid->OnRowTip(row, tip) || grid->HasExtensionTip(TGGridPlace::RowHeader, row, -1, tip)))
         return -1;
     return AnswerTip(*this, tip, row, TTF_CENTERTIP, info);
 }

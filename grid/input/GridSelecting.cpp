@@ -6,6 +6,7 @@
 // Hooks run last in every step, or are followed by a fresh look at what they may have changed.
 #include "grid/input/GridSelecting.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/model/RowWatch.h"
 #include "grid/window/GridPainting.h"
 #include "rules/SelectedIndices.h"
@@ -36,6 +37,7 @@ void TGGrid::SelectRow(long row, bool select)
             Selecting(*this).ShowRowBand(row);
     }
     OnCurChanged();
+    TellSelected();
 }
 
 void TGGrid::SelectCol(long col, bool select)
@@ -59,6 +61,7 @@ void TGGrid::SelectCol(long col, bool select)
             Selecting(*this).ShowColBand(*changed);
     }
     OnCurChanged();
+    TellSelected();
 }
 
 void TGGrid::SelectAll()
@@ -71,6 +74,7 @@ void TGGrid::SelectAll()
         entry = row++;
     OnCurChanged();
     Invalidate(1);
+    TellSelected();
 }
 
 void TGGrid::UnSelect()
@@ -78,12 +82,20 @@ void TGGrid::UnSelect()
     Selecting(*this).UnselectCols();
     Selecting(*this).UnselectRows();
     OnCurChanged();
+    TellSelected();
 }
 
 void TGGrid::ClearSel()
 {
     rowSel.Clear();
     colSel.Clear();
+    TellSelected();
+}
+
+void TGGrid::TellSelected()
+{
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::Selected);
 }
 
 void TGGrid::SelectOnly(TGGridRow& row)
@@ -122,9 +134,10 @@ void TGGrid::Selecting::UnselectRows()
     grid.rowSel.Clear();
 }
 
+// What extensions have drawn over the cells must not be inverted with them.
 bool TGGrid::Selecting::CanInvertNow() const
 {
-    return !grid.IsUpdating() && !grid.refreshing;
+    return !grid.IsUpdating() && !grid.refreshing && grid.extensions == nullptr;
 }
 
 // Looks for the row only when it is needed: among many rows that costs more than the rest.

@@ -2,6 +2,7 @@
 #include "grid/TGGrid.h"
 
 #include "grid/input/GridKeyMap.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrl.h"
 
 #include <afxext.h>
@@ -41,6 +42,8 @@ UINT TGGrid::OnGetDlgCode()
 
 BOOL TGGrid::PreTranslateMessage(MSG* message)
 {
+    if (extensions != nullptr && extensions->PreTranslate(*message))
+        return TRUE;
     if (message->message == WM_KEYDOWN)
     {
         const UINT key = static_cast<UINT>(message->wParam);

@@ -1,6 +1,7 @@
 // TGGrid's mouse and focus: hit tests, clicks, the focus state in the corner, tool tips.
 #include "grid/TGGrid.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/window/TipAnswer.h"
@@ -59,9 +60,15 @@ INT_PTR TGGrid::OnToolHitTest(CPoint point, TOOLINFO* info) const
     long col = -1;
     PtToCell(point, row, col);
     CString tip;
-    if (!IsValidRow(row) || !IsValidCol(col) || !OnCellTip(row, col, tip))
+    if (!IsValidRow(row) || !IsValidCol(col) ||
+        !(OnCellTip(row, col, tip) || HasExtensionTip(TGGridPlace::Cell, row, col, tip)))
         return -1;
     return AnswerTip(*this, tip, static_cast<INT_PTR>(row) * 10 + col, 0, info);
+}
+
+bool TGGrid::HasExtensionTip(TGGridPlace place, long row, long col, CString& tip) const
+{
+    return extensions != nullptr && extensions->AskTip(place, row, col, tip);
 }
 
 // ---- Clicks

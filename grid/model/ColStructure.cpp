@@ -3,6 +3,7 @@
 // Ending an edit runs hooks, which may change the structure: indices are looked up again afterwards.
 #include "grid/model/GridStructure.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridLimits.h"
 #include "rules/SelectedIndices.h"
 
@@ -68,6 +69,8 @@ void TGGrid::InsertCol(long i, TGGridCol* col, long width)
     // Bounded by the columns' cursor, which is past the end here: the selection keeps its numbers.
     SelectedIndices::Shift(colSel, cols, i, 1);
     RecalcLayout(1);
+    if (extensions != nullptr && IsValidCol(i))
+        extensions->Tell(GridExtensions::ColInserted, *ColAtIndex(i));
 }
 
 // The columns together stay below what coordinates can count.
@@ -130,6 +133,8 @@ void TGGrid::AppendCol(TGGridCol* col, long width)
     Structure(*this).AddCol(*appended);
     appended.release();
     RecalcLayout(1);
+    if (extensions != nullptr && !IsColEmpty())
+        extensions->Tell(GridExtensions::ColInserted, *ColAtIndex(GetColNum() - 1));
 }
 
 void TGGrid::Structure::AddCol(TGGridCol& col)
@@ -164,12 +169,16 @@ void TGGrid::DelCol(long i)
     CancelEditCell();
     if (!IsValidCol(i))
         return;
-    const std::unique_ptr<TGGridCol> col(ColAtIndex(i));
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::ColRemoving, *ColAtIndex(i));
+    std::unique_ptr<TGGridCol> col(ColAtIndex(i));
     Structure(*this).RemoveCol(i);
     Structure(*this).ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
     RecalcLayout(1);
     // As in InsertCol.
     SelectedIndices::Shift(colSel, cols, i + 1, -1);
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::ColRemoved, i, col);
 }
 
 void TGGrid::MoveCol(long from, long to)
@@ -183,6 +192,8 @@ void TGGrid::MoveCol(long from, long to)
     for (cols.MoveToFirst(); !cols.IsOut(); cols.MoveToNext())
         cols.Cur()->SetIndex(cols.GetCur());
     Invalidate(1);
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::ColMoved, from, to);
 }
 
 void TGGrid::MoveSelectedCols(long first, long last, long to)
@@ -248,9 +259,13 @@ void TGGrid::Structure::DropCols(long first)
     while (grid.GetColNum() > first)
     {
         const long last = grid.GetColNum() - 1;
-        const std::unique_ptr<TGGridCol> col(grid.ColAtIndex(last));
+        std::unique_ptr<TGGridCol> col(grid.ColAtIndex(last));
+        if (grid.extensions != nullptr)
+            grid.extensions->Tell(GridExtensions::ColRemoving, *col);
         RemoveCol(last);
         ChangeRows([last](TGGridRow& row) { row.DelCol(last); });
+        if (grid.extensions != nullptr)
+            grid.extensions->Tell(GridExtensions::ColRemoved, last, col);
     }
 }
 

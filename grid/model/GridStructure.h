@@ -44,8 +44,28 @@ public:
     void HideRow(long i);
     // The rows at `indices`, to be compared with what stands there after hooks and for nothing else.
     std::vector<const TGGridRow*> RowsAtIndices(std::span<const long> indices);
+    // Where a child stood among the children of a parent; null for rows of the first level.
+    struct TreePlace
+    {
+        TGGridTreeRow* parent = nullptr;
+        long position = -1;
+    };
     // Takes a row out of its parent's children and its shown offspring out of the rows.
-    void DetachFromTree(TGGridRow& row);
+    TreePlace DetachFromTree(TGGridRow& row);
+    // Delete what has left the grid already, unless an extension takes it over; the last one takes all rows
+    // out before.
+    void DropRow(TGGridTreeRow* parent, long position, TGGridRow* row);
+    void DropChildren(TGGridTreeRow& parent);
+    void DropAllRows();
+    // Whether a row stands in the grid, shown or below a folded one.
+    bool StandsInGrid(TGGridRow& row) const;
+    // Tell extensions of rows that have come in at the first level, and as children.
+    void TellInserted(long place, std::span<TGGridRow* const> added);
+    void TellChildren(TGGridTreeRow& parent, long position, std::span<TGGridTreeRow* const> added);
+    // Tell them of rows whose unfold flags have changed; parents in the grid count.
+    void TellFolded(std::span<TGGridTreeRow* const> changed);
+    // The index behind the last shown row of the offspring of the row at `i`, which is shown.
+    long EndOfTree(long i);
     // Leaves the child rows to their parents: empties their slots.
     void ReleaseChildRows();
     // Calls `change` for every row whose cells follow the columns, but for child rows, which their parents
@@ -73,8 +93,16 @@ public:
     void SortRows(bool ascending);
 
 private:
-    // The index behind the last shown row of the offspring of the row at `i`, which is shown.
-    long EndOfTree(long i);
+    // Sort one level of rows, in the order that an extension wants if one does, and note the new order.
+    struct SortNotice
+    {
+        TGGridTreeRow* parent;
+        std::vector<long> order;
+    };
+    template <class Row> void SortLevel(PDList<Row>& level, TGGridTreeRow* parent, bool ascending);
+    void SortBelow(TGGridTreeRow& row, bool ascending);
+    void SortExtended(bool ascending);
+    static bool StandsBelow(TGGridTreeRow& child, TGGridTreeRow& parent);
     // The parent of a tree row; null for a root row, a plain row and no row.
     static TGGridTreeRow* ParentOf(TGGridRow* row);
     void RemoveHiddenRows(const TGGridTreeRow::IndexRange& stored);
@@ -82,6 +110,7 @@ private:
     void MoveColEdges(long first, long last, long distance);
 
     TGGrid& grid;
+    std::vector<SortNotice> sorted;
 };
 
 } // namespace QuorUiCtr

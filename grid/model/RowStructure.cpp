@@ -3,8 +3,9 @@
 // Ending an edit and deselecting run hooks, which may change the structure or delete the object at hand:
 // indices and pointers are looked up, or their watches asked, again afterwards.
 #include "grid/model/GridStructure.h"
-#include "grid/model/LateNumbers.h"
 
+#include "grid/model/GridExtensions.h"
+#include "grid/model/LateNumbers.h"
 #include "grid/model/MakeOrNull.h"
 #include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
@@ -43,9 +44,11 @@ void TGGrid::InsertRow(long i, TGGridRow* row)
     else
         Structure(*this).FitToCols(*inserted);
     TGGridRow* const entered = inserted.get();
-    Structure(*this).InsertRows(std::clamp(i, 0L, GetRowNum()), {&entered, 1});
+    i = std::clamp(i, 0L, GetRowNum());
+    Structure(*this).InsertRows(i, {&entered, 1});
     inserted.release();
     RecalcLayout(1);
+    Structure(*this).TellInserted(i, {&entered, 1});
 }
 
 void TGGrid::AppendRow(TGGridRow* row)
@@ -56,9 +59,11 @@ void TGGrid::AppendRow(TGGridRow* row)
         appended.reset(Structure(*this).MakeRow());
     else
         Structure(*this).FitToCols(*appended);
-    appended->SetIndex(rows.Append(appended.get()));
-    appended.release();
+    const long place = rows.Append(appended.get());
+    appended->SetIndex(place);
+    TGGridRow* const entered = appended.release();
     RecalcLayout(1);
+    Structure(*this).TellInserted(place, {&entered, 1});
 }
 
 void TGGrid::DelRow(long i)
@@ -68,6 +73,7 @@ void TGGrid::DelRow(long i)
     if (!IsValidRow(i))
         return;
     TGGridRow* row = RowAtIndex(i);
+    Structure::TreePlace place;
     if (row == nullptr)
     {
         SelectRow(i, false);
@@ -78,11 +84,11 @@ void TGGrid::DelRow(long i)
     {
         if (!Structure(*this).PrepareToGo(*row))
             return;
-        Structure(*this).DetachFromTree(*row);
+        place = Structure(*this).DetachFromTree(*row);
         i = row->GetIndex();
     }
     Structure(*this).RemoveRow(i);
-    delete row;
+    Structure(*this).DropRow(place.parent, place.parent != nullptr ? place.position : i, row);
     RecalcLayout(1);
 }
 
@@ -111,11 +117,15 @@ void TGGrid::DelRowEx(long i)
 void TGGrid::MoveRow(long from, long to)
 {
     ASSERT(IsValidRow(from) && to >= 0 && to <= GetRowNum());
-    if (!IsValidRow(from) || to < 0 || to > GetRowNum() || to == from || to == from + 1 ||
-        !Structure(*this).PlaceMovingRow(from, to))
+    if (!IsValidRow(from) || to < 0 || to > GetRowNum() || to == from || to == from + 1)
+        return;
+    const long number = extensions != nullptr ? Structure(*this).EndOfTree(from) - from : 1;
+    if (!Structure(*this).PlaceMovingRow(from, to))
         return;
     Structure(*this).NumberRows(0);
     Invalidate(1);
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::RowMoved, from, to, number);
 }
 
 void TGGrid::SetRowNum(long n)
@@ -140,10 +150,12 @@ void TGGrid::Structure::AppendRows(long number)
         added.push_back(row.get());
         made.push_back(std::move(row));
     }
-    InsertRows(grid.GetRowNum(), added);
+    const long place = grid.GetRowNum();
+    InsertRows(place, added);
     for (std::unique_ptr<TGGridRow>& row : made)
         static_cast<void>(row.release());
     grid.RecalcLayout(1);
+    TellInserted(place, added);
 }
 
 void TGGrid::Clear()
@@ -152,7 +164,7 @@ void TGGrid::Clear()
     EndEditCell();
     ClearSel();
     Structure(*this).ReleaseChildRows();
-    rows.Clear();
+    Structure(*this).DropAllRows();
     RecalcLayout(1);
 }
 
@@ -251,14 +263,122 @@ void TGGrid::Structure::InsertOffspring(TGGridTreeRow& top)
     });
 }
 
-void TGGrid::Structure::DetachFromTree(TGGridRow& row)
+TGGrid::Structure::TreePlace TGGrid::Structure::DetachFromTree(TGGridRow& row)
 {
     if (!row.IsTreeRow())
-        return;
+        return {};
     TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(row);
     RemoveOffspring(treeRow);
-    if (TGGridTreeRow* parent = treeRow.Parent())
-        parent->children.Detach(parent->GetChildIndex(&treeRow));
+    TGGridTreeRow* const parent = treeRow.Parent();
+    if (parent == nullptr)
+        return {};
+    const long position = parent->GetChildIndex(&treeRow);
+    parent->children.Detach(position);
+    return {parent, position};
+}
+
+// ---- What extensions are told
+
+// A row may name a parent below which it does not stand yet. Who walks over children has the cursor on this
+// one, who adds them has made the last one.
+bool TGGrid::Structure::StandsBelow(TGGridTreeRow& child, TGGridTreeRow& parent)
+{
+    PDList<TGGridTreeRow>& children = parent.children;
+    if (children.IsEmpty())
+        return false;
+    return (!children.IsOut() && children.Cur() == &child) || child.IsLastChild() ||
+           children.Find(&child) >= 0;
+}
+
+bool TGGrid::Structure::StandsInGrid(TGGridRow& row) const
+{
+    TGGridRow* top = &row;
+    while (top->GetIndex() < 0 && top->IsTreeRow())
+    {
+        auto* const child = static_cast<TGGridTreeRow*>(top);
+        TGGridTreeRow* const parent = child->Parent();
+        if (parent == nullptr || !StandsBelow(*child, *parent))
+            return false;
+        top = parent;
+    }
+    return top->GetIndex() >= 0 && top != grid.newRow;
+}
+
+void TGGrid::Structure::TellInserted(long place, std::span<TGGridRow* const> added)
+{
+    if (grid.extensions != nullptr)
+        grid.extensions->Tell(GridExtensions::RowsInserted, nullptr, place, added);
+}
+
+void TGGrid::Structure::TellChildren(TGGridTreeRow& parent, long position,
+                                     std::span<TGGridTreeRow* const> added)
+{
+    if (grid.extensions == nullptr || added.empty() || !grid.extensions->IsInGrid(parent))
+        return;
+    const std::vector<TGGridRow*> children(added.begin(), added.end());
+    grid.extensions->Tell(GridExtensions::RowsInserted, &parent, position,
+                          std::span<TGGridRow* const>(children));
+}
+
+void TGGrid::Structure::TellFolded(std::span<TGGridTreeRow* const> changed)
+{
+    if (grid.extensions == nullptr)
+        return;
+    std::vector<TGGridTreeRow*> parents;
+    for (TGGridTreeRow* row : changed)
+        if (row->IsParentRow() && grid.extensions->IsInGrid(*row))
+            parents.push_back(row);
+    if (!parents.empty())
+        grid.extensions->Tell(GridExtensions::RowsFolded, std::span<TGGridTreeRow* const>(parents));
+}
+
+void TGGrid::Structure::DropRow(TGGridTreeRow* parent, long position, TGGridRow* row)
+{
+    if (row == nullptr)
+        return;
+    if (grid.extensions == nullptr)
+    {
+        delete row;
+        return;
+    }
+    row->SetIndex(-1);
+    if (row->IsTreeRow())
+        static_cast<TGGridTreeRow*>(row)->parent = nullptr;
+    grid.extensions->TellRemoved(parent, position, {row}, false);
+}
+
+void TGGrid::Structure::DropChildren(TGGridTreeRow& parent)
+{
+    if (grid.extensions == nullptr || !grid.extensions->IsInGrid(parent))
+    {
+        parent.children.Clear();
+        return;
+    }
+    std::vector<TGGridRow*> dropped;
+    for (TGGridTreeRow* child : parent.children)
+        if (child != nullptr)
+        {
+            child->parent = nullptr;
+            dropped.push_back(child);
+        }
+    parent.children.Release(0, parent.GetChildNum());
+    grid.extensions->TellRemoved(&parent, 0, std::move(dropped), false);
+}
+
+void TGGrid::Structure::DropAllRows()
+{
+    if (grid.extensions == nullptr)
+    {
+        grid.rows.Clear();
+        return;
+    }
+    std::vector<TGGridRow*> dropped(grid.rows.begin(), grid.rows.end());
+    std::erase(dropped, nullptr);
+    grid.rows.Release(0, grid.GetRowNum());
+    for (TGGridRow* row : dropped)
+        row->SetIndex(-1);
+    if (!dropped.empty())
+        grid.extensions->TellRemoved(nullptr, 0, std::move(dropped), false);
 }
 
 void TGGrid::Structure::ReleaseChildRows()

@@ -1,5 +1,6 @@
 // TGGrid itself: construction and destruction, the writers of the style word that have an effect, access to
 // rows, columns and cells, the row cursor and the sort keys.
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/LateNumbers.h"
 #include "grid/TGActiveQuad.h"
@@ -22,6 +23,7 @@ TGGrid::TGGrid(bool tree, long columnWidth) : TGGridStyle(tree), defaultWidth(co
 // The window goes while the rows and columns that its editors and handlers refer to are still there.
 TGGrid::~TGGrid()
 {
+    GridExtensions::DetachAll(*this);
     BeginUpdate();
     CancelEditCell();
     Structure(*this).ReleaseChildRows();

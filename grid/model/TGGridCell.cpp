@@ -1,8 +1,11 @@
 // A cell's text, read-only rule and rectangles; its drawing is in CellPainting.cpp.
 #include "grid/TGGridCell.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/TGGrid.h"
 #include "grid/model/CellBlock.h"
+
+#include <utility>
 
 namespace QuorUiCtr
 {
@@ -29,9 +32,26 @@ void TGGridCell::GiveBack(void* memory, unsigned place)
 
 TGGridCell& TGGridCell::operator=(const TGGridCell& other)
 {
-    text = other.text;
     style = other.style;
+    if (grid->extensions == nullptr)
+    {
+        text = other.text;
+        return *this;
+    }
+    const CString oldText = std::exchange(text, CString(other.text));
+    grid->extensions->TellText(*this, oldText);
     return *this;
+}
+
+void TGGridCell::SetText(const wchar_t* newText)
+{
+    if (grid->extensions == nullptr)
+    {
+        text = newText;
+        return;
+    }
+    const CString oldText = std::exchange(text, newText);
+    grid->extensions->TellText(*this, oldText);
 }
 
 long TGGridCell::GetRowIndex() const

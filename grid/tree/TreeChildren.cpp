@@ -4,6 +4,7 @@
 // that it still exists. The steps that move rows in and out of the grid's row list run no hooks.
 #include "grid/TGGridTreeRow.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 
@@ -47,6 +48,7 @@ void TGGridTreeRow::InsertChildren(long position, OwnedRows& added)
     AddChildren(position, rows);
     for (std::unique_ptr<TGGridTreeRow>& row : added)
         static_cast<void>(row.release());
+    TGGrid::Structure(owner).TellChildren(*this, std::clamp(position, 0L, GetChildNum()), rows);
 }
 
 void TGGridTreeRow::AddChildren(long position, std::span<TGGridTreeRow* const> added)
@@ -118,7 +120,13 @@ void TGGridTreeRow::DelChild(long position)
         children.MoveTo(children.Find(child));
     if (child != nullptr)
         TGGrid::Structure(owner).HideTree(*child);
-    children.Del();
+    if (owner.extensions != nullptr && child != nullptr && owner.extensions->IsInGrid(*this))
+    {
+        const long place = children.GetCur();
+        TGGrid::Structure(owner).DropRow(this, place, children.Detach(place));
+    }
+    else
+        children.Del();
     if (shown)
         owner.RecalcLayout(1);
     else if (self.IsAlive() && IsVisible() && !IsParentRow())
@@ -147,7 +155,7 @@ void TGGridTreeRow::ClearChild()
     if (!self.IsAlive())
         return;
     TGGrid::Structure(GetGrid()).RemoveOffspring(*this);
-    children.Clear();
+    TGGrid::Structure(GetGrid()).DropChildren(*this);
 }
 
 void TGGridTreeRow::ArrangeChild(bool ascending)

@@ -4,6 +4,7 @@
 // that it still exists.
 #include "grid/TGGridTreeRow.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGTreeGrid.h"
@@ -32,7 +33,7 @@ void TGGridTreeRow::Fold()
     if (HasShownOffspring())
         HideOffspring();
     if (self.IsAlive())
-        SetUnFoldFlag(false);
+        MarkFolded(true);
 }
 
 void TGGridTreeRow::UnFold()
@@ -41,15 +42,30 @@ void TGGridTreeRow::UnFold()
     if (IsVisible() && IsParentRow() && !IsChildVisible())
         ShowOffspring();
     if (self.IsAlive())
-        SetUnFoldFlag(true);
+        MarkFolded(false);
+}
+
+// Extensions are told of rows that have children.
+void TGGridTreeRow::MarkFolded(bool folded)
+{
+    const bool changes = IsFold() != folded;
+    SetUnFoldFlag(!folded);
+    TGGridTreeRow* const self = this;
+    if (changes)
+        TGGrid::Structure(GetGrid()).TellFolded({&self, 1});
 }
 
 void TGGridTreeRow::FoldAll()
 {
     const RowWatch self(GetGrid(), this);
     Fold();
-    if (self.IsAlive())
-        MarkAll(false);
+    if (!self.IsAlive())
+        return;
+    std::vector<TGGridTreeRow*> unfolded;
+    if (GetGrid().extensions != nullptr)
+        CollectMarked(true, unfolded);
+    MarkAll(false);
+    TGGrid::Structure(GetGrid()).TellFolded(unfolded);
 }
 
 // The flags are set first, so that the whole sub-tree is shown as one change; and back without memory for it.
@@ -61,7 +77,7 @@ void TGGridTreeRow::UnFoldAll()
     if (!self.IsAlive())
         return;
     std::vector<TGGridTreeRow*> folded;
-    CollectFolded(folded);
+    CollectMarked(false, folded);
     MarkAll(true);
     try
     {
@@ -78,15 +94,16 @@ void TGGridTreeRow::UnFoldAll()
             row->SetUnFoldFlag(false);
         throw;
     }
+    TGGrid::Structure(GetGrid()).TellFolded(folded);
 }
 
-void TGGridTreeRow::CollectFolded(std::vector<TGGridTreeRow*>& folded)
+void TGGridTreeRow::CollectMarked(bool unfolded, std::vector<TGGridTreeRow*>& marked)
 {
-    if (IsFold())
-        folded.push_back(this);
+    if (IsFold() != unfolded)
+        marked.push_back(this);
     for (TGGridTreeRow* child : children)
         if (child != nullptr)
-            child->CollectFolded(folded);
+            child->CollectMarked(unfolded, marked);
 }
 
 void TGGridTreeRow::MarkAll(bool unfolded)

@@ -2,6 +2,7 @@
 #include "grid/TGGridCell.h"
 
 #include "grid/edit/CellWatch.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/window/GridPainting.h"
 #include "rules/GridGeometry.h"
 
@@ -52,35 +53,73 @@ void TGGridCell::Refresh()
     owner.OnBeforeRefresh(*this);
     if (owner.GetDC() == nullptr || self.Cell() == nullptr)
         return;
-    Draw(*owner.GetDC());
-    CRect cell;
-    GetRect(cell);
-    TGGrid::Painting(owner).InvertSelectionIn(CellOutlineRect(cell).As<CRect>());
-}
-
-void TGGridCell::Draw(CDC& context) const
-{
     CRect cell;
     GetRect(cell);
     const CRect outline = CellOutlineRect(cell).As<CRect>();
-    // Most cells of a view that scrolls need not be drawn, and the context takes its time to say so.
-    if (CRect part; !part.IntersectRect(&outline, &grid->visiblePart) || !context.RectVisible(&outline))
+    CDC& context = *owner.GetDC();
+    if (IsPainted(context, outline))
+        owner.extensions != nullptr ? DrawExtended(context) : DrawCellText(context, DrawBox(context, cell));
+    TGGrid::Painting(owner).InvertSelectionIn(outline);
+}
+
+// Most cells of a view that scrolls need not be drawn, and the context takes its time to say so.
+bool TGGridCell::IsPainted(CDC& context, const CRect& outline) const
+{
+    CRect part;
+    return part.IntersectRect(&outline, &grid->visiblePart) && context.RectVisible(&outline);
+}
+
+// Extensions may close the window, which ends the drawing. What they choose counts for this cell alone.
+void TGGridCell::DrawExtended(CDC& context)
+{
+    TGGrid& owner = *grid;
+    TGTextLook look{text, context.GetTextColor(), context.GetBkColor(), TextFormat()};
+    owner.extensions->Tell(GridExtensions::CellLook, *this, look);
+    if (owner.GetDC() != &context)
         return;
+    const COLORREF textColor = context.SetTextColor(look.textColor);
+    const COLORREF backColor = context.SetBkColor(look.backColor);
+    CRect cell;
+    GetRect(cell);
+    CRect textPlace = DrawBox(context, cell);
+    const bool done =
+        owner.extensions != nullptr && owner.extensions->DrawContent(*this, context, textPlace, look);
+    if (owner.GetDC() != &context)
+        return;
+    if (!done && !look.text.IsEmpty())
+    {
+        CFont* const font = look.font != nullptr ? context.SelectObject(look.font) : nullptr;
+        context.DrawText(look.text, &textPlace, look.format);
+        if (font != nullptr)
+            context.SelectObject(font);
+    }
+    context.SetTextColor(textColor);
+    context.SetBkColor(backColor);
+}
+
+CRect TGGridCell::DrawBox(CDC& context, const CRect& cell) const
+{
+    const CRect outline = CellOutlineRect(cell).As<CRect>();
     context.Rectangle(&outline);
     const CRect inside = CellInsideRect(cell).As<CRect>();
     context.FillSolidRect(&inside, context.GetBkColor());
     CRect textRect = CellTextRect(cell, grid->GetRowSpace()).As<CRect>();
     if (col->GetIndex() == 0 && row->IsTreeRow())
         textRect.left += DrawTreeDecoration(context, cell) - inside.left;
-    DrawCellText(context, textRect);
+    return textRect;
+}
+
+UINT TGGridCell::TextFormat() const
+{
+    const UINT alignment = col->IsCenterAlign() ? DT_CENTER : DT_LEFT;
+    return DT_SINGLELINE | DT_EDITCONTROL | alignment;
 }
 
 void TGGridCell::DrawCellText(CDC& context, CRect textRect) const
 {
     if (text.IsEmpty())
         return;
-    const UINT alignment = col->IsCenterAlign() ? DT_CENTER : DT_LEFT;
-    context.DrawText(text, &textRect, DT_SINGLELINE | DT_EDITCONTROL | alignment);
+    context.DrawText(text, &textRect, TextFormat());
 }
 
 long TGGridCell::DrawTreeDecoration(CDC& context, const CRect& cell) const

@@ -2,6 +2,7 @@
 // and the bracket that makes many changes as one.
 #include "grid/window/GridLayout.h"
 #include "grid/headers/HeaderBand.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/LateNumbers.h"
 #include "grid/model/MakeOrNull.h"
@@ -94,8 +95,11 @@ bool TGGrid::FitLastCol()
     const long difference = area.Width() - GetRight();
     if (difference == 0 || difference < GetRowHeight() - last.GetWidth())
         return false;
+    const long oldWidth = last.GetWidth();
     last.SetRight(last.GetRight() + difference);
     RecalcLayout(1);
+    if (extensions != nullptr && !IsColEmpty())
+        extensions->Tell(GridExtensions::ColResized, *ColAtIndex(GetColNum() - 1), oldWidth);
     return true;
 }
 
@@ -112,6 +116,8 @@ void TGGrid::RecalcLayout(int redraw)
         return;
     }
     Layout(*this).PerformLayout(redraw);
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::LaidOut);
 }
 
 void TGGrid::Layout::PerformLayout(int redraw)
@@ -281,7 +287,11 @@ void TGGrid::EndUpdate()
 void TGGrid::FlushLayout()
 {
     if (layoutPending && !layingOut && GetSafeHwnd() != nullptr)
+    {
         Layout(*this).PerformLayout(0);
+        if (extensions != nullptr)
+            extensions->Tell(GridExtensions::LaidOut);
+    }
 }
 
 // ---- Drawing context

@@ -1,6 +1,7 @@
 // TGGrid's painting: the visible rows, the new-row line, the selection, and the colours of an open editor.
 #include "grid/window/GridPainting.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/window/GridLayout.h"
 #include "grid/TGColSelector.h"
@@ -50,6 +51,12 @@ void TGGrid::Refresh()
         Painting(*this).InvertSelectedCols();
     else
         Painting(*this).InvertSelectedRows();
+    if (extensions != nullptr && dc != nullptr)
+    {
+        CRect drawn;
+        dc->GetClipBox(&drawn);
+        extensions->DrawOverlay(drawn);
+    }
     // The marks of a running drag stand on what was just drawn.
     if (rowHeader != nullptr)
         rowHeader->RestoreDropMark();
@@ -133,6 +140,8 @@ void TGGrid::Painting::InvertSelectionIn(const CRect& drawn)
     for (; entry != grid.rowSel.end() && *entry <= drawn.bottom / grid.GetRowHeight(); ++entry)
         if (TGGridRow* row = grid.RowAtIndex(*entry))
             invertPart(*row);
+    if (grid.extensions != nullptr)
+        grid.extensions->DrawOverlay(drawn);
     if (grid.rowHeader != nullptr)
         grid.rowHeader->RestoreDropMark(drawn);
     if (grid.colHeader != nullptr)

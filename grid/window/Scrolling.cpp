@@ -1,5 +1,6 @@
 // TGGrid's scrolling: moving the view, bringing rectangles into view, scroll bar and wheel messages.
 #include "grid/window/GridLayout.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridLimits.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
@@ -62,6 +63,8 @@ void TGGrid::Layout::ScrollView(int dx, int dy)
     ScrollContents(dx, dy);
     if (drawn)
         grid.Invalidate(0);
+    if (grid.extensions != nullptr)
+        grid.extensions->Tell(GridExtensions::Scrolled);
 }
 
 // The data area scrolls by itself, so that the header windows and an editor stay where they are.

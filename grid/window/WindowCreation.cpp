@@ -1,5 +1,6 @@
 // TGGrid's window: its message map, creation, fonts and header windows.
 #include "grid/window/GridLayout.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGColSelector.h"
@@ -95,6 +96,14 @@ BOOL TGGrid::Create(CWnd* parent, UINT id, DWORD windowStyle)
         return FALSE;
     PlaceBehind(m_hWnd, before);
     return TRUE;
+}
+
+LRESULT TGGrid::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    LRESULT result = 0;
+    if (extensions != nullptr && extensions->Answer(*this, message, wParam, lParam, result))
+        return result;
+    return CWnd::WindowProc(message, wParam, lParam);
 }
 
 int TGGrid::OnCreate(LPCREATESTRUCT create)

@@ -1,0 +1,159 @@
+// The extensions of a grid: attaching and detaching, and the questions whose answers need some care.
+#include "grid/model/GridExtensions.h"
+
+#include "grid/model/GridStructure.h"
+
+#include <algorithm>
+
+namespace QuorUiCtr
+{
+
+// ---- Coming and going
+
+bool GridExtensions::Attach(TGGrid& grid, TGGridExtension& extension)
+{
+    if (grid.extensions == nullptr)
+        grid.extensions = new GridExtensions(grid);
+    GridExtensions& list = *grid.extensions;
+    const Call call(list);
+    if (list.closing)
+        return false;
+    list.attached.push_back(&extension);
+    extension.extendedGrid = &grid;
+    extension.OnAttach();
+    return true;
+}
+
+void GridExtensions::Detach(TGGridExtension& extension)
+{
+    TGGrid& left = *extension.extendedGrid;
+    const Call call(*left.extensions);
+    std::replace(left.extensions->attached.begin(), left.extensions->attached.end(), &extension,
+                 static_cast<TGGridExtension*>(nullptr));
+    extension.extendedGrid = nullptr;
+    // May delete the extension.
+    extension.OnDetach(left);
+}
+
+void GridExtensions::DetachAll(TGGrid& grid)
+{
+    if (grid.extensions == nullptr)
+        return;
+    GridExtensions& list = *grid.extensions;
+    const Call call(list);
+    list.closing = true;
+    for (std::size_t i = 0; i < list.attached.size(); ++i)
+        if (list.attached[i] != nullptr)
+            Detach(*list.attached[i]);
+}
+
+void GridExtensions::CloseUp()
+{
+    if (calls > 0)
+        return;
+    std::erase(attached, nullptr);
+    if (!attached.empty())
+        return;
+    grid.extensions = nullptr;
+    delete this;
+}
+
+// ---- Messages
+
+bool GridExtensions::PreTranslate(MSG& message)
+{
+    return Each([&](TGGridExtension& extension) { return extension.OnPreTranslate(message); });
+}
+
+bool GridExtensions::Answer(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result)
+{
+    return Each([&](TGGridExtension& extension) {
+        return extension.OnMessage(window, message, wParam, lParam, result) || window.m_hWnd == nullptr;
+    });
+}
+
+// ---- Looks
+
+bool GridExtensions::DrawContent(TGGridCell& cell, CDC& context, const CRect& place, const TGTextLook& look)
+{
+    return Each([&](TGGridExtension& extension) {
+        return extension.OnDrawContent(cell, context, place, look) || grid.dc != &context;
+    });
+}
+
+// What extensions do to the context stays among them.
+void GridExtensions::DrawOverlay(const CRect& area)
+{
+    Each([&](TGGridExtension& extension) {
+        CDC* const context = grid.dc;
+        if (context == nullptr)
+            return true;
+        const int saved = context->SaveDC();
+        context->IntersectClipRect(&area);
+        extension.OnDrawOverlay(*context, area);
+        if (grid.dc != context)
+            return true;
+        context->RestoreDC(saved);
+        return false;
+    });
+}
+
+// ---- Tips and order
+
+bool GridExtensions::AskTip(TGGridPlace place, long row, long col, CString& text)
+{
+    return Each([&](TGGridExtension& extension) { return extension.OnTip(place, row, col, text); });
+}
+
+bool GridExtensions::AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows, bool ascending)
+{
+    std::vector<TGGridRow*> wanted = rows;
+    if (!Each([&](TGGridExtension& extension) { return extension.OnSort(parent, wanted, ascending); }))
+        return false;
+    std::vector<TGGridRow*> known = rows;
+    std::vector<TGGridRow*> given = wanted;
+    std::sort(known.begin(), known.end());
+    std::sort(given.begin(), given.end());
+    if (known != given)
+        return false;
+    rows = std::move(wanted);
+    return true;
+}
+
+// ---- Changes
+
+bool GridExtensions::IsInGrid(TGGridRow& row) const
+{
+    return TGGrid::Structure(grid).StandsInGrid(row);
+}
+
+void GridExtensions::TellText(TGGridCell& cell, const CString& oldText)
+{
+    if (IsInGrid(cell.GetRow()))
+        Tell(&TGGridExtension::OnTextChanged, cell, oldText);
+}
+
+void GridExtensions::TellRemoved(TGGridTreeRow* parent, long position, std::vector<TGGridRow*> rows,
+                                 bool buffered)
+{
+    TGRemovedRows removed(parent, position, std::move(rows), buffered);
+    Tell(&TGGridExtension::OnRowsRemoved, removed);
+}
+
+TGRemovedRows::TGRemovedRows(TGGridTreeRow* parentRow, long firstPosition, std::vector<TGGridRow*> removed,
+                             bool inBuffer)
+    : parent(parentRow), position(firstPosition), rows(std::move(removed)), buffered(inBuffer)
+{
+    if (!buffered)
+        for (TGGridRow* row : rows)
+            owned.emplace_back(row);
+}
+
+TGRemovedRows::~TGRemovedRows() = default;
+
+std::unique_ptr<TGGridRow> TGRemovedRows::Take(std::size_t i)
+{
+    return i < owned.size() ? std::move(owned[i]) : nullptr;
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,105 @@
+// GridExtensions: the extensions of one grid, and the ways to ask and tell them.
+#pragma once
+
+#include "grid/TGGridExtension.h"
+
+#include <utility>
+
+namespace QuorUiCtr
+{
+
+// Exists while its grid has extensions, so that a grid without any pays a null test for each seam. Who is
+// called may detach itself and others, delete itself, and attach others: slots are emptied, and closed up,
+// when no call is running any more. Then the list goes, too, if it is empty: after a call it is not touched.
+class GridExtensions
+{
+public:
+    // False for a grid that goes.
+    static bool Attach(TGGrid& grid, TGGridExtension& extension);
+    static void Detach(TGGridExtension& extension);
+    // The grid goes: all are told and leave.
+    static void DetachAll(TGGrid& grid);
+
+    bool PreTranslate(MSG& message);
+    // True also when the window is gone afterwards.
+    bool Answer(CWnd& window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT& result);
+    bool DrawContent(TGGridCell& cell, CDC& context, const CRect& place, const TGTextLook& look);
+    void DrawOverlay(const CRect& area);
+    bool AskTip(TGGridPlace place, long row, long col, CString& text);
+    // Puts rows into the order that an extension wants; false when none does.
+    bool AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows, bool ascending);
+
+    // Whether a row or the tree that it belongs to stands in the grid.
+    bool IsInGrid(TGGridRow& row) const;
+    // For cells of rows in the grid.
+    void TellText(TGGridCell& cell, const CString& oldText);
+    // Deletes what nobody takes over.
+    void TellRemoved(TGGridTreeRow* parent, long position, std::vector<TGGridRow*> rows, bool buffered);
+
+    // Calls a member function of every extension.
+    template <class... Parameters, class... Arguments>
+    void Tell(void (TGGridExtension::*notice)(Parameters...), Arguments&&... arguments)
+    {
+        Each([&](TGGridExtension& extension) {
+            (extension.*notice)(arguments...);
+            return false;
+        });
+    }
+
+    // The notices, which only this class may name.
+    static constexpr auto CellLook = &TGGridExtension::OnCellLook;
+    static constexpr auto CaptionLook = &TGGridExtension::OnCaptionLook;
+    static constexpr auto CaptionDrawing = &TGGridExtension::OnDrawCaption;
+    static constexpr auto Menu = &TGGridExtension::OnMenu;
+    static constexpr auto RowsInserted = &TGGridExtension::OnRowsInserted;
+    static constexpr auto RowMoved = &TGGridExtension::OnRowMoved;
+    static constexpr auto RowsSorted = &TGGridExtension::OnRowsSorted;
+    static constexpr auto RowsFolded = &TGGridExtension::OnRowsFolded;
+    static constexpr auto ColInserted = &TGGridExtension::OnColInserted;
+    static constexpr auto ColRemoving = &TGGridExtension::OnColRemoving;
+    static constexpr auto ColRemoved = &TGGridExtension::OnColRemoved;
+    static constexpr auto ColMoved = &TGGridExtension::OnColMoved;
+    static constexpr auto ColResized = &TGGridExtension::OnColResized;
+    static constexpr auto Selected = &TGGridExtension::OnSelected;
+    static constexpr auto LaidOut = &TGGridExtension::OnLaidOut;
+    static constexpr auto Scrolled = &TGGridExtension::OnScrolled;
+
+private:
+    explicit GridExtensions(TGGrid& servedGrid) : grid(servedGrid) {}
+
+    // Asks one after the other until an answer is true. Those that come meanwhile are not asked.
+    template <class Ask> bool Each(Ask ask)
+    {
+        const Call call(*this);
+        for (std::size_t i = 0, number = attached.size(); i < number; ++i)
+            if (attached[i] != nullptr && ask(*attached[i]))
+                return true;
+        return false;
+    }
+
+    // A call under way; its end closes the empty slots.
+    class Call
+    {
+    public:
+        explicit Call(GridExtensions& called) : extensions(called) { ++extensions.calls; }
+        ~Call()
+        {
+            --extensions.calls;
+            extensions.CloseUp();
+        }
+        Call(const Call&) = delete;
+        Call& operator=(const Call&) = delete;
+
+    private:
+        GridExtensions& extensions;
+    };
+    void CloseUp();
+
+    TGGrid& grid;
+    // Null for those that have left while a call was running.
+    std::vector<TGGridExtension*> attached;
+    int calls = 0;
+    bool closing = false;
+};
+
+} // namespace QuorUiCtr

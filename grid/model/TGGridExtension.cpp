@@ -1,0 +1,199 @@
+// The base of all extensions: attaching, the defaults of what they are asked and told, and their services.
+#include "grid/TGGridExtension.h"
+
+#include "grid/edit/CellWatch.h"
+#include "grid/model/GridExtensions.h"
+#include "grid/TGCellCtrl.h"
+#include "grid/TGGrid.h"
+#include "grid/window/GridLayout.h"
+
+namespace QuorUiCtr
+{
+
+TGGridExtension::~TGGridExtension()
+{
+    Detach();
+}
+
+bool TGGridExtension::AttachTo(TGGrid& newGrid)
+{
+    if (extendedGrid != nullptr)
+        return false;
+    return GridExtensions::Attach(newGrid, *this);
+}
+
+void TGGridExtension::Detach()
+{
+    if (extendedGrid != nullptr)
+        GridExtensions::Detach(*this);
+}
+
+// ---- Defaults
+
+void TGGridExtension::OnAttach() {}
+void TGGridExtension::OnDetach(TGGrid&) {}
+
+bool TGGridExtension::OnPreTranslate(MSG&)
+{
+    return false;
+}
+
+bool TGGridExtension::OnMessage(CWnd&, UINT, WPARAM, LPARAM, LRESULT&)
+{
+    return false;
+}
+
+void TGGridExtension::OnCellLook(TGGridCell&, TGTextLook&) {}
+
+bool TGGridExtension::OnDrawContent(TGGridCell&, CDC&, const CRect&, const TGTextLook&)
+{
+    return false;
+}
+
+void TGGridExtension::OnDrawOverlay(CDC&, const CRect&) {}
+void TGGridExtension::OnCaptionLook(TGGridCol&, TGTextLook&) {}
+void TGGridExtension::OnDrawCaption(TGGridCol&, CDC&, const CRect&) {}
+
+bool TGGridExtension::OnTip(TGGridPlace, long, long, CString&)
+{
+    return false;
+}
+
+void TGGridExtension::OnMenu(TGGridPlace, CMenu&) {}
+
+bool TGGridExtension::OnSort(TGGridTreeRow*, std::span<TGGridRow*>, bool)
+{
+    return false;
+}
+
+void TGGridExtension::OnTextChanged(TGGridCell&, const CString&) {}
+void TGGridExtension::OnRowsInserted(TGGridTreeRow*, long, std::span<TGGridRow* const>) {}
+void TGGridExtension::OnRowsRemoved(TGRemovedRows&) {}
+void TGGridExtension::OnRowMoved(long, long, long) {}
+void TGGridExtension::OnRowsSorted(TGGridTreeRow*, std::span<const long>) {}
+void TGGridExtension::OnRowsFolded(std::span<TGGridTreeRow* const>) {}
+void TGGridExtension::OnColInserted(TGGridCol&) {}
+void TGGridExtension::OnColRemoving(TGGridCol&) {}
+void TGGridExtension::OnColRemoved(long, std::unique_ptr<TGGridCol>&) {}
+void TGGridExtension::OnColMoved(long, long) {}
+void TGGridExtension::OnColResized(TGGridCol&, long) {}
+void TGGridExtension::OnSelected() {}
+void TGGridExtension::OnLaidOut() {}
+void TGGridExtension::OnScrolled() {}
+
+// ---- Places
+
+void TGGridExtension::PointToCell(CPoint point, long& row, long& col) const
+{
+    ASSERT(extendedGrid != nullptr);
+    extendedGrid->PtToCell(point, row, col);
+}
+
+CPoint TGGridExtension::ToLogical(CPoint point) const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->ClientToLogical(point);
+}
+
+TGGridRow* TGGridExtension::FindRow(long row) const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->RowAtIndex(row);
+}
+
+TGGridCell* TGGridExtension::FindCell(long row, long col) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGGridRow* const found = extendedGrid->IsNewRow(row) ? extendedGrid->newRow : FindRow(row);
+    return found != nullptr ? found->FindCell(col) : nullptr;
+}
+
+CRect TGGridExtension::GetCellRect(long row, long col) const
+{
+    return GetBlockRect(row, col, row, col);
+}
+
+CRect TGGridExtension::GetBlockRect(long top, long left, long bottom, long right) const
+{
+    ASSERT(extendedGrid != nullptr);
+    const TGGridCol* const first = extendedGrid->ColAtIndex(left);
+    const TGGridCol* const last = extendedGrid->ColAtIndex(right);
+    if (first == nullptr || last == nullptr || top < 0 || bottom > extendedGrid->GetRowNum())
+        return CRect(0, 0, 0, 0);
+    const long height = extendedGrid->GetRowHeight();
+    return CRect(first->GetLeft(), top * height, last->GetRight(), (bottom + 1) * height);
+}
+
+// Cells draw their lines one pixel further to the right and to the bottom.
+void TGGridExtension::InvalidateLogical(const CRect& rect) const
+{
+    ASSERT(extendedGrid != nullptr);
+    if (extendedGrid->GetSafeHwnd() == nullptr)
+        return;
+    if (extendedGrid->IsUpdating() || extendedGrid->dc == nullptr)
+    {
+        extendedGrid->Invalidate(0);
+        return;
+    }
+    CRect drawn = rect;
+    drawn.InflateRect(0, 0, 1, 1);
+    extendedGrid->dc->LPtoDP(&drawn);
+    CRect area;
+    extendedGrid->GetClientRect(&area);
+    if (drawn.IntersectRect(&drawn, &area))
+        extendedGrid->InvalidateRect(&drawn, FALSE);
+}
+
+void TGGridExtension::ShowLogical(const CRect& rect) const
+{
+    ASSERT(extendedGrid != nullptr);
+    extendedGrid->ShowRect(rect);
+}
+
+CRect TGGridExtension::GetView() const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->GetSafeHwnd() != nullptr ? TGGrid::Layout(*extendedGrid).ViewRect()
+                                                  : CRect(0, 0, 0, 0);
+}
+
+bool TGGridExtension::HasNewRowLine() const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->IsAppendRowShown();
+}
+
+// ---- Editing
+
+CWnd* TGGridExtension::GetEditorWindow() const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->editCell != nullptr && extendedGrid->cellCtrl != nullptr
+               ? extendedGrid->cellCtrl->GetWnd()
+               : nullptr;
+}
+
+bool TGGridExtension::TypeInto(TGGridCell& cell, const wchar_t* text) const
+{
+    TGGrid& typed = cell.GetGrid();
+    if (cell.IsReadOnly())
+        return false;
+    const CellWatch watch(typed, &cell);
+    bool commitNewRow = false;
+    CString stored(text);
+    if (!typed.OnBeforeEdit(cell, commitNewRow) || watch.Cell() == nullptr ||
+        !typed.OnModified(cell, stored) || watch.Cell() == nullptr)
+        return false;
+    cell.SetText(stored);
+    if (watch.Cell() != nullptr)
+        cell.Refresh();
+    return true;
+}
+
+void TGGridExtension::TellDataChanged() const
+{
+    ASSERT(extendedGrid != nullptr);
+    extendedGrid->OnDataChanged();
+}
+
+} // namespace QuorUiCtr

@@ -3,7 +3,8 @@
 #
 #   tools/build.sh PRESET [TARGETS...]      for example: tools/build.sh mingw-release gallery
 #
-# PRESET is mingw-release, mingw-checked, or native: the tests of tests/native, for this machine.
+# PRESET is mingw-release, mingw-checked, mingw-coverage (what coverage.sh needs), or native: the tests of tests/native, for
+# this machine.
 #
 # QUOR_WERROR=1 makes warnings errors. A compiler cache (ccache) is used where there is one, unless CCACHE_DISABLE is set;
 # what is compiled is the same with it and without.
@@ -53,7 +54,7 @@ build() {
 main() {
     refuse_options "$@"
     local preset=${1:-} tree
-    [[ $preset =~ ^(mingw-release|mingw-checked|native)$ ]] || die "which preset? mingw-release, mingw-checked or native"
+    [[ $preset =~ ^(mingw-(release|checked|coverage)|native)$ ]] || die "which preset? --help tells"
     shift
     tree=$quor_build/$preset
     cd "$quor_root"

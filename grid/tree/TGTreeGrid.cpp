@@ -214,9 +214,10 @@ void TGTreeGrid::RenumberItems(const std::vector<TGGridRow*>& items)
 {
     if (items.empty())
         return;
-    Leaves leaves;
-    AddAllLeaves(leaves);
-    Identifiers identifiers(leaves);
+    std::vector<int> asked;
+    for (TGGridRow* item : items)
+        asked.push_back(Leaves::IdentifierOf(Leaves::IdentifierCell(*item)));
+    Identifiers identifiers(*this, asked);
     for (TGGridRow* item : items)
         identifiers.Renumber(*item);
 }

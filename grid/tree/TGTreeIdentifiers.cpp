@@ -23,6 +23,21 @@ TGGridRow* TGTreeGrid::Leaves::Next()
     return nullptr;
 }
 
+// Nearly all are a few digits, which need none of what reading numbers of any kind takes.
+int TGTreeGrid::Leaves::IdentifierOf(const TGGridCell* cell)
+{
+    constexpr int SafeDigits = 9;
+    if (cell == nullptr)
+        return 0;
+    const wchar_t* const text = cell->GetText();
+    int number = 0;
+    int digits = 0;
+    for (; digits <= SafeDigits && text[digits] >= L'0' && text[digits] <= L'9'; ++digits)
+        if (digits < SafeDigits)
+            number = number * 10 + (text[digits] - L'0');
+    return digits <= SafeDigits && text[digits] == L'\0' ? number : _wtoi(text);
+}
+
 void TGTreeGrid::AddAllLeaves(Leaves& leaves)
 {
     for (MoveToFirst(); !IsOut(); MoveToNext())
@@ -35,28 +50,52 @@ void TGTreeGrid::AddAllLeaves(Leaves& leaves)
 
 // ---- The rule
 
-TGTreeGrid::Identifiers::Identifiers(Leaves& leaves)
+TGTreeGrid::Identifiers::Identifiers(TGTreeGrid& countedGrid, const std::vector<int>& asked)
+    : grid(countedGrid)
 {
-    while (TGGridRow* leaf = leaves.Next())
-        Count(Leaves::IdentifierOf(Leaves::IdentifierCell(*leaf)));
+    for (const int id : asked)
+        holders[id] = 0;
+    CountLeaves();
 }
 
-void TGTreeGrid::Identifiers::Count(int id)
+void TGTreeGrid::Identifiers::CountLeaves()
+{
+    Leaves leaves;
+    grid.AddAllLeaves(leaves);
+    while (TGGridRow* leaf = leaves.Next())
+    {
+        const int id = Leaves::IdentifierOf(Leaves::IdentifierCell(*leaf));
+        maximum = (std::max)(maximum, id);
+        if (knowsAll)
+            ++holders[id];
+        else if (const auto asked = holders.find(id); asked != holders.end())
+            ++asked->second;
+    }
+}
+
+void TGTreeGrid::Identifiers::Enter(int id)
 {
     ++holders[id];
-    if (id > maximum)
-        maximum = id;
+    maximum = (std::max)(maximum, id);
 }
 
-int TGTreeGrid::Identifiers::AutoId(int id) const
+int TGTreeGrid::Identifiers::AutoId(int id)
 {
-    const auto found = holders.find(id);
-    if (id != 0 && (found == holders.end() || found->second < 2))
+    if (id != 0 && holders[id] < 2)
         return id;
-    if (maximum < INT_MAX)
-        return maximum + 1;
+    return maximum < INT_MAX ? maximum + 1 : FirstUnused();
+}
+
+int TGTreeGrid::Identifiers::FirstUnused()
+{
+    if (!knowsAll)
+    {
+        knowsAll = true;
+        holders.clear();
+        CountLeaves();
+    }
     int unused = 1;
-    while (holders.contains(unused))
+    while (holders[unused] > 0)
         ++unused;
     return unused;
 }
@@ -71,9 +110,8 @@ void TGTreeGrid::Identifiers::Renumber(TGGridRow& leaf)
     cell->GetText().Format(L"%d", valid);
     if (valid == present)
         return;
-    if (--holders[present] == 0)
-        holders.erase(present);
-    Count(valid);
+    --holders[present];
+    Enter(valid);
 }
 
 // ---- The services
@@ -95,9 +133,7 @@ int TGTreeGrid::GetAutoId(int id)
         return id;
     if (maximum < INT_MAX)
         return maximum + 1;
-    Leaves again;
-    AddAllLeaves(again);
-    return Identifiers(again).AutoId(id);
+    return Identifiers(*this, {id}).AutoId(id);
 }
 
 bool TGTreeGrid::IsRightLabel(const wchar_t* label)

@@ -21,7 +21,7 @@ public:
     // The identifier text of a leaf: its cell in column 1, null when it has none.
     static TGGridCell* IdentifierCell(TGGridRow& leaf) { return leaf.FindCell(IdentifierCol); }
     // The number that the cell reads as; 0 for a null cell.
-    static int IdentifierOf(const TGGridCell* cell) { return cell != nullptr ? _wtoi(cell->GetText()) : 0; }
+    static int IdentifierOf(const TGGridCell* cell);
 
 private:
     static constexpr long IdentifierCol = 1;
@@ -31,21 +31,27 @@ private:
     size_t front = 0;
 };
 
-// The identifiers of a number of leaves, and the rule for new ones.
+// The identifiers of a grid's leaves, and the rule for new ones. Knows how many leaves hold an identifier
+// only for those that it is asked about, which are few, and for those that it has given.
 class TGTreeGrid::Identifiers
 {
 public:
-    explicit Identifiers(Leaves& leaves);
+    Identifiers(TGTreeGrid& countedGrid, const std::vector<int>& asked);
 
-    // See TGTreeGrid::GetAutoId.
-    int AutoId(int id) const;
-    // Gives one of the leaves the identifier that the rule says.
+    // See TGTreeGrid::GetAutoId; for an identifier that is asked about.
+    int AutoId(int id);
+    // Gives a leaf, whose identifier is asked about, the one that the rule says.
     void Renumber(TGGridRow& leaf);
 
 private:
-    void Count(int id);
+    void CountLeaves();
+    // An identifier that no leaf holds when there is none above the largest; from then on all are known.
+    int FirstUnused();
+    void Enter(int id);
 
+    TGTreeGrid& grid;
     std::unordered_map<int, long> holders;
+    bool knowsAll = false;
     int maximum = 0;
 };
 

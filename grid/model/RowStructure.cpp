@@ -122,7 +122,7 @@ void TGGrid::MoveRow(long from, long to)
     const long number = extensions != nullptr ? Structure(*this).EndOfTree(from) - from : 1;
     if (!Structure(*this).PlaceMovingRow(from, to))
         return;
-    Structure(*this).NumberRows(0);
+    Structure(*this).NumberRows((std::min)(from, to));
     Invalidate(1);
     if (extensions != nullptr)
         extensions->Tell(GridExtensions::RowMoved, from, to, number);

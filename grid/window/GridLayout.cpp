@@ -159,23 +159,31 @@ void TGGrid::Layout::LayOutScrollBars()
     grid.vScrollShown = plan.vertical;
 }
 
-// Drawing a scroll bar costs more than the rest of a layout together, so that its values are set without and
-// its picture is left to the next paint.
+// Drawing a scroll bar costs more than the rest of a layout together: its values are set without, a bar that
+// is shown draws them, and that of one that was shown before is left to the next paint.
 void TGGrid::Layout::LayOutBar(int bar, bool needed, int position, int maximum)
 {
+    const bool wasShown = IsBarShown(bar);
+    if (needed && SetBarValues(bar, (std::min)(position, maximum), maximum) && wasShown)
+        RepaintBar(bar);
     if (needed != IsBarShown(bar))
         grid.ShowScrollBar(static_cast<UINT>(bar), needed);
-    if (!needed)
-        return;
+}
+
+bool TGGrid::Layout::SetBarValues(int bar, int position, int maximum)
+{
     int oldMinimum = 0;
     int oldMaximum = 0;
     grid.GetScrollRange(bar, &oldMinimum, &oldMaximum);
-    const bool changesRange = oldMinimum != 0 || oldMaximum != maximum;
-    if (changesRange)
-        grid.SetScrollRange(bar, 0, maximum, FALSE);
-    const bool moves = SetBarPosition(bar, (std::min)(position, maximum));
-    if (changesRange || moves)
-        RepaintBar(bar);
+    if (oldMinimum == 0 && oldMaximum == maximum)
+        return SetBarPosition(bar, position);
+    SCROLLINFO values = {};
+    values.cbSize = sizeof(values);
+    values.fMask = SIF_RANGE | SIF_POS;
+    values.nMax = maximum;
+    values.nPos = position;
+    grid.SetScrollInfo(bar, &values, FALSE);
+    return true;
 }
 
 bool TGGrid::Layout::IsBarShown(int bar) const

@@ -49,6 +49,8 @@ private:
     void PlaceHeaders();
     void LayOutScrollBars();
     void LayOutBar(int bar, bool needed, int position, int maximum);
+    // Returns whether they were others.
+    bool SetBarValues(int bar, int position, int maximum);
     bool IsBarShown(int bar) const;
     void RenewNewRow();
 

@@ -106,6 +106,8 @@ POINT thumbGoal;
 
 void CALLBACK DragThumb(HWND, UINT, UINT_PTR timer, DWORD)
 {
+    if (::GetCapture() == nullptr)
+        return;
     ::KillTimer(nullptr, timer);
     ::SetCursorPos(thumbGoal.x, thumbGoal.y);
     INPUT inputs[2] = {};

@@ -136,7 +136,45 @@ void PaintFewAndMany(Report& report, Host& host)
                 fewTimes[Runs / 2]});
 }
 
+double FillPropertiesMs(Host& host, long properties)
+{
+    PropertySubject subject(host);
+    return TimeMs([&] {
+        subject.Fill(static_cast<int>(properties / GroupNumber));
+        subject.Paint();
+    });
+}
+
+// The selection goes down by keys, each painted.
+double PropertyKeyMs(Host& host, long properties)
+{
+    constexpr int Presses = 50;
+    PropertySubject subject(host);
+    subject.Fill(static_cast<int>(properties / GroupNumber));
+    CMFCPropertyGridCtrlEx& grid = subject.Grid();
+    grid.SetCurSel(grid.GetProperty(0)->GetSubItem(0), FALSE);
+    grid.SetFocus();
+    subject.Paint();
+    return TimeMs([&] {
+               for (int i = 0; i < Presses; ++i)
+               {
+                   grid.SendMessage(WM_KEYDOWN, VK_DOWN, 1);
+                   grid.UpdateWindow();
+               }
+           }) /
+           Presses;
+}
+
 } // namespace
+
+void RunPropGridGrowth(Report& report)
+{
+    Host host;
+    AddGrowth(report, "property grid: fill and paint", 1000, 10000, Growth::Linear,
+              [&](long properties) { return FillPropertiesMs(host, properties); });
+    AddGrowth(report, "property grid: a key and a paint", 1000, 10000, Growth::Constant,
+              [&](long properties) { return PropertyKeyMs(host, properties); });
+}
 
 void RunPropGrid(Report& report)
 {

@@ -1,4 +1,4 @@
-// Workloads: repainting and scrolling, compared with the list view and with the bare drawing primitives.
+// Workload: repainting, compared with the list view and with the bare drawing primitives.
 #include "Subjects.h"
 #include "Workloads.h"
 
@@ -184,32 +184,6 @@ void RunRepaint(Report& report)
     RepaintAgainstSmallGrid(report, host, true);
     for (long n : {1000L, 100000L})
         RepaintAgainstListView(report, host, n);
-}
-
-void RunScroll(Report& report)
-{
-    constexpr int Steps = 200;
-    Host host;
-    for (long n : {1000L, 100000L})
-    {
-        const auto scrollLines = [](HWND window) {
-            for (int step = 0; step < Steps; ++step)
-            {
-                SendMessage(window, WM_VSCROLL, SB_LINEDOWN, 0);
-                UpdateWindow(window);
-            }
-        };
-        double ours = 0;
-        {
-            GridSubject grid(&host);
-            grid.AppendRowsAsOne(n);
-            ours = MedianMs([&] { scrollLines(grid.Grid().m_hWnd); }, [&] { grid.ScrollToRow(0); });
-        }
-        ListViewSubject list(host);
-        list.AppendRowsAsOne(n);
-        const double peer = MedianMs([&] { scrollLines(list.List().m_hWnd); }, [&] { list.ScrollToRow(0); });
-        report.Add({"scroll one line", n, ours / Steps, "list view", peer / Steps});
-    }
 }
 
 } // namespace bench

@@ -10,7 +10,7 @@ namespace bench
 void RunPopulate(Report& report);
 // Full repaints at random positions, compared with the list view and with the bare drawing primitives.
 void RunRepaint(Report& report);
-// Line by line scrolling with a paint after each step.
+// Scrolling by lines, pages and jumps with a paint after each step.
 void RunScroll(Report& report);
 // Selecting rows one by one in several orders, all at once, and repainting them.
 void RunSelection(Report& report);
@@ -27,7 +27,17 @@ void RunTreeGrid(Report& report);
 // The property grid: filling, look-up by title, paints with few and with many properties.
 void RunPropGrid(Report& report);
 
+// The report list: keys that move the current cell.
+void RunList(Report& report);
+
 // Growth of what is done with rows: filling, clearing, sorting.
 void RunRowGrowth(Report& report);
+// Growth of folding and unfolding.
+void RunTreeGrowth(Report& report);
+// Growth of steps that are to take the same time whatever there is.
+void RunScrollGrowth(Report& report);
+void RunListGrowth(Report& report);
+// Growth of filling a property grid, and of a key press in it.
+void RunPropGridGrowth(Report& report);
 
 } // namespace bench

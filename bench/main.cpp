@@ -24,12 +24,14 @@ constexpr Workload Workloads[] = {
     {"command", bench::RunCommands},  {"edit", bench::RunEdit},         {"memory", bench::RunMemory},
     {"populate", bench::RunPopulate}, {"propgrid", bench::RunPropGrid}, {"repaint", bench::RunRepaint},
     {"scroll", bench::RunScroll},     {"select", bench::RunSelection},  {"treegrid", bench::RunTreeGrid},
-    {"treemove", bench::RunTreeMove},
+    {"treemove", bench::RunTreeMove}, {"list", bench::RunList},
 };
 
 // Short ones, whose outcome does not depend on the machine.
 constexpr Workload GrowthWorkloads[] = {
-    {"rows", bench::RunRowGrowth},
+    {"rows", bench::RunRowGrowth},          {"trees", bench::RunTreeGrowth},
+    {"scroll", bench::RunScrollGrowth},     {"list", bench::RunListGrowth},
+    {"propgrid", bench::RunPropGridGrowth},
 };
 
 struct Arguments

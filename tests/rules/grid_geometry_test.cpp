@@ -141,6 +141,7 @@ TEST(GridGeometry, LeastScroll_OfALargerRange_BringsTheBeginningIn)
 TEST(GridGeometry, LeastScroll_OfAnEmptyRangeInside_IsNothing)
 {
     EXPECT_EQ(0, LeastScroll(51, 51, 1, 101, 0));
+    EXPECT_EQ(0, LeastScroll(101, 101, 1, 101, 0));
 }
 
 struct ScrollCase

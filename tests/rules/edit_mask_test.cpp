@@ -43,8 +43,9 @@ TEST(EditMask, EachMaskCharacterHasItsKind)
         const wchar_t* fits;
         const wchar_t* doesNot;
     } kinds[] = {
-        {L'D', L"09", L" a-"}, {L'd', L"0 ", L"a+"}, {L'+', L"5 +-", L"a."}, {L'C', L"aZ", L"1 "},
-        {L'c', L"a ", L"1"},   {L'A', L"a1", L" -"}, {L'a', L"a1 ", L"-"},   {L'*', L"a1 -~", L"\t"},
+        {L'D', L"09", L" a-"}, {L'd', L"0 ", L"a+"},    {L'+', L"5 +-", L"a."},
+        {L'C', L"aZ", L"1 "},  {L'c', L"a ", L"1"},     {L'A', L"a1", L" -"},
+        {L'a', L"a1 ", L"-"},  {L'*', L"a1 -~", L"\t"}, {L'?', L"", L"a1 ?"},
     };
     for (const auto& kind : kinds)
     {

@@ -50,9 +50,9 @@ BOOL AboutBox::OnInitDialog()
     CDialog::OnInitDialog();
     TranslateControls(*this);
     CString versions;
-    versions.Format(Tr(L"Gallery %s\nLibrary %s\nMFC %d.%d\nWindows %s\nBuilt with %s"),
-                    CString(QUOR_VERSION).GetString(), ModuleVersion(LibraryFile).GetString(), _MFC_VER >> 8,
-                    _MFC_VER & 0xFF, ModuleVersion(PlatformFile).GetString(), Compiler().GetString());
+    versions.Format(Tr(L"Gallery %s\nLibrary %s\nWindows %s\nBuilt with %s"),
+                    CString(QUOR_VERSION).GetString(), ModuleVersion(LibraryFile).GetString(),
+                    ModuleVersion(PlatformFile).GetString(), Compiler().GetString());
     SetDlgItemText(IDC_ABOUT_VERSIONS, versions);
     return TRUE;
 }

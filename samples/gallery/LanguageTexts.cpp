@@ -26,8 +26,7 @@ constexpr Translation Texts[] = {
     {L"Controls for programs written on MFC: editable grid, tree grid, drag tree, property grid, report "
      L"list.",
      L"用于 MFC 程序的控件：可编辑表格、树形表格、拖放树、属性表、列表。"},
-    {L"Gallery %s\nLibrary %s\nMFC %d.%d\nWindows %s\nBuilt with %s",
-     L"展示程序 %s\n控件库 %s\nMFC %d.%d\nWindows %s\n编译器 %s"},
+    {L"Gallery %s\nLibrary %s\nWindows %s\nBuilt with %s", L"展示程序 %s\n控件库 %s\nWindows %s\n编译器 %s"},
     {L"Opening %s", L"正在打开 %s"},
     {L"Saving %s", L"正在保存 %s"},
     {L"%s is not saved:\n%s", L"未保存 %s：\n%s"},

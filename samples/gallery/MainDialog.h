@@ -6,6 +6,7 @@
 #include "Page.h"
 #include "ScrolledArea.h"
 
+#include <afxwin.h>
 #include <afxcmn.h>
 
 #include <memory>

@@ -1,8 +1,8 @@
 // ProgressBox: a small window over long work, with a bar and a button that stops it.
 #pragma once
 
-#include <afxcmn.h>
 #include <afxwin.h>
+#include <afxcmn.h>
 
 // The window appears when the work has taken a moment; meanwhile its owner takes no input. It lives as long
 // as the work.

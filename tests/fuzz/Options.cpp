@@ -84,9 +84,9 @@ std::string Text(const std::vector<StepRange>& ranges)
     std::string text;
     for (const auto& [first, last] : ranges)
     {
-        text += (text.empty() ? "" : ",") + std::to_string(first);
+        text.append(text.empty() ? "" : ",").append(std::to_string(first));
         if (last != first)
-            text += "-" + std::to_string(last);
+            text.append("-").append(std::to_string(last));
     }
     return text;
 }

@@ -39,7 +39,7 @@ std::string WithoutNumbers(const std::string& line)
     std::istringstream words(line);
     std::string text;
     for (std::string word; words >> word;)
-        text += (text.empty() ? "" : " ") + (IsAddress(word) ? std::string("...") : word);
+        text.append(text.empty() ? "" : " ").append(IsAddress(word) ? "..." : word);
     return text;
 }
 

@@ -29,45 +29,48 @@ std::size_t MakeRun(std::span<Item> items, std::size_t start, SortsAfter& sortsA
     return end;
 }
 
-// Merges two neighbouring runs into `target`; of equal items those of `left` come first.
+// Merges the items before and from `middle` on, which are sorted each for themselves; of equal items those
+// before it come first. `left` has room for the items before it.
 template <class Item, class SortsAfter>
-Item* MergeRuns(std::span<Item> left, std::span<Item> right, Item* target, SortsAfter& sortsAfter)
+void MergeRuns(std::span<Item> items, std::size_t middle, std::vector<Item>& left, SortsAfter& sortsAfter)
 {
+    left.assign(items.begin(), items.begin() + static_cast<std::ptrdiff_t>(middle));
     auto fromLeft = left.begin();
-    auto fromRight = right.begin();
-    while (fromLeft != left.end() && fromRight != right.end())
+    auto fromRight = items.begin() + static_cast<std::ptrdiff_t>(middle);
+    auto target = items.begin();
+    while (fromLeft != left.end() && fromRight != items.end())
         *target++ = sortsAfter(*fromLeft, *fromRight) ? *fromRight++ : *fromLeft++;
-    target = std::copy(fromLeft, left.end(), target);
-    return std::copy(fromRight, right.end(), target);
+    std::copy(fromLeft, left.end(), target);
+}
+
+// Sorts items that consist of runs, at least one: `ends` holds where each of them ends, counted from `start`
+// on the same scale. Halves the runs, so that none takes part in more merges than needed.
+template <class Item, class SortsAfter>
+void MergeAllRuns(std::span<Item> items, std::size_t start, std::span<const std::size_t> ends,
+                  std::vector<Item>& left, SortsAfter& sortsAfter)
+{
+    if (ends.size() == 1)
+        return;
+    const std::size_t half = ends.size() / 2;
+    const std::size_t middle = ends[half - 1] - start;
+    MergeAllRuns(items.first(middle), start, ends.first(half), left, sortsAfter);
+    MergeAllRuns(items.subspan(middle), start + middle, ends.subspan(half), left, sortsAfter);
+    MergeRuns(items, middle, left, sortsAfter);
 }
 
 // Puts `items` into the order of a stable insertion sort that moves an item back while the item before it
 // sorts after it. Needs items.size() - 1 comparisons when the items are in order (or in strictly opposite
-// order) and O(n log n) at worst. A rule that contradicts itself gives some order of the same items.
+// order) and n log2 n at most. A rule that contradicts itself gives some order of the same items.
 template <class Item, class SortsAfter> void StableMergeSort(std::span<Item> items, SortsAfter sortsAfter)
 {
     std::vector<std::size_t> ends;
     for (std::size_t start = 0; start < items.size(); start = ends.back())
         ends.push_back(MakeRun(items, start, sortsAfter));
-
-    std::vector<Item> merged(ends.size() > 1 ? items.size() : 0);
-    while (ends.size() > 1)
-    {
-        std::vector<std::size_t> mergedEnds;
-        std::size_t start = 0;
-        Item* target = merged.data();
-        for (std::size_t run = 0; run < ends.size(); run += 2)
-        {
-            const std::size_t middle = ends[run];
-            const std::size_t end = run + 1 < ends.size() ? ends[run + 1] : middle;
-            target = MergeRuns(items.subspan(start, middle - start), items.subspan(middle, end - middle),
-                               target, sortsAfter);
-            mergedEnds.push_back(end);
-            start = end;
-        }
-        std::copy(merged.begin(), merged.end(), items.begin());
-        ends.swap(mergedEnds);
-    }
+    if (ends.size() < 2)
+        return;
+    std::vector<Item> left;
+    left.reserve(items.size());
+    MergeAllRuns(items, 0, std::span<const std::size_t>(ends), left, sortsAfter);
 }
 
 } // namespace QuorUiCtr::Detail

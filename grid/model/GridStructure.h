@@ -3,6 +3,8 @@
 
 #include "grid/TGGrid.h"
 
+#include <algorithm>
+#include <cstddef>
 #include <span>
 #include <vector>
 
@@ -28,6 +30,9 @@ public:
     void InsertRows(long at, std::span<TGGridRow* const> added);
     void RemoveRow(long at);
     void RemoveRows(long at, long number, long stored);
+    // Gives a row that has come in at `at` its index, and those behind theirs when somebody asks; the row
+    // cursor ends past the last row.
+    void NumberInsertedRow(long at, TGGridRow& row);
     // Gives the rows from `first` on their indices; the row cursor ends past the last row.
     void NumberRows(long first);
     bool IsOffspringAt(long i, const TGGridTreeRow& top);
@@ -79,6 +84,8 @@ public:
     // Enters a column at `i`, with a cell in each row; leaves the columns' cursor past the end. Nothing has
     // changed when it throws.
     void EnterCol(long i, TGGridCol& col);
+    // A column has come in: keeps the number of caption lines right.
+    void NoteCaption(const TGGridCol& col);
     // Enters it at the end; likewise.
     void AddCol(TGGridCol& col);
     // Deletes the columns from `first` on; runs no hooks.
@@ -89,6 +96,27 @@ public:
     void RemoveCol(long i);
     // Gives a column that is about to move and the columns that it passes their edges.
     void PlaceMovingCol(long from, long to);
+    // Sorts rows by the row order, as their list's own sort does. The list's cursor stays on its row. False
+    // when the rows have stood in this order.
+    template <class Row> bool SortList(PDList<Row>& list, bool ascending)
+    {
+        std::vector<TGGridRow*> order;
+        order.reserve(static_cast<std::size_t>(list.GetNum()));
+        for (Row* row : list)
+            order.push_back(row);
+        const Order found = SortByKeys(order, ascending);
+        if (found == Order::Unknown)
+            list.Sort(ascending);
+        if (found != Order::Changed)
+            return found == Order::Unknown;
+        const TGGridRow* const current = list.IsOut() ? nullptr : list.Cur();
+        auto next = order.begin();
+        for (Row*& slot : list)
+            slot = static_cast<Row*>(*next++);
+        if (current != nullptr)
+            list.MoveTo(static_cast<long>(std::find(order.begin(), order.end(), current) - order.begin()));
+        return true;
+    }
     // Sorts the rows and all children; tree rows fold meanwhile, which runs hooks.
     void SortRows(bool ascending);
 
@@ -103,6 +131,17 @@ private:
     void SortBelow(TGGridTreeRow& row, bool ascending);
     void SortExtended(bool ascending);
     static bool StandsBelow(TGGridTreeRow& child, TGGridTreeRow& parent);
+    // The columns to sort by.
+    const List<long>& SortKeys() const;
+    // What sorting has found.
+    enum class Order
+    {
+        Kept,
+        Changed,
+        Unknown // a row has no cell in the column of the main key; nothing has been done
+    };
+    // Sorts rows, those that are null to the end.
+    Order SortByKeys(std::vector<TGGridRow*>& order, bool ascending);
     // The parent of a tree row; null for a root row, a plain row and no row.
     static TGGridTreeRow* ParentOf(TGGridRow* row);
     void RemoveHiddenRows(const TGGridTreeRow::IndexRange& stored);

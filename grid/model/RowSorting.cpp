@@ -1,4 +1,5 @@
 // Sorting the rows by the row order, tree rows with their offspring.
+#include "grid/collections/MergeSort.h"
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/MakeOrNull.h"
@@ -6,7 +7,11 @@
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <cstdint>
+#include <cwchar>
 #include <optional>
+#include <span>
 #include <unordered_map>
 #include <vector>
 
@@ -70,6 +75,64 @@ std::vector<long> OrderOf(const std::vector<TGGridRow*>& before, const std::vect
     return order;
 }
 
+// A row and its text in the main key's column. The first characters stand side by side, so that most
+// comparisons are of two numbers, which lie where the sorting looks for them.
+struct RowKey
+{
+    RowKey(const wchar_t* keyText, TGGridRow* keyRow) : text(keyText), row(keyRow) { Pack(); }
+
+    void Pack()
+    {
+        const wchar_t* next = text;
+        for (std::uint64_t& part : packed)
+            for (int i = 0; i < 4; ++i)
+            {
+                part = part << 16 | *next;
+                next += *next != 0 ? 1 : 0;
+            }
+        isWhole = *next == 0;
+    }
+
+    int Compare(const RowKey& other) const
+    {
+        for (int i = 0; i < 2; ++i)
+            if (packed[i] != other.packed[i])
+                return packed[i] < other.packed[i] ? -1 : 1;
+        return isWhole && other.isWhole ? 0 : std::wcscmp(text + PackedChars, other.text + PackedChars);
+    }
+
+    static constexpr int PackedChars = 8;
+    std::uint64_t packed[2] = {};
+    const wchar_t* text;
+    TGGridRow* row;
+    // There is no more text than what is packed.
+    bool isWhole = false;
+};
+
+// Texts of one kind often begin alike. Where that leaves too little room for what is different, the beginning
+// that all have in common is left out.
+void SkipCommonStart(std::span<RowKey> keys)
+{
+    const auto isWhole = [](const RowKey& key) { return key.isWhole; };
+    if (std::all_of(keys.begin(), keys.end(), isWhole))
+        return;
+    const wchar_t* const model = keys.front().text;
+    std::size_t common = std::wcslen(model);
+    for (const RowKey& key : keys)
+    {
+        std::size_t same = 0;
+        while (same < common && key.text[same] == model[same])
+            ++same;
+        common = same;
+    }
+    if (common > 0)
+        for (RowKey& key : keys)
+        {
+            key.text += common;
+            key.Pack();
+        }
+}
+
 } // namespace
 
 void TGGrid::Arrange(bool ascending)
@@ -97,6 +160,41 @@ void TGGrid::Arrange(bool ascending)
     OnDataChanged();
 }
 
+const List<long>& TGGrid::Structure::SortKeys() const
+{
+    const List<long>& selected = grid.colSel;
+    return grid.keys.IsEmpty() ? selected : grid.keys;
+}
+
+TGGrid::Structure::Order TGGrid::Structure::SortByKeys(std::vector<TGGridRow*>& order, bool ascending)
+{
+    const List<long>& keys = SortKeys();
+    const std::vector<TGGridRow*> before = order;
+    const auto nulls = std::stable_partition(order.begin(), order.end(),
+                                             [](const TGGridRow* row) { return row != nullptr; });
+    std::vector<RowKey> rowKeys;
+    rowKeys.reserve(order.size());
+    if (!keys.IsEmpty())
+        for (TGGridRow* row : std::span(order.begin(), nulls))
+        {
+            const TGGridCell* cell = row->FindCell(*keys.begin());
+            if (cell == nullptr)
+                return Order::Unknown;
+            rowKeys.emplace_back(cell->GetText(), row);
+        }
+    SkipCommonStart(rowKeys);
+    const bool single = keys.GetNum() == 1;
+    const auto compare = [single](const RowKey& first, const RowKey& second) {
+        const int difference = first.Compare(second);
+        return difference != 0 || single ? difference : first.row->CompareByKeys(*second.row);
+    };
+    Detail::StableMergeSort(std::span(rowKeys), [&](const RowKey& first, const RowKey& second) {
+        return ascending ? compare(first, second) > 0 : compare(first, second) < 0;
+    });
+    std::transform(rowKeys.begin(), rowKeys.end(), order.begin(), [](const RowKey& key) { return key.row; });
+    return order == before ? Order::Kept : Order::Changed;
+}
+
 void TGGrid::Structure::SortRows(bool ascending)
 {
     if (grid.extensions != nullptr)
@@ -106,12 +204,13 @@ void TGGrid::Structure::SortRows(bool ascending)
     }
     if (!grid.treeGrid)
     {
-        grid.rows.Sort(ascending);
-        NumberRows(0);
+        if (SortList(grid.rows, ascending))
+            NumberRows(0);
+        grid.rows.MoveTo(-1);
         return;
     }
     FoldedRoots folded(grid.rows);
-    grid.rows.Sort(ascending);
+    SortList(grid.rows, ascending);
     NumberRows(0);
     for (TGGridRow* row : grid.rows)
         if (row != nullptr && row->IsParentRow())

@@ -160,7 +160,7 @@ void TGGridTreeRow::ClearChild()
 
 void TGGridTreeRow::ArrangeChild(bool ascending)
 {
-    children.Sort(ascending);
+    TGGrid::Structure(GetGrid()).SortList(children, ascending);
     for (TGGridTreeRow* child : children)
         if (child != nullptr)
             child->ArrangeChild(ascending);

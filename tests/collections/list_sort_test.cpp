@@ -65,11 +65,10 @@ template <class Elements> std::vector<long> NumbersOf(const Elements& elements)
     return numbers;
 }
 
-// Bound of the comparisons: the search for runs, and one merge level per doubling of the run length.
 double MostComparisons(std::size_t number)
 {
     const auto n = static_cast<double>(number);
-    return n + n * std::ceil(std::log2((std::max)(n / 2, 1.0)));
+    return n * std::log2((std::max)(n, 1.0));
 }
 
 template <class AnyList> class ListSort : public testing::Test
@@ -295,6 +294,23 @@ TEST(PDListSort, RandomRows_EndInTheOrderOfAStableInsertionSortThatSkipsNulls)
     EXPECT_EQ(list.GetNum(), slots);
     EXPECT_EQ(list[700], nullptr);
     EXPECT_NE(list[699], nullptr);
+}
+
+// Runs whose number is one more than a power of two: the odd one must not take part in every merge.
+TEST(DualListSort, RunsOfAnyNumberTakeNoMoreComparisonsThanASortOfSingleElements)
+{
+    for (const long runs : {2L, 3L, 5L, 9L, 17L, 33L, 129L, 1025L})
+    {
+        DualList<long> list;
+        for (long run = 0; run < runs; ++run)
+            for (long i = 0; i < 3; ++i)
+                list.Append(i * runs + (runs - run));
+        comparisons = 0;
+        list.Sort(CompareLongs);
+        EXPECT_LE(static_cast<double>(comparisons), MostComparisons(static_cast<std::size_t>(list.GetNum())))
+            << runs;
+        EXPECT_TRUE(std::is_sorted(list.begin(), list.end()));
+    }
 }
 
 } // namespace

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+#include <vector>
+
 using namespace QuorUiCtr;
 
 namespace quor::test
@@ -107,6 +111,56 @@ TEST_F(ArrangeWindow, Marker_StandsBesideTheRowThatWasEdited)
     for (int row = 0; row < 3; ++row)
         marked += picture.IsUniform(CRect(1, 21 + row * 20, 19, 39 + row * 20)) ? '-' : '*';
     EXPECT_EQ("--*", marked);
+}
+
+// The order of the rows is that of their operator>, whatever the texts have in common.
+TEST(Arrange, TextsOfAllKinds_ComeIntoTheOrderOfTheRows)
+{
+    std::mt19937 random(7);
+    const std::vector<CString> starts = {L"", L"a", L"0000", L"common start ", L"\xFFFF\xFFFF", L"12345678"};
+    for (int round = 0; round < 60; ++round)
+    {
+        ModelGrid grid;
+        AddCols(grid, 2);
+        std::vector<TGGridRow*> rows;
+        for (int i = 0; i < 80; ++i)
+        {
+            CString text = starts[round % 3 == 0 ? random() % starts.size() : round % starts.size()];
+            for (unsigned chars = random() % 12; chars > 0; --chars)
+                text += static_cast<wchar_t>(random() % 5 == 0 ? 0x4E00 + random() % 3 : L'a' + random() % 2);
+            grid.AppendRow(nullptr);
+            grid.GetCell(i, 0).SetText(text);
+            grid.GetCell(i, 1).SetText(random() % 2 == 0 ? L"x" : L"y");
+            rows.push_back(&grid.GetRow(i));
+        }
+        if (round % 2 == 0)
+            grid.AppendKey(round % 4 == 0 ? 1 : 5);
+        grid.AppendKey(0);
+        const bool ascending = round % 5 != 0;
+        std::stable_sort(rows.begin(), rows.end(), [ascending](TGGridRow* first, TGGridRow* second) {
+            return ascending ? *second > *first : *second < *first;
+        });
+        grid.Arrange(ascending);
+        for (int i = 0; i < 80; ++i)
+            ASSERT_EQ(rows[static_cast<std::size_t>(i)], &grid.GetRow(i))
+                << "round " << round << " row " << i;
+        EXPECT_EQ(79, grid.GetRow(79).GetIndex());
+    }
+}
+
+// What follows a null character counts for nothing.
+TEST(Arrange, TextsWithANullCharacter_AreComparedUpToIt)
+{
+    ModelGrid grid;
+    AddCols(grid, 1);
+    AddRows(grid, "cab");
+    grid.GetCell(0, 0).GetText() = CString(L"b\0z", 3);
+    grid.GetCell(1, 0).GetText() = CString(L"b\0a", 3);
+    grid.GetCell(2, 0).GetText() = L"a";
+    const TGGridRow* const first = &grid.GetRow(0);
+    grid.AppendKey(0);
+    grid.Arrange(true);
+    EXPECT_EQ(first, &grid.GetRow(1));
 }
 
 } // namespace

@@ -82,6 +82,12 @@ public:
         return place;
     }
 
+    // Remembering places is no change.
+    template <class Precedes> ConstIterator FindPartition(const Precedes& precedes) const
+    {
+        return ConstIterator(const_cast<Chain*>(this)->FindPartition(precedes).node);
+    }
+
     void MoveToPlace(const Place& place)
     {
         current = place.node;

@@ -192,10 +192,14 @@ public:
     // Searches of a list in which the elements for which `precedes` holds stand before all others, in
     // O(log n) or near; `precedes` must not change the list. The first element for which it does not hold: as
     // an iterator (end() when there is none), or made current (none when there is none), so that Insert adds
-    // an element where it belongs. Only the second form moves the cursor.
+    // an element where it belongs. Only the last form moves the cursor.
     template <class Precedes> Iterator FindPartition(const Precedes& precedes)
     {
         return Iterator(chain.FindPartition(precedes).node);
+    }
+    template <class Precedes> ConstIterator FindPartition(const Precedes& precedes) const
+    {
+        return chain.FindPartition(precedes);
     }
     template <class Precedes> void MoveToPartition(const Precedes& precedes)
     {

@@ -28,9 +28,10 @@ long TGColSelector::ColWithEdgeAt(long x) const
     long found = -1;
     if (grid->IsColFixWidth())
         return found;
-    for (const TGGridCol* col : grid->cols)
-        if (x == col->GetRight() || x == col->GetRight() - 1)
-            found = col->GetIndex();
+    auto col =
+        grid->cols.FindPartition([x](const TGGridCol* candidate) { return candidate->GetRight() < x; });
+    for (; col != grid->cols.end() && (*col)->GetRight() <= x + 1; ++col)
+        found = (*col)->GetIndex();
     return found;
 }
 

@@ -41,14 +41,9 @@ void TGGrid::PtToCell(CPoint point, long& row, long& col) const
 
 long TGGrid::ColAtX(long logicalX) const
 {
-    long index = 0;
-    for (const TGGridCol* col : cols)
-    {
-        if (col->GetLeft() <= logicalX && logicalX < col->GetRight())
-            break;
-        ++index;
-    }
-    return index;
+    const auto col = cols.FindPartition(
+        [logicalX](const TGGridCol* candidate) { return candidate->GetRight() <= logicalX; });
+    return col != cols.end() && (*col)->GetLeft() <= logicalX ? (*col)->GetIndex() : GetColNum();
 }
 
 INT_PTR TGGrid::OnToolHitTest(CPoint point, TOOLINFO* info) const

@@ -568,6 +568,8 @@ protected:
     afx_msg void OnSize(UINT type, int cx, int cy);
     // Copies the font, whose height becomes the text height, and lays out anew.
     afx_msg LRESULT OnSetFont(WPARAM newFont, LPARAM redraw);
+    // With redraw off, the window forgets what is to be painted.
+    afx_msg LRESULT OnSetRedraw(WPARAM on, LPARAM unused);
     // A grid shows no window text; lays out anew.
     afx_msg LRESULT OnSetText(WPARAM unused, LPARAM text);
     // Releases the mouse.
@@ -703,6 +705,21 @@ private:
     };
     BarPicture barPictures[2];
 
+    // The last layout has had all repainted and nothing has been painted since; the window was in sight then.
+    // Until then rows that come and go cost no layout.
+    bool repaintAwaited = false;
+    bool awaitedInSight = false;
+    // The values of the vertical bar have changed since, its picture not.
+    bool barStale = false;
+    // What the last layout found: the height of the view and how far it can be scrolled.
+    int viewHeight = 0;
+    long scrollHeight = 0;
+    // The new-row line is to be made anew before anybody sees it.
+    bool newRowStale = false;
+
+    // The largest number of caption lines; 0: to be counted anew.
+    long captionLines = 0;
+
     // Editing (EditSession.cpp).
     // What a click and an edit begin with, and go on with after a hook: ends an edit that is open and does a
     // layout that is postponed. Runs the hooks of these, none when there is nothing to do.
@@ -718,6 +735,14 @@ private:
     void ExtendMenu(TGGridPlace place, CMenu& menu);
     // Tells extensions that the selection has changed.
     void TellSelected();
+
+    // RecalcLayout(1) after rows have come or gone.
+    void RecalcRows();
+    // Stores the indices that `numberedRows` excepts.
+    void NumberLateRows();
+    // The row of the new-row line as the last layout wants it; null when there is none.
+    TGGridRow* FreshNewRow();
+
     // Makes a shown row the only one selected.
     void SelectOnly(TGGridRow& row);
     // Inverts a rectangle in logical coordinates on the drawing context; nothing without one.
@@ -729,6 +754,10 @@ private:
 
     // The serial number of the column that was made last.
     unsigned lastColSerial = 0;
+
+    // Rows whose stored index is below this one have it rightly; those that others were inserted before one
+    // by one get theirs when somebody asks.
+    long numberedRows = LONG_MAX;
 
     // Knows the indices of the rows, owned; null when they are those stored.
     LateNumbers* lateNumbers = nullptr;

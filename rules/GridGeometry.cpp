@@ -133,11 +133,17 @@ Box CellTextRect(const Box& cell, int rowSpace)
     return Box(inside.left + 2, inside.top + rowSpace, inside.right, inside.bottom);
 }
 
+int RowEdge(int row, int rowHeight)
+{
+    const long long edge = static_cast<long long>(row) * rowHeight;
+    return static_cast<int>((std::min)(edge, static_cast<long long>(MaxContentHeight)));
+}
+
 Box FoldBoxRect(int firstColumnLeft, int row, int depth, int rowHeight)
 {
     const int size = rowHeight - 3;
     const int left = firstColumnLeft + 2 + depth * size;
-    return Box(left, row * rowHeight + 2, left + size, (row + 1) * rowHeight - 1);
+    return Box(left, RowEdge(row, rowHeight) + 2, left + size, RowEdge(row + 1, rowHeight) - 1);
 }
 
 } // namespace QuorUiCtr

@@ -8,6 +8,16 @@
 namespace QuorUiCtr
 {
 
+// The height that a grid's contents can have: as far as drawing contexts count. Rows beyond have no extent,
+// and the last one before may have less than the others: they exist, but cannot be scrolled to, seen or hit.
+constexpr int MaxContentHeight = 1 << 27;
+// Up to here every context is exact to the pixel. Emulations of the platform that compute origins with single
+// precision round them to 2 pixels up to twice this height, to 8 up to MaxContentHeight.
+constexpr int ExactContentHeight = 1 << 24;
+
+// The y at which row `row` begins, in rows of one height that stand side by side from 0 on.
+int RowEdge(int row, int rowHeight);
+
 // Number of lines that the column header reserves for a caption. At most the first line break and every
 // further one that lies far enough behind it count: a caption that begins with a break counts one line.
 int CaptionLineCount(std::wstring_view caption);

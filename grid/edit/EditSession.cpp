@@ -70,7 +70,9 @@ TGCellCtrl* TGGrid::OnGetCellEdit(TGGridCell& cell)
 
 TGGridCell* TGGrid::EditSession::FindCell(long row, long col)
 {
-    TGGridRow* found = grid.IsNewRow(row) ? grid.newRow : grid.IsValidRow(row) ? grid.rows[row] : nullptr;
+    TGGridRow* found = grid.IsNewRow(row)     ? grid.FreshNewRow()
+                       : grid.IsValidRow(row) ? grid.rows[row]
+                                              : nullptr;
     return found != nullptr && grid.IsValidCol(col) ? found->FindCell(col) : nullptr;
 }
 
@@ -176,7 +178,7 @@ TGGridRow* TGGrid::EditSession::AppendNewRow()
     const bool agreed = grid.OnBeforeInsertRow(grid.GetRowNum(), accepted);
     // A hook that changes the grid may have had the line made anew.
     if (accepted == pending && !watch.IsAlive())
-        accepted = grid.newRow;
+        accepted = grid.FreshNewRow();
     std::unique_ptr<TGGridRow> supplied(accepted != grid.newRow ? accepted : nullptr);
     if (!agreed || accepted == nullptr)
         return nullptr;

@@ -39,8 +39,7 @@ private:
     HeaderAxis axis;
 };
 
-// Draws boxes of a header on a context of its window. Made for the length of a paint, because the thickness
-// of the column header takes a look at all captions.
+// Draws boxes of a header on a context of its window. Made for the length of a paint.
 class HeaderPainter
 {
 public:

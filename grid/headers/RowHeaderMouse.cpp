@@ -4,6 +4,7 @@
 #include "grid/TGGrid.h"
 #include "grid/headers/HeaderClick.h"
 #include "grid/headers/HeaderDrag.h"
+#include "rules/GridGeometry.h"
 
 namespace QuorUiCtr
 {
@@ -154,7 +155,7 @@ void TGRowSelector::DragTo(long row)
     Drag().ShowCursor();
     if (row == dragRow || row < 0 || row > grid->GetRowNum() || !grid->OnMovingRow(row) || !dragging)
         return;
-    Drag().MoveMark(row * grid->GetRowHeight());
+    Drag().MoveMark(RowEdge(row, grid->GetRowHeight()));
 }
 
 void TGRowSelector::RestoreDropMark()

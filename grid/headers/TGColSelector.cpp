@@ -51,17 +51,22 @@ HeaderBand TGColSelector::Band() const
 
 void TGColSelector::OnPaint()
 {
+    grid->repaintAwaited = false;
     CPaintDC context(this);
     const HeaderPainter painter(context, Band());
     context.SetTextColor(RGB(0, 0, 0));
     context.SetBkMode(TRANSPARENT);
     context.SelectObject(grid->GetFont());
-    for (TGGridCol* col : grid->cols)
+    CRect clip;
+    context.GetClipBox(&clip);
+    auto col = grid->cols.FindPartition(
+        [&clip](const TGGridCol* candidate) { return candidate->GetRight() <= clip.left; });
+    for (; col != grid->cols.end() && (*col)->GetLeft() < clip.right; ++col)
     {
-        const CRect box = painter.Box(col->GetLeft(), col->GetRight());
+        const CRect box = painter.Box((*col)->GetLeft(), (*col)->GetRight());
         if (painter.DrawFrame(box))
         {
-            DrawCaption(context, *col, box);
+            DrawCaption(context, **col, box);
             if (m_hWnd == nullptr)
                 return;
         }

@@ -7,6 +7,7 @@
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
 #include "module/resource.h"
+#include "rules/GridGeometry.h"
 
 #include <algorithm>
 
@@ -55,6 +56,7 @@ HeaderBand TGRowSelector::Band() const
 
 void TGRowSelector::OnPaint()
 {
+    grid->repaintAwaited = false;
     CPaintDC context(this);
     const HeaderPainter painter(context, Band());
     CRect clip;
@@ -71,7 +73,7 @@ void TGRowSelector::OnPaint()
 CRect TGRowSelector::BoxRect(const HeaderPainter& painter, long row) const
 {
     const long height = grid->GetRowHeight();
-    return painter.Box(row * height, (row + 1) * height);
+    return painter.Box(RowEdge(row, height), RowEdge(row + 1, height));
 }
 
 void TGRowSelector::DrawBox(const HeaderPainter& painter, long row, HeaderIcon* icon)

@@ -9,6 +9,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/RowWatch.h"
 #include "grid/window/GridPainting.h"
+#include "rules/GridGeometry.h"
 #include "rules/SelectedIndices.h"
 
 namespace QuorUiCtr
@@ -165,7 +166,7 @@ void TGGrid::Selecting::ShowRowBand(long row)
     CRect area;
     grid.GetClientRect(&area);
     const long x = grid.ClientToLogical(area.CenterPoint()).x;
-    ShowBand(CRect(x, row * grid.GetRowHeight(), x, (row + 1) * grid.GetRowHeight()));
+    ShowBand(CRect(x, RowEdge(row, grid.GetRowHeight()), x, RowEdge(row + 1, grid.GetRowHeight())));
 }
 
 void TGGrid::Selecting::ShowColBand(const TGGridCol& col)

@@ -5,6 +5,7 @@
 
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridLimits.h"
+#include "rules/GridGeometry.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -81,10 +82,19 @@ long TGGrid::Structure::WidthOfNewCol(long width)
     return (std::min)(width, MaxContentWidth - (std::min)(grid.GetRight(), MaxContentWidth));
 }
 
+// As long as the lines of all captions are known.
+void TGGrid::Structure::NoteCaption(const TGGridCol& col)
+{
+    if (grid.captionLines > 0)
+        grid.captionLines =
+            (std::max)(grid.captionLines, static_cast<long>(CaptionLineCount(col.GetName().GetString())));
+}
+
 void TGGrid::Structure::EnterCol(long i, TGGridCol& col)
 {
     const long width = col.GetWidth();
     col.SetIndex(i);
+    NoteCaption(col);
     grid.cols.Insert(i, &col);
     for (grid.cols.MoveToNext(); !grid.cols.IsOut(); grid.cols.MoveToNext())
     {
@@ -106,6 +116,7 @@ void TGGrid::Structure::EnterCol(long i, TGGridCol& col)
 void TGGrid::Structure::RemoveCol(long i)
 {
     const long width = grid.ColAtIndex(i)->GetWidth();
+    grid.captionLines = 0;
     grid.cols.MoveTo(i);
     grid.cols.SetCur(nullptr);
     grid.cols.Del();
@@ -141,6 +152,7 @@ void TGGrid::Structure::AddCol(TGGridCol& col)
 {
     const long place = grid.cols.Append(&col);
     col.SetIndex(place);
+    NoteCaption(col);
     try
     {
         ChangeAllRowsOrNone([&col](TGGridRow& row) { row.AppendCol(col); },

@@ -8,7 +8,9 @@ namespace QuorUiCtr
 {
 
 constexpr long MaxColWidth = 65535;
-// Beyond, columns have no extent any more; twice as much can still be counted.
+// The height of the contents is limited by MaxContentHeight of rules/GridGeometry.h: 134,217,728 pixels,
+// which are 6.7 million rows of 20 pixels. Beyond, columns have no extent any more; twice as much can still
+// be counted.
 constexpr long MaxContentWidth = LONG_MAX / 2;
 // Farther than any screen reaches, and within what GDI can scroll.
 constexpr int MaxScrollDistance = 1 << 24;

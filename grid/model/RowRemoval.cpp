@@ -5,6 +5,7 @@
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
+#include <climits>
 
 namespace QuorUiCtr
 {
@@ -48,7 +49,7 @@ void TGGrid::Structure::RemoveRows(long at, long number, long stored)
 {
     const long before = grid.GetRowNum();
     grid.rows.Release(at, number);
-    if (LateNumbers::Note(grid, stored, number))
+    if (grid.numberedRows == LONG_MAX && LateNumbers::Note(grid, stored, number))
         grid.rows.MoveTo(-1);
     else
         NumberRows(at);

@@ -11,7 +11,9 @@
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
+#include <climits>
 #include <memory>
+#include <utility>
 #include <vector>
 
 namespace QuorUiCtr
@@ -47,7 +49,7 @@ void TGGrid::InsertRow(long i, TGGridRow* row)
     i = std::clamp(i, 0L, GetRowNum());
     Structure(*this).InsertRows(i, {&entered, 1});
     inserted.release();
-    RecalcLayout(1);
+    RecalcRows();
     Structure(*this).TellInserted(i, {&entered, 1});
 }
 
@@ -62,7 +64,7 @@ void TGGrid::AppendRow(TGGridRow* row)
     const long place = rows.Append(appended.get());
     appended->SetIndex(place);
     TGGridRow* const entered = appended.release();
-    RecalcLayout(1);
+    RecalcRows();
     Structure(*this).TellInserted(place, {&entered, 1});
 }
 
@@ -89,7 +91,7 @@ void TGGrid::DelRow(long i)
     }
     Structure(*this).RemoveRow(i);
     Structure(*this).DropRow(place.parent, place.parent != nullptr ? place.position : i, row);
-    RecalcLayout(1);
+    RecalcRows();
 }
 
 void TGGrid::DelRowEx(long i)
@@ -172,16 +174,41 @@ void TGGrid::Structure::InsertRows(long at, std::span<TGGridRow* const> added)
 {
     const long before = grid.GetRowNum();
     grid.rows.SpliceInsert(at, added);
-    NumberRows(at);
     const long number = static_cast<long>(added.size());
+    if (number == 1 && added[0] != nullptr && !grid.treeGrid)
+        NumberInsertedRow(at, *added[0]);
+    else
+        NumberRows(at);
     SelectedIndices::Shift(grid.rowSel, grid.rowSel, at, number);
     if (number > 0 && grid.curRowIndex >= at && grid.curRowIndex < before)
         grid.SetCurRowIndex(grid.curRowIndex + number);
 }
 
+// Many rows inserted one by one would have the rows behind numbered as many times. Not in a tree, whose
+// operations look at the indices that are stored.
+void TGGrid::Structure::NumberInsertedRow(long at, TGGridRow& row)
+{
+    row.SetIndex(at);
+    grid.numberedRows = (std::min)(grid.numberedRows, at);
+    grid.rows.MoveTo(-1);
+}
+
+// A row that has no index in spite of its slot is just coming or going, and is numbered by who does that. The
+// row cursor is in use.
+void TGGrid::NumberLateRows()
+{
+    if (numberedRows == LONG_MAX)
+        return;
+    long i = std::exchange(numberedRows, LONG_MAX);
+    for (auto slot = rows.IteratorAt(i); slot != rows.end(); ++slot, ++i)
+        if (TGGridRow* row = *slot; row != nullptr && row->index != -1)
+            row->index = i;
+}
+
 void TGGrid::Structure::NumberRows(long first)
 {
     LateNumbers::Settle(grid);
+    first = (std::min)(first, std::exchange(grid.numberedRows, LONG_MAX));
     for (auto slot = grid.rows.IteratorAt(first); slot != grid.rows.end(); ++slot, ++first)
         if (TGGridRow* row = *slot)
             row->index = first;
@@ -200,6 +227,7 @@ bool TGGrid::Structure::IsOffspringAt(long i, const TGGridTreeRow& top)
 
 bool TGGrid::Structure::RemoveOffspring(TGGridTreeRow& top)
 {
+    grid.NumberLateRows();
     TGGridTreeRow::IndexRange hidden;
     top.MarkHidden(hidden);
     if (hidden.number == 0)

@@ -70,7 +70,7 @@ TGGridRow& TGGrid::GetRow(long i)
         rows.MoveTo(i);
         return *row;
     }
-    if (newRow == nullptr)
+    if (FreshNewRow() == nullptr)
     {
         newRow = Structure(*this).MakeRow();
         newRow->SetIndex(GetRowNum());

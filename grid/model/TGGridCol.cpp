@@ -17,6 +17,9 @@ TGGridCol::~TGGridCol() = default;
 void TGGridCol::SetName(const wchar_t* newName)
 {
     name = newName;
+    grid->captionLines = 0;
+    // The next change of the rows lays the header out as well.
+    grid->repaintAwaited = false;
 }
 
 void TGGridCol::SetBackColor(unsigned long color)

@@ -5,6 +5,7 @@
 #include "grid/model/LateNumbers.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
+#include "rules/GridGeometry.h"
 
 #include <algorithm>
 #include <memory>
@@ -56,6 +57,8 @@ TGGridRow& TGGridRow::operator=(TGGridRow& other)
 
 long TGGridRow::GetIndex() const
 {
+    if (index >= grid->numberedRows)
+        grid->NumberLateRows();
     return index < 0 ? index : TGGrid::LateNumbers::TrueIndex(*grid, index);
 }
 
@@ -248,12 +251,12 @@ void TGGridRow::Refresh()
 
 long TGGridRow::GetTop() const
 {
-    return GetIndex() * grid->GetRowHeight();
+    return RowEdge(GetIndex(), grid->GetRowHeight());
 }
 
 long TGGridRow::GetBottom() const
 {
-    return (GetIndex() + 1) * grid->GetRowHeight();
+    return RowEdge(GetIndex() + 1, grid->GetRowHeight());
 }
 
 long TGGridRow::GetRight() const

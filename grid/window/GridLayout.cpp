@@ -43,7 +43,7 @@ void InvalidateChild(CWnd* child)
 long TGGrid::GetBottom()
 {
     const long lines = GetRowNum() + (IsAppendRowShown() ? 1 : 0);
-    return GetRowHeight() * lines;
+    return RowEdge(lines, GetRowHeight());
 }
 
 long TGGrid::GetRight()
@@ -53,10 +53,14 @@ long TGGrid::GetRight()
 
 long TGGrid::GetColHeaderHeight()
 {
-    long lines = 1;
-    for (const TGGridCol* col : cols)
-        lines = (std::max)(lines, static_cast<long>(CaptionLineCount(col->GetName().GetString())));
-    return GetRowHeight() * lines;
+    if (captionLines == 0)
+    {
+        captionLines = 1;
+        for (const TGGridCol* col : cols)
+            captionLines =
+                (std::max)(captionLines, static_cast<long>(CaptionLineCount(col->GetName().GetString())));
+    }
+    return GetRowHeight() * captionLines;
 }
 
 void TGGrid::GetClientRect(RECT* rect)
@@ -120,10 +124,46 @@ void TGGrid::RecalcLayout(int redraw)
         extensions->Tell(GridExtensions::LaidOut);
 }
 
+// A window that is out of sight has nothing to repaint; once it is seen, all of it has. But with its redraw
+// off it stays as it is.
+void TGGrid::Layout::AwaitRepaint()
+{
+    grid.repaintAwaited = (grid.CWnd::GetStyle() & WS_VISIBLE) != 0;
+    grid.awaitedInSight = grid.repaintAwaited && grid.IsWindowVisible() != FALSE;
+}
+
+// As long as all is to be repainted, bars come or go with a layout only, and so does what the end of the rows
+// does to the position.
+bool TGGrid::Layout::FollowRows()
+{
+    if (layingOut || grid.IsEditing() || (!grid.awaitedInSight && grid.IsWindowVisible()))
+        return false;
+    const long hidden = grid.GetBottom() - grid.viewHeight;
+    if ((hidden > 0) != grid.vScrollShown || IsNewRowInUse())
+        return false;
+    if (grid.vScrollShown && hidden != grid.scrollHeight)
+    {
+        if (hidden < grid.scrollHeight && BarPosition(SB_VERT) > hidden)
+            return false;
+        grid.SetScrollRange(SB_VERT, 0, static_cast<int>(hidden), FALSE);
+        grid.scrollHeight = hidden;
+        grid.barStale = true;
+    }
+    RenewNewRow();
+    return true;
+}
+
+void TGGrid::RecalcRows()
+{
+    if (!repaintAwaited || IsUpdating() || !Layout(*this).FollowRows())
+        RecalcLayout(1);
+}
+
 void TGGrid::Layout::PerformLayout(int redraw)
 {
     const ScopedValue guard(layingOut, true);
     grid.layoutPending = false;
+    grid.repaintAwaited = false;
     if (grid.IsEditing())
         grid.EndEditCell();
     // The hooks of the edit may have closed the window.
@@ -134,8 +174,10 @@ void TGGrid::Layout::PerformLayout(int redraw)
     grid.ClearDC();
     grid.PrepareDC(nullptr);
     RenewNewRow();
-    if (redraw != 0)
-        grid.Invalidate(1);
+    if (redraw == 0)
+        return;
+    grid.Invalidate(1);
+    AwaitRepaint();
 }
 
 void TGGrid::Layout::LayOutScrollBars()
@@ -157,6 +199,8 @@ void TGGrid::Layout::LayOutScrollBars()
     LayOutBar(SB_VERT, plan.vertical, vPosition, content.cy - plan.area.height);
     grid.hScrollShown = plan.horizontal;
     grid.vScrollShown = plan.vertical;
+    grid.viewHeight = plan.area.height;
+    grid.scrollHeight = content.cy - plan.area.height;
 }
 
 // Drawing a scroll bar costs more than the rest of a layout together: its values are set without, a bar that
@@ -218,17 +262,40 @@ void TGGrid::Layout::PlaceHeaders()
     PlaceChild(grid.rowHeader, HeaderBand(grid, HeaderAxis::Rows).WindowRect());
 }
 
+// While an edit of the new row is being committed, its cells are in use; one may be about to be edited.
+bool TGGrid::Layout::IsNewRowInUse() const
+{
+    const auto isOn = [this](const TGGridCell* cell) {
+        return cell != nullptr && &cell->GetRow() == grid.newRow;
+    };
+    return grid.newRow != nullptr && (isOn(grid.editCell) || isOn(grid.cellLock));
+}
+
+// A row that nobody uses is made anew only when somebody is going to: most layouts are followed by others
+// before that. The columns' cursor goes where the making of a row leaves it.
 void TGGrid::Layout::RenewNewRow()
 {
-    // While an edit of the new row is being committed, its cells are in use.
+    if (grid.newRow != nullptr && !IsNewRowInUse())
+    {
+        grid.newRow->SetIndex(grid.GetRowNum());
+        grid.newRowStale = true;
+        grid.cols.MoveTo(-1);
+        return;
+    }
     if (grid.newRow != nullptr && grid.editCell != nullptr && &grid.editCell->GetRow() == grid.newRow)
     {
         grid.newRow->SetIndex(grid.GetRowNum());
         return;
     }
+    MakeNewRow();
+}
+
+void TGGrid::Layout::MakeNewRow()
+{
     const bool locked =
         grid.newRow != nullptr && grid.cellLock != nullptr && &grid.cellLock->GetRow() == grid.newRow;
     const long lockedCol = locked ? grid.cellLock->GetColIndex() : -1;
+    grid.newRowStale = false;
     // Without memory for a fresh row the old one stays, or none.
     TGGridRow* fresh = MakeOrNull([this] { return Structure(grid).MakeRow(); });
     if (fresh != nullptr)
@@ -244,6 +311,16 @@ void TGGrid::Layout::RenewNewRow()
     grid.newRow->SetIndex(grid.GetRowNum());
     if (locked)
         grid.cellLock = grid.IsValidCol(lockedCol) ? &(*grid.newRow)[lockedCol] : nullptr;
+}
+
+TGGridRow* TGGrid::FreshNewRow()
+{
+    if (newRow != nullptr && newRowStale)
+    {
+        const CursorGuard cursor(cols);
+        Layout(*this).MakeNewRow();
+    }
+    return newRow;
 }
 
 void TGGrid::Invalidate(int erase)

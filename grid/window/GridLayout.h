@@ -21,6 +21,9 @@ public:
 
     // Layout (GridLayout.cpp).
     void PerformLayout(int redraw);
+    // Does what rows that have come or gone ask for without a layout; false when there has to be one.
+    bool FollowRows();
+    void MakeNewRow();
     void MapDC();
 
     // Scrolling (Scrolling.cpp).
@@ -52,6 +55,8 @@ private:
     // Returns whether they were others.
     bool SetBarValues(int bar, int position, int maximum);
     bool IsBarShown(int bar) const;
+    void AwaitRepaint();
+    bool IsNewRowInUse() const;
     void RenewNewRow();
 
     TGGrid& grid;

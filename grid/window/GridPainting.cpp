@@ -10,18 +10,22 @@
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace QuorUiCtr
 {
 
 void TGGrid::OnPaint()
 {
+    repaintAwaited = false;
     if (IsUpdating())
     {
         const CPaintDC validated(this);
         redrawPending = true;
         return;
     }
+    if (std::exchange(barStale, false))
+        Layout(*this).RepaintBar(SB_VERT);
     ClearDC();
     {
         CPaintDC paintContext(this);
@@ -68,8 +72,10 @@ void TGGrid::Painting::DrawVisibleRows()
 {
     const RowRange visible = VisibleRows();
     DrawRows(visible.first, visible.last);
-    if (grid.GetRowNum() <= visible.last && grid.IsAppendRowShown() && grid.newRow != nullptr)
-        grid.newRow->Refresh();
+    if (grid.GetRowNum() > visible.last || !grid.IsAppendRowShown())
+        return;
+    if (TGGridRow* newRow = grid.FreshNewRow())
+        newRow->Refresh();
 }
 
 CRect TGGrid::Painting::VisiblePart()

@@ -105,8 +105,8 @@ void TGGrid::ShowAppendRow()
         return;
     const CRect view = Layout(*this).ViewRect();
     const long centre = (view.left + view.right) / 2;
-    const long top = GetRowHeight() * GetRowNum();
-    ShowRect(CRect(centre, top, centre, top + GetRowHeight()));
+    ShowRect(CRect(centre, RowEdge(GetRowNum(), GetRowHeight()), centre,
+                   RowEdge(GetRowNum() + 1, GetRowHeight())));
 }
 
 CRect TGGrid::Layout::ViewRect()

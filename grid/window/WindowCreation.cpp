@@ -54,6 +54,7 @@ template <class Header> void MakeHeader(Header*& header, bool shown, TGGrid& gri
 BEGIN_MESSAGE_MAP(TGGrid, CWnd)
     ON_WM_SIZE()
     ON_MESSAGE(WM_SETFONT, &TGGrid::OnSetFont)
+    ON_MESSAGE(WM_SETREDRAW, &TGGrid::OnSetRedraw)
     ON_MESSAGE(WM_SETTEXT, &TGGrid::OnSetText)
     ON_WM_CANCELMODE()
     ON_WM_GETDLGCODE()
@@ -156,6 +157,12 @@ LRESULT TGGrid::OnSetFont(WPARAM newFont, LPARAM)
     return 0;
 }
 
+LRESULT TGGrid::OnSetRedraw(WPARAM, LPARAM)
+{
+    repaintAwaited = false;
+    return Default();
+}
+
 LRESULT TGGrid::OnSetText(WPARAM, LPARAM)
 {
     Default();
@@ -180,6 +187,8 @@ void TGGrid::PostNcDestroy()
     hScrollShown = false;
     layoutPending = false;
     redrawPending = false;
+    repaintAwaited = false;
+    barStale = false;
     showPending = false;
     for (BarPicture& picture : barPictures)
         picture = {};

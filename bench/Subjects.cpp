@@ -50,11 +50,15 @@ void GridSubject::AppendRows(long count)
     {
         const long row = grid.GetRowNum();
         grid.AppendRow(nullptr);
-        QuorUiCtr::TGGridRow& newRow = grid.GetRow(row);
-        const wchar_t* text = CellText(row);
-        for (int column = 0; column < ColumnCount; ++column)
-            newRow[column].SetText(text);
+        SetTexts(grid.GetRow(row), row);
     }
+}
+
+void GridSubject::SetTexts(QuorUiCtr::TGGridRow& row, long number)
+{
+    const wchar_t* text = CellText(number);
+    for (int column = 0; column < ColumnCount; ++column)
+        row[column].SetText(text);
 }
 
 void GridSubject::AppendRowsAsOne(long count)

@@ -36,6 +36,8 @@ public:
     void AppendRows(long count);
     // The same inside one BeginUpdate/EndUpdate.
     void AppendRowsAsOne(long count);
+    // Gives all cells of a row the text of row `number`.
+    static void SetTexts(QuorUiCtr::TGGridRow& row, long number);
     void Empty();
     // Scrolls so that `row` is about the topmost row, and paints what that leaves open.
     void ScrollToRow(long row);

@@ -6,6 +6,8 @@
 namespace bench
 {
 
+// Filling, emptying and sorting against the bare data, with limits; many columns.
+void RunBuild(Report& report);
 // Filling N x 10 cells: without a window, with one as one change, and row by row.
 void RunPopulate(Report& report);
 // Full repaints at random positions, compared with the list view and with the bare drawing primitives.

@@ -21,10 +21,10 @@ struct Workload
 };
 
 constexpr Workload Workloads[] = {
-    {"command", bench::RunCommands},  {"edit", bench::RunEdit},         {"memory", bench::RunMemory},
-    {"populate", bench::RunPopulate}, {"propgrid", bench::RunPropGrid}, {"repaint", bench::RunRepaint},
-    {"scroll", bench::RunScroll},     {"select", bench::RunSelection},  {"treegrid", bench::RunTreeGrid},
-    {"treemove", bench::RunTreeMove}, {"list", bench::RunList},
+    {"build", bench::RunBuild},       {"command", bench::RunCommands},  {"edit", bench::RunEdit},
+    {"memory", bench::RunMemory},     {"populate", bench::RunPopulate}, {"propgrid", bench::RunPropGrid},
+    {"repaint", bench::RunRepaint},   {"scroll", bench::RunScroll},     {"select", bench::RunSelection},
+    {"treegrid", bench::RunTreeGrid}, {"treemove", bench::RunTreeMove}, {"list", bench::RunList},
 };
 
 // Short ones, whose outcome does not depend on the machine.

@@ -1,0 +1,188 @@
+// Workloads: filling, emptying and sorting the rows of a shown grid, against the bare data: nested vectors of
+// strings. All figures are the shortest of several runs, because they have limits.
+#include "Subjects.h"
+#include "Workloads.h"
+
+#include <algorithm>
+#include <numeric>
+#include <random>
+
+namespace bench
+{
+namespace
+{
+
+constexpr long Inserted = 10000;
+
+double FloorOfFillMs(long rows)
+{
+    RawTable table;
+    return ShortestMs([&] { FillRawTable(table, rows); }, [&] { table = RawTable(); }, 3);
+}
+
+void FillBothWays(Report& report, Host& host, long rows)
+{
+    GridSubject grid(&host);
+    const auto empty = [&] { grid.Empty(); };
+    const double asOne = ShortestMs([&] { grid.AppendRowsAsOne(rows); }, empty, 3);
+    const double oneByOne = ShortestMs([&] { grid.AppendRows(rows); }, empty, 3);
+    grid.Empty();
+    report.Add({"fill in one update", rows, asOne, "nested vectors", FloorOfFillMs(rows), 1});
+    report.Add({"fill without an update block", rows, oneByOne, "in one update", asOne, 1.5});
+}
+
+void InsertInFront(Report& report, Host& host)
+{
+    GridSubject grid(&host);
+    const auto insert = [&] {
+        for (long i = 0; i < Inserted; ++i)
+        {
+            grid.Grid().InsertRow(0, nullptr);
+            grid.SetTexts(grid.Grid().GetRow(0), i);
+        }
+    };
+    const auto empty = [&] { grid.Empty(); };
+    const double asOne = ShortestMs(
+        [&] {
+            const QuorUiCtr::TGGridUpdate update(grid.Grid());
+            insert();
+        },
+        empty, 3);
+    const double oneByOne = ShortestMs(insert, empty, 3);
+    RawTable table;
+    const double floor = ShortestMs(
+        [&] {
+            for (long i = 0; i < Inserted; ++i)
+                table.emplace(table.begin())->assign(ColumnCount, CellText(i));
+        },
+        [&] { table = RawTable(); }, 3);
+    report.Add({"insert rows in front, in one update", Inserted, asOne, "nested vectors", floor, 1});
+    report.Add({"insert rows in front without one", Inserted, oneByOne, "in one update", asOne, 1.5});
+}
+
+void ClearRows(Report& report, Host& host, long rows)
+{
+    GridSubject grid(&host);
+    const double ours =
+        ShortestMs([&] { grid.Grid().Clear(); }, [&] { grid.AppendRowsAsOne(rows), DrainMessages(); });
+    RawTable table;
+    const double floor = ShortestMs([&] { table = RawTable(); }, [&] { FillRawTable(table, rows); });
+    report.Add({"clear", rows, ours, "nested vectors", floor, 1});
+}
+
+// The same random texts in both.
+class SortedTexts
+{
+public:
+    SortedTexts(GridSubject& sortedGrid, long rows) : grid(sortedGrid), numbers(static_cast<size_t>(rows))
+    {
+        std::iota(numbers.begin(), numbers.end(), 0L);
+        std::shuffle(numbers.begin(), numbers.end(), std::mt19937(1));
+        grid.AppendRowsAsOne(rows);
+        FillRawTable(table, rows);
+        grid.Grid().AppendKey(0);
+        order.resize(numbers.size());
+    }
+
+    void Shuffle()
+    {
+        auto number = numbers.begin();
+        for (auto& row : table)
+            row[0] = CellText(*number++);
+        number = numbers.begin();
+        for (grid.Grid().MoveToFirst(); !grid.Grid().IsOut(); grid.Grid().MoveToNext())
+            grid.Grid().CurRow()[0].SetText(CellText(*number++));
+    }
+    void SortIndices()
+    {
+        std::iota(order.begin(), order.end(), size_t{0});
+        std::stable_sort(order.begin(), order.end(),
+                         [this](size_t first, size_t second) { return table[first][0] < table[second][0]; });
+    }
+    // What sorting has to find out when the rows are in order.
+    bool IsSorted() const
+    {
+        return std::is_sorted(order.begin(), order.end(), [this](size_t first, size_t second) {
+            return table[first][0] < table[second][0];
+        });
+    }
+
+private:
+    GridSubject& grid;
+    std::vector<long> numbers;
+    RawTable table;
+    std::vector<size_t> order;
+};
+
+void SortRows(Report& report, Host& host, long rows)
+{
+    GridSubject grid(&host);
+    SortedTexts texts(grid, rows);
+    const auto shuffle = [&] { texts.Shuffle(); };
+    const double random = ShortestMs([&] { grid.Grid().Arrange(true); }, shuffle, 3);
+    const double again = ShortestMs([&] { grid.Grid().Arrange(true); });
+    const double indexSort = ShortestMs([&] { texts.SortIndices(); }, shuffle, 3);
+    bool isSorted = true;
+    const double check = ShortestMs([&] { isSorted = isSorted && texts.IsSorted(); });
+    report.Add({"sort random texts", rows, random, "index sort of the texts", indexSort, 0.5});
+    report.Add({"sort again", rows, again, isSorted ? "check in that order" : "NOT SORTED", check, 1.2});
+}
+
+void AppendColumns(Report& report, Host& host, int columns)
+{
+    const auto append = [&host](int number) {
+        QuorUiCtr::TGGrid grid;
+        grid.Create(CRect(0, 0, ViewWidth, ViewHeight), WS_CHILD | WS_VISIBLE, &host);
+        const double timeMs = TimeMs([&] {
+            for (int i = 0; i < number; ++i)
+                grid.AppendCol(L"Column", 80);
+        });
+        grid.DestroyWindow();
+        return timeMs;
+    };
+    const double few = append(columns / 10);
+    report.Add({"append columns", columns, append(columns), "ten times a tenth", few * 10, 1.5});
+}
+
+// The hooks are asked for every cell of the rows in view, so that this grows with the columns, slowly.
+void RepaintWide(Report& report, Host& host, int columns)
+{
+    const auto repaint = [&host](int number) {
+        QuorUiCtr::TGGrid grid;
+        grid.Create(CRect(0, 0, ViewWidth, ViewHeight), WS_CHILD | WS_VISIBLE, &host);
+        {
+            const QuorUiCtr::TGGridUpdate update(grid);
+            for (int i = 0; i < number; ++i)
+                grid.AppendCol(L"Column", 80);
+            grid.SetRowNum(100);
+        }
+        grid.UpdateWindow();
+        const double timeMs = ShortestMs([&] {
+            grid.Invalidate(1);
+            grid.UpdateWindow();
+        });
+        grid.DestroyWindow();
+        return timeMs;
+    };
+    report.Add({"repaint many columns", columns, repaint(columns), "11 columns", repaint(11)});
+}
+
+} // namespace
+
+void RunBuild(Report& report)
+{
+    Host host;
+    for (const long rows : {1000L, 100000L, 1000000L})
+        FillBothWays(report, host, rows);
+    InsertInFront(report, host);
+    ClearRows(report, host, 100000);
+    for (const long rows : {1000L, 100000L})
+        SortRows(report, host, rows);
+    for (const int columns : {1000, 10000})
+    {
+        AppendColumns(report, host, columns);
+        RepaintWide(report, host, columns);
+    }
+}
+
+} // namespace bench

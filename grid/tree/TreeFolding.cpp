@@ -128,7 +128,10 @@ void TGGridTreeRow::HideOffspring()
         return;
     const bool hidden = TGGrid::Structure(owner).RemoveOffspring(*this);
     if (hidden && unseen)
+    {
         owner.OnCurChanged();
+        owner.TellSelected();
+    }
     owner.RecalcLayout(1);
 }
 

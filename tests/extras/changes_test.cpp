@@ -242,6 +242,20 @@ TEST_F(TreeChanges, OfFolding)
     EXPECT_EQ(Take(), "folded x+");
 }
 
+TEST_F(TreeChanges, OfTheSelection_ComeWhenAFoldTakesItAway)
+{
+    TGGrid plain(true);
+    plain.AppendCol(L"A", 50);
+    AddChild(AddRoot(plain, L"a"), L"x");
+    plain.GetTreeRow(0).UnFold();
+    plain.SelectRow(1, true);
+    extension.AttachTo(plain);
+    extension.Take();
+    plain.GetTreeRow(0).Fold();
+    EXPECT_EQ(extension.Take(), "selected | folded a+");
+    extension.Detach();
+}
+
 TEST_F(TreeChanges, OfAMovedTree_CountItsShownRows)
 {
     FillTree();

@@ -1,4 +1,5 @@
-// What the documents say of extensions is what is compiled.
+// What the documents say of extensions is what is compiled: the example, and the table of keys.
+#include "grid/extras/TGCellCursor.h"
 #include "samples/extension/ChangeMarks.h"
 #include "tests/grid/WindowGrid.h"
 
@@ -33,6 +34,18 @@ TEST(Documents, TheExampleOfAnExtension_IsTheSample)
 {
     EXPECT_EQ(Between(ReadSource("docs/EXTENDING.md"), "```cpp\n", "```"),
               ReadSource("samples/extension/ChangeMarks.h"));
+}
+
+TEST(Documents, TheTableOfKeys_IsTheOneOfTheCursor)
+{
+    std::string table;
+    for (const TGKeyDescription& key : TGCellCursor::GetKeys())
+    {
+        const std::wstring line = std::wstring(L"| ") + key.keys + L" | " + key.action + L" |\n";
+        for (const wchar_t character : line)
+            table += static_cast<char>(character);
+    }
+    EXPECT_EQ(Between(ReadSource("docs/KEYS.md"), "|---|---|\n", "\n\n") + "\n", table);
 }
 
 class Marks : public GridWindowTest

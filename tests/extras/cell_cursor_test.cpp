@@ -1,0 +1,488 @@
+// The cell cursor as a user drives it: keys and clicks of real input, in a window of its own and in a dialog.
+#include "grid/extras/TGCellCursor.h"
+#include "tests/grid/EditGrid.h"
+#include "tests/grid/ModelGrid.h"
+#include "tests/support/Input.h"
+
+using namespace QuorUiCtr;
+
+namespace quor::test
+{
+namespace
+{
+
+constexpr auto shift = Modifiers::Shift;
+constexpr auto control = Modifiers::Control;
+
+class CellCursor : public EditTest
+{
+protected:
+    explicit CellCursor(bool tree = false) : grid(tree) {}
+
+    void Make(long rows = 5, long cols = 3)
+    {
+        EditTest::Make(grid, rows, cols);
+        cursor.AttachTo(grid);
+        Focus();
+    }
+    void Focus()
+    {
+        ASSERT_TRUE(Activate(host));
+        grid.SetFocus();
+        PumpPending();
+    }
+    // "1,2 [0,0-1,2] edit": the current cell, the ranges of more than one cell, and an open editor's text.
+    std::string State()
+    {
+        std::string state = std::to_string(cursor.GetRow()) + "," + std::to_string(cursor.GetCol());
+        const auto ranges = cursor.GetRanges();
+        for (const TGCellRange& range : ranges)
+            if (ranges.size() > 1 || range.top != range.bottom || range.left != range.right)
+                state += " [" + std::to_string(range.top) + "," + std::to_string(range.left) + "-" +
+                         std::to_string(range.bottom) + "," + std::to_string(range.right) + "]";
+        if (!grid.IsEditing() || grid.EditorWindow() == nullptr)
+            return state;
+        CString text;
+        grid.EditorWindow()->GetWindowText(text);
+        return state + " edit " + Narrow(text);
+    }
+    std::string After(WORD key, Modifiers modifiers = Modifiers::None)
+    {
+        KeyPress(key, modifiers);
+        PumpPending();
+        return State();
+    }
+    std::string AfterTyping(std::wstring_view text)
+    {
+        TypeText(text);
+        PumpPending();
+        return State();
+    }
+    CPoint Middle(long row, long col)
+    {
+        return grid.ToClient(col * 100 + 50, row * grid.GetRowHeight() + grid.GetRowHeight() / 2);
+    }
+    std::string AfterClick(long row, long col, Modifiers modifiers = Modifiers::None)
+    {
+        Click(grid, Middle(row, col), modifiers);
+        return State();
+    }
+
+    EditGrid grid;
+    TGCellCursor cursor;
+};
+
+// ---- Keys that move
+
+TEST_F(CellCursor, Arrows_MoveTheCurrentCell_AndStopAtTheEdges)
+{
+    Make();
+    EXPECT_EQ(State(), "0,0");
+    EXPECT_EQ(After(VK_RIGHT), "0,1");
+    EXPECT_EQ(After(VK_DOWN), "1,1");
+    EXPECT_EQ(After(VK_LEFT), "1,0");
+    EXPECT_EQ(After(VK_LEFT), "1,0");
+    EXPECT_EQ(After(VK_UP), "0,0");
+    EXPECT_EQ(After(VK_UP), "0,0");
+}
+
+TEST_F(CellCursor, HomeAndEnd)
+{
+    Make();
+    cursor.MoveTo(2, 1);
+    EXPECT_EQ(After(VK_END), "2,2");
+    EXPECT_EQ(After(VK_HOME), "2,0");
+    EXPECT_EQ(After(VK_END, control), "4,2");
+    EXPECT_EQ(After(VK_HOME, control), "0,0");
+}
+
+TEST_F(CellCursor, ControlAndArrows_GoToTheEdgeOfTheData)
+{
+    Make();
+    for (const long row : {1L, 2L})
+        grid.GetCell(row, 0).SetText(L"");
+    EXPECT_EQ(After(VK_DOWN, control), "3,0");
+    EXPECT_EQ(After(VK_DOWN, control), "4,0");
+    EXPECT_EQ(After(VK_UP, control), "3,0");
+    EXPECT_EQ(After(VK_UP, control), "0,0");
+    EXPECT_EQ(After(VK_RIGHT, control), "0,2");
+    EXPECT_EQ(After(VK_LEFT, control), "0,0");
+}
+
+TEST_F(CellCursor, Pages_FollowOnTheScreen)
+{
+    Make(100);
+    const std::string first = After(VK_NEXT);
+    EXPECT_GE(cursor.GetRow(), 10) << first;
+    EXPECT_GT(grid.VScroll() + grid.Area().Height(), cursor.GetRow() * 20);
+    EXPECT_EQ(After(VK_PRIOR), "0,0");
+    EXPECT_EQ(grid.VScroll(), 0);
+    EXPECT_EQ(After(VK_END, control), "99,2");
+    EXPECT_GT(grid.VScroll(), 0);
+}
+
+TEST_F(CellCursor, Shift_SpansARange)
+{
+    Make();
+    EXPECT_EQ(After(VK_RIGHT, shift), "0,1 [0,0-0,1]");
+    EXPECT_EQ(After(VK_DOWN, shift), "1,1 [0,0-1,1]");
+    EXPECT_EQ(After(VK_END, shift | control), "4,2 [0,0-4,2]");
+    EXPECT_EQ(After(VK_HOME, shift), "4,0 [0,0-4,0]");
+    EXPECT_EQ(After(VK_ESCAPE), "4,0");
+    EXPECT_EQ(After(VK_UP, shift | control), "0,0 [0,0-4,0]");
+    EXPECT_EQ(After(VK_RIGHT), "0,1");
+}
+
+TEST_F(CellCursor, AllRowsAndColumns)
+{
+    Make();
+    cursor.MoveTo(1, 1);
+    EXPECT_EQ(After('A', control), "0,0 [0,0-4,2]");
+    cursor.SelectRange({1, 1, 2, 1});
+    EXPECT_EQ(After(VK_SPACE, shift), "2,1 [1,0-2,2]");
+    EXPECT_EQ(grid.GetRowSelNum(), 2);
+    cursor.MoveTo(1, 1);
+    EXPECT_EQ(grid.GetRowSelNum(), 0);
+    EXPECT_EQ(After(VK_SPACE, control), "1,1 [0,1-4,1]");
+    EXPECT_EQ(grid.GetColSelNum(), 1);
+}
+
+// ---- Editing
+
+TEST_F(CellCursor, Typing_OpensTheEditorWithTheCharacters)
+{
+    Make();
+    EXPECT_EQ(AfterTyping(L"xy"), "0,0 edit xy");
+    EXPECT_EQ(After(VK_RETURN), "1,0");
+    EXPECT_EQ(TextOf(grid, 0, 0), L"xy");
+    EXPECT_EQ(::GetFocus(), grid.m_hWnd);
+}
+
+TEST_F(CellCursor, Letters_AreTyped_AndNoCommands)
+{
+    Make(3);
+    EXPECT_EQ(AfterTyping(L"n"), "0,0 edit n");
+    EXPECT_EQ(After(VK_ESCAPE), "0,0");
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+    EXPECT_EQ(grid.GetRowNum(), 3);
+    After('N', control);
+    EXPECT_EQ(grid.GetRowNum(), 4);
+}
+
+TEST_F(CellCursor, F2_SetsTheCaretBehindTheText)
+{
+    Make();
+    EXPECT_EQ(After(VK_F2), "0,0 edit 0,0");
+    EXPECT_EQ(AfterTyping(L"!"), "0,0 edit 0,0!");
+    // The caret stays in the text.
+    EXPECT_EQ(After(VK_RIGHT), "0,0 edit 0,0!");
+    EXPECT_EQ(After(VK_TAB), "0,1");
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0!");
+}
+
+TEST_F(CellCursor, ArrowsWhileTyping_CommitAndGoOn)
+{
+    Make();
+    AfterTyping(L"a");
+    EXPECT_EQ(After(VK_RIGHT), "0,1");
+    AfterTyping(L"b");
+    EXPECT_EQ(After(VK_DOWN), "1,1");
+    EXPECT_EQ(TextOf(grid, 0, 0), L"a");
+    EXPECT_EQ(TextOf(grid, 0, 1), L"b");
+}
+
+TEST_F(CellCursor, AltDown_OpensTheList)
+{
+    Make();
+    grid.GetCol(1).SetComboEdit(true);
+    grid.comboStrings = [](TGGridCell&, CComboBox& combo) { combo.AddString(L"item"); };
+    cursor.MoveTo(0, 1);
+    After(VK_DOWN, Modifiers::Alt);
+    ASSERT_NE(grid.EditorWindow(), nullptr);
+    EXPECT_NE(grid.EditorWindow()->SendMessage(CB_GETDROPPEDSTATE), 0);
+    EXPECT_EQ(After(VK_ESCAPE), "0,1");
+}
+
+TEST_F(CellCursor, Steps_AreOptions)
+{
+    Make(2, 2);
+    grid.SetNoAppendButton(true);
+    EXPECT_EQ(After(VK_RETURN), "1,0");
+    EXPECT_EQ(After(VK_RETURN), "0,1");
+    EXPECT_EQ(After(VK_RETURN, shift), "1,0");
+    EXPECT_EQ(After(VK_TAB), "1,1");
+    EXPECT_EQ(After(VK_TAB, shift), "1,0");
+    cursor.SetEnterStep(TGCellCursor::Step::Right);
+    cursor.SetWrapping(false);
+    EXPECT_EQ(After(VK_RETURN), "1,1");
+    EXPECT_EQ(After(VK_RETURN), "1,1");
+    cursor.SetTabStep(TGCellCursor::Step::Down);
+    EXPECT_EQ(After(VK_TAB, shift), "0,1");
+}
+
+TEST_F(CellCursor, Delete_EmptiesTheRange_AndTellsOnce)
+{
+    Make();
+    grid.GetCell(1, 0).SetReadOnly(true);
+    grid.modifiedText = [](TGGridCell& cell, CString&) { return cell.GetRowIndex() != 0; };
+    cursor.SelectRange({0, 0, 2, 0});
+    grid.TakeText();
+    After(VK_DELETE);
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+    EXPECT_EQ(TextOf(grid, 1, 0), L"1,0");
+    EXPECT_EQ(TextOf(grid, 2, 0), L"");
+    EXPECT_EQ(grid.TakeEditText(), "OnBeforeEdit 0,0 | OnModified 0,0 | OnBeforeEdit 2,0 | OnModified 2,0 | "
+                                   "OnDataChanged");
+    EXPECT_EQ(grid.GetRowNum(), 5);
+}
+
+TEST_F(CellCursor, ControlDelete_DeletesTheSelectedRows)
+{
+    Make();
+    cursor.SelectRange({1, 0, 2, 0});
+    After(VK_SPACE, shift);
+    After(VK_DELETE, control);
+    EXPECT_EQ(grid.GetRowNum(), 3);
+    EXPECT_EQ(cursor.GetRow(), 1);
+}
+
+TEST_F(CellCursor, NewRowLine_IsReachedWithDown_AndTypingMakesARow)
+{
+    Make(2);
+    cursor.MoveTo(1, 1);
+    EXPECT_EQ(After(VK_DOWN), "2,1");
+    EXPECT_EQ(After(VK_DOWN), "2,1");
+    EXPECT_EQ(AfterTyping(L"new"), "2,1 edit new");
+    EXPECT_EQ(After(VK_RETURN), "3,1");
+    EXPECT_EQ(grid.GetRowNum(), 3);
+    EXPECT_EQ(TextOf(grid, 2, 1), L"new");
+}
+
+TEST_F(CellCursor, LetterCommands_NeedControl)
+{
+    Make(3);
+    After(VK_SPACE, shift);
+    After('C', control);
+    cursor.MoveTo(0, 0);
+    After('V', control);
+    EXPECT_EQ(Texts(grid), "0,0 1,0 2,0 0,0");
+    EXPECT_EQ(After('X', control), "3,0");
+    EXPECT_EQ(Texts(grid), "0,0 1,0 2,0");
+    grid.UnSelect();
+    grid.AppendKey(0);
+    After('U', control);
+    EXPECT_EQ(Texts(grid), "2,0 1,0 0,0");
+    After('R', control);
+    EXPECT_EQ(Texts(grid), "0,0 1,0 2,0");
+}
+
+// ---- Mouse
+
+TEST_F(CellCursor, Clicks_SetTheCellAndEditNothing)
+{
+    Make();
+    EXPECT_EQ(AfterClick(2, 1), "2,1");
+    EXPECT_EQ(AfterClick(4, 2, shift), "4,2 [2,1-4,2]");
+    EXPECT_EQ(AfterClick(0, 0, control), "0,0 [2,1-4,2] [0,0-0,0]");
+    EXPECT_EQ(AfterClick(1, 1), "1,1");
+    DoubleClick(grid, Middle(1, 1));
+    EXPECT_EQ(State(), "1,1 edit 1,1");
+    EXPECT_EQ(AfterClick(2, 0), "2,0");
+}
+
+TEST_F(CellCursor, DoubleClick_MayBeTheHosts)
+{
+    Make();
+    cursor.SetDoubleClickEditing(false);
+    DoubleClick(grid, Middle(1, 1));
+    EXPECT_EQ(State(), "1,1");
+}
+
+TEST_F(CellCursor, Dragging_SpansARange)
+{
+    Make();
+    DragPath(grid, {Middle(0, 0), Middle(1, 1), Middle(3, 1)});
+    EXPECT_EQ(State(), "3,1 [0,0-3,1]");
+    EXPECT_NE(::GetCapture(), grid.m_hWnd);
+}
+
+TEST_F(CellCursor, Headers_SelectRowsColumnsAndAll)
+{
+    Make();
+    Click(*grid.GetDlgItem(104), CPoint(5, 2 * 20 + 10));
+    EXPECT_EQ(State(), "2,0 [2,0-2,2]");
+    Click(*grid.GetDlgItem(103), CPoint(150, 10));
+    EXPECT_EQ(State(), "2,1 [0,1-4,1]");
+    Click(*grid.GetDlgItem(102), CPoint(5, 5));
+    EXPECT_EQ(State(), "2,1 [0,0-4,2]");
+    EXPECT_EQ(AfterClick(0, 0), "0,0");
+}
+
+// ---- Trees
+
+class TreeCursor : public CellCursor
+{
+protected:
+    TreeCursor() : CellCursor(true) {}
+
+    // a, with x, which has deep, and y; b.
+    void MakeTree()
+    {
+        Make(0);
+        TGGridTreeRow& root = AddRoot(grid, L"a");
+        AddChild(AddChild(root, L"x"), L"deep");
+        AddChild(root, L"y");
+        AddRoot(grid, L"b");
+        grid.UpdateWindow();
+        cursor.MoveTo(0, 0);
+    }
+};
+
+TEST_F(TreeCursor, LeftAndRight_FoldUnfoldAndStep)
+{
+    MakeTree();
+    After(VK_RIGHT);
+    EXPECT_EQ(Texts(grid), "a x y b");
+    EXPECT_EQ(After(VK_RIGHT), "1,0");
+    After(VK_RIGHT);
+    EXPECT_EQ(Texts(grid), "a x deep y b");
+    EXPECT_EQ(After(VK_RIGHT), "2,0");
+    EXPECT_EQ(After(VK_RIGHT), "2,1");
+    EXPECT_EQ(After(VK_LEFT), "2,0");
+    EXPECT_EQ(After(VK_LEFT), "1,0");
+    EXPECT_EQ(After(VK_LEFT), "1,0");
+    EXPECT_EQ(Texts(grid), "a x y b");
+    EXPECT_EQ(After(VK_LEFT), "0,0");
+    EXPECT_EQ(After(VK_LEFT), "0,0");
+    EXPECT_EQ(Texts(grid), "a b");
+}
+
+TEST_F(TreeCursor, PlusMinusAndStar)
+{
+    MakeTree();
+    AfterTyping(L"*");
+    EXPECT_EQ(Texts(grid), "a x deep y b");
+    AfterTyping(L"-");
+    EXPECT_EQ(Texts(grid), "a b");
+    AfterTyping(L"+");
+    EXPECT_EQ(Texts(grid), "a x deep y b");
+    cursor.MoveTo(4, 0);
+    EXPECT_EQ(AfterTyping(L"+"), "4,0 edit +");
+}
+
+TEST_F(TreeCursor, FoldedAway_GoesToTheParent)
+{
+    MakeTree();
+    grid.GetTreeRow(0).UnFoldAll();
+    cursor.MoveTo(2, 1);
+    grid.GetTreeRow(0).Fold();
+    EXPECT_EQ(State(), "0,1");
+}
+
+TEST_F(TreeCursor, AClickOnTheBox_FoldsAndUnfolds)
+{
+    MakeTree();
+    cursor.MoveTo(1, 0);
+    const long half = (grid.GetRowHeight() - 3) / 2;
+    Click(grid, grid.ToClient(half + 2, half + 2));
+    EXPECT_EQ(Texts(grid), "a x y b");
+    EXPECT_FALSE(grid.IsEditing());
+}
+
+// ---- Changes of the grid
+
+TEST_F(CellCursor, StaysWithItsRowAndColumn)
+{
+    Make();
+    cursor.MoveTo(2, 1);
+    grid.InsertRow(0, nullptr);
+    EXPECT_EQ(State(), "3,1");
+    grid.MoveRow(3, 0);
+    EXPECT_EQ(State(), "0,1");
+    grid.AppendKey(0);
+    grid.Arrange(false);
+    EXPECT_EQ(State(), "2,1");
+    grid.MoveCol(1, 3);
+    EXPECT_EQ(State(), "2,2");
+    grid.DelCol(2);
+    EXPECT_EQ(State(), "2,1");
+    grid.DelRow(2);
+    EXPECT_EQ(State(), "2,1");
+    grid.SetRowNum(1);
+    EXPECT_EQ(cursor.GetCol(), 1);
+    grid.Clear();
+    EXPECT_LE(cursor.GetRow(), 0);
+    grid.SetRowNum(2);
+    EXPECT_TRUE(cursor.MoveTo(1, 0));
+}
+
+TEST_F(CellCursor, BadPlaces_AreRefused)
+{
+    Make();
+    EXPECT_FALSE(cursor.MoveTo(-1, 0));
+    EXPECT_FALSE(cursor.MoveTo(0, 3));
+    EXPECT_FALSE(cursor.MoveTo(6, 0));
+    EXPECT_TRUE(cursor.SelectRange({-5, -5, 99, 99}));
+    EXPECT_EQ(State(), "5,2 [0,0-5,2]");
+    TGCellCursor loose;
+    EXPECT_FALSE(loose.MoveTo(0, 0));
+    EXPECT_FALSE(loose.SelectAllCells());
+    EXPECT_EQ(loose.EmptyRanges(), 0);
+    EXPECT_FALSE(loose.Edit(false));
+    EXPECT_EQ(loose.GetRow(), -1);
+}
+
+TEST_F(CellCursor, AfterTheWindowIsGone_IsAModelStill)
+{
+    Make();
+    grid.DestroyWindow();
+    EXPECT_TRUE(cursor.MoveTo(1, 1));
+    EXPECT_FALSE(cursor.Edit(false));
+    EXPECT_EQ(cursor.EmptyRanges(), 1);
+}
+
+TEST_F(CellCursor, Detached_LeavesTheGridAsItWas)
+{
+    Make();
+    cursor.Detach();
+    AfterClick(1, 1);
+    EXPECT_TRUE(grid.IsEditing());
+    EXPECT_EQ(cursor.GetRow(), -1);
+}
+
+// ---- The picture
+
+TEST_F(CellCursor, Frame_StandsOnTheLinesOfTheCell)
+{
+    Make();
+    cursor.MoveTo(1, 1);
+    grid.UpdateWindow();
+    const COLORREF frame = ::GetSysColor(COLOR_HIGHLIGHT);
+    const Snapshot picture(grid);
+    const CRect cell = grid.InsideOf(1, 1);
+    EXPECT_EQ(picture.At(cell.left - 1, cell.CenterPoint().y), frame);
+    EXPECT_EQ(picture.At(cell.right, cell.CenterPoint().y), frame);
+    EXPECT_EQ(picture.At(cell.CenterPoint().x, cell.top - 1), frame);
+    EXPECT_EQ(picture.At(cell.CenterPoint().x, cell.bottom), frame);
+    EXPECT_NE(picture.At(grid.InsideOf(3, 1).left - 1, grid.InsideOf(3, 1).CenterPoint().y), frame);
+}
+
+TEST_F(CellCursor, Ranges_AreInvertedOnce_WithoutTheCurrentCell)
+{
+    Make();
+    cursor.SelectRange({0, 0, 2, 2});
+    cursor.SelectRange({1, 1, 3, 1}, true);
+    grid.UpdateWindow();
+    const Snapshot picture(grid);
+    const auto corner = [&](long row, long col) {
+        const CRect cell = grid.InsideOf(row, col);
+        return picture.At(cell.right - 4, cell.bottom - 4);
+    };
+    EXPECT_EQ(corner(0, 0), black);
+    EXPECT_EQ(corner(1, 1), black);
+    EXPECT_EQ(corner(3, 1), white);
+    EXPECT_EQ(corner(3, 0), white);
+}
+
+} // namespace
+} // namespace quor::test

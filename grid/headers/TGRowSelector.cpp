@@ -3,6 +3,7 @@
 
 #include "grid/headers/HeaderBand.h"
 #include "grid/model/GridExtensions.h"
+#include "grid/model/MakeOrNull.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/window/TipAnswer.h"
@@ -83,6 +84,8 @@ void TGRowSelector::DrawBox(const HeaderPainter& painter, long row, HeaderIcon* 
         icon->Draw(painter.Context(), box.TopLeft(), grid->GetRowHeight());
 }
 
+// Rows come and go while this is called, and must not be left half way for a picture: without memory for it
+// the boxes are painted later.
 void TGRowSelector::OnCurRowChanged()
 {
     const long current = grid->GetCurRowIndex();
@@ -97,10 +100,15 @@ void TGRowSelector::OnCurRowChanged()
         grid->Invalidate(1);
         return;
     }
-    CClientDC context(this);
-    const HeaderPainter painter(context, Band());
-    RedrawRow(painter, unmarked);
-    RedrawRow(painter, markedRow);
+    const void* const drawn = MakeOrNull([this, unmarked] {
+        CClientDC context(this);
+        const HeaderPainter painter(context, Band());
+        RedrawRow(painter, unmarked);
+        RedrawRow(painter, markedRow);
+        return this;
+    });
+    if (drawn == nullptr)
+        CWnd::Invalidate(FALSE);
 }
 
 // The frame leaves the inside of a box as it is, so that an icon has to be wiped out first.

@@ -399,8 +399,10 @@ void TGGrid::PrepareDC(CDC* context)
     }
     visiblePart = Everywhere;
     dc->SetROP2(R2_COPYPEN);
-    dc->SelectObject(&font);
-    dc->SelectObject(&gridPen);
+    // By their handles: nobody needs objects for what they replace, and a layout must not lack memory for
+    // them.
+    ::SelectObject(dc->GetSafeHdc(), font.GetSafeHandle());
+    ::SelectObject(dc->GetSafeHdc(), gridPen.GetSafeHandle());
     Layout(*this).MapDC();
 }
 

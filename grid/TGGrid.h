@@ -120,8 +120,8 @@ public:
     // Row height in pixels: text height plus row space.
     long GetRowHeight() const { return textHeight + rowSpace; }
     // Extra pixels above the text of a row; the setter lays out anew. A negative space makes rows lower than
-    // their text; one that would leave a row less than one pixel high is refused, which changes nothing. A
-    // smaller font takes back as much of a negative space as rows need for their one pixel.
+    // their text; one that would leave a row less than one pixel high is refused, which changes nothing. At
+    // most 16384. A smaller font takes back as much of a negative space as rows need for their one pixel.
     long GetRowSpace() const { return rowSpace; }
     void SetRowSpace(int pixels);
     // Width of columns added with width 0 and step of horizontal line scrolling: 0 to 65535 pixels, as for

@@ -12,6 +12,8 @@ constexpr long MaxColWidth = 65535;
 // which are 6.7 million rows of 20 pixels. Beyond, columns have no extent any more; twice as much can still
 // be counted.
 constexpr long MaxContentWidth = LONG_MAX / 2;
+// More than any screen is high.
+constexpr int MaxRowSpace = 16384;
 // Farther than any screen reaches, and within what GDI can scroll.
 constexpr int MaxScrollDistance = 1 << 24;
 

@@ -5,6 +5,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/LateNumbers.h"
+#include "grid/model/GridLimits.h"
 #include "grid/model/MakeOrNull.h"
 #include "grid/TGActiveQuad.h"
 #include "grid/TGColSelector.h"
@@ -82,9 +83,10 @@ void TGGrid::GetUpCorner(CPoint& corner)
 
 void TGGrid::SetRowSpace(int pixels)
 {
+    ASSERT(pixels <= MaxRowSpace);
     if (pixels < 1 - textHeight)
         return;
-    rowSpace = pixels;
+    rowSpace = (std::min)(pixels, MaxRowSpace);
     RecalcLayout(1);
 }
 

@@ -1,5 +1,6 @@
 // Indices, widths and distances outside of what the operations allow. The checked build asserts them; what
 // the plain one makes of them is looked at here.
+#include "rules/GridGeometry.h"
 #include "tests/grid/ModelGrid.h"
 #include "tests/grid/WindowGrid.h"
 
@@ -79,6 +80,24 @@ TEST_F(Ranges, WidthsAreBroughtIntoTheirRange)
     grid.InsertCol(0, L"", -7);
     EXPECT_EQ(grid.GetCol(3).GetWidth(), 65535);
     EXPECT_EQ(grid.GetCol(0).GetWidth(), 0);
+}
+
+TEST_F(Ranges, TheRowSpaceIsBroughtIntoItsRange)
+{
+    grid.SetRowSpace(INT_MAX);
+    EXPECT_EQ(grid.GetRowSpace(), 16384);
+    EXPECT_GT(grid.GetRowHeight(), 16384);
+}
+
+TEST_F(Ranges, RowsTogetherStayWithinWhatCanBeCounted)
+{
+    const long textHeight = grid.GetRowHeight() - grid.GetRowSpace();
+    grid.SetRowSpace(16384);
+    EXPECT_EQ(grid.GetRowSpace(), 16384);
+    // The new-row line is one more.
+    EXPECT_EQ(grid.GetBottom(), 4 * (textHeight + 16384));
+    grid.SetRowNum(300000);
+    EXPECT_EQ(grid.GetBottom(), MaxContentHeight);
 }
 #endif
 

@@ -115,9 +115,12 @@ void TGGridTreeRow::DelChild(long position)
     if (!self.IsAlive() || doomed.IsAlive() != (child != nullptr))
         return;
 
+    // The hooks may have given it another place, and another parent.
+    if (position >= GetChildNum() || *children.IteratorAt(position) != child)
+        position = children.Find(child);
+    if (position < 0)
+        return;
     children.MoveTo(position);
-    if (children.Cur() != child)
-        children.MoveTo(children.Find(child));
     if (child != nullptr)
         TGGrid::Structure(owner).HideTree(*child);
     if (owner.extensions != nullptr && child != nullptr && owner.extensions->IsInGrid(*this))
@@ -143,6 +146,8 @@ bool TGGridTreeRow::PrepareToGo()
         Fold();
     if (self.IsAlive())
         owner.SelectRow(GetIndex(), false);
+    // What the hook has opened may stand on the row.
+    owner.CancelEditCell();
     return self.IsAlive();
 }
 

@@ -75,6 +75,37 @@ TEST_F(EditOrphan, ColumnDeletedThatAHookBeginsToEdit_TakesTheEditorAlong)
     ExpectNoEditor(grid);
 }
 
+TEST_F(EditOrphan, ChildDeletedThatAHookBeginsToEdit_TakesTheEditorAlong)
+{
+    EditGrid grid(true);
+    Make(grid);
+    grid.GetTreeRow(0).AppendChild(nullptr);
+    grid.GetTreeRow(0).UnFold();
+    EditAtNextChange(grid, 1, 1);
+    grid.GetTreeRow(0).DelChild(0);
+    EXPECT_EQ(3, grid.GetRowNum());
+    ExpectNoEditor(grid);
+}
+
+TEST_F(EditOrphan, ChildDeletedThatAHookMoves_IsTheOneThatGoes)
+{
+    EditGrid grid(true);
+    Make(grid);
+    TGGridTreeRow& top = grid.GetTreeRow(0);
+    top.AppendChild(nullptr);
+    top.AppendChild(nullptr);
+    top.UnFold();
+    TGGridTreeRow* const doomed = &grid.GetTreeRow(1);
+    grid.curChanged = [&grid, doomed] {
+        grid.curChanged = nullptr;
+        grid.MoveRow(doomed->GetIndex(), doomed->GetIndex() + 2);
+    };
+    top.DelChild(0);
+    EXPECT_EQ(1, top.GetChildNum());
+    EXPECT_EQ(4, grid.GetRowNum());
+    EXPECT_NE(doomed, &top.GetChild(0));
+}
+
 TEST_F(EditOrphan, ParentThatTheHiddenEditorTells_MayDeleteTheRowItself)
 {
     class Parent : public HostWindow

@@ -10,9 +10,12 @@
 #include <cstddef>
 #include <cstdint>
 #include <cwchar>
+#include <deque>
+#include <functional>
 #include <optional>
 #include <span>
 #include <unordered_map>
+#include <utility>
 #include <vector>
 
 namespace QuorUiCtr
@@ -21,18 +24,17 @@ namespace
 {
 
 // Folds the unfolded root rows of a tree grid and unfolds them again: when asked to, or, as far as there is
-// memory, at the end of its life.
+// memory, at the end of its life. Both run hooks, which may delete roots or unfold them meanwhile.
 class FoldedRoots
 {
 public:
-    explicit FoldedRoots(PDList<TGGridRow>& rows)
+    FoldedRoots(TGGrid& grid, PDList<TGGridRow>& rows)
     {
-        for (TGGridRow* row : rows)
-            if (row != nullptr && row->IsParentRow() && !row->IsChildRow() &&
-                !static_cast<TGGridTreeRow*>(row)->IsFold())
-                roots.push_back(static_cast<TGGridTreeRow*>(row));
-        for (TGGridTreeRow* root : roots)
-            root->Fold();
+        for (TGGridTreeRow* root : Unfolded(rows))
+            roots.emplace_back(grid, root);
+        for (Root& root : roots)
+            if (root.watch.IsAlive())
+                root.row->Fold();
     }
     ~FoldedRoots()
     {
@@ -45,22 +47,42 @@ public:
     FoldedRoots(const FoldedRoots&) = delete;
     FoldedRoots& operator=(const FoldedRoots&) = delete;
 
+    static std::vector<TGGridTreeRow*> Unfolded(PDList<TGGridRow>& rows)
+    {
+        std::vector<TGGridTreeRow*> found;
+        for (TGGridRow* row : rows)
+            if (row != nullptr && row->IsParentRow() && !row->IsChildRow() &&
+                !static_cast<TGGridTreeRow*>(row)->IsFold())
+                found.push_back(static_cast<TGGridTreeRow*>(row));
+        return found;
+    }
+    // One more to unfold.
+    void Add(TGGrid& grid, TGGridTreeRow& root) { roots.emplace_back(grid, &root); }
     void UnFold()
     {
-        std::reverse(roots.begin(), roots.end());
         while (!roots.empty())
             UnFoldNext();
     }
 
 private:
+    struct Root
+    {
+        Root(TGGrid& grid, TGGridTreeRow* root) : row(root), watch(grid, root) {}
+
+        TGGridTreeRow* row;
+        RowWatch watch;
+    };
+
     void UnFoldNext()
     {
-        TGGridTreeRow* root = roots.back();
-        roots.pop_back();
-        root->UnFold();
+        TGGridTreeRow* const root = roots.front().watch.IsAlive() ? roots.front().row : nullptr;
+        roots.pop_front();
+        if (root != nullptr)
+            root->UnFold();
     }
 
-    std::vector<TGGridTreeRow*> roots;
+    // Watches stay where they are made.
+    std::deque<Root> roots;
 };
 
 // Where each of the rows `after` stood among `before`, which are the same.
@@ -133,6 +155,24 @@ void SkipCommonStart(std::span<RowKey> keys)
         }
 }
 
+// Where the rows stand now. Those that a hook has deleted are only compared.
+std::vector<long> IndicesOf(std::vector<const TGGridRow*> wanted, PDList<TGGridRow>& rows)
+{
+    std::vector<long> indices;
+    if (wanted.empty())
+        return indices;
+    const std::less<const TGGridRow*> precedes;
+    std::sort(wanted.begin(), wanted.end(), precedes);
+    long i = 0;
+    for (const TGGridRow* row : rows)
+    {
+        if (row != nullptr && std::binary_search(wanted.begin(), wanted.end(), row, precedes))
+            indices.push_back(i);
+        ++i;
+    }
+    return indices;
+}
+
 } // namespace
 
 void TGGrid::Arrange(bool ascending)
@@ -143,16 +183,11 @@ void TGGrid::Arrange(bool ascending)
         // Folding and unfolding run hooks, which may choose another current row or delete this one.
         TGGridRow* const current = RowAtIndex(curRowIndex);
         const RowWatch currentWatch(*this, current);
-        std::vector<TGGridRow*> selected;
-        for (long i : rowSel)
-            selected.push_back(rows[i]);
+        std::vector<const TGGridRow*> selected;
+        for (const long i : rowSel)
+            selected.push_back(RowAtIndex(i));
         Structure(*this).SortRows(ascending);
-        std::vector<long> moved;
-        for (const TGGridRow* row : selected)
-            if (row != nullptr && row->GetIndex() >= 0)
-                moved.push_back(row->GetIndex());
-        std::sort(moved.begin(), moved.end());
-        SelectedIndices::Assign(rowSel, moved);
+        SelectedIndices::Assign(rowSel, IndicesOf(std::move(selected), rows));
         if (current != nullptr)
             SetCurRowIndex(currentWatch.IsAlive() ? current->GetIndex() : -1);
         RecalcLayout(1);
@@ -209,7 +244,13 @@ void TGGrid::Structure::SortRows(bool ascending)
         grid.rows.MoveTo(-1);
         return;
     }
-    FoldedRoots folded(grid.rows);
+    FoldedRoots folded(grid, grid.rows);
+    // What hooks have unfolded meanwhile must not be sorted among the roots.
+    for (TGGridTreeRow* root : FoldedRoots::Unfolded(grid.rows))
+    {
+        folded.Add(grid, *root);
+        RemoveOffspring(*root);
+    }
     SortList(grid.rows, ascending);
     NumberRows(0);
     for (TGGridRow* row : grid.rows)
@@ -252,7 +293,7 @@ void TGGrid::Structure::SortExtended(bool ascending)
     {
         std::optional<FoldedRoots> folded;
         if (grid.treeGrid)
-            folded.emplace(grid.rows);
+            folded.emplace(grid, grid.rows);
         SortLevel(grid.rows, nullptr, ascending);
         NumberRows(0);
         for (TGGridRow* row : grid.rows)

@@ -163,5 +163,78 @@ TEST(Arrange, TextsWithANullCharacter_AreComparedUpToIt)
     EXPECT_EQ(first, &grid.GetRow(1));
 }
 
+// ---- Hooks that folding runs
+
+// b(y x) a(z) c, all unfolded, with a key.
+void FillWithTrees(ModelGrid& grid)
+{
+    AddCols(grid, 1);
+    TGGridTreeRow& b = AddRoot(grid, L"b");
+    AddChild(b, L"y");
+    AddChild(b, L"x");
+    TGGridTreeRow& a = AddRoot(grid, L"a");
+    AddChild(a, L"z");
+    AddRoot(grid, L"c");
+    grid.AppendKey(0);
+    b.UnFold();
+    a.UnFold();
+}
+
+TEST(ArrangeWithHooks, ThatDeleteRootsBeforeTheyAreFolded_SortsTheOthers)
+{
+    ModelGrid grid(true);
+    FillWithTrees(grid);
+    grid.onCurChanged = [&grid] {
+        grid.onCurChanged = nullptr;
+        grid.DelRowEx(grid.GetRowNum() - 3);
+    };
+    grid.Arrange(true);
+    EXPECT_EQ("b x y c", Texts(grid));
+}
+
+TEST(ArrangeWithHooks, ThatDeleteARootAfterItWasFolded_SortsTheOthers)
+{
+    ModelGrid grid(true);
+    FillWithTrees(grid);
+    int calls = 0;
+    grid.onCurChanged = [&] {
+        // The third row that is hidden is the child of a, when b is folded.
+        if (++calls == 3)
+            grid.DelRowEx(0);
+    };
+    grid.Arrange(true);
+    EXPECT_EQ("a z c", Texts(grid));
+}
+
+TEST(ArrangeWithHooks, ThatDeleteSelectedRows_SelectsTheOthersAgain)
+{
+    ModelGrid grid(true);
+    FillWithTrees(grid);
+    grid.SelectRow(3, true);
+    grid.SelectRow(5, true);
+    grid.onCurChanged = [&grid] {
+        grid.onCurChanged = nullptr;
+        grid.DelRow(grid.GetRowNum() - 1);
+    };
+    grid.Arrange(true);
+    EXPECT_EQ("a z b x y", Texts(grid));
+    EXPECT_EQ(1, grid.GetRowSelNum());
+    EXPECT_TRUE(grid.IsRowSelected(0));
+}
+
+TEST(ArrangeWithHooks, ThatUnfoldARootAgain_KeepsItsChildrenBelowIt)
+{
+    ModelGrid grid(true);
+    FillWithTrees(grid);
+    int calls = 0;
+    grid.onCurChanged = [&] {
+        if (++calls == 3)
+            grid.GetTreeRow(0).UnFold();
+    };
+    grid.Arrange(true);
+    EXPECT_EQ("a z b x y c", Texts(grid));
+    EXPECT_EQ(6, grid.GetRowNum());
+}
+
 } // namespace
 } // namespace quor::test

@@ -15,6 +15,8 @@
 #include <afxwin.h>
 #include <afxcmn.h>
 
+#include <climits>
+
 namespace QuorUiCtr
 {
 

@@ -41,7 +41,7 @@ bool TGGrid::LateNumbers::Note(TGGrid& grid, long stored, long number) noexcept
     if (!grid.IsUpdating() || stored < 0)
         return false;
     if (grid.lateNumbers == nullptr)
-        grid.lateNumbers = MakeOrNull([] { return new LateNumbers; });
+        grid.lateNumbers = MakeOrNull([] { return std::make_unique<LateNumbers>().release(); });
     return grid.lateNumbers != nullptr && grid.lateNumbers->Add(stored, number);
 }
 

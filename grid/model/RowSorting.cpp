@@ -92,6 +92,7 @@ std::vector<long> OrderOf(const std::vector<TGGridRow*>& before, const std::vect
     for (std::size_t i = 0; i < before.size(); ++i)
         places.emplace(before[i], static_cast<long>(i));
     std::vector<long> order;
+    order.reserve(after.size());
     for (const TGGridRow* row : after)
         order.push_back(places[row]);
     return order;

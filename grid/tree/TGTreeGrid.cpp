@@ -215,6 +215,7 @@ void TGTreeGrid::RenumberItems(const std::vector<TGGridRow*>& items)
     if (items.empty())
         return;
     std::vector<int> asked;
+    asked.reserve(items.size());
     for (TGGridRow* item : items)
         asked.push_back(Leaves::IdentifierOf(Leaves::IdentifierCell(*item)));
     Identifiers identifiers(*this, asked);

@@ -36,8 +36,15 @@ inline std::wstring TextOf(HWND window)
 class Program
 {
 public:
+    enum class Start
+    {
+        UntilIdle,
+        AtOnce // for what a program shows before it waits for the user the first time
+    };
+
     // Starts a program of the folder in which the test is.
-    explicit Program(const std::wstring& name, const std::wstring& arguments = L"")
+    explicit Program(const std::wstring& name, const std::wstring& arguments = L"",
+                     Start start = Start::UntilIdle)
     {
         wchar_t path[MAX_PATH] = L"";
         ::GetModuleFileNameW(NULL, path, MAX_PATH);
@@ -45,10 +52,10 @@ public:
         command = L"\"" + command.substr(0, command.rfind(L'\\') + 1) + name + L"\" " + arguments;
         STARTUPINFOW startup = {};
         startup.cb = sizeof startup;
-        if (::CreateProcessW(NULL, command.data(), NULL, NULL, FALSE, 0, NULL, NULL, &startup, &m_process))
-            ::WaitForInputIdle(m_process.hProcess, deadline);
-        else
+        if (!::CreateProcessW(NULL, command.data(), NULL, NULL, FALSE, 0, NULL, NULL, &startup, &m_process))
             ADD_FAILURE() << "cannot be started, error " << ::GetLastError();
+        else if (start == Start::UntilIdle)
+            ::WaitForInputIdle(m_process.hProcess, deadline);
     }
     ~Program()
     {

@@ -305,7 +305,8 @@ TEST(GalleryFile, ThatTakesLong_ShowsAProgressBar_AndCanBeStopped)
 {
     const std::filesystem::path path = WriteLongTable();
     {
-        const Program program(L"gallery.exe", L"/language en \"" + path.wstring() + L"\"");
+        const Program program(L"gallery.exe", L"/language en \"" + path.wstring() + L"\"",
+                              Program::Start::AtOnce);
         const HWND window = program.Window(L"QuorUiCtrl gallery");
         ASSERT_NE(window, nullptr);
         HWND box = nullptr;

@@ -116,8 +116,8 @@ TEST_F(AllocationFailureWindow, ACommandLosesNothing)
     FailEach(Commands, true, false);
 }
 
-// An edit drops the selection before it begins. In the checked variant a message to a window that there was no
-// memory for is an assertion.
+// An edit drops the selection before it begins. In the checked variant a message to a window that there was
+// no memory for is an assertion.
 #ifndef _DEBUG
 TEST_F(AllocationFailureWindow, WhatTheWindowIsSentLeavesItUsable)
 {

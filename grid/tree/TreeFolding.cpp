@@ -168,12 +168,12 @@ void TGGridTreeRow::ShowOffspring()
     owner.RecalcLayout(1);
 }
 
+// While a fold hides rows one by one, a hook finds rows that are shown below one that is hidden already.
 bool TGGridTreeRow::HasShownOffspring() const
 {
-    for (const TGGridTreeRow* child : children)
-        if (child != nullptr && child->index != -1)
-            return true;
-    return false;
+    return std::any_of(children.begin(), children.end(), [](const TGGridTreeRow* child) {
+        return child != nullptr && (child->index != -1 || child->HasShownOffspring());
+    });
 }
 
 void TGGridTreeRow::CollectVisible(std::vector<const TGGridRow*>& visible) const

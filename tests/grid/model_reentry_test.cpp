@@ -169,6 +169,25 @@ TEST_F(ModelReentry, FoldAllAndAssignmentOfARowThatTheHookDeletesEnd)
     EXPECT_TRUE(grid.IsEmpty());
 }
 
+// The parent of a row that is still shown has been hidden by then.
+TEST_F(ModelReentry, UnFoldInsideAFold_ShowsEachRowOnce)
+{
+    TGGridTreeRow& root = AddRoot(grid, L"r");
+    AddChild(AddChild(root, L"x"), L"g");
+    root.UnFoldAll();
+    int calls = 0;
+    std::string inside;
+    grid.onCurChanged = [&] {
+        if (++calls != 2)
+            return;
+        root.UnFold();
+        inside = Texts(grid);
+    };
+    root.Fold();
+    EXPECT_EQ("r x g", inside);
+    EXPECT_EQ("r", Texts(grid));
+}
+
 // ---- Random operations inside random operations
 
 class ReentryFuzzer

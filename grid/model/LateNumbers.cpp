@@ -2,13 +2,11 @@
 #include "grid/model/LateNumbers.h"
 
 #include "grid/model/MakeOrNull.h"
-#include "grid/TGTreeGrid.h"
 
 #include <algorithm>
 #include <cstddef>
 #include <memory>
 #include <new>
-#include <typeinfo>
 #include <utility>
 
 namespace QuorUiCtr
@@ -36,19 +34,11 @@ const Element* LastOf(const std::vector<Element>& elements, Precedes precedes)
     return first == 0 ? nullptr : &elements[first - 1];
 }
 
-// Hooks that fold, move and insert rows of a tree while others leave see runs that are no longer what they
-// were: there only rows that leave one by one are noted.
-bool HasHooks(const TGGrid& grid)
-{
-    const std::type_info& kind = typeid(grid);
-    return kind != typeid(TGGrid) && kind != typeid(TGTreeGrid);
-}
-
 } // namespace
 
 bool TGGrid::LateNumbers::Note(TGGrid& grid, long stored, long number) noexcept
 {
-    if (!grid.IsUpdating() || stored < 0 || (number > 1 && grid.treeGrid && HasHooks(grid)))
+    if (!grid.IsUpdating() || stored < 0)
         return false;
     if (grid.lateNumbers == nullptr)
         grid.lateNumbers = MakeOrNull([] { return std::make_unique<LateNumbers>().release(); });

@@ -85,20 +85,6 @@ build_code() {
     say "code: compiles and links in $((SECONDS - began)) s"
 }
 
-start_display() {
-    local number pipe
-    exec {pipe}< <(exec Xvfb -displayfd 3 -screen 0 "$quor_screen" -noreset -nolisten tcp 3>&1 >/dev/null 2>&1)
-    xvfb=$!
-    read -r -t 30 number <&"$pipe" || die "Xvfb does not start"
-    exec {pipe}<&-
-    export DISPLAY=:$number
-}
-
-end_session() {
-    [[ -z ${WINEPREFIX:-} ]] || wineserver -k 2>/dev/null || true
-    [[ -z ${xvfb:-} ]] || kill "$xvfb" 2>/dev/null || true
-}
-
 # Waits for the window, closes it as a user does, and waits for the program, which is to end with 0.
 run_program() {
     local name=$1 title=$2 program window code=0
@@ -120,8 +106,8 @@ run_programs() {
     set_wine_environment
     WINEPREFIX=$("$quor_root/tools/wine-prefix.sh" docs)
     export WINEPREFIX
-    trap end_session EXIT
-    start_display
+    trap end_own_session EXIT
+    start_own_display "$quor_screen"
     mkdir -p "$work/pictures"
     while read -r name title <&4; do
         run_program "$name" "$title"

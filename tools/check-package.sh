@@ -114,20 +114,6 @@ FILE
     say "minimal: builds from the ZIP with the tool chain file in it, in $((SECONDS - began)) s"
 }
 
-start_display() {
-    local number pipe
-    exec {pipe}< <(exec Xvfb -displayfd 3 -screen 0 800x600x24 -noreset -nolisten tcp 3>&1 >/dev/null 2>&1)
-    xvfb=$!
-    read -r -t 30 number <&"$pipe" || die "Xvfb does not start"
-    exec {pipe}<&-
-    export DISPLAY=:$number
-}
-
-end_session() {
-    [[ -z ${WINEPREFIX:-} ]] || wineserver -k 2>/dev/null || true
-    [[ -z ${xvfb:-} ]] || kill "$xvfb" 2>/dev/null || true
-}
-
 # What only a painted grid has: three row lines of one colour at one distance (two planets and the new row), and the blue
 # mark of the new row, an icon out of the DLL (darker than the blue of themed buttons). Prints them when they are there.
 painted_grid() {
@@ -175,8 +161,8 @@ check_running() {
     set_wine_environment
     WINEPREFIX=$("$quor_root/tools/wine-prefix.sh" package)
     export WINEPREFIX
-    trap end_session EXIT
-    start_display
+    trap end_own_session EXIT
+    start_own_display 800x600x24
     look_at minimal-zip
 }
 

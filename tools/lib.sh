@@ -50,6 +50,22 @@ set_wine_environment() {
     unset WINEPREFIX WINELOADER WINESERVER
 }
 
+# start_own_display SIZE: an X server of the script's own, as $DISPLAY. With "trap end_own_session EXIT" it goes with the script.
+start_own_display() {
+    local number pipe
+    exec {pipe}< <(exec Xvfb -displayfd 3 -screen 0 "$1" -noreset -nolisten tcp 3>&1 >/dev/null 2>&1)
+    quor_xvfb=$!
+    read -r -t 30 number <&"$pipe" || die "Xvfb does not start"
+    exec {pipe}<&-
+    export DISPLAY=:$number
+}
+
+# Ends the X server of start_own_display and what runs in $WINEPREFIX.
+end_own_session() {
+    [[ -z ${WINEPREFIX:-} ]] || wineserver -k 2>/dev/null || true
+    [[ -z ${quor_xvfb:-} ]] || kill "$quor_xvfb" 2>/dev/null || true
+}
+
 # The Windows path of an existing file or folder: Wine shows the root folder as drive Z.
 windows_path() {
     local path

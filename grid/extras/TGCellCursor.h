@@ -61,7 +61,7 @@ public:
     explicit TGCellCursor(TGGrid& newGrid);
     ~TGCellCursor() override;
 
-    // ---- Options ----------------------------------------------------------------------------------------
+    // ---- Options
 
     // Enter goes down, Tab to the right. A commit by one of them goes the same way.
     void SetEnterStep(Step step) { enterStep = step; }
@@ -78,7 +78,7 @@ public:
     void SetDoubleClickEditing(bool on) { doubleClickEditing = on; }
     bool IsDoubleClickEditing() const { return doubleClickEditing; }
 
-    // ---- The current cell and the ranges ----------------------------------------------------------------
+    // ---- The current cell and the ranges
 
     // -1 while there is no cell.
     long GetRow() const;
@@ -97,7 +97,7 @@ public:
     std::vector<TGCellRange> GetRanges() const;
     bool IsInRanges(long row, long col) const;
 
-    // ---- What the keys do -------------------------------------------------------------------------------
+    // ---- What the keys do
 
     // Opens the editor of the current cell; with `caretAtEnd` nothing is selected in it. False when it stays
     // closed.

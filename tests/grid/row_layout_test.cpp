@@ -89,7 +89,7 @@ TEST_F(RowLayout, NewRowLine_IsFreshAfterEveryChangeOfTheRows)
     }
 }
 
-// ---- Rows without end -------------------------------------------------------------------------------------
+// ---- Rows without end
 
 // Rows of 16,384 pixels stand for the many that it takes otherwise.
 class TallRows : public RowLayout

@@ -190,6 +190,9 @@ bool MainDialog::WritePictures(const CString& folder)
         {
             UpdateWindow();
             DrainMessages();
+            // There is no idle time between pictures.
+            ShowStatus();
+            statusBar.UpdateWindow();
             const CString name = pages[index]->GetPictureName() + suffix + L".bmp";
             written = WriteWindowPicture(*this, folder + L"\\" + name) && written;
         }

@@ -10,11 +10,16 @@ namespace QuorUiCtr
 // line.
 struct TGCellRange
 {
+    // Zero-based index of the first row; -1: no cells.
     long top = -1;
+    // Zero-based index of the first column.
     long left = -1;
+    // Zero-based index of the last row, which belongs to the range.
     long bottom = -1;
+    // Zero-based index of the last column, which belongs to the range.
     long right = -1;
 
+    // Whether the cell lies in the range; any indices will do.
     bool Contains(long row, long col) const
     {
         return row >= top && row <= bottom && col >= left && col <= right;
@@ -24,7 +29,9 @@ struct TGCellRange
 // One line of the table of keys.
 struct TGKeyDescription
 {
+    // The keys as they are printed in documents, for example L"Ctrl+Home". Static.
     const wchar_t* keys;
+    // What they do, in English. Static.
     const wchar_t* action;
 };
 

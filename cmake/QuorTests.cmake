@@ -30,16 +30,19 @@ function(_quor_compile_as_test target)
     target_precompile_headers(${target} REUSE_FROM QuorTestHeaders)
 endfunction()
 
-# quor_add_test(name [CONSOLE] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
+# quor_add_test(name [CONSOLE] [COST seconds] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
 #
 # Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder, which is <name> unless given) and adds
 # it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and
 # get the harness of tests/support; CONSOLE programs use neither. A folder that has no sources yet is skipped.
 #
+# Programs run side by side, and those with the highest COST start first: one that starts last and takes minutes would
+# leave all but one processor idle.
+#
 # Files whose names begin with a capital are what several tests share, such as hosts and references. They become a library,
 # <name>_hosts, which other programs may name among their LIBRARIES.
 function(quor_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "COST;TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
     if(NOT arg_FOLDER)
         set(arg_FOLDER ${name})
     endif()
@@ -51,6 +54,9 @@ function(quor_add_test name)
     endif()
     if(NOT arg_TIMEOUT)
         set(arg_TIMEOUT 900)
+    endif()
+    if(NOT arg_COST)
+        set(arg_COST 1)
     endif()
     if(arg_CONSOLE)
         set(main QuorTestConsoleMain)
@@ -75,6 +81,6 @@ function(quor_add_test name)
     target_link_libraries(${name}_test PRIVATE QuorFlags ${main} ${arg_LIBRARIES})
     add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
     # A crash that the debugger of Wine reports may end with the exit code 0.
-    set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT}
+    set_tests_properties(${QUOR_TEST_VARIANT}.${name} PROPERTIES TIMEOUT ${arg_TIMEOUT} COST ${arg_COST}
         FAIL_REGULAR_EXPRESSION "Unhandled exception|Unhandled page fault")
 endfunction()

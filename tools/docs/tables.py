@@ -2,67 +2,15 @@
 
     tables.py ROOT [--write]
 
-The key tables are made from the key map of the grid and the words in key-actions.tsv; --write writes them. The tables of
-style flags, resources, messages and hooks are written by hand and must name all that there are, and nothing else.
+keys.py makes the tables of keys; --write writes them. The tables of style flags, messages and hooks are written by hand and
+must name all that there are, and nothing else.
 """
 import os
 import re
 import sys
 
 from documents import read
-
-GUIDE = 'docs/guide/'
-KEY_NAMES = {'TAB': 'Tab', 'RETURN': 'Enter', 'ESCAPE': 'Esc', 'PRIOR': 'Page Up', 'NEXT': 'Page Down', 'HOME': 'Home',
-             'END': 'End', 'LEFT': 'Left', 'RIGHT': 'Right', 'UP': 'Up', 'DOWN': 'Down', 'INSERT': 'Insert',
-             'DELETE': 'Delete', 'SPACE': 'Space', 'ADD': 'Num +', 'SUBTRACT': 'Num -', 'MULTIPLY': 'Num *'}
-
-
-class Fault(Exception):
-    pass
-
-
-def key_name(code):
-    if code.startswith("'"):
-        return code.strip("'")
-    name = code.removeprefix('VK_')
-    return KEY_NAMES.get(name, name.capitalize() if not re.match(r'F\d', name) else name)
-
-
-def key_table(root):
-    source = read(root, 'grid/input/GridKeyMap.cpp')
-    table = re.search(r'GridKeyMap::Entries\[\] = \{(.*?)\n\};', source, re.S).group(1)
-    words = dict(line.split('\t', 1) for line in read(root, 'tools/docs/key-actions.tsv').splitlines()
-                 if line and not line.startswith('#'))
-    used, rows = set(), ['| Key | Alone | With Ctrl |', '|---|---|---|']
-    for code, plain, control in re.findall(r"\{(VK_\w+|'\w'),\s*&GridKeyMap::(\w+),\s*&GridKeyMap::(\w+)\}", table):
-        for action in (plain, control):
-            if action not in words:
-                raise Fault('tools/docs/key-actions.tsv: no words for the action %s of GridKeyMap.cpp' % action)
-        used |= {plain, control}
-        rows.append('| %s | %s | %s |' % (key_name(code), words[plain],
-                                          'the same' if plain == control else words[control]))
-    if set(words) - used:
-        raise Fault('tools/docs/key-actions.tsv: no key does %s' % ', '.join(sorted(set(words) - used)))
-    if len(rows) - 2 != table.count('&GridKeyMap::') // 2:
-        raise Fault('GridKeyMap.cpp: the table of keys is not what tables.py reads')
-    return '\n'.join(rows)
-
-
-def check_key_table(root, write):
-    path = GUIDE + 'grid.md'
-    text = read(root, path)
-    pattern = r'(<!-- table: keys -->\n).*?(<!-- end of table -->)'
-    wanted = key_table(root)
-    made, number = re.subn(pattern, lambda match: match.group(1) + wanted + '\n' + match.group(2), text, flags=re.S)
-    if number != 1:
-        raise Fault('%s: there is no table of keys' % path)
-    if made != text and not write:
-        raise Fault('%s: the table of keys is not that of GridKeyMap.cpp; tools/check-docs.sh --write makes it' % path)
-    if made != text:
-        with open(os.path.join(root, path), 'w', encoding='utf-8') as file:
-            file.write(made)
-    return wanted.count('\n') - 1
-
+from keys import GUIDE, Fault, check_mouse, write_tables
 
 def named_first(text, heading):
     """What the first cells of the table below a heading name in code, in order."""
@@ -98,7 +46,7 @@ def hooks(root):
 
 def main():
     root, write = sys.argv[1], '--write' in sys.argv
-    report = ['%d keys' % check_key_table(root, write)]
+    report = ['%d keys of %d controls' % write_tables(root, write), '%d mouse messages' % check_mouse(root)]
     grid = read(root, GUIDE + 'grid.md')
     flags = [name for name in setters(root, 'grid/TGGridStyle.h')] + ['SetRowSel', 'SetColSel', 'SetTreeLine']
     report.append('%d style flags of the grid' % compare('grid.md', 'Style flags', grid, flags))

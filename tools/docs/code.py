@@ -35,6 +35,7 @@ foreach(host IN ITEMS %s)
     target_link_libraries(${host} PRIVATE QuorUiCtrl::QuorUiCtrl)
 endforeach()
 add_subdirectory("%s/samples/recipes" recipes)
+add_subdirectory("%s/tools/docs/samples" pictures)
 '''
 
 
@@ -122,7 +123,7 @@ def main():
         write(os.path.join(work, name + '.cpp'), '#line %d "%s"\n%s' % (block.line, block.path, block.code))
     write(os.path.join(work, 'fragments.cpp'), fragments_source(headers, fragments))
     names = [name for name, _ in programs if name.startswith('host_')]
-    write(os.path.join(work, 'CMakeLists.txt'), PROJECT % (' '.join(names), root))
+    write(os.path.join(work, 'CMakeLists.txt'), PROJECT % (' '.join(names), root, root))
     write(os.path.join(work, 'programs'), ''.join('%s %s\n' % program for program in programs))
     print('%d blocks of code: %d hosts, %d fragments, %d parts of samples; %d recipes'
           % (len(found), len(hosts), len(fragments), len(parts), len(programs) - len(hosts)))

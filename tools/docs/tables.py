@@ -35,6 +35,27 @@ def setters(root, header):
     return sorted(set(re.findall(r'void (Set\w+)\(bool on\)', read(root, header))))
 
 
+# Flags that no still picture shows; the editor of one line stands beside that of several.
+WITHOUT_PICTURE = {'SetLabelSort', 'SetShowDragContext', 'TVS_DISABLEDRAGDROP', 'PrepareControl', 'ES_AUTOHSCROLL'}
+
+
+def check_pictures(root):
+    """Every flag of the guide has a picture in docs/pictures/styles, which its page shows, and there are no others."""
+    shown = set()
+    for page, heading, prefix in (('grid.md', 'Style flags', ''), ('grid.md', 'Columns', 'column-'),
+                                  ('property-grid.md', 'Style flags', 'properties-'),
+                                  ('drag-tree.md', 'Styles', 'tree-'), ('report-list.md', 'Styles', 'list-')):
+        text = read(root, GUIDE + page)
+        for flag in set(named_first(text, heading)) - WITHOUT_PICTURE:
+            if '(../pictures/styles/%s%s.png)' % (prefix, flag) not in text:
+                raise Fault('%s%s: no picture of what %s changes; see tools/take-pictures.sh' % (GUIDE, page, flag))
+            shown.add('%s%s.png' % (prefix, flag))
+    strange = set(os.listdir(os.path.join(root, 'docs/pictures/styles'))) - shown
+    if strange:
+        raise Fault('docs/pictures/styles: no page shows %s' % ', '.join(sorted(strange)))
+    return len(shown)
+
+
 def hooks(root):
     """The hooks that the recorder overrides, which are all."""
     names = re.findall(r'HookGroup::\w+', read(root, 'samples/recording/HookRecorder.h'))
@@ -51,6 +72,7 @@ def main():
     flags = [name for name in setters(root, 'grid/TGGridStyle.h')] + ['SetRowSel', 'SetColSel', 'SetTreeLine']
     report.append('%d style flags of the grid' % compare('grid.md', 'Style flags', grid, flags))
     report.append('%d of columns' % compare('grid.md', 'Columns', grid, setters(root, 'grid/TGGridCol.h')))
+    report.append('%d flags in pictures' % check_pictures(root))
     all_hooks = hooks(root)
     page = read(root, GUIDE + 'hooks.md')
     told = [name for heading in re.findall(r'^## (The hooks of .*)$', page, re.M) for name in named_first(page, heading)]

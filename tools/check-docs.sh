@@ -3,7 +3,7 @@
 # tables say what the sources say, links lead somewhere, words are spelled right, and the reference has no gap.
 #
 #   tools/check-docs.sh              everything; the reference is then in build/docs/reference/html
-#   tools/check-docs.sh --texts      only what needs no compiler: tables, links, spelling; in seconds
+#   tools/check-docs.sh --texts      only what needs no compiler: tables, links, version, spelling; in seconds
 #   tools/check-docs.sh --reference  only the reference, made by Doxygen from the public headers
 #   tools/check-docs.sh --write      writes the tables that are made from the sources
 #   tools/check-docs.sh --pictures   also takes a picture of each program, into build/docs/pictures
@@ -37,6 +37,7 @@ find_headers() {
 check_texts() {
     script tables "$quor_root"
     script links "$quor_root"
+    script version "$quor_root"
     git -C "$quor_root" apply --check docs/contributing/first-change.patch 2>/dev/null ||
         die "docs/contributing/first-change.patch no longer fits the sources"
     command -v hunspell >/dev/null || die "please run tools/setup.sh --checks"

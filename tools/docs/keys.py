@@ -95,21 +95,26 @@ def merged(columns):
 
 # ---- All of them
 
+def write_between(root, page, name, wanted, write):
+    """Compares what a page has between <!-- table: NAME --> and <!-- end of table -->, or writes it."""
+    text = read(root, GUIDE + page)
+    made, number = re.subn(r'(<!-- table: %s -->\n).*?(<!-- end of table -->)' % name,
+                           lambda match: match.group(1) + wanted + '\n' + match.group(2), text, flags=re.S)
+    if number != 1:
+        raise Fault('%s%s: there is no table of %s' % (GUIDE, page, name))
+    if made != text and not write:
+        raise Fault('%s%s: the table of %s is not that of the sources; tools/check-docs.sh --write makes it'
+                    % (GUIDE, page, name))
+    if made != text:
+        with open('%s/%s%s' % (root, GUIDE, page), 'w', encoding='utf-8') as file:
+            file.write(made)
+
+
 def write_tables(root, write):
-    """Compares the tables that stand in the guide, or writes them; returns the number of keys."""
+    """Returns the number of keys and of controls."""
     tables = {'grid.md': grid_keys(root), **control_keys(root)}
     for page, wanted in tables.items():
-        text = read(root, GUIDE + page)
-        made, number = re.subn(r'(<!-- table: keys -->\n).*?(<!-- end of table -->)',
-                               lambda match, table=wanted: match.group(1) + table + '\n' + match.group(2), text, flags=re.S)
-        if number != 1:
-            raise Fault('%s%s: there is no table of keys' % (GUIDE, page))
-        if made != text and not write:
-            raise Fault('%s%s: the table of keys is not that of the sources; tools/check-docs.sh --write makes it'
-                        % (GUIDE, page))
-        if made != text:
-            with open('%s/%s%s' % (root, GUIDE, page), 'w', encoding='utf-8') as file:
-                file.write(made)
+        write_between(root, page, 'keys', wanted, write)
     return sum(table.count('\n') - 1 for table in tables.values()), len(tables)
 
 

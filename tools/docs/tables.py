@@ -10,7 +10,7 @@ import re
 import sys
 
 from documents import read
-from keys import GUIDE, Fault, check_mouse, write_tables
+from keys import GUIDE, Fault, check_mouse, write_between, write_tables
 
 def named_first(text, heading):
     """What the first cells of the table below a heading name in code, in order."""
@@ -65,6 +65,16 @@ def hooks(root):
     return listed
 
 
+def write_hooks(root, write):
+    """The declarations of the hooks as a host overrides them, from the header of the grid."""
+    declared = re.findall(r'^    virtual (.*\bOn\w+\(.*\)(?: const)?);$', read(root, 'grid/TGGrid.h'), re.M)
+    names = [re.search(r'(On\w+)\(', line).group(1) for line in declared]
+    if sorted(names) != sorted(hooks(root)):
+        raise Fault('grid/TGGrid.h: hooks are not written as tables.py reads them')
+    code = '<!-- code: members(TGGrid) -->\n```cpp\n%s\n```' % '\n'.join(line + ' override;' for line in declared)
+    write_between(root, 'hooks.md', 'hooks', code, write)
+
+
 def main():
     root, write = sys.argv[1], '--write' in sys.argv
     report = ['%d keys of %d controls' % write_tables(root, write), '%d mouse messages' % check_mouse(root)]
@@ -73,6 +83,7 @@ def main():
     report.append('%d style flags of the grid' % compare('grid.md', 'Style flags', grid, flags))
     report.append('%d of columns' % compare('grid.md', 'Columns', grid, setters(root, 'grid/TGGridCol.h')))
     report.append('%d flags in pictures' % check_pictures(root))
+    write_hooks(root, write)
     all_hooks = hooks(root)
     page = read(root, GUIDE + 'hooks.md')
     told = [name for heading in re.findall(r'^## (The hooks of .*)$', page, re.M) for name in named_first(page, heading)]

@@ -39,8 +39,11 @@ public:
     void SetName(const wchar_t* newName);
     // Zero-based position among the grid's columns; 0 before the column is entered.
     long GetIndex() const { return index; }
-    // Width in pixels. It is given to TGGrid::InsertCol and changed by the user or by FitLastCol.
+    // Width in pixels. It is given to TGGrid::InsertCol and changed by the user, by FitLastCol and here.
     long GetWidth() const { return right - left; }
+    // 0 to 65535 (asserted; others are brought into the range). The columns behind follow; lays out anew,
+    // which ends an open edit. Nothing for a column that is not entered yet.
+    void SetWidth(long pixels);
 
     // The colour of the cells' texts, which OnBeforeRefresh may replace cell by cell.
     COLORREF GetTextColor() const { return textColor; }

@@ -1,8 +1,7 @@
 // The column header's mouse work: selecting, resizing and moving columns.
 #include "grid/TGColSelector.h"
 
-#include "grid/model/GridExtensions.h"
-#include "grid/TGGrid.h"
+#include "grid/model/GridStructure.h"
 #include "grid/headers/HeaderClick.h"
 #include "grid/headers/HeaderDrag.h"
 
@@ -204,15 +203,7 @@ void TGColSelector::ResizeTo(long x)
     TGGridCol& col = grid->GetCol(resizeCol);
     if (x <= col.GetLeft() + 1)
         return;
-    const long distance = x - col.GetRight();
-    const long oldWidth = col.GetWidth();
-    col.SetRight(x);
-    for (TGGridCol* following : grid->cols)
-        if (following->GetIndex() > resizeCol)
-            following->Move(distance);
-    grid->RecalcLayout(1);
-    if (grid->extensions != nullptr && grid->IsValidCol(resizeCol))
-        grid->extensions->Tell(GridExtensions::ColResized, grid->GetCol(resizeCol), oldWidth);
+    TGGrid::Structure(*grid).ResizeCol(col, x - col.GetLeft());
 }
 
 // The hook may have changed the columns and the selection.

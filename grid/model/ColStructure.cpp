@@ -82,6 +82,19 @@ long TGGrid::Structure::WidthOfNewCol(long width)
     return (std::min)(width, MaxContentWidth - (std::min)(grid.GetRight(), MaxContentWidth));
 }
 
+void TGGrid::Structure::ResizeCol(TGGridCol& col, long width)
+{
+    const long i = col.GetIndex();
+    const long oldWidth = col.GetWidth();
+    col.SetRight(col.GetLeft() + width);
+    for (TGGridCol* following : grid.cols)
+        if (following->GetIndex() > i)
+            following->Move(width - oldWidth);
+    grid.RecalcLayout(1);
+    if (grid.extensions != nullptr && grid.ColAtIndex(i) == &col)
+        grid.extensions->Tell(GridExtensions::ColResized, col, oldWidth);
+}
+
 // As long as the lines of all captions are known.
 void TGGrid::Structure::NoteCaption(const TGGridCol& col)
 {

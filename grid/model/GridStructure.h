@@ -92,6 +92,9 @@ public:
     void DropCols(long first);
     // The width that a column gets when `width` is asked for.
     long WidthOfNewCol(long width);
+    // Gives a column another width, moves those behind, lays out and tells extensions. The layout may run
+    // the hooks of an edit that ends.
+    void ResizeCol(TGGridCol& col, long width);
     // Takes the slot of a column out and closes the gap.
     void RemoveCol(long i);
     // Gives a column that is about to move and the columns that it passes their edges.

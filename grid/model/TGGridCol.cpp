@@ -1,7 +1,8 @@
 // A column's caption, colours and geometry.
 #include "grid/TGGridCol.h"
 
-#include "grid/TGGrid.h"
+#include "grid/model/GridLimits.h"
+#include "grid/model/GridStructure.h"
 
 namespace QuorUiCtr
 {
@@ -13,6 +14,13 @@ TGGridCol::TGGridCol(const wchar_t* caption, TGGrid& owner)
 }
 
 TGGridCol::~TGGridCol() = default;
+
+void TGGridCol::SetWidth(long pixels)
+{
+    ASSERT(pixels == WidthInRange(pixels));
+    if (grid->ColAtIndex(index) == this)
+        TGGrid::Structure(*grid).ResizeCol(*this, WidthInRange(pixels));
+}
 
 void TGGridCol::SetName(const wchar_t* newName)
 {

@@ -19,6 +19,8 @@ constexpr size_t OuterGroupColumn = 8;
 constexpr size_t InnerGroupColumn = 5;
 constexpr long LabelColumn = 2;
 
+constexpr long TreeColumnWidth = 150;
+
 // Moves the label column to the front, where the tree is drawn.
 void MoveToFront(gallery::CsvTable& table, long column)
 {
@@ -71,7 +73,8 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     MoveToFront(table, LabelColumn);
     QuorUiCtr::TGGridUpdate update(grid);
     MakeColumns(grid, table);
-    WidenForTree();
+    // The column that draws the tree needs room for three levels.
+    grid.GetCol(0).SetWidth(TreeColumnWidth);
     SetColumnEditors(grid);
     for (const std::vector<std::wstring>& texts : table.rows)
     {
@@ -84,16 +87,6 @@ void TreeRowsPage::ShowTable(const gallery::CsvTable& source)
     summary.Format(Tr(L"%d elements on three levels"), static_cast<int>(table.rows.size()));
     SetBanner(summary);
     grid.SetModify(false);
-}
-
-// The column that draws the tree needs room for three levels; there is no operation to set a width, so the
-// column is made anew.
-void TreeRowsPage::WidenForTree()
-{
-    constexpr long TreeColumnWidth = 150;
-    const CString name = grid.GetCol(0).GetName();
-    grid.DelCol(0);
-    grid.InsertCol(0, name, TreeColumnWidth);
 }
 
 TGGridTreeRow& TreeRowsPage::RootRow(const std::wstring& label)

@@ -24,7 +24,6 @@ protected:
 
 private:
     void ShowTable(const gallery::CsvTable& table);
-    void WidenForTree();
     // The root row with this label, appended when there is none yet.
     QuorUiCtr::TGGridTreeRow& RootRow(const std::wstring& label);
     // The child of `parent` with this label, appended when there is none yet.

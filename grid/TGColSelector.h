@@ -71,6 +71,12 @@ protected:
     afx_msg void OnCaptureChanged(CWnd* newCapture);
 
 private:
+    friend class TGGridExtension;
+
+    // How CDC::DrawText draws a caption, and where in its box.
+    static UINT CaptionFormat(const TGGridCol& col);
+    static CRect CaptionPlace(const TGGrid& grid, const CRect& box);
+
     // Where the header stands, and how its boxes are drawn.
     HeaderBand Band() const;
     // The caption of a column, in the column's alignment.

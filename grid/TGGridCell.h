@@ -101,6 +101,7 @@ public:
     void Refresh();
 
 private:
+    friend class TGGridExtension;
     friend class TGGridRow;
     // The bits of the style word, of which the row copies all.
     enum
@@ -115,8 +116,9 @@ private:
     bool IsPainted(CDC& context, const CRect& outline) const;
     // Draws box and text as extensions want them.
     void DrawExtended(CDC& context);
-    // How CDC::DrawText draws the text.
+    // How CDC::DrawText draws the text, and where, in logical coordinates.
     UINT TextFormat() const;
+    CRect TextPlace() const;
     // Draws the text as one line, at the top of the rectangle and in the column's alignment.
     void DrawCellText(CDC& context, CRect textRect) const;
     // Draw the fold box and the lines of a tree row; the first returns the x from which its text starts.

@@ -32,6 +32,10 @@ struct TGTextLook
     UINT format;
     // Null: the font that the context has.
     CFont* font = nullptr;
+    // What would be drawn if there were more room; empty when `text` is all.
+    CString wholeText = {};
+    // By how many pixels the place of the text is smaller than the grid's at each side; less than 0: larger.
+    RECT inset = {};
 };
 
 // Where a tip or a menu belongs to.
@@ -41,6 +45,15 @@ enum class TGGridPlace
     RowHeader,
     ColHeader,
     Corner
+};
+
+// How the user is about to change a cell.
+enum class TGEditWay
+{
+    // An editor is to be opened.
+    Editor,
+    // An extension stores a text, see TGGridExtension::TypeInto.
+    Text
 };
 
 // Rows that have left a grid, each with its cells, its host data and its offspring.
@@ -203,6 +216,20 @@ protected:
     virtual void OnLaidOut();
     virtual void OnScrolled();
 
+    // ---- Order and editing
+
+    // This extension is called before those that do not say so, whenever it came: for extras that are about
+    // what cells are, below what others make of them. Constant.
+    virtual bool IsCalledFirst() const;
+    // A cell that is not read-only is about to be changed by the user, or an editor to be opened by whomever;
+    // before OnBeforeEdit. True: it is not, and no hook is asked.
+    virtual bool OnEdit(TGGridCell& cell, TGEditWay way);
+    // The cell that keys are for. True: this extension has one and says which.
+    virtual bool OnCurrentCell(long& row, long& col) const;
+    // A row object of the grid is being deleted, wherever it was: what was kept under its address is
+    // nobody's. It cannot be asked for anything any more.
+    virtual void OnRowDeleted(const TGGridRow* row);
+
     // ---- What extensions need of the grid
 
     // Numbers of menu entries below are the grid's.
@@ -229,10 +256,25 @@ protected:
     CRect GetView() const;
     // The new-row line is shown below the rows.
     bool HasNewRowLine() const;
+    // How the text of a cell or a caption would be drawn now, as extensions want it. What OnBeforeRefresh
+    // does to the drawing context is not in it. Not to be asked for in OnCellLook and OnCaptionLook.
+    TGTextLook GetLook(TGGridCell& cell) const;
+    TGTextLook GetLook(TGGridCol& col) const;
+    // Where a text with the look stands: of a cell in logical coordinates, right of what belongs to the tree;
+    // of a caption with the logical x and with y in the column header.
+    CRect GetTextPlace(const TGGridCell& cell, const TGTextLook& look) const;
+    CRect GetTextPlace(const TGGridCol& col, const TGTextLook& look) const;
+    // A number that the column has alone among all that the grid has had.
+    static unsigned GetSerial(const TGGridCol& col);
+    // The header window of the columns; null without one.
+    CWnd* GetColHeader() const;
+    // The current cell of the extension that has one. False without one.
+    bool FindCurrentCell(long& row, long& col) const;
     // The window of the open editor, null when there is none.
     CWnd* GetEditorWindow() const;
-    // Stores a text as if it had been typed: nothing for a read-only cell; asks OnBeforeEdit and OnModified,
-    // which may change it. The caller tells OnDataChanged, once for all cells. False when it was refused.
+    // Stores a text as if it had been typed: nothing for a read-only cell; asks OnEdit, OnBeforeEdit and
+    // OnModified, which may change it. The caller tells OnDataChanged, once for all cells. False when it was
+    // refused.
     bool TypeInto(TGGridCell& cell, const wchar_t* text) const;
     void TellDataChanged() const;
 

@@ -3,6 +3,7 @@
 
 #include "grid/edit/CellEditorLife.h"
 #include "grid/edit/CellWatch.h"
+#include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 #include "grid/model/ScopedValue.h"
@@ -86,6 +87,8 @@ void TGGrid::BeginEditCell(long row, long col)
     if (m_hWnd == nullptr || cell == nullptr || cell->IsReadOnly())
         return;
     CellWatch watch(*this, cell);
+    if (extensions != nullptr && (extensions->AskEdit(*cell, TGEditWay::Editor) || m_hWnd == nullptr))
+        return;
     bool commitNewRow = false;
     const bool wasNewRow = IsNewRow(row);
     if (OnBeforeEdit(*cell, commitNewRow))

@@ -307,6 +307,13 @@ void TGCellCursor::OnLaidOut()
     SettleAll();
 }
 
+bool TGCellCursor::OnCurrentCell(long& row, long& col) const
+{
+    row = GetRow();
+    col = GetCol();
+    return row >= 0;
+}
+
 void TGCellCursor::Moved()
 {
     TGGrid& grid = *GetGrid();

@@ -133,6 +133,7 @@ protected:
     void OnColMoved(long from, long to) override;
     void OnSelected() override;
     void OnLaidOut() override;
+    bool OnCurrentCell(long& row, long& col) const override;
 
 private:
     // A cell that goes along with its row and column. Without a row it stands on the new-row line or nowhere.

@@ -73,21 +73,31 @@ void TGColSelector::OnPaint()
     }
 }
 
+UINT TGColSelector::CaptionFormat(const TGGridCol& col)
+{
+    const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
+    return DT_EDITCONTROL | alignment;
+}
+
+CRect TGColSelector::CaptionPlace(const TGGrid& grid, const CRect& box)
+{
+    return CRect(box.left + 2, grid.GetRowSpace(), box.right, box.bottom - 1);
+}
+
 void TGColSelector::DrawCaption(CDC& context, TGGridCol& col, const CRect& box) const
 {
-    CRect text(box.left + 2, grid->GetRowSpace(), box.right, box.bottom - 1);
-    const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
+    CRect text = CaptionPlace(*grid, box);
     if (grid->extensions != nullptr)
         DrawExtended(context, col, box, text);
     else
-        context.DrawText(col.GetName(), &text, DT_EDITCONTROL | alignment);
+        context.DrawText(col.GetName(), &text, CaptionFormat(col));
 }
 
 void TGColSelector::DrawExtended(CDC& context, TGGridCol& col, const CRect& box, CRect place) const
 {
-    const UINT alignment = col.IsCenterAlign() ? DT_CENTER : DT_LEFT;
-    TGTextLook look{col.GetName(), context.GetTextColor(), context.GetBkColor(), DT_EDITCONTROL | alignment};
+    TGTextLook look{col.GetName(), context.GetTextColor(), context.GetBkColor(), CaptionFormat(col)};
     grid->extensions->Tell(GridExtensions::CaptionLook, col, look);
+    place.DeflateRect(&look.inset);
     const COLORREF textColor = context.SetTextColor(look.textColor);
     CFont* const font = look.font != nullptr ? context.SelectObject(look.font) : nullptr;
     context.DrawText(look.text, &place, look.format);

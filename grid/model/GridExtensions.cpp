@@ -1,6 +1,7 @@
 // The extensions of a grid: attaching and detaching, and the questions whose answers need some care.
 #include "grid/model/GridExtensions.h"
 
+#include "grid/edit/CellWatch.h"
 #include "grid/model/GridStructure.h"
 
 #include <algorithm>
@@ -19,6 +20,7 @@ bool GridExtensions::Attach(TGGrid& grid, TGGridExtension& extension)
     if (list.closing)
         return false;
     list.attached.push_back(&extension);
+    list.reordering = list.reordering || extension.IsCalledFirst();
     extension.extendedGrid = &grid;
     extension.OnAttach();
     return true;
@@ -52,6 +54,9 @@ void GridExtensions::CloseUp()
     if (calls > 0)
         return;
     std::erase(attached, nullptr);
+    if (std::exchange(reordering, false))
+        std::stable_partition(attached.begin(), attached.end(),
+                              [](const TGGridExtension* extension) { return extension->IsCalledFirst(); });
     if (!attached.empty())
         return;
     grid.extensions = nullptr;
@@ -96,6 +101,20 @@ void GridExtensions::DrawOverlay(const CRect& area)
         context->RestoreDC(saved);
         return false;
     });
+}
+
+// ---- Edits
+
+bool GridExtensions::AskEdit(TGGridCell& cell, TGEditWay way)
+{
+    const CellWatch watch(grid, &cell);
+    return Each(
+        [&](TGGridExtension& extension) { return extension.OnEdit(cell, way) || watch.Cell() == nullptr; });
+}
+
+bool GridExtensions::FindCurrentCell(long& row, long& col)
+{
+    return Each([&](const TGGridExtension& extension) { return extension.OnCurrentCell(row, col); });
 }
 
 // ---- Tips and order

@@ -26,6 +26,9 @@ public:
     bool DrawContent(TGGridCell& cell, CDC& context, const CRect& place, const TGTextLook& look);
     void DrawOverlay(const CRect& area);
     bool AskTip(TGGridPlace place, long row, long col, CString& text);
+    // Whether an extension refuses an edit or has done it itself.
+    bool AskEdit(TGGridCell& cell, TGEditWay way);
+    bool FindCurrentCell(long& row, long& col);
     // Puts rows into the order that an extension wants; false when none does.
     bool AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows, bool ascending);
 
@@ -63,6 +66,7 @@ public:
     static constexpr auto Selected = &TGGridExtension::OnSelected;
     static constexpr auto LaidOut = &TGGridExtension::OnLaidOut;
     static constexpr auto Scrolled = &TGGridExtension::OnScrolled;
+    static constexpr auto RowDeleted = &TGGridExtension::OnRowDeleted;
 
 private:
     explicit GridExtensions(TGGrid& servedGrid) : grid(servedGrid) {}
@@ -96,9 +100,12 @@ private:
     void CloseUp();
 
     TGGrid& grid;
-    // Null for those that have left while a call was running.
+    // Null for those that have left while a call was running. Those that are called first come first, but
+    // not before the calls have ended that run while they come.
     std::vector<TGGridExtension*> attached;
     int calls = 0;
+    // Somebody has come who is to be called before others.
+    bool reordering = false;
     bool closing = false;
 };
 

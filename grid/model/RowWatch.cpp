@@ -1,6 +1,7 @@
 // References to rows that hooks may delete.
 #include "grid/model/RowWatch.h"
 
+#include "grid/model/GridExtensions.h"
 #include "grid/TGGrid.h"
 
 namespace QuorUiCtr
@@ -16,6 +17,8 @@ void TGGrid::ForgetRow(const TGGridRow* row)
         if (watch.row == row)
             watch.row = nullptr;
     });
+    if (extensions != nullptr)
+        extensions->Tell(GridExtensions::RowDeleted, row);
 }
 
 } // namespace QuorUiCtr

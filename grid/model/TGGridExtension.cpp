@@ -4,6 +4,7 @@
 #include "grid/edit/CellWatch.h"
 #include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrl.h"
+#include "grid/TGColSelector.h"
 #include "grid/TGGrid.h"
 #include "grid/window/GridLayout.h"
 
@@ -80,6 +81,23 @@ void TGGridExtension::OnColResized(TGGridCol&, long) {}
 void TGGridExtension::OnSelected() {}
 void TGGridExtension::OnLaidOut() {}
 void TGGridExtension::OnScrolled() {}
+
+bool TGGridExtension::IsCalledFirst() const
+{
+    return false;
+}
+
+bool TGGridExtension::OnEdit(TGGridCell&, TGEditWay)
+{
+    return false;
+}
+
+bool TGGridExtension::OnCurrentCell(long&, long&) const
+{
+    return false;
+}
+
+void TGGridExtension::OnRowDeleted(const TGGridRow*) {}
 
 // ---- Places
 
@@ -163,6 +181,59 @@ bool TGGridExtension::HasNewRowLine() const
     return extendedGrid->IsAppendRowShown();
 }
 
+// ---- Texts
+
+TGTextLook TGGridExtension::GetLook(TGGridCell& cell) const
+{
+    ASSERT(extendedGrid != nullptr);
+    const TGGridCol& col = cell.GetCol();
+    TGTextLook look{cell.GetText(), col.GetTextColor(), col.GetBackColor(), cell.TextFormat()};
+    extendedGrid->extensions->Tell(GridExtensions::CellLook, cell, look);
+    return look;
+}
+
+TGTextLook TGGridExtension::GetLook(TGGridCol& col) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGTextLook look{col.GetName(), RGB(0, 0, 0), ::GetSysColor(COLOR_BTNFACE),
+                    TGColSelector::CaptionFormat(col)};
+    extendedGrid->extensions->Tell(GridExtensions::CaptionLook, col, look);
+    return look;
+}
+
+CRect TGGridExtension::GetTextPlace(const TGGridCell& cell, const TGTextLook& look) const
+{
+    CRect place = cell.TextPlace();
+    place.DeflateRect(&look.inset);
+    return place;
+}
+
+CRect TGGridExtension::GetTextPlace(const TGGridCol& col, const TGTextLook& look) const
+{
+    ASSERT(extendedGrid != nullptr);
+    CRect place = TGColSelector::CaptionPlace(
+        *extendedGrid, CRect(col.GetLeft(), 0, col.GetRight(), extendedGrid->GetColHeaderHeight()));
+    place.DeflateRect(&look.inset);
+    return place;
+}
+
+unsigned TGGridExtension::GetSerial(const TGGridCol& col)
+{
+    return col.serial;
+}
+
+CWnd* TGGridExtension::GetColHeader() const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->colHeader->GetSafeHwnd() != nullptr ? extendedGrid->colHeader : nullptr;
+}
+
+bool TGGridExtension::FindCurrentCell(long& row, long& col) const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->extensions->FindCurrentCell(row, col);
+}
+
 // ---- Editing
 
 CWnd* TGGridExtension::GetEditorWindow() const
@@ -181,7 +252,9 @@ bool TGGridExtension::TypeInto(TGGridCell& cell, const wchar_t* text) const
     const CellWatch watch(typed, &cell);
     bool commitNewRow = false;
     CString stored(text);
-    if (!typed.OnBeforeEdit(cell, commitNewRow) || watch.Cell() == nullptr ||
+    if (typed.extensions != nullptr && typed.extensions->AskEdit(cell, TGEditWay::Text))
+        return false;
+    if (watch.Cell() == nullptr || !typed.OnBeforeEdit(cell, commitNewRow) || watch.Cell() == nullptr ||
         !typed.OnModified(cell, stored) || watch.Cell() == nullptr)
         return false;
     cell.SetText(stored);

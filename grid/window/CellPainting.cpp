@@ -82,6 +82,7 @@ void TGGridCell::DrawExtended(CDC& context)
     CRect cell;
     GetRect(cell);
     CRect textPlace = DrawBox(context, cell);
+    textPlace.DeflateRect(&look.inset);
     const bool done =
         owner.extensions != nullptr && owner.extensions->DrawContent(*this, context, textPlace, look);
     if (owner.GetDC() != &context)
@@ -120,6 +121,29 @@ void TGGridCell::DrawCellText(CDC& context, CRect textRect) const
     if (text.IsEmpty())
         return;
     context.DrawText(text, &textRect, TextFormat());
+}
+
+// Beside the tree, as DrawTreeDecoration() leaves it.
+CRect TGGridCell::TextPlace() const
+{
+    CRect cell;
+    GetRect(cell);
+    CRect textRect = CellTextRect(cell, grid->GetRowSpace()).As<CRect>();
+    if (col->GetIndex() != 0 || !row->IsTreeRow())
+        return textRect;
+    TGGridTreeRow& treeRow = static_cast<TGGridTreeRow&>(*row);
+    CRect box;
+    if (treeRow.IsParentRow())
+    {
+        treeRow.GetTreeQuad(box);
+        textRect.left += box.right - CellInsideRect(cell).left;
+    }
+    else if (treeRow.IsChildRow())
+    {
+        treeRow.GetParent().GetTreeQuad(box);
+        textRect.left += 2 * box.right - box.left - CellInsideRect(cell).left;
+    }
+    return textRect;
 }
 
 long TGGridCell::DrawTreeDecoration(CDC& context, const CRect& cell) const

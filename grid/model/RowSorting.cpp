@@ -132,6 +132,32 @@ struct RowKey
     bool isWhole = false;
 };
 
+std::vector<const wchar_t*> TextsOf(std::span<const TGGridCell* const> cells)
+{
+    std::vector<const wchar_t*> texts;
+    texts.reserve(cells.size());
+    for (const TGGridCell* cell : cells)
+        texts.push_back(cell->GetText());
+    return texts;
+}
+
+bool IsInOrder(std::span<const wchar_t* const> texts, bool ascending)
+{
+    const auto precedes = [ascending](const wchar_t* first, const wchar_t* second) {
+        return ascending ? std::wcscmp(first, second) < 0 : std::wcscmp(first, second) > 0;
+    };
+    return std::is_sorted(texts.begin(), texts.end(), precedes);
+}
+
+std::vector<RowKey> KeysOf(std::span<TGGridRow* const> rows, std::span<const wchar_t* const> texts)
+{
+    std::vector<RowKey> keys;
+    keys.reserve(texts.size());
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        keys.emplace_back(texts[i], rows[i]);
+    return keys;
+}
+
 // Texts of one kind often begin alike. Where that leaves too little room for what is different, the beginning
 // that all have in common is left out.
 void SkipCommonStart(std::span<RowKey> keys)
@@ -208,18 +234,21 @@ TGGrid::Structure::Order TGGrid::Structure::SortByKeys(std::vector<TGGridRow*>& 
     const std::vector<TGGridRow*> before = order;
     const auto nulls = std::stable_partition(order.begin(), order.end(),
                                              [](const TGGridRow* row) { return row != nullptr; });
-    std::vector<RowKey> rowKeys;
-    rowKeys.reserve(order.size());
+    const std::span<TGGridRow* const> present(order.begin(), nulls);
+    // Each step from a row to its text waits for memory when there are many rows. Made for all rows before the
+    // next step, these waits overlap.
+    std::vector<const TGGridCell*> cells;
     if (!keys.IsEmpty())
-        for (TGGridRow* row : std::span(order.begin(), nulls))
-        {
-            const TGGridCell* cell = row->FindCell(*keys.begin());
-            if (cell == nullptr)
-                return Order::Unknown;
-            rowKeys.emplace_back(cell->GetText(), row);
-        }
-    SkipCommonStart(rowKeys);
+        for (TGGridRow* row : present)
+            cells.push_back(row->FindCell(*keys.begin()));
+    if (std::find(cells.begin(), cells.end(), nullptr) != cells.end())
+        return Order::Unknown;
+    const std::vector<const wchar_t*> texts = TextsOf(cells);
     const bool single = keys.GetNum() == 1;
+    if (single && IsInOrder(texts, ascending))
+        return order == before ? Order::Kept : Order::Changed;
+    std::vector<RowKey> rowKeys = KeysOf(present, texts);
+    SkipCommonStart(rowKeys);
     const auto compare = [single](const RowKey& first, const RowKey& second) {
         const int difference = first.Compare(second);
         return difference != 0 || single ? difference : first.row->CompareByKeys(*second.row);

@@ -63,6 +63,18 @@ double ShortestMs(const std::function<void()>& work, const std::function<void()>
     return SortedTimings(work, prepare, runs).front();
 }
 
+std::vector<double> ShortestInTurns(const std::vector<Timed>& all, int runs)
+{
+    std::vector<double> shortest(all.size());
+    for (int run = 0; run < runs; ++run)
+        for (size_t i = 0; i < all.size(); ++i)
+        {
+            const double timeMs = ShortestMs(all[i].work, all[i].prepare, 1);
+            shortest[i] = run == 0 ? timeMs : (std::min)(shortest[i], timeMs);
+        }
+    return shortest;
+}
+
 Report::Report()
 {
     std::printf("%-44s %8s %12s  %-24s %12s %8s  %s\n", "workload", "n", "ours", "peer", "peer's", "ratio",

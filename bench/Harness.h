@@ -18,6 +18,17 @@ double MedianMs(const std::function<void()>& work, const std::function<void()>& 
 // limit.
 double ShortestMs(const std::function<void()>& work, const std::function<void()>& prepare = {}, int runs = 5);
 
+// Something to time, with what is done untimed before each run (it may be empty).
+struct Timed
+{
+    std::function<void()> work;
+    std::function<void()> prepare;
+};
+
+// The shortest of `runs` timings of each. All have their turn before the next run of any, so that a time in
+// which the machine is slow falls on all of them.
+std::vector<double> ShortestInTurns(const std::vector<Timed>& all, int runs = 5);
+
 // One line of the result table: our figure and a peer's for the same work. Figures are milliseconds unless
 // the workload's name says otherwise.
 struct Result

@@ -111,18 +111,10 @@ void SelectAllAndRepaint(Report& report, Host& host, long n)
 {
     GridSubject grid(&host);
     grid.AppendRowsAsOne(n);
-    const double ours = ShortestMs(
-        [&] {
-            grid.Grid().SelectAll();
-            grid.Grid().UpdateWindow();
-        },
-        [&] { grid.Grid().UnSelect(), grid.Grid().UpdateWindow(); });
-    const double repaint = ShortestMs(
-        [&] {
-            grid.Grid().Invalidate(1);
-            grid.Grid().UpdateWindow();
-        },
-        [&] { grid.Grid().SelectAll(); });
+    const std::vector<double> shortest = ShortestInTurns(
+        {{[&] { grid.Grid().SelectAll(), grid.Grid().UpdateWindow(); },
+          [&] { grid.Grid().UnSelect(), grid.Grid().UpdateWindow(); }},
+         {[&] { grid.Grid().Invalidate(1), grid.Grid().UpdateWindow(); }, [&] { grid.Grid().SelectAll(); }}});
     ListViewSubject list(host);
     list.AppendRowsAsOne(n);
     const double peer = MedianMs(
@@ -131,8 +123,8 @@ void SelectAllAndRepaint(Report& report, Host& host, long n)
             list.List().UpdateWindow();
         },
         [&] { list.List().SetItemState(-1, 0, LVIS_SELECTED); });
-    report.Add({"select all and repaint", n, ours, "list view", peer});
-    report.Add({"select all and repaint", n, ours, "repaint all selected", repaint, 1.2});
+    report.Add({"select all and repaint", n, shortest[0], "list view", peer});
+    report.Add({"select all and repaint", n, shortest[0], "repaint all selected", shortest[1], 1.2});
 }
 
 void UnselectAll(Report& report, Host& host, long n)

@@ -6,8 +6,12 @@
 namespace bench
 {
 
-// Filling, emptying and sorting against the bare data, with limits; many columns.
+// Filling and emptying against the bare data, with limits.
 void RunBuild(Report& report);
+// Sorting random rows, and rows that are in order.
+void RunSort(Report& report);
+// Many columns.
+void RunColumns(Report& report);
 // Filling N x 10 cells: without a window, with one as one change, and row by row.
 void RunPopulate(Report& report);
 // Full repaints at random positions, compared with the list view and with the bare drawing primitives.

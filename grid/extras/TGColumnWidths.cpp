@@ -19,6 +19,9 @@ namespace
 // As for every column.
 constexpr long WidestFit = 65535;
 
+// What is free between a text and the next column.
+constexpr long Air = 3;
+
 CPoint HeaderPoint(LPARAM lParam)
 {
     return CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
@@ -60,7 +63,7 @@ long TGColumnWidths::WidthOfCell(TGGridCell& cell) const
         return 0;
     CFont* const font = look.font != nullptr ? look.font : GetGrid()->GetFont();
     const long beside = cell.GetCol().GetWidth() - GetTextPlace(cell, look).Width();
-    return ruler->Measure(whole, look.format, font).cx + beside;
+    return ruler->Measure(whole, look.format, font).cx + beside + Air;
 }
 
 long TGColumnWidths::WidthOfCaption(TGGridCol& col) const
@@ -71,7 +74,7 @@ long TGColumnWidths::WidthOfCaption(TGGridCol& col) const
         return 0;
     CFont* const font = look.font != nullptr ? look.font : GetGrid()->GetFont();
     const long beside = col.GetWidth() - GetTextPlace(col, look).Width();
-    return ruler->Measure(whole, look.format, font).cx + beside;
+    return ruler->Measure(whole, look.format, font).cx + beside + Air;
 }
 
 long TGColumnWidths::WidestVisible(long col) const

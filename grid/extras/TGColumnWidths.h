@@ -45,8 +45,8 @@ public:
     void SetDoubleClickCells(Cells what) { doubleClickCells = what; }
     Cells GetDoubleClickCells() const { return doubleClickCells; }
 
-    // The width at which nothing in a column is cut, in pixels; at least the row height. -1 for a column that
-    // there is not.
+    // The width at which nothing in a column is cut, and a little is free, in pixels; at least the row
+    // height. -1 for a column that there is not.
     long GetFitWidth(long col, Cells what = Cells::Visible) const;
     // Gives a column this width; see TGGridCol::SetWidth. False, changing nothing, for a column that there is
     // not.

@@ -5,6 +5,7 @@
 #include "ListPage.h"
 #include "PictureWriter.h"
 #include "PropertiesPage.h"
+#include "SheetPage.h"
 #include "TreeGridPage.h"
 #include "TreePage.h"
 #include "TreeRowsPage.h"
@@ -91,6 +92,7 @@ void MainDialog::MakePages()
     AddPage(std::make_unique<GridPage>(log));
     AddPage(std::make_unique<TreeRowsPage>(log));
     AddPage(std::make_unique<TreeGridPage>(log));
+    AddPage(std::make_unique<SheetPage>(log));
     AddPage(std::make_unique<PropertiesPage>(log));
     AddPage(std::make_unique<TreePage>(log));
     AddPage(std::make_unique<ListPage>(log));

@@ -206,6 +206,38 @@ TEST_F(Gallery, StatusLine_SaysWhereTheUserIsAndHowMuchThereIs)
     EXPECT_TRUE(WaitUntil([&] { return part(1) == selected; }));
 }
 
+TEST_F(Gallery, Sheet_GoesFromCellToCell_AndMakesRowsUntilItIsStopped)
+{
+    const auto shows = [this](WPARAM index, const wchar_t* text) {
+        return WaitUntil([&] {
+            return LOWORD(::SendMessageW(Item(IDC_STATUS), SB_GETTEXTLENGTHW, index, 0)) == wcslen(text);
+        });
+    };
+    const HWND list = Item(IDC_PAGES);
+    const LRESULT sheet =
+        ::SendMessageW(list, LB_FINDSTRINGEXACT, WPARAM(-1), reinterpret_cast<LPARAM>(L"Sheet"));
+    ASSERT_GE(sheet, 0);
+    ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(sheet), 0);
+    ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDC_PAGES, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+    ASSERT_TRUE(shows(2, L"118 rows, 12 columns"));
+    EXPECT_TRUE(shows(0, L"Row 1, column 1"));
+    ASSERT_TRUE(MoveFocus(VK_F6));
+    ASSERT_EQ(FocusOf(window), ::GetDlgItem(Page(), IDC_GRID));
+    for (int i = 0; i < 9; ++i)
+        PressKey(VK_DOWN);
+    EXPECT_TRUE(shows(0, L"Row 10, column 1"));
+    ::PostMessageW(Page(), WM_COMMAND, IDC_SHEET_MILLION, 0);
+    HWND box = nullptr;
+    ASSERT_TRUE(WaitUntil([&] {
+        box = ::GetLastActivePopup(window);
+        return box != window && ::IsWindowVisible(box) && ::GetDlgItem(box, IDCANCEL) != nullptr;
+    }));
+    ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
+    ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    ASSERT_TRUE(WaitUntil([&] { return std::stol(TextOf(::GetDlgItem(Page(), IDC_BANNER))) >= 1000; }));
+    EXPECT_TRUE(shows(0, L"Row 1, column 1")) << "the cursor is in the new rows";
+}
+
 TEST_F(Gallery, BelowItsSmallestContents_Scrolls_AndShowsWhatHasTheFocus)
 {
     const auto hasBars = [this] {

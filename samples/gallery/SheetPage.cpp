@@ -1,0 +1,212 @@
+// The page with the library's extras.
+#include "SheetPage.h"
+
+#include "GridFill.h"
+#include "Language.h"
+#include "LogPane.h"
+#include "resource.h"
+
+#include <algorithm>
+
+using QuorUiCtr::TGAlign;
+using QuorUiCtr::TGCellFormat;
+using QuorUiCtr::TGColumnFormat;
+using QuorUiCtr::TGColumnWidths;
+using QuorUiCtr::TGEllipsis;
+using QuorUiCtr::TGGridCell;
+using QuorUiCtr::TGValueKind;
+
+namespace
+{
+
+constexpr long MillionRows = 1000000;
+
+constexpr long WidestColumn = 220;
+
+// How a column of the elements is shown, by its caption.
+struct ElementFormat
+{
+    const wchar_t* caption;
+    TGColumnFormat format;
+};
+
+const ElementFormat ElementFormats[] = {
+    {L"Atomic number", {.kind = TGValueKind::Number}},
+    {L"Symbol", {.align = TGAlign::Center, .bold = true}},
+    {L"Atomic mass", {.kind = TGValueKind::Number, .decimals = 3}},
+    {L"Period", {.align = TGAlign::Center}},
+    {L"Group", {.align = TGAlign::Center}},
+    {L"Discovered", {.kind = TGValueKind::Number, .grouping = false}},
+    {L"Discoverers and notes", {.ellipsis = TGEllipsis::End}},
+};
+
+// The columns of the million rows.
+const ElementFormat RowFormats[] = {
+    {L"Row", {.kind = TGValueKind::Number}},
+    {L"Value", {.kind = TGValueKind::Number, .decimals = 2}},
+    {L"Share", {.kind = TGValueKind::Percent, .decimals = 1}},
+    {L"Done", {.checkBox = true}},
+};
+
+// Gases are light blue, liquids light yellow.
+void ColourState(const TGGridCell& cell, TGCellFormat& format)
+{
+    if (cell.GetText() == L"Gas")
+        format.backColor = RGB(225, 240, 255);
+    else if (cell.GetText() == L"Liquid")
+        format.backColor = RGB(255, 250, 205);
+}
+
+CString NumberText(long number)
+{
+    CString text;
+    text.Format(L"%ld", number);
+    return text;
+}
+
+// Values that look like some.
+void FillMillionth(QuorUiCtr::TGGridRow& row, long number)
+{
+    const long value = number * 7919 % 1000003;
+    row[0].SetText(NumberText(number + 1));
+    row[1].SetText(NumberText(value / 100) + L"." + NumberText(value % 100 / 10));
+    row[2].SetText(L"0." + NumberText(value % 1000));
+    if (number % 3 == 0)
+        row[3].SetText(L"1");
+}
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(SheetPage, TablePage)
+    ON_BN_CLICKED(IDC_SHEET_ELEMENTS, &SheetPage::OnElements)
+    ON_BN_CLICKED(IDC_SHEET_MILLION, &SheetPage::OnMillionRows)
+    ON_BN_CLICKED(IDC_SHEET_FIT, &SheetPage::OnFitColumns)
+END_MESSAGE_MAP()
+
+SheetPage::SheetPage(LogPane& logPane) : TablePage(IDD_SHEET_PAGE, logPane, grid) {}
+
+CString SheetPage::GetTitle() const
+{
+    return Tr(L"Sheet");
+}
+
+UINT SheetPage::GetSourceId() const
+{
+    return IDR_SOURCE_SHEET;
+}
+
+BOOL SheetPage::OnInitDialog()
+{
+    TablePage::OnInitDialog();
+    formats.SetFullLines(true);
+    OnElements();
+    return TRUE;
+}
+
+void SheetPage::OnElements()
+{
+    const gallery::CsvTable table = gallery::ReadCsvFile(ShippedTablePath(L"elements").GetString());
+    if (table.IsRefused())
+    {
+        SetBanner(table.errors.front().c_str());
+        return;
+    }
+    {
+        const QuorUiCtr::TGGridUpdate update(grid);
+        grid.Clear();
+        MakeColumns(grid, table);
+        for (const gallery::CsvRow& texts : table.rows)
+        {
+            grid.AppendRow(nullptr);
+            FillRow(grid.GetRow(grid.GetRowNum() - 1), texts);
+        }
+        AddKnownColumn();
+        FormatElements();
+        OnFitColumns();
+    }
+    CString summary;
+    summary.Format(Tr(L"%d elements"), static_cast<int>(table.rows.size()));
+    SetBanner(summary);
+    cursor.MoveTo(0, 0);
+    grid.SetModify(false);
+}
+
+// What antiquity knew is known.
+void SheetPage::AddKnownColumn()
+{
+    grid.InsertCol(0, Tr(L"Known"), 0);
+    for (long row = 0; row < grid.GetRowNum(); ++row)
+        for (long col = 1; col < grid.GetColNum(); ++col)
+            if (grid.GetCell(row, col).GetText() == L"antiquity")
+                grid.GetCell(row, 0).SetText(L"1");
+}
+
+void SheetPage::FormatElements()
+{
+    for (long col = 0; col < grid.GetColNum(); ++col)
+    {
+        grid.GetCol(col).SetCenterAlign(false);
+        for (const ElementFormat& element : ElementFormats)
+            if (grid.GetCol(col).GetName() == element.caption)
+                formats.SetFormat(col, element.format);
+    }
+    formats.SetFormat(0, {.checkBox = true});
+    formats.SetRule(ColourState);
+}
+
+// A progress box lets the user stop; what is there then stays.
+void SheetPage::OnMillionRows()
+{
+    constexpr long RowsBetweenReports = 2000;
+    ProgressBox progress(*AfxGetMainWnd(), Tr(L"Making a million rows"));
+    const QuorUiCtr::TGGridUpdate update(grid);
+    grid.Clear();
+    grid.SetColNum(0);
+    formats.SetRule(nullptr);
+    for (const ElementFormat& column : RowFormats)
+    {
+        grid.AppendCol(column.caption, 0);
+        formats.SetFormat(grid.GetColNum() - 1, column.format);
+    }
+    for (long row = 0; row < MillionRows; row += RowsBetweenReports)
+    {
+        if (!progress.Report(static_cast<double>(row) / MillionRows))
+            break;
+        grid.SetRowNum(row + RowsBetweenReports);
+        for (long i = row; i < row + RowsBetweenReports; ++i)
+            FillMillionth(grid.GetRow(i), i);
+    }
+    CString summary;
+    summary.Format(Tr(L"%ld rows"), grid.GetRowNum());
+    SetBanner(summary);
+    cursor.MoveTo(0, 0);
+    grid.SetModify(false);
+}
+
+// No column needs the whole window.
+void SheetPage::OnFitColumns()
+{
+    const QuorUiCtr::TGGridUpdate update(grid);
+    for (long col = 0; col < grid.GetColNum(); ++col)
+        grid.GetCol(col).SetWidth(
+            (std::min)(widths.GetFitWidth(col, TGColumnWidths::Cells::All), WidestColumn));
+}
+
+Page::Status SheetPage::GetStatus()
+{
+    Status status = TablePage::GetStatus();
+    if (cursor.GetRow() >= 0)
+        status.position.Format(Tr(L"Row %ld, column %ld"), cursor.GetRow() + 1, cursor.GetCol() + 1);
+    return status;
+}
+
+bool SheetPage::ShowPictureView(size_t view, CString& nameSuffix)
+{
+    grid.CancelEditCell();
+    if (view == 1)
+    {
+        nameSuffix = L"-range";
+        cursor.SelectRange({2, 1, 6, 4});
+    }
+    return view < 2;
+}

@@ -1,0 +1,44 @@
+// SheetPage: the page with a grid that has the library's extras: the chemical elements, or a million rows.
+#pragma once
+
+#include "ProgressBox.h"
+#include "TableFile.h"
+#include "TablePage.h"
+
+#include "grid/extras/TGCellCursor.h"
+#include "grid/extras/TGColumnFormats.h"
+#include "grid/extras/TGColumnWidths.h"
+#include "grid/extras/TGTextTips.h"
+
+class SheetPage : public TablePage
+{
+public:
+    explicit SheetPage(LogPane& log);
+
+    CString GetTitle() const override;
+    CString GetPictureName() const override { return L"sheet"; }
+    UINT GetSourceId() const override;
+    // The page, then a range of cells.
+    bool ShowPictureView(size_t view, CString& nameSuffix) override;
+    // The current cell.
+    Status GetStatus() override;
+
+protected:
+    BOOL OnInitDialog() override;
+
+    DECLARE_MESSAGE_MAP()
+    afx_msg void OnElements();
+    afx_msg void OnMillionRows();
+    afx_msg void OnFitColumns();
+
+private:
+    void AddKnownColumn();
+    void FormatElements();
+
+    // The extras go before the grid.
+    QuorUiCtr::TGGrid grid;
+    QuorUiCtr::TGCellCursor cursor{grid};
+    QuorUiCtr::TGColumnFormats formats{grid};
+    QuorUiCtr::TGColumnWidths widths{grid};
+    QuorUiCtr::TGTextTips tips{grid};
+};

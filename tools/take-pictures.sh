@@ -62,6 +62,7 @@ caption_font() {
 # At the left without the flag, at the right with it.
 take_style_pictures() {
     local prefix=$work/prefix bitmap name
+    "$quor_root/tools/build.sh" mingw-release QuorUiCtrl QuorFxMain gallery
     cmake --install "$quor_build/mingw-release" --strip --prefix "$prefix" >"$work/log"
     cmake -G Ninja -S "$quor_root/tools/docs/samples" -B "$work/build" \
         --toolchain "$prefix/lib/cmake/QuorUiCtrl/mingw-w64.cmake" >"$work/log"
@@ -80,6 +81,7 @@ take_style_pictures() {
 main() {
     local part
     refuse_options "$@"
+    "$quor_root/tools/setup.sh"
     [[ $# -gt 0 ]] || set -- gallery styles
     rm -rf "$work"
     mkdir -p "$work"

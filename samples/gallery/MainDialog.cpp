@@ -192,9 +192,11 @@ bool MainDialog::WritePictures(const CString& folder)
         {
             UpdateWindow();
             DrainMessages();
-            // There is no idle time between pictures.
+            // There is no idle time between pictures, and what is drawn reaches the screen with the next look
+            // for messages.
             ShowStatus();
             statusBar.UpdateWindow();
+            DrainMessages();
             const CString name = pages[index]->GetPictureName() + suffix + L".bmp";
             written = WriteWindowPicture(*this, folder + L"\\" + name) && written;
         }

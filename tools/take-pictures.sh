@@ -16,13 +16,13 @@ work=$quor_build/pictures
 
 # The pages of the gallery that the documents show.
 declare -A pages=([grid]=grid-list-open [tree-rows]=tree-rows-edit [tree-grid]=tree-grid-pasted [tree-drag]=tree-drag-item
-    [properties]=properties-unfolded [list]=list-lines)
+    [properties]=properties-unfolded [list]=list-lines [sheet]=sheet-range)
 
 # The parts of the overview, from the left to the right and down: the page, where its control shows most, what it is.
 overview=(
     'grid-list-open     +322+81  TGGrid: tables that people fill in'
-    'tree-grid-pasted   +156+118 TGTreeGrid: groups and items with numbers'
-    'tree-rows-edit     +156+81  TGGrid with rows that fold'
+    'sheet-range        +156+81  Extensions: cursor, formats, check boxes'
+    'tree-grid-pasted   +156+113 TGTreeGrid: groups and items with numbers'
     'tree-drag-item     +156+81  CTreeCtrlDrag: items are dragged'
     'properties-list    +412+48  CMFCPropertyGridCtrlEx: settings by title'
     'list-lines         +156+81  CGridListCtrl: a list, edited in place'

@@ -770,6 +770,10 @@ private:
 
     // What hosts have attached, see TGGridExtension; null without any.
     GridExtensions* extensions = nullptr;
+
+    // The open editor has gone along with its cell, and where it stands from the cell's corner.
+    bool editorMoved = false;
+    CSize editorInset;
 };
 
 } // namespace QuorUiCtr

@@ -242,7 +242,7 @@ protected:
     // The cell at an index, also on the new-row line, without moving the row cursor; null where there is
     // none.
     TGGridCell* FindCell(long row, long col) const;
-    // The row at an index, likewise; null for the new-row line.
+    // The row at an index; null for the new-row line.
     TGGridRow* FindRow(long row) const;
     // The rectangle of a cell, also on the new-row line, and of a block of cells, in logical coordinates;
     // empty for indices that there are not.
@@ -252,6 +252,9 @@ protected:
     void InvalidateLogical(const CRect& rect) const;
     // Scrolls as little as needed to show a rectangle. Ends an open edit when anything moves.
     void ShowLogical(const CRect& rect) const;
+    // MoveView(dx, dy), which ends an open edit; or, with `keepEditor`, one that leaves the editor open, with
+    // what was typed into it: it goes along with its cell and shows what of it lies in view.
+    void ScrollBy(int dx, int dy, bool keepEditor) const;
     // The part of the content that is in view, in logical coordinates.
     CRect GetView() const;
     // The new-row line is shown below the rows.

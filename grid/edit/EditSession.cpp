@@ -112,6 +112,7 @@ void TGGrid::EditSession::OpenEditor(TGGridCell& cell)
         return;
     grid.ShowRect(rect);
     grid.editCell = &cell;
+    grid.editorMoved = false;
     rect.DeflateRect(1, 1, 0, 0);
     SkipFoldBox(cell, rect);
     grid.dc->LPtoDP(rect);

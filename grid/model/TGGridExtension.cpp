@@ -168,6 +168,16 @@ void TGGridExtension::ShowLogical(const CRect& rect) const
     extendedGrid->ShowRect(rect);
 }
 
+void TGGridExtension::ScrollBy(int dx, int dy, bool keepEditor) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGGrid& scrolled = *extendedGrid;
+    if (!keepEditor || !scrolled.IsEditing() || scrolled.layoutPending)
+        scrolled.MoveView(dx, dy);
+    else if (scrolled.GetSafeHwnd() != nullptr)
+        TGGrid::Layout(scrolled).ScrollView(dx, dy, TGGrid::Layout::OpenEditor::Keep);
+}
+
 CRect TGGridExtension::GetView() const
 {
     ASSERT(extendedGrid != nullptr);

@@ -29,8 +29,14 @@ public:
     // Scrolling (Scrolling.cpp).
     // What of the content is in view, in logical coordinates.
     CRect ViewRect();
+    // What becomes of an open editor.
+    enum class OpenEditor
+    {
+        Commit,
+        Keep
+    };
     // MoveView with the layout up to date; may run hooks.
-    void ScrollView(int dx, int dy);
+    void ScrollView(int dx, int dy, OpenEditor outcome = OpenEditor::Commit);
     // The position of a bar, 0 while it is not shown. Setting it leaves contents and picture as they are and
     // returns whether it was another one.
     int BarPosition(int bar) const;
@@ -47,6 +53,8 @@ public:
     void FinishBars();
 
 private:
+    void NoteEditorPlace();
+    void MoveEditor();
     static void CALLBACK OnFrame(HWND window, UINT message, UINT_PTR timer, DWORD time);
     UINT_PTR FrameTimer() const;
     void PlaceHeaders();

@@ -2,6 +2,7 @@
 #include "grid/window/GridLayout.h"
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridLimits.h"
+#include "grid/TGCellCtrl.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGRowSelector.h"
 #include "rules/GridGeometry.h"
@@ -36,7 +37,7 @@ void TGGrid::MoveView(int dx, int dy)
     Layout(*this).ScrollView(dx, dy);
 }
 
-void TGGrid::Layout::ScrollView(int dx, int dy)
+void TGGrid::Layout::ScrollView(int dx, int dy, OpenEditor outcome)
 {
     const int hPosition = BarPosition(SB_HORZ);
     const int vPosition = BarPosition(SB_VERT);
@@ -50,6 +51,9 @@ void TGGrid::Layout::ScrollView(int dx, int dy)
         dy = ClampScroll(vPosition, dy, grid.GetBottom() - area.Height());
     if (dx == 0 && dy == 0)
         return;
+    const bool keepsEditor = outcome == OpenEditor::Keep && grid.IsEditing();
+    if (keepsEditor)
+        NoteEditorPlace();
     if (SetBarPosition(SB_HORZ, hPosition + dx))
         RepaintBarSoon(SB_HORZ);
     if (SetBarPosition(SB_VERT, vPosition + dy))
@@ -58,13 +62,58 @@ void TGGrid::Layout::ScrollView(int dx, int dy)
     grid.PrepareDC(nullptr);
     // What the end of an edit draws stands where it is to be after the scrolling already.
     const bool drawn = grid.IsEditing();
-    if (drawn)
+    if (drawn && !keepsEditor)
         grid.EndEditCell();
     ScrollContents(dx, dy);
+    if (keepsEditor)
+        MoveEditor();
     if (drawn)
         grid.Invalidate(0);
     if (grid.extensions != nullptr)
         grid.extensions->Tell(GridExtensions::Scrolled);
+}
+
+// Where the editor has put itself. Once it has been moved it need not stand where it should: places of
+// windows have 16 bits.
+void TGGrid::Layout::NoteEditorPlace()
+{
+    CWnd* const editor = grid.cellCtrl != nullptr ? grid.cellCtrl->GetWnd() : nullptr;
+    if (grid.editorMoved || editor->GetSafeHwnd() == nullptr || grid.dc == nullptr)
+        return;
+    CRect cell;
+    grid.editCell->GetRect(cell);
+    grid.dc->LPtoDP(&cell);
+    CRect place;
+    editor->GetWindowRect(&place);
+    grid.ScreenToClient(&place);
+    grid.editorInset = place.TopLeft() - cell.TopLeft();
+    grid.editorMoved = true;
+}
+
+// Brings the editor over its cell, and cuts off what lies beside the data area.
+void TGGrid::Layout::MoveEditor()
+{
+    CWnd* const editor = grid.cellCtrl != nullptr ? grid.cellCtrl->GetWnd() : nullptr;
+    if (!grid.editorMoved || editor->GetSafeHwnd() == nullptr || grid.dc == nullptr)
+        return;
+    CRect cell;
+    grid.editCell->GetRect(cell);
+    grid.dc->LPtoDP(&cell);
+    CRect place;
+    editor->GetWindowRect(&place);
+    place.OffsetRect(cell.TopLeft() + grid.editorInset - place.TopLeft());
+    CRect area;
+    grid.GetClientRect(&area);
+    CRect seen;
+    seen.IntersectRect(&place, &area);
+    HRGN shape = nullptr;
+    if (seen != place)
+        shape = ::CreateRectRgn(seen.left - place.left, seen.top - place.top, seen.right - place.left,
+                                seen.bottom - place.top);
+    // The window owns its shape from now on.
+    editor->SetWindowRgn(shape, FALSE);
+    editor->SetWindowPos(nullptr, place.left, place.top, 0, 0, SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
+    editor->Invalidate(TRUE);
 }
 
 // The data area scrolls by itself, so that the header windows and an editor stay where they are.

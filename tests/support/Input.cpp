@@ -160,6 +160,17 @@ void TurnWheel(HWND window, POINT point, int notches)
     PumpPending();
 }
 
+void TurnWheelBy(HWND window, POINT point, int amount, Wheel wheel, Modifiers modifiers)
+{
+    MoveMouse(window, point);
+    HoldModifiers(modifiers, 0);
+    PumpPending();
+    SendMouseInput(wheel == Wheel::Vertical ? MOUSEEVENTF_WHEEL : MOUSEEVENTF_HWHEEL, amount);
+    PumpPending();
+    HoldModifiers(modifiers, KEYEVENTF_KEYUP);
+    PumpPending();
+}
+
 void DragPath(HWND window, const std::vector<POINT>& path, Button button)
 {
     PressMouse(window, path.front(), button);

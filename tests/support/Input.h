@@ -50,6 +50,15 @@ void DoubleClick(HWND window, POINT point);
 void RightClick(HWND window, POINT point);
 // Positive notches turn away from the user (scroll up).
 void TurnWheel(HWND window, POINT point, int notches);
+// Turns by any amount, WHEEL_DELTA a notch, also the horizontal wheel, where positive amounts are to the
+// right.
+enum class Wheel
+{
+    Vertical,
+    Horizontal
+};
+void TurnWheelBy(HWND window, POINT point, int amount, Wheel wheel = Wheel::Vertical,
+                 Modifiers modifiers = Modifiers::None);
 // Presses at the first point, moves through the others, releases at the last.
 void DragPath(HWND window, const std::vector<POINT>& path, Button button = Button::Left);
 

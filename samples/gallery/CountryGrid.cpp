@@ -1,7 +1,6 @@
 // The tree grid of countries.
 #include "CountryGrid.h"
 
-#include "GridFill.h"
 #include "Language.h"
 
 #include <utility>
@@ -41,10 +40,6 @@ CString NumberText(const std::wstring& text)
 }
 
 } // namespace
-
-BEGIN_MESSAGE_MAP(CountryGrid, QuorUiCtr::TGTreeGrid)
-    ON_WM_MOUSEWHEEL()
-END_MESSAGE_MAP()
 
 CountryGrid::CountryGrid(LogPane& logPane, std::function<void()> whenChanged)
     : HookRecorder(true), log(logPane), changed(std::move(whenChanged))
@@ -205,10 +200,4 @@ void CountryGrid::OnEndPaste()
 void CountryGrid::OnEndMoveRow()
 {
     NoteRepairs(L"OnEndMoveRow", [&] { HookRecorder::OnEndMoveRow(); });
-}
-
-BOOL CountryGrid::OnMouseWheel(UINT, short delta, CPoint)
-{
-    ScrollByWheel(*this, delta);
-    return TRUE;
 }

@@ -4,6 +4,7 @@
 #include "CsvReader.h"
 #include "HookLog.h"
 
+#include "grid/extras/TGWheelScroll.h"
 #include "grid/TGTreeGrid.h"
 #include "samples/recording/HookRecorder.h"
 
@@ -41,9 +42,6 @@ protected:
     void OnEndPaste() override;
     void OnEndMoveRow() override;
 
-    DECLARE_MESSAGE_MAP()
-    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
-
 private:
     using Numbers = std::map<Row*, CString>;
 
@@ -54,6 +52,7 @@ private:
     // Runs `repair` and logs what it has changed.
     template <class Repair> void NoteRepairs(const wchar_t* hook, Repair repair);
 
+    QuorUiCtr::TGWheelScroll wheel{*this};
     mutable HookLog log;
     std::function<void()> changed;
 };

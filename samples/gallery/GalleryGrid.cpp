@@ -3,7 +3,6 @@
 
 #include "CellTextDialog.h"
 #include "ColumnEditors.h"
-#include "GridFill.h"
 #include "Language.h"
 
 #include <cwchar>
@@ -31,7 +30,6 @@ bool IsNumberIn(const CString& text, int lower, int upper)
 
 BEGIN_MESSAGE_MAP(GalleryGrid, QuorUiCtr::TGGrid)
     ON_WM_PAINT()
-    ON_WM_MOUSEWHEEL()
 END_MESSAGE_MAP()
 
 GalleryGrid::GalleryGrid(bool tree, LogPane& logPane) : HookRecorder(tree), log(logPane) {}
@@ -46,12 +44,6 @@ void GalleryGrid::OnPaint()
 {
     HookRecorder::OnPaint();
     log.EndPainting();
-}
-
-BOOL GalleryGrid::OnMouseWheel(UINT, short delta, CPoint)
-{
-    ScrollByWheel(*this, delta);
-    return TRUE;
 }
 
 // ---- Editing

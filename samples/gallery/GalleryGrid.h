@@ -3,6 +3,7 @@
 
 #include "HookLog.h"
 
+#include "grid/extras/TGWheelScroll.h"
 #include "samples/recording/HookRecorder.h"
 
 // Takes the data of its editors from the cells, and what they are from the columns.
@@ -38,9 +39,9 @@ protected:
 
     DECLARE_MESSAGE_MAP()
     afx_msg void OnPaint();
-    afx_msg BOOL OnMouseWheel(UINT flags, short delta, CPoint point);
 
 private:
+    QuorUiCtr::TGWheelScroll wheel{*this};
     // Tips are asked for by constant operations.
     mutable HookLog log;
 };

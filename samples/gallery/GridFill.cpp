@@ -56,9 +56,3 @@ void FillRow(QuorUiCtr::TGGridRow& row, const std::vector<std::wstring>& texts)
     for (size_t column = 0; column < texts.size(); ++column)
         row[static_cast<long>(column)].SetText(OnOneLine(texts[column]));
 }
-
-void ScrollByWheel(QuorUiCtr::TGGrid& grid, short delta)
-{
-    constexpr long RowsPerNotch = 3;
-    grid.MoveView(0, static_cast<int>(-delta * RowsPerNotch * grid.GetRowHeight() / WHEEL_DELTA));
-}

@@ -11,7 +11,3 @@ void MakeColumns(QuorUiCtr::TGGrid& grid, const gallery::CsvTable& table);
 
 // Stores the texts of `texts` in the cells of `row`.
 void FillRow(QuorUiCtr::TGGridRow& row, const std::vector<std::wstring>& texts);
-
-// Scrolls three rows for each notch of the mouse wheel. For hosts that want the wheel to scroll: the grid
-// itself answers it with a track of its scroll bar, which stays where the user has left it.
-void ScrollByWheel(QuorUiCtr::TGGrid& grid, short delta);

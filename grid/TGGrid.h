@@ -672,6 +672,7 @@ private:
     class Pointer;
     class RowBuffer;
     class Selecting;
+    class SortingScope;
     class Structure;
 
     // Move the selected rows in front of the row `to`, the selected columns, which form the run from `first`

@@ -242,6 +242,8 @@ protected:
     // The cell at an index, also on the new-row line, without moving the row cursor; null where there is
     // none.
     TGGridCell* FindCell(long row, long col) const;
+    // The cell of a row, shown or not, in a column; null where there is none.
+    static TGGridCell* CellOf(TGGridRow& row, long col);
     // The row at an index; null for the new-row line.
     TGGridRow* FindRow(long row) const;
     // The rectangle of a cell, also on the new-row line, and of a block of cells, in logical coordinates;

@@ -95,7 +95,7 @@ void TGGrid::ClearSel()
 
 void TGGrid::TellSelected()
 {
-    if (extensions != nullptr)
+    if (extensions != nullptr && !extensions->HoldsSelection())
         extensions->Tell(GridExtensions::Selected);
 }
 

@@ -3,6 +3,7 @@
 
 #include "grid/edit/CellWatch.h"
 #include "grid/model/GridStructure.h"
+#include "grid/model/RowPlaces.h"
 
 #include <algorithm>
 
@@ -124,19 +125,16 @@ bool GridExtensions::AskTip(TGGridPlace place, long row, long col, CString& text
     return Each([&](TGGridExtension& extension) { return extension.OnTip(place, row, col, text); });
 }
 
-bool GridExtensions::AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows, bool ascending)
+std::optional<std::vector<long>> GridExtensions::AskOrder(TGGridTreeRow* parent,
+                                                          std::vector<TGGridRow*>& rows, bool ascending)
 {
     std::vector<TGGridRow*> wanted = rows;
     if (!Each([&](TGGridExtension& extension) { return extension.OnSort(parent, wanted, ascending); }))
-        return false;
-    std::vector<TGGridRow*> known = rows;
-    std::vector<TGGridRow*> given = wanted;
-    std::sort(known.begin(), known.end());
-    std::sort(given.begin(), given.end());
-    if (known != given)
-        return false;
-    rows = std::move(wanted);
-    return true;
+        return std::nullopt;
+    std::optional<std::vector<long>> order = RowPlaces(rows).OrderOf(wanted);
+    if (order)
+        rows = std::move(wanted);
+    return order;
 }
 
 // ---- Changes

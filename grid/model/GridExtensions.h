@@ -3,6 +3,7 @@
 
 #include "grid/TGGridExtension.h"
 
+#include <optional>
 #include <utility>
 
 namespace QuorUiCtr
@@ -29,8 +30,30 @@ public:
     // Whether an extension refuses an edit or has done it itself.
     bool AskEdit(TGGridCell& cell, TGEditWay way);
     bool FindCurrentCell(long& row, long& col);
-    // Puts rows into the order that an extension wants; false when none does.
-    bool AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows, bool ascending);
+    // Puts rows into the order that an extension wants and returns where each has stood; nothing when none
+    // wants one.
+    std::optional<std::vector<long>> AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows,
+                                              bool ascending);
+
+    // From one to the other, selections are not told; the second returns whether one is to be told now.
+    void BeginSorting() { ++sortings; }
+    bool EndSorting()
+    {
+        sortings -= sortings > 0 ? 1 : 0;
+        return sortings == 0 && std::exchange(selectionWaits, false);
+    }
+    // Whether a selection waits for the end of a sorting.
+    bool HoldsSelection()
+    {
+        selectionWaits = selectionWaits || sortings > 0;
+        return sortings > 0;
+    }
+    // The row that is being folded or unfolded without being told of; null for none.
+    void SetUntold(const TGGridTreeRow* row) { untold = row; }
+    bool IsUntold(std::span<TGGridTreeRow* const> changed) const
+    {
+        return untold != nullptr && changed.size() == 1 && changed.front() == untold;
+    }
 
     // Whether a row or the tree that it belongs to stands in the grid.
     bool IsInGrid(TGGridRow& row) const;
@@ -106,6 +129,9 @@ private:
     int calls = 0;
     // Somebody has come who is to be called before others.
     bool reordering = false;
+    int sortings = 0;
+    bool selectionWaits = false;
+    const TGGridTreeRow* untold = nullptr;
     bool closing = false;
 };
 

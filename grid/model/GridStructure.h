@@ -133,6 +133,8 @@ private:
     template <class Row> void SortLevel(PDList<Row>& level, TGGridTreeRow* parent, bool ascending);
     void SortBelow(TGGridTreeRow& row, bool ascending);
     void SortExtended(bool ascending);
+    // Folds a row, or unfolds it, of which extensions are not told.
+    static void FoldUntold(TGGrid& grid, TGGridTreeRow& row, bool folded);
     static bool StandsBelow(TGGridTreeRow& child, TGGridTreeRow& parent);
     // The columns to sort by.
     const List<long>& SortKeys() const;

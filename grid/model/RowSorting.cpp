@@ -3,6 +3,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/MakeOrNull.h"
+#include "grid/model/RowPlaces.h"
 #include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
 
@@ -14,7 +15,6 @@
 #include <functional>
 #include <optional>
 #include <span>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
@@ -28,13 +28,17 @@ namespace
 class FoldedRoots
 {
 public:
-    FoldedRoots(TGGrid& grid, PDList<TGGridRow>& rows)
+    // `fold` folds or unfolds a row, which it does with its hooks.
+    using FoldRow = void (*)(TGGrid& grid, TGGridTreeRow& row, bool folded);
+
+    FoldedRoots(TGGrid& sortedGrid, PDList<TGGridRow>& rows, FoldRow foldRow)
+        : grid(sortedGrid), fold(foldRow)
     {
         for (TGGridTreeRow* root : Unfolded(rows))
             roots.emplace_back(grid, root);
         for (Root& root : roots)
             if (root.watch.IsAlive())
-                root.row->Fold();
+                fold(grid, *root.row, true);
     }
     ~FoldedRoots()
     {
@@ -57,7 +61,7 @@ public:
         return found;
     }
     // One more to unfold.
-    void Add(TGGrid& grid, TGGridTreeRow& root) { roots.emplace_back(grid, &root); }
+    void Add(TGGridTreeRow& root) { roots.emplace_back(grid, &root); }
     void UnFold()
     {
         while (!roots.empty())
@@ -67,7 +71,7 @@ public:
 private:
     struct Root
     {
-        Root(TGGrid& grid, TGGridTreeRow* root) : row(root), watch(grid, root) {}
+        Root(TGGrid& sortedGrid, TGGridTreeRow* root) : row(root), watch(sortedGrid, root) {}
 
         TGGridTreeRow* row;
         RowWatch watch;
@@ -78,25 +82,15 @@ private:
         TGGridTreeRow* const root = roots.front().watch.IsAlive() ? roots.front().row : nullptr;
         roots.pop_front();
         if (root != nullptr)
-            root->UnFold();
+            fold(grid, *root, false);
     }
+
+    TGGrid& grid;
+    FoldRow fold;
 
     // Watches stay where they are made.
     std::deque<Root> roots;
 };
-
-// Where each of the rows `after` stood among `before`, which are the same.
-std::vector<long> OrderOf(const std::vector<TGGridRow*>& before, const std::vector<TGGridRow*>& after)
-{
-    std::unordered_map<const TGGridRow*, long> places;
-    for (std::size_t i = 0; i < before.size(); ++i)
-        places.emplace(before[i], static_cast<long>(i));
-    std::vector<long> order;
-    order.reserve(after.size());
-    for (const TGGridRow* row : after)
-        order.push_back(places[row]);
-    return order;
-}
 
 // A row and its text in the main key's column. The first characters stand side by side, so that most
 // comparisons are of two numbers, which lie where the sorting looks for them.
@@ -202,9 +196,41 @@ std::vector<long> IndicesOf(std::vector<const TGGridRow*> wanted, PDList<TGGridR
 
 } // namespace
 
+// Trees fold while they are sorted and take the selection with them, which is all put back: extensions, which
+// keep their rows, hear of a selection when it is done.
+class TGGrid::SortingScope
+{
+public:
+    explicit SortingScope(TGGrid& sortedGrid) : grid(sortedGrid)
+    {
+        if (grid.extensions != nullptr)
+            grid.extensions->BeginSorting();
+    }
+    ~SortingScope() { Leave(); }
+    SortingScope(const SortingScope&) = delete;
+    SortingScope& operator=(const SortingScope&) = delete;
+
+    void End()
+    {
+        if (Leave())
+            grid.TellSelected();
+    }
+
+private:
+    // Whether there is a selection to be told of.
+    bool Leave()
+    {
+        return !std::exchange(left, true) && grid.extensions != nullptr && grid.extensions->EndSorting();
+    }
+
+    TGGrid& grid;
+    bool left = false;
+};
+
 void TGGrid::Arrange(bool ascending)
 {
     EndEditCell();
+    SortingScope sorting(*this);
     {
         TGGridUpdate update(*this);
         // Folding and unfolding run hooks, which may choose another current row or delete this one.
@@ -219,7 +245,20 @@ void TGGrid::Arrange(bool ascending)
             SetCurRowIndex(currentWatch.IsAlive() ? current->GetIndex() : -1);
         RecalcLayout(1);
     }
+    sorting.End();
     OnDataChanged();
+}
+
+void TGGrid::Structure::FoldUntold(TGGrid& grid, TGGridTreeRow& row, bool folded)
+{
+    if (grid.extensions != nullptr)
+        grid.extensions->SetUntold(&row);
+    if (folded)
+        row.Fold();
+    else
+        row.UnFold();
+    if (grid.extensions != nullptr)
+        grid.extensions->SetUntold(nullptr);
 }
 
 const List<long>& TGGrid::Structure::SortKeys() const
@@ -274,11 +313,11 @@ void TGGrid::Structure::SortRows(bool ascending)
         grid.rows.MoveTo(-1);
         return;
     }
-    FoldedRoots folded(grid, grid.rows);
+    FoldedRoots folded(grid, grid.rows, FoldUntold);
     // What hooks have unfolded meanwhile must not be sorted among the roots.
     for (TGGridTreeRow* root : FoldedRoots::Unfolded(grid.rows))
     {
-        folded.Add(grid, *root);
+        folded.Add(*root);
         RemoveOffspring(*root);
     }
     SortList(grid.rows, ascending);
@@ -296,15 +335,21 @@ void TGGrid::Structure::SortLevel(PDList<Row>& level, TGGridTreeRow* parent, boo
 {
     const std::vector<TGGridRow*> before(level.begin(), level.end());
     std::vector<TGGridRow*> wanted = before;
-    if (grid.extensions != nullptr && grid.extensions->AskOrder(parent, wanted, ascending))
+    std::optional<std::vector<long>> order;
+    if (grid.extensions != nullptr)
+        order = grid.extensions->AskOrder(parent, wanted, ascending);
+    if (order)
     {
         auto next = wanted.begin();
         for (Row*& slot : level)
             slot = static_cast<Row*>(*next++);
     }
     else
+    {
         level.Sort(ascending);
-    sorted.push_back({parent, OrderOf(before, std::vector<TGGridRow*>(level.begin(), level.end()))});
+        order = RowPlaces(before).OrderOf(std::vector<TGGridRow*>(level.begin(), level.end()));
+    }
+    sorted.push_back({parent, std::move(*order)});
 }
 
 void TGGrid::Structure::SortBelow(TGGridTreeRow& row, bool ascending)
@@ -323,7 +368,7 @@ void TGGrid::Structure::SortExtended(bool ascending)
     {
         std::optional<FoldedRoots> folded;
         if (grid.treeGrid)
-            folded.emplace(grid, grid.rows);
+            folded.emplace(grid, grid.rows, FoldUntold);
         SortLevel(grid.rows, nullptr, ascending);
         NumberRows(0);
         for (TGGridRow* row : grid.rows)

@@ -350,7 +350,7 @@ void TGGrid::Structure::TellChildren(TGGridTreeRow& parent, long position,
 
 void TGGrid::Structure::TellFolded(std::span<TGGridTreeRow* const> changed)
 {
-    if (grid.extensions == nullptr)
+    if (grid.extensions == nullptr || grid.extensions->IsUntold(changed))
         return;
     std::vector<TGGridTreeRow*> parents;
     for (TGGridTreeRow* row : changed)

@@ -119,6 +119,11 @@ TGGridRow* TGGridExtension::FindRow(long row) const
     return extendedGrid->RowAtIndex(row);
 }
 
+TGGridCell* TGGridExtension::CellOf(TGGridRow& row, long col)
+{
+    return row.FindCell(col);
+}
+
 TGGridCell* TGGridExtension::FindCell(long row, long col) const
 {
     ASSERT(extendedGrid != nullptr);

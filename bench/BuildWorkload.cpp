@@ -3,9 +3,12 @@
 #include "Subjects.h"
 #include "Workloads.h"
 
+#include "grid/extras/TGHeaderSort.h"
+
 #include <algorithm>
 #include <numeric>
 #include <random>
+#include <string>
 #include <vector>
 
 namespace bench
@@ -96,6 +99,14 @@ public:
         for (grid.Grid().MoveToFirst(); !grid.Grid().IsOut(); grid.Grid().MoveToNext())
             grid.Grid().CurRow()[0].SetText(CellText(*number++));
     }
+    // Texts that are numbers of up to six digits, in another order.
+    void ShuffleNumbers()
+    {
+        std::shuffle(numbers.begin(), numbers.end(), random);
+        auto number = numbers.begin();
+        for (grid.Grid().MoveToFirst(); !grid.Grid().IsOut(); grid.Grid().MoveToNext())
+            grid.Grid().CurRow()[0].SetText(std::to_wstring(*number++).c_str());
+    }
     void SortIndices()
     {
         std::iota(order.begin(), order.end(), size_t{0});
@@ -115,6 +126,7 @@ private:
     std::vector<long> numbers;
     RawTable table;
     std::vector<size_t> order;
+    std::mt19937 random{7};
 };
 
 void SortRows(Report& report, Host& host, long rows)
@@ -133,6 +145,27 @@ void SortRows(Report& report, Host& host, long rows)
         {"sort random texts", rows, random[0], "index sort of the texts", random[1], LimitFor(rows, 0.5)});
     report.Add({"sort again", rows, again[0], isSorted ? "check in that order" : "NOT SORTED", again[1],
                 LimitFor(rows, 1.2)});
+}
+
+// As a click on the header sorts numbers, against the grid's own sorting of the same texts.
+void SortNumbers(Report& report, Host& host, long rows)
+{
+    double ordinal = 0;
+    double numbers = 0;
+    {
+        GridSubject grid(&host);
+        SortedTexts texts(grid, rows);
+        ordinal = ShortestMs([&] { grid.Grid().Arrange(true); }, [&] { texts.ShuffleNumbers(); });
+    }
+    {
+        GridSubject grid(&host);
+        SortedTexts texts(grid, rows);
+        QuorUiCtr::TGHeaderSort sorting(grid.Grid());
+        sorting.SetComparison(0, QuorUiCtr::TGSortBy::Number);
+        numbers = ShortestMs([&] { sorting.Sort({{0, true}}); }, [&] { texts.ShuffleNumbers(); });
+    }
+    report.Add({"sort by header as numbers", rows, numbers, "ordinal sort of the same", ordinal,
+                LimitFor(rows, 1.5)});
 }
 
 void AppendColumns(Report& report, Host& host, int columns)
@@ -189,7 +222,10 @@ void RunSort(Report& report)
 {
     Host host;
     for (const long rows : {1000L, 100000L})
+    {
         SortRows(report, host, rows);
+        SortNumbers(report, host, rows);
+    }
 }
 
 void RunColumns(Report& report)

@@ -5,8 +5,8 @@
 cmake_minimum_required(VERSION 3.25)
 set(families grid treedrag propgrid controls)
 
-# Headers that no class needs but hosts use: identifiers of the resources and of the cell editors.
-set(pending module/resource.h grid/TGCellCtrlIds.h)
+# Headers that no class needs but hosts use: identifiers of the resources and of the cell editors, the texts.
+set(pending module/resource.h module/QuorTexts.h grid/TGCellCtrlIds.h)
 foreach(family IN LISTS families)
     file(GLOB_RECURSE headers RELATIVE ${QUOR_SOURCE_DIR} ${QUOR_SOURCE_DIR}/${family}/*.h)
     foreach(header IN LISTS headers)

@@ -1,6 +1,7 @@
 // Commands on the selected item, names and the editing of labels.
 #include "treedrag/CTreeCtrlDrag.h"
 
+#include "module/QuorTexts.h"
 #include "treedrag/TreeWatch.h"
 #include "rules/TreeDragRules.h"
 
@@ -12,12 +13,6 @@ namespace QuorUiCtr
 
 namespace
 {
-
-constexpr const wchar_t* NewFolderName = L"New Folder";
-constexpr const wchar_t* DeleteQuestion = L"You have chosen to delete a folder.  Please confirm you want to "
-                                          L"delete this folder and all items in it?";
-constexpr const wchar_t* InvalidNameText =
-    L"Invalid name - an item with the same name already exists in this location.";
 
 // A function key's code stands beside the letter's: both cut.
 constexpr WPARAM CutKeys[] = {0x58, 0x78};
@@ -115,7 +110,8 @@ HTREEITEM CTreeCtrlDrag::InsertFolder()
         parent = ParentOrRoot(selected);
         after = selected;
     }
-    const std::wstring name = FreeFolderName(NewFolderName, [&](const std::wstring& candidate) {
+    const CString newFolder = QuorTexts::Get(QuorText::TreeNewFolder);
+    const std::wstring name = FreeFolderName(newFolder.GetString(), [&](const std::wstring& candidate) {
         return !noDuplicates || IsUniqueNameOnThisLevel(candidate.c_str(), nullptr, parent);
     });
     return InsertItem(TVIF_TEXT | TVIF_IMAGE | TVIF_SELECTEDIMAGE, name.c_str(), 0, 0, 0, 0, 0, parent,
@@ -136,7 +132,8 @@ void CTreeCtrlDrag::DeleteSelected()
     if (selected == nullptr)
         return;
     TreeWatch watch(newestWatch);
-    if (ItemHasChildren(selected) && AfxMessageBox(DeleteQuestion, MB_YESNO) != IDYES)
+    if (ItemHasChildren(selected) &&
+        AfxMessageBox(QuorTexts::Get(QuorText::TreeDeleteQuestion), MB_YESNO) != IDYES)
         return;
     if (!watch.IsGone(selected))
         ReportDeletion(selected);
@@ -214,7 +211,7 @@ void CTreeCtrlDrag::RefuseLabel(HTREEITEM item)
 {
     const bool isEditEnding = endedEdit != nullptr;
     TreeWatch watch(newestWatch);
-    AfxMessageBox(InvalidNameText, MB_ICONEXCLAMATION);
+    AfxMessageBox(QuorTexts::Get(QuorText::TreeInvalidName), MB_ICONEXCLAMATION);
     if (watch.IsGone(item))
         return;
     if (isEditEnding)

@@ -1,6 +1,7 @@
 // Moving items: the drop of a drag, one place up or down, the copy of a subtree.
 #include "treedrag/CTreeCtrlDrag.h"
 
+#include "module/QuorTexts.h"
 #include "treedrag/TreeWatch.h"
 
 #include <cwchar>
@@ -42,9 +43,6 @@ constexpr UINT AllStates = 0xFFFF;
 
 // Texts shorter than this are copied without another question.
 constexpr int ShortText = 260;
-
-constexpr const wchar_t* InvalidMoveText =
-    L"Invalid move - an item with the same name has been found in the destination location.";
 
 } // namespace
 
@@ -290,7 +288,7 @@ bool CTreeCtrlDrag::IsMoveAllowed(HTREEITEM newParent)
         return true;
     if (IsUniqueNameOnThisLevel(GetItemText(dragItem), dragItem, newParent))
         return true;
-    AfxMessageBox(InvalidMoveText, MB_ICONEXCLAMATION);
+    AfxMessageBox(QuorTexts::Get(QuorText::TreeInvalidMove), MB_ICONEXCLAMATION);
     return false;
 }
 

@@ -2,6 +2,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGGrid.h"
+#include "module/QuorTexts.h"
 
 #include <algorithm>
 #include <iterator>
@@ -28,25 +29,28 @@ enum CommandId : UINT
 struct MenuEntry
 {
     CommandId id;
-    const wchar_t* caption;
+    QuorText caption;
     void (*run)(TGGrid& grid);
 };
 
-constexpr MenuEntry InsertRowEntry{InsertRowCommand, L"插入行(Ins)",
+constexpr MenuEntry InsertRowEntry{InsertRowCommand, QuorText::MenuInsertRow,
                                    [](TGGrid& grid) { grid.DoInsertRow(); }};
-constexpr MenuEntry DeleteRowsEntry{DeleteRowsCommand, L"删除(Del)", [](TGGrid& grid) { grid.DoDelete(); }};
-constexpr MenuEntry DeleteRowEntry{DeleteRowsCommand, L"删除行(Del)", DeleteRowsEntry.run};
-constexpr MenuEntry AppendRowEntry{AppendRowCommand, L"新建行(N)",
+constexpr MenuEntry DeleteRowsEntry{DeleteRowsCommand, QuorText::MenuDelete,
+                                    [](TGGrid& grid) { grid.DoDelete(); }};
+constexpr MenuEntry DeleteRowEntry{DeleteRowsCommand, QuorText::MenuDeleteRow, DeleteRowsEntry.run};
+constexpr MenuEntry AppendRowEntry{AppendRowCommand, QuorText::MenuAppendRow,
                                    [](TGGrid& grid) { grid.DoAppendRow(true); }};
-constexpr MenuEntry SelectAllEntry{SelectAllCommand, L"全选(A)", [](TGGrid& grid) { grid.SelectAll(); }};
-constexpr MenuEntry CopyEntry{CopyCommand, L"复制(C)", [](TGGrid& grid) { grid.DoCopy(); }};
-constexpr MenuEntry CutEntry{CutCommand, L"剪切(X)", [](TGGrid& grid) { grid.DoClip(); }};
-constexpr MenuEntry PasteEntry{PasteCommand, L"粘贴(V)", [](TGGrid& grid) { grid.DoPaste(); }};
-constexpr MenuEntry InsertColEntry{InsertColCommand, L"插入列(Ins)",
+constexpr MenuEntry SelectAllEntry{SelectAllCommand, QuorText::MenuSelectAll,
+                                   [](TGGrid& grid) { grid.SelectAll(); }};
+constexpr MenuEntry CopyEntry{CopyCommand, QuorText::MenuCopy, [](TGGrid& grid) { grid.DoCopy(); }};
+constexpr MenuEntry CutEntry{CutCommand, QuorText::MenuCut, [](TGGrid& grid) { grid.DoClip(); }};
+constexpr MenuEntry PasteEntry{PasteCommand, QuorText::MenuPaste, [](TGGrid& grid) { grid.DoPaste(); }};
+constexpr MenuEntry InsertColEntry{InsertColCommand, QuorText::MenuInsertCol,
                                    [](TGGrid& grid) { grid.DoInsertCol(); }};
-constexpr MenuEntry DeleteColsEntry{DeleteColsCommand, L"删除(Del)", DeleteRowsEntry.run};
-constexpr MenuEntry DeleteColEntry{DeleteColsCommand, L"删除列(Del)", DeleteRowsEntry.run};
-constexpr MenuEntry AppendColEntry{AppendColCommand, L"新建列(N)", [](TGGrid& grid) { grid.DoAppendCol(); }};
+constexpr MenuEntry DeleteColsEntry{DeleteColsCommand, QuorText::MenuDelete, DeleteRowsEntry.run};
+constexpr MenuEntry DeleteColEntry{DeleteColsCommand, QuorText::MenuDeleteCol, DeleteRowsEntry.run};
+constexpr MenuEntry AppendColEntry{AppendColCommand, QuorText::MenuAppendCol,
+                                   [](TGGrid& grid) { grid.DoAppendCol(); }};
 
 // One entry for each command.
 constexpr MenuEntry MenuCommands[] = {InsertRowEntry,  DeleteRowsEntry, AppendRowEntry, SelectAllEntry,
@@ -58,7 +62,7 @@ struct ContextMenu
 {
     ContextMenu() { menu.CreatePopupMenu(); }
 
-    void Add(const MenuEntry& entry) { menu.AppendMenu(MF_STRING, entry.id, entry.caption); }
+    void Add(const MenuEntry& entry) { menu.AppendMenu(MF_STRING, entry.id, QuorTexts::Get(entry.caption)); }
     void AddBufferEntries(bool canPaste)
     {
         Add(CopyEntry);

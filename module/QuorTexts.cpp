@@ -1,0 +1,122 @@
+// The texts of the library: their resources in each language, and what hosts have put in their place.
+#include "module/QuorTexts.h"
+
+#include "module/resource.h"
+
+#include <iterator>
+#include <map>
+#include <mutex>
+
+namespace QuorUiCtr
+{
+namespace
+{
+
+constexpr WORD ChineseTexts = MAKELANGID(LANG_CHINESE, SUBLANG_CHINESE_SIMPLIFIED);
+constexpr WORD EnglishTexts = MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US);
+
+struct TextResource
+{
+    QuorText text;
+    UINT id;
+    // While no language is chosen.
+    WORD usual;
+};
+
+// In the order of QuorText.
+constexpr TextResource TextResources[] = {
+    {QuorText::MenuInsertRow, IDS_MENU_INSERT_ROW, ChineseTexts},
+    {QuorText::MenuDeleteRow, IDS_MENU_DELETE_ROW, ChineseTexts},
+    {QuorText::MenuDelete, IDS_MENU_DELETE, ChineseTexts},
+    {QuorText::MenuAppendRow, IDS_MENU_APPEND_ROW, ChineseTexts},
+    {QuorText::MenuSelectAll, IDS_MENU_SELECT_ALL, ChineseTexts},
+    {QuorText::MenuCopy, IDS_MENU_COPY, ChineseTexts},
+    {QuorText::MenuCut, IDS_MENU_CUT, ChineseTexts},
+    {QuorText::MenuPaste, IDS_MENU_PASTE, ChineseTexts},
+    {QuorText::MenuInsertCol, IDS_MENU_INSERT_COL, ChineseTexts},
+    {QuorText::MenuDeleteCol, IDS_MENU_DELETE_COL, ChineseTexts},
+    {QuorText::MenuAppendCol, IDS_MENU_APPEND_COL, ChineseTexts},
+    {QuorText::TreeNewFolder, IDS_TREE_NEW_FOLDER, EnglishTexts},
+    {QuorText::TreeDeleteQuestion, IDS_TREE_DELETE_QUESTION, EnglishTexts},
+    {QuorText::TreeInvalidMove, IDS_TREE_INVALID_MOVE, EnglishTexts},
+    {QuorText::TreeInvalidName, IDS_TREE_INVALID_NAME, EnglishTexts},
+    {QuorText::BusyCancel, IDS_BUSY_CANCEL, ChineseTexts},
+};
+
+// What the process has chosen, under the lock.
+std::mutex textsLock;
+QuorLanguage chosenLanguage = QuorLanguage::Default;
+std::map<QuorText, CString> replacedTexts;
+
+const TextResource* ResourceOf(QuorText text)
+{
+    const auto place = static_cast<std::size_t>(text);
+    return place < std::size(TextResources) ? &TextResources[place] : nullptr;
+}
+
+// The module of this code: a host's strings of the same numbers are other ones.
+HINSTANCE OwnModule()
+{
+    HMODULE own = nullptr;
+    ::GetModuleHandleEx(GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+                        reinterpret_cast<const wchar_t*>(&chosenLanguage), &own);
+    return own;
+}
+
+WORD LanguageOf(const TextResource& resource, QuorLanguage language)
+{
+    switch (language)
+    {
+    case QuorLanguage::Chinese:
+        return ChineseTexts;
+    case QuorLanguage::English:
+        return EnglishTexts;
+    default:
+        return resource.usual;
+    }
+}
+
+} // namespace
+
+void QuorTexts::SetLanguage(QuorLanguage language)
+{
+    const bool isKnown = language == QuorLanguage::Chinese || language == QuorLanguage::English;
+    const std::lock_guard lock(textsLock);
+    chosenLanguage = isKnown ? language : QuorLanguage::Default;
+}
+
+QuorLanguage QuorTexts::GetLanguage()
+{
+    const std::lock_guard lock(textsLock);
+    return chosenLanguage;
+}
+
+void QuorTexts::Replace(QuorText text, const wchar_t* words)
+{
+    if (ResourceOf(text) == nullptr)
+        return;
+    const std::lock_guard lock(textsLock);
+    if (words != nullptr)
+        replacedTexts[text] = words;
+    else
+        replacedTexts.erase(text);
+}
+
+CString QuorTexts::Get(QuorText text)
+{
+    const TextResource* const resource = ResourceOf(text);
+    if (resource == nullptr)
+        return CString();
+    QuorLanguage language = QuorLanguage::Default;
+    {
+        const std::lock_guard lock(textsLock);
+        if (const auto replaced = replacedTexts.find(text); replaced != replacedTexts.end())
+            return CString(replaced->second.GetString());
+        language = chosenLanguage;
+    }
+    CString loaded;
+    loaded.LoadString(OwnModule(), resource->id, LanguageOf(*resource, language));
+    return loaded;
+}
+
+} // namespace QuorUiCtr

@@ -3,6 +3,8 @@
 
 #include "LanguageTexts.h"
 
+#include "module/QuorTexts.h"
+
 namespace
 {
 
@@ -31,6 +33,9 @@ Language CurrentLanguage()
 void SetLanguage(Language chosen)
 {
     language = chosen;
+    // The menus of the grids and the words of the drag tree, too.
+    QuorUiCtr::QuorTexts::SetLanguage(chosen == Language::Chinese ? QuorUiCtr::QuorLanguage::Chinese
+                                                                  : QuorUiCtr::QuorLanguage::English);
 }
 
 Language SystemLanguage()

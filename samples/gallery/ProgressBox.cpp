@@ -35,6 +35,9 @@ ProgressBox::~ProgressBox()
     // First, so that no other program's window comes to the front.
     owner.EnableWindow(TRUE);
     DestroyWindow();
+    // The program's loop takes the last message pumped here for its own, and one that changes nothing brings
+    // no idle time, in which the status line is written.
+    owner.PostMessage(WM_NULL);
 }
 
 void ProgressBox::DoDataExchange(CDataExchange* exchange)

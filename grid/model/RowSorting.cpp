@@ -274,8 +274,8 @@ TGGrid::Structure::Order TGGrid::Structure::SortByKeys(std::vector<TGGridRow*>& 
     const auto nulls = std::stable_partition(order.begin(), order.end(),
                                              [](const TGGridRow* row) { return row != nullptr; });
     const std::span<TGGridRow* const> present(order.begin(), nulls);
-    // Each step from a row to its text waits for memory when there are many rows. Made for all rows before the
-    // next step, these waits overlap.
+    // Each step from a row to its text waits for memory when there are many rows. Made for all rows before
+    // the next step, these waits overlap.
     std::vector<const TGGridCell*> cells;
     if (!keys.IsEmpty())
         for (TGGridRow* row : present)

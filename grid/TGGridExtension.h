@@ -114,10 +114,10 @@ private:
 // of a change when it is done. Hooks and messages are the same with and without extensions, but for those of
 // painting: with one attached a selected band is painted anew instead of inverted in place.
 //
-// What an operation may do: in OnPreTranslate, OnMessage and OnAttach anything that a host may do, also close
-// the window of the grid. While the grid draws, asks for an order or tells of a change, anything but to
-// change its rows and columns; texts may be changed, and the window may be closed. The grid object must not
-// be deleted from within.
+// What an operation may do: in OnPreTranslate, OnMessage, OnEdit and OnAttach anything that a host may do,
+// also close the window of the grid. While the grid draws, asks for an order or tells of a change, anything
+// but to change its rows and columns; texts may be changed, and the window may be closed. The grid object
+// must not be deleted from within.
 class QUOR_EXT_CLASS TGGridExtension
 {
 public:
@@ -227,7 +227,7 @@ protected:
     // The cell that keys are for. True: this extension has one and says which.
     virtual bool OnCurrentCell(long& row, long& col) const;
     // A row object of the grid is being deleted, wherever it was: what was kept under its address is
-    // nobody's. It cannot be asked for anything any more.
+    // nobody's. It cannot be asked for anything any more, and nothing may be done with the grid.
     virtual void OnRowDeleted(const TGGridRow* row);
 
     // ---- What extensions need of the grid

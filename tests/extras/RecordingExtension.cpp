@@ -115,6 +115,12 @@ void RecordingExtension::OnMenu(TGGridPlace, CMenu&)
     Act("menu");
 }
 
+bool RecordingExtension::OnEdit(Cell&, TGEditWay)
+{
+    Act("edit");
+    return false;
+}
+
 bool RecordingExtension::OnSort(TreeRow*, std::span<Row*>, bool)
 {
     Act("sort");

@@ -16,7 +16,7 @@ namespace quor::test
 // One line for each change, such as "inserted p 2: a b" (below p, at position 2, two rows with these first
 // texts; "-" for the first level), "text 1,2: old -> new", "sorted -: 2 0 1". Layouts and scrolling are
 // written when `writesViews` is set. An action runs behind its line, under the first word of the line; of
-// what draws and asks under "message", "pretranslate", "look", "content", "overlay", "caption look",
+// what draws and asks under "edit", "message", "pretranslate", "look", "content", "overlay", "caption look",
 // "caption", "tip", "menu" and "sort".
 class RecordingExtension : public QuorUiCtr::TGGridExtension
 {
@@ -32,10 +32,13 @@ public:
     // The log as one text, lines joined by " | ", and empties it.
     std::string Take();
 
+    using TGGridExtension::FindCurrentCell;
     using TGGridExtension::FirstMenuId;
     using TGGridExtension::GetBlockRect;
     using TGGridExtension::GetCellRect;
     using TGGridExtension::GetEditorWindow;
+    using TGGridExtension::GetLook;
+    using TGGridExtension::GetTextPlace;
     using TGGridExtension::GetView;
     using TGGridExtension::HasNewRowLine;
     using TGGridExtension::InvalidateLogical;
@@ -82,6 +85,7 @@ protected:
     void OnSelected() override;
     void OnLaidOut() override;
     void OnScrolled() override;
+    bool OnEdit(Cell& cell, QuorUiCtr::TGEditWay way) override;
 };
 
 } // namespace quor::test

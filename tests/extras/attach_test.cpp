@@ -230,7 +230,7 @@ std::vector<HostileCase> HostileCases()
          {"message",      "pretranslate", "look",     "content",  "overlay",         "caption look",
           "caption",      "tip",          "sort",     "text",     "inserted",        "removed",
           "moved",        "sorted",       "folded",   "column",   "removing column", "removed column",
-          "moved column", "resized",      "selected", "laid out", "scrolled"})
+          "moved column", "resized",      "selected", "laid out", "scrolled",        "edit"})
         for (const char* deed :
              {"detaches", "deletes itself", "detaches the other", "closes the window", "edits", "writes"})
             cases.push_back({call, deed});

@@ -82,8 +82,10 @@ bool TGColumnFormats::IsOnBox(CPoint point, long& row, long& col) const
     TGGridCell* const cell = FindRow(row) != nullptr ? FindCell(row, col) : nullptr;
     if (cell == nullptr || !IsBox(*cell))
         return false;
-    const CRect place = GetTextPlace(*cell, GetLook(*cell));
-    return BoxPlace(place, FindFormat(cell->GetCol())->align).PtInRect(ToLogical(point)) != FALSE;
+    const TGTextLook look = GetLook(*cell);
+    const TGColumnFormat* const format = GetGrid() != nullptr ? FindFormat(cell->GetCol()) : nullptr;
+    return format != nullptr &&
+           BoxPlace(GetTextPlace(*cell, look), format->align).PtInRect(ToLogical(point)) != FALSE;
 }
 
 // ---- Mouse and Space
@@ -150,9 +152,10 @@ bool TGColumnFormats::ToggleCell(TGGridCell& cell)
 bool TGColumnFormats::Toggle(long row, long col)
 {
     TGGridCell* const cell = GetGrid() != nullptr ? FindCell(row, col) : nullptr;
+    const std::weak_ptr<const int> alive = life;
     if (cell == nullptr || !ToggleCell(*cell))
         return false;
-    if (GetGrid() != nullptr)
+    if (!alive.expired() && GetGrid() != nullptr)
         TellDataChanged();
     return true;
 }
@@ -181,14 +184,17 @@ bool TGColumnFormats::ToggleSelected()
         return false;
     bool first = false;
     IsCheckBox(boxes.front().row, boxes.front().col, &first);
+    const std::weak_ptr<const int> alive = life;
     bool anyChanged = false;
     for (const Place& place : boxes)
     {
         bool checked = false;
+        if (alive.expired())
+            return true;
         if (IsCheckBox(place.row, place.col, &checked) && checked == first)
             anyChanged = ToggleCell(*FindCell(place.row, place.col)) || anyChanged;
     }
-    if (anyChanged && GetGrid() != nullptr)
+    if (!alive.expired() && anyChanged && GetGrid() != nullptr)
         TellDataChanged();
     return true;
 }

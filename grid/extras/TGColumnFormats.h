@@ -218,6 +218,8 @@ private:
     long plainSpace = 0;
     long raise = 0;
     bool raised = false;
+    // Goes with this object, which hooks may delete.
+    std::shared_ptr<const int> life = std::make_shared<const int>(0);
     // The check box under the button that is down; -1: none.
     long pressedRow = -1;
     long pressedCol = -1;

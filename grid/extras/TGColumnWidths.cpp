@@ -54,27 +54,30 @@ bool TGColumnWidths::IsCalledFirst() const
 
 // ---- Measuring
 
-// With what the cell has beside the text.
-long TGColumnWidths::WidthOfCell(TGGridCell& cell) const
+// With what is beside the text. Other extensions are asked, which may detach this one: there is no grid any
+// more afterwards.
+long TGColumnWidths::WidthOfText(const TGTextLook& look, const CRect& place, const TGGridCol& col) const
 {
-    const TGTextLook look = GetLook(cell);
     const CString& whole = look.wholeText.IsEmpty() ? look.text : look.wholeText;
     if (whole.IsEmpty())
         return 0;
     CFont* const font = look.font != nullptr ? look.font : GetGrid()->GetFont();
-    const long beside = cell.GetCol().GetWidth() - GetTextPlace(cell, look).Width();
-    return ruler->Measure(whole, look.format, font).cx + beside + Air;
+    return ruler->Measure(whole, look.format, font).cx + col.GetWidth() - place.Width() + Air;
+}
+
+long TGColumnWidths::WidthOfCell(long row, long col) const
+{
+    TGGridCell* const cell = GetGrid() != nullptr ? FindCell(row, col) : nullptr;
+    if (cell == nullptr)
+        return 0;
+    const TGTextLook look = GetLook(*cell);
+    return GetGrid() != nullptr ? WidthOfText(look, GetTextPlace(*cell, look), cell->GetCol()) : 0;
 }
 
 long TGColumnWidths::WidthOfCaption(TGGridCol& col) const
 {
     const TGTextLook look = GetLook(col);
-    const CString& whole = look.wholeText.IsEmpty() ? look.text : look.wholeText;
-    if (whole.IsEmpty())
-        return 0;
-    CFont* const font = look.font != nullptr ? look.font : GetGrid()->GetFont();
-    const long beside = col.GetWidth() - GetTextPlace(col, look).Width();
-    return ruler->Measure(whole, look.format, font).cx + beside + Air;
+    return GetGrid() != nullptr ? WidthOfText(look, GetTextPlace(col, look), col) : 0;
 }
 
 long TGColumnWidths::WidestVisible(long col) const
@@ -85,8 +88,7 @@ long TGColumnWidths::WidestVisible(long col) const
     const long last = (std::min)(view.bottom / grid.GetRowHeight(), grid.GetRowNum() - 1);
     long widest = 0;
     for (long row = first; row <= last; ++row)
-        if (TGGridCell* const cell = FindCell(row, col))
-            widest = (std::max)(widest, WidthOfCell(*cell));
+        widest = (std::max)(widest, WidthOfCell(row, col));
     return widest;
 }
 
@@ -109,8 +111,7 @@ long TGColumnWidths::WidestOfAll(long col) const
     }
     long widest = 0;
     for (const long row : widestTexts.Items())
-        if (TGGridCell* const cell = FindCell(row, col))
-            widest = (std::max)(widest, WidthOfCell(*cell));
+        widest = (std::max)(widest, WidthOfCell(row, col));
     return widest;
 }
 
@@ -119,14 +120,17 @@ long TGColumnWidths::GetFitWidth(long col, Cells what) const
     if (GetGrid() == nullptr || !GetGrid()->IsValidCol(col))
         return -1;
     TGGrid& grid = *GetGrid();
+    const long caption = WidthOfCaption(grid.GetCol(col));
+    if (GetGrid() == nullptr)
+        return -1;
     const long widest = what == Cells::All ? WidestOfAll(col) : WidestVisible(col);
-    return std::clamp((std::max)(widest, WidthOfCaption(grid.GetCol(col))), grid.GetRowHeight(), WidestFit);
+    return std::clamp((std::max)(widest, caption), grid.GetRowHeight(), WidestFit);
 }
 
 bool TGColumnWidths::FitCol(long col, Cells what)
 {
     const long width = GetFitWidth(col, what);
-    if (width < 0)
+    if (width < 0 || GetGrid() == nullptr)
         return false;
     GetGrid()->GetCol(col).SetWidth(width);
     return true;

@@ -65,7 +65,8 @@ private:
     static constexpr long Reach = 5;
 
     // Measuring.
-    long WidthOfCell(TGGridCell& cell) const;
+    long WidthOfText(const TGTextLook& look, const CRect& place, const TGGridCol& col) const;
+    long WidthOfCell(long row, long col) const;
     long WidthOfCaption(TGGridCol& col) const;
     long WidestVisible(long col) const;
     long WidestOfAll(long col) const;

@@ -118,14 +118,15 @@ bool TGTextTips::FindCutText(long row, long col, CutText& cut) const
     if (cell != nullptr)
     {
         const TGTextLook look = GetLook(*cell);
-        if (!IsCut(look, GetTextPlace(*cell, look), view, cut))
+        if (GetGrid() == nullptr || !IsCut(look, GetTextPlace(*cell, look), view, cut))
             return false;
         cut.place.OffsetRect(-origin.x, -origin.y);
         return true;
     }
     // The boxes of the header stand one pixel further right than the columns of the cells.
     const TGTextLook look = GetLook(grid.GetCol(col));
-    if (GetColHeader() == nullptr || !IsCut(look, GetTextPlace(grid.GetCol(col), look), view, cut))
+    if (GetGrid() == nullptr || GetColHeader() == nullptr ||
+        !IsCut(look, GetTextPlace(grid.GetCol(col), look), view, cut))
         return false;
     cut.place.OffsetRect(1 - origin.x, 0);
     return true;
@@ -228,8 +229,9 @@ bool TGTextTips::IsEdited() const
 void TGTextTips::Show()
 {
     CutText cut;
+    const std::weak_ptr<const int> alive = life;
     if (GetGrid() == nullptr || tip->m_hWnd == nullptr || under == nullptr || IsEdited() || HasOtherTip() ||
-        !FindCutText(overRow, overCol, cut))
+        alive.expired() || !FindCutText(overRow, overCol, cut))
         return;
     GetGrid()->ClientToScreen(&cut.place);
     const CRect area = WorkAreaAround(cut.place.TopLeft());

@@ -81,6 +81,8 @@ private:
     long overRow = -2;
     long overCol = -2;
     CString shown;
+    // Goes with this object, which hooks may delete.
+    std::shared_ptr<const int> life = std::make_shared<const int>(0);
 };
 
 } // namespace QuorUiCtr

@@ -4,6 +4,8 @@
 #include "tests/extras/ExtraGrid.h"
 
 #include <memory>
+#include <tuple>
+#include <utility>
 
 using namespace QuorUiCtr;
 
@@ -202,41 +204,60 @@ TEST_F(CheckBoxes, HooksRefuseAndChange)
     EXPECT_EQ(States(), "yes 0 0 0");
 }
 
-TEST_F(CheckBoxes, HooksDoTheirWorst)
+// What a hook does while a check box is turned over, by mouse or by Space.
+enum class Deed
 {
-    for (const char* hook : {"OnBeforeEdit", "OnModified", "OnDataChanged"})
-        for (const int deed : {0, 1, 2, 3})
-        {
-            EditGrid hostile;
-            TGColumnFormats formats;
-            EditTest::Make(hostile, 4, 3);
-            formats.AttachTo(hostile);
-            formats.SetFormat(1, {.checkBox = true});
-            for (long row = 0; row < 4; ++row)
-                hostile.GetCell(row, 1).SetText(L"0");
-            bool struck = false;
-            hostile.actions[hook] = [&] {
-                if (std::exchange(struck, true))
-                    return;
-                if (deed == 0)
-                    formats.Detach();
-                else if (deed == 1)
-                    hostile.DestroyWindow();
-                else if (deed == 2)
-                    hostile.DelRow(1);
-                else
-                    hostile.DelCol(1);
-            };
-            const CPoint box = hostile.InsideOf(1, 1).CenterPoint();
-            SendMouse(hostile, WM_LBUTTONDOWN, box, MK_LBUTTON);
-            SendMouse(hostile, WM_LBUTTONUP, box);
-            EXPECT_TRUE(struck) << hook << deed;
-            EXPECT_GE(hostile.GetRowNum(), 3);
-            hostile.actions.clear();
-            if (hostile.GetSafeHwnd() != nullptr)
-                hostile.DestroyWindow();
-        }
+    Detach,
+    DeleteExtra,
+    CloseWindow,
+    DeleteRow,
+    DeleteCol
+};
+
+class HostileHooks : public EditTest, public testing::WithParamInterface<std::tuple<const char*, Deed, bool>>
+{
+};
+
+TEST_P(HostileHooks, DoTheirWorst)
+{
+    const auto [hook, deed, byMouse] = GetParam();
+    EditGrid grid;
+    EditTest::Make(grid, 4, 3);
+    auto formats = std::make_unique<TGColumnFormats>(grid);
+    formats->SetFormat(1, {.checkBox = true});
+    for (long row = 0; row < 4; ++row)
+        grid.GetCell(row, 1).SetText(L"0");
+    for (const long row : {1L, 2L, 3L})
+        grid.SelectRow(row, true);
+    bool struck = false;
+    grid.actions[hook] = [&, what = deed] {
+        if (std::exchange(struck, true))
+            return;
+        if (what == Deed::Detach)
+            formats->Detach();
+        else if (what == Deed::DeleteExtra)
+            formats.reset();
+        else if (what == Deed::CloseWindow)
+            grid.DestroyWindow();
+        else if (what == Deed::DeleteRow)
+            grid.DelRow(1);
+        else
+            grid.DelCol(1);
+    };
+    const CPoint box = grid.InsideOf(1, 1).CenterPoint();
+    if (byMouse)
+        SendMouse(grid, WM_LBUTTONDOWN, box, MK_LBUTTON);
+    byMouse ? SendMouse(grid, WM_LBUTTONUP, box) : grid.SendMessage(WM_CHAR, L' ', 1);
+    EXPECT_TRUE(struck);
+    EXPECT_EQ(grid.GetRowNum(), deed == Deed::DeleteRow ? 3 : 4);
+    EXPECT_EQ(grid.GetColNum(), deed == Deed::DeleteCol ? 2 : 3);
 }
+
+INSTANTIATE_TEST_SUITE_P(, HostileHooks,
+                         testing::Combine(testing::Values("OnBeforeEdit", "OnModified", "OnDataChanged"),
+                                          testing::Values(Deed::Detach, Deed::DeleteExtra, Deed::CloseWindow,
+                                                          Deed::DeleteRow, Deed::DeleteCol),
+                                          testing::Bool()));
 
 } // namespace
 } // namespace quor::test

@@ -1,4 +1,7 @@
 // What extensions have to do with edits, with each other, and with where texts stand.
+#include "grid/extras/TGColumnFormats.h"
+#include "grid/extras/TGColumnWidths.h"
+#include "grid/extras/TGTextTips.h"
 #include "tests/extras/ExtraGrid.h"
 #include "tests/extras/RecordingExtension.h"
 
@@ -17,6 +20,7 @@ class SayingExtension : public RecordingExtension
 public:
     std::function<bool(Cell&, TGEditWay)> edit;
     std::function<void(TGTextLook&)> look;
+    std::function<void()> caption;
     std::function<void(Cell&, const CRect&)> content;
     std::function<void()> sorted;
     std::set<const Row*> deleted;
@@ -29,6 +33,11 @@ protected:
     {
         if (look)
             look(changed);
+    }
+    void OnCaptionLook(Col&, TGTextLook&) override
+    {
+        if (caption)
+            caption();
     }
     bool OnDrawContent(Cell& cell, CDC&, const CRect& place, const TGTextLook&) override
     {
@@ -155,6 +164,43 @@ TEST_F(EditingSeams, AnInset_MovesTheText)
     extra.look = [](TGTextLook& look) { look.inset = {10, -2, 0, 0}; };
     EXPECT_EQ(Ink(1, 1).left, plain.left + 10);
     EXPECT_EQ(Ink(1, 1).top, plain.top - 2);
+}
+
+// Who is asked how a text looks may detach who asks.
+TEST_F(EditingSeams, ExtrasThatLoseTheirGridWhileTheyAsk_GiveUp)
+{
+    Make();
+    TGColumnWidths widths;
+    TGTextTips tips;
+    TGColumnFormats formats;
+    const auto detachAll = [&] {
+        widths.Detach();
+        tips.Detach();
+        formats.Detach();
+    };
+    extra.look = [&](TGTextLook&) { detachAll(); };
+    extra.caption = detachAll;
+    for (const auto cells : {TGColumnWidths::Cells::Visible, TGColumnWidths::Cells::All})
+    {
+        widths.AttachTo(grid);
+        EXPECT_FALSE(widths.FitCol(0, cells));
+        EXPECT_EQ(grid.GetCol(0).GetWidth(), 100);
+    }
+    extra.caption = nullptr;
+    widths.AttachTo(grid);
+    EXPECT_FALSE(widths.FitCol(0));
+    for (const long row : {-1L, 0L})
+    {
+        tips.AttachTo(grid);
+        extra.caption = detachAll;
+        EXPECT_EQ(tips.GetTipText(row, 0), L"");
+        EXPECT_EQ(tips.GetGrid(), nullptr);
+    }
+    formats.AttachTo(grid);
+    formats.SetFormat(0, {.checkBox = true});
+    grid.GetCell(0, 0).SetText(L"1");
+    SendMouse(grid, WM_LBUTTONDOWN, grid.InsideOf(0, 0).CenterPoint(), MK_LBUTTON);
+    EXPECT_EQ(formats.GetGrid(), nullptr);
 }
 
 // What extensions are told of places is where texts are drawn.

@@ -66,6 +66,7 @@ constexpr Translation Texts[] = {
     {L"%d elements", L"%d 种元素"},
     {L"%ld rows", L"%ld 行"},
     {L"Making a million rows", L"正在生成一百万行"},
+    {L"No rows", L"没有行"},
     {L"F&old all", L"全部折叠(&O)"},
     {L"&Unfold all", L"全部展开(&U)"},
     {L"%s: %d rows", L"%s：%d 行"},

@@ -14,6 +14,7 @@ using QuorUiCtr::TGColumnFormat;
 using QuorUiCtr::TGColumnWidths;
 using QuorUiCtr::TGEllipsis;
 using QuorUiCtr::TGGridCell;
+using QuorUiCtr::TGSortBy;
 using QuorUiCtr::TGValueKind;
 
 namespace
@@ -23,29 +24,31 @@ constexpr long MillionRows = 1000000;
 
 constexpr long WidestColumn = 220;
 
-// How a column of the elements is shown, by its caption.
+// How a column is shown and sorted, by its caption.
 struct ElementFormat
 {
     const wchar_t* caption;
+    TGSortBy order;
     TGColumnFormat format;
 };
 
 const ElementFormat ElementFormats[] = {
-    {L"Atomic number", {.kind = TGValueKind::Number}},
-    {L"Symbol", {.align = TGAlign::Center, .bold = true}},
-    {L"Atomic mass", {.kind = TGValueKind::Number, .decimals = 3}},
-    {L"Period", {.align = TGAlign::Center}},
-    {L"Group", {.align = TGAlign::Center}},
-    {L"Discovered", {.kind = TGValueKind::Number, .grouping = false}},
-    {L"Discoverers and notes", {.ellipsis = TGEllipsis::End}},
+    {L"Atomic number", TGSortBy::Number, {.kind = TGValueKind::Number}},
+    {L"Symbol", TGSortBy::Locale, {.align = TGAlign::Center, .bold = true}},
+    {L"Name", TGSortBy::Locale, {}},
+    {L"Atomic mass", TGSortBy::Number, {.kind = TGValueKind::Number, .decimals = 3}},
+    {L"Period", TGSortBy::Number, {.align = TGAlign::Center}},
+    {L"Group", TGSortBy::Number, {.align = TGAlign::Center}},
+    {L"Discovered", TGSortBy::Number, {.kind = TGValueKind::Number, .grouping = false}},
+    {L"Discoverers and notes", TGSortBy::Locale, {.ellipsis = TGEllipsis::End}},
 };
 
 // The columns of the million rows.
 const ElementFormat RowFormats[] = {
-    {L"Row", {.kind = TGValueKind::Number}},
-    {L"Value", {.kind = TGValueKind::Number, .decimals = 2}},
-    {L"Share", {.kind = TGValueKind::Percent, .decimals = 1}},
-    {L"Done", {.checkBox = true}},
+    {L"Row", TGSortBy::Number, {.kind = TGValueKind::Number}},
+    {L"Value", TGSortBy::Number, {.kind = TGValueKind::Number, .decimals = 2}},
+    {L"Share", TGSortBy::Number, {.kind = TGValueKind::Percent, .decimals = 1}},
+    {L"Done", TGSortBy::Ordinal, {.checkBox = true}},
 };
 
 // Gases are light blue, liquids light yellow.
@@ -99,6 +102,7 @@ BOOL SheetPage::OnInitDialog()
 {
     TablePage::OnInitDialog();
     formats.SetFullLines(true);
+    empty.SetText(Tr(L"No rows"));
     OnElements();
     return TRUE;
 }
@@ -148,17 +152,31 @@ void SheetPage::FormatElements()
         grid.GetCol(col).SetCenterAlign(false);
         for (const ElementFormat& element : ElementFormats)
             if (grid.GetCol(col).GetName() == element.caption)
+            {
                 formats.SetFormat(col, element.format);
+                sort.SetComparison(col, element.order);
+            }
     }
     formats.SetFormat(0, {.checkBox = true});
     formats.SetRule(ColourState);
 }
 
-// A progress box lets the user stop; what is there then stays.
+// What is there when the user stops it stays.
 void SheetPage::OnMillionRows()
 {
-    constexpr long RowsBetweenReports = 2000;
-    ProgressBox progress(*AfxGetMainWnd(), Tr(L"Making a million rows"));
+    busy.Show(Tr(L"Making a million rows"), MillionRows);
+    MakeMillionRows();
+    busy.Hide();
+    CString summary;
+    summary.Format(Tr(L"%ld rows"), grid.GetRowNum());
+    SetBanner(summary);
+    cursor.MoveTo(0, 0);
+    grid.SetModify(false);
+}
+
+void SheetPage::MakeMillionRows()
+{
+    constexpr long RowsBetweenSteps = 2000;
     const QuorUiCtr::TGGridUpdate update(grid);
     grid.Clear();
     grid.SetColNum(0);
@@ -167,20 +185,14 @@ void SheetPage::OnMillionRows()
     {
         grid.AppendCol(column.caption, 0);
         formats.SetFormat(grid.GetColNum() - 1, column.format);
+        sort.SetComparison(grid.GetColNum() - 1, column.order);
     }
-    for (long row = 0; row < MillionRows; row += RowsBetweenReports)
+    for (long row = 0; row < MillionRows && busy.Step(row); row += RowsBetweenSteps)
     {
-        if (!progress.Report(static_cast<double>(row) / MillionRows))
-            break;
-        grid.SetRowNum(row + RowsBetweenReports);
-        for (long i = row; i < row + RowsBetweenReports; ++i)
+        grid.SetRowNum(row + RowsBetweenSteps);
+        for (long i = row; i < row + RowsBetweenSteps; ++i)
             FillMillionth(grid.GetRow(i), i);
     }
-    CString summary;
-    summary.Format(Tr(L"%ld rows"), grid.GetRowNum());
-    SetBanner(summary);
-    cursor.MoveTo(0, 0);
-    grid.SetModify(false);
 }
 
 // No column needs the whole window.

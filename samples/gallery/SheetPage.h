@@ -1,14 +1,17 @@
 // SheetPage: the page with a grid that has the library's extras: the chemical elements, or a million rows.
 #pragma once
 
-#include "ProgressBox.h"
 #include "TableFile.h"
 #include "TablePage.h"
 
+#include "grid/extras/TGBusyOverlay.h"
 #include "grid/extras/TGCellCursor.h"
 #include "grid/extras/TGColumnFormats.h"
 #include "grid/extras/TGColumnWidths.h"
+#include "grid/extras/TGEmptyText.h"
+#include "grid/extras/TGHeaderSort.h"
 #include "grid/extras/TGTextTips.h"
+#include "grid/extras/TGWheelScroll.h"
 
 class SheetPage : public TablePage
 {
@@ -34,6 +37,7 @@ protected:
 private:
     void AddKnownColumn();
     void FormatElements();
+    void MakeMillionRows();
 
     // The extras go before the grid.
     QuorUiCtr::TGGrid grid;
@@ -41,4 +45,8 @@ private:
     QuorUiCtr::TGColumnFormats formats{grid};
     QuorUiCtr::TGColumnWidths widths{grid};
     QuorUiCtr::TGTextTips tips{grid};
+    QuorUiCtr::TGWheelScroll wheel{grid};
+    QuorUiCtr::TGHeaderSort sort{grid};
+    QuorUiCtr::TGEmptyText empty{grid, nullptr};
+    QuorUiCtr::TGBusyOverlay busy{grid};
 };

@@ -278,5 +278,23 @@ TEST_F(TreeChanges, OfOrder_ComeForEachParent)
     EXPECT_EQ(Texts(grid), "b a y x");
 }
 
+// That trees fold while they are sorted is nobody's business, and a selection is told when it is back.
+TEST_F(TreeChanges, OfOrder_InUnfoldedTrees_AreTheOrderAndTheSelection)
+{
+    FillTree();
+    grid.GetTreeRow(0).UnFold();
+    grid.SelectRow(1, true);
+    grid.AppendKey(0);
+    extension.Take();
+    std::string seen;
+    extension.actions["selected"] = [&] { seen += Texts(grid) + (grid.IsRowSelected(3) ? " x" : ""); };
+    grid.Arrange(false);
+    EXPECT_EQ(extension.Take(), "sorted -: 1 0 | sorted a: 1 0 | selected");
+    EXPECT_EQ(Texts(grid), "b a y x");
+    EXPECT_EQ(seen, "b a y x x");
+    grid.UnSelect();
+    EXPECT_EQ(extension.Take(), "selected");
+}
+
 } // namespace
 } // namespace quor::test

@@ -3,6 +3,7 @@
 
 #include "tests/guard/Guard.h"
 #include "tests/support/GuiHandles.h"
+#include "tests/support/Rounds.h"
 
 using namespace QuorUiCtr;
 
@@ -83,7 +84,7 @@ protected:
     static int NumberOfEdits()
     {
         const char* asked = std::getenv("QUOR_SOAK_EDITS");
-        return asked ? (std::max)(1, std::atoi(asked)) : 1'000;
+        return asked ? (std::max)(1, std::atoi(asked)) : Rounds(1000);
     }
     static Residue Measure(EditGrid& grid)
     {

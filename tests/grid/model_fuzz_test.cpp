@@ -343,7 +343,7 @@ std::string Fuzzer::TreeStep()
 void RunFuzz(bool tree)
 {
 #ifdef _DEBUG
-    const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 20000);
+    const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 10000);
 #else
     const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 500000);
 #endif

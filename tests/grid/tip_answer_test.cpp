@@ -1,5 +1,6 @@
 // The tips of the grid's windows, as the platform formats them: with themselves, safe for every text.
 #include "tests/grid/WindowGrid.h"
+#include "tests/support/Rounds.h"
 
 #include <cstdlib>
 #include <random>
@@ -102,7 +103,7 @@ TEST_F(TipAnswer, AnyText_FitsItsBuffer)
     SCOPED_TRACE("seed " + std::to_string(seed));
     std::mt19937 random(seed);
     const std::wstring alphabet = L"%%%%%%%%0123456789.-+# *sSdiuxXcCpnlhIw6432|\u884C";
-    for (int i = 0; i < 20000; ++i)
+    for (int i = 0; i < Rounds(20000); ++i)
     {
         CString tip;
         for (unsigned length = random() % 80; length > 0; --length)

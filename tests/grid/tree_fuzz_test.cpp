@@ -377,7 +377,7 @@ std::string Fuzzer::OrderStep()
 void RunFuzz(bool hostRepairs)
 {
 #ifdef _DEBUG
-    const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 6000);
+    const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 3000);
 #else
     const long steps = FromEnvironment("QUOR_FUZZ_STEPS", 500000);
 #endif

@@ -1,5 +1,6 @@
 // The identifier services of the tree grid.
 #include "tests/grid/ItemGrid.h"
+#include "tests/support/Rounds.h"
 
 #include <gtest/gtest.h>
 
@@ -199,7 +200,7 @@ std::vector<std::string> IdTexts(const std::vector<TGGridRow*>& leaves)
 
 TEST(TreeIdentifiers, PastedLeavesGetWhatTheRuleGivesStepByStep)
 {
-    for (unsigned seed = 1; seed <= 300; ++seed)
+    for (unsigned seed = 1; seed <= static_cast<unsigned>(Rounds(300)); ++seed)
     {
         RandomTree tree(seed);
         ItemGrid grid;

@@ -2,6 +2,7 @@
 #include "tests/grid/WindowGrid.h"
 
 #include "tests/support/GuiHandles.h"
+#include "tests/support/Rounds.h"
 
 #include <memory>
 
@@ -333,7 +334,7 @@ TEST_F(GridWindow, ThousandsOfGrids_LeaveNothingBehind)
     for (int number = 0; number < 10; ++number)
         cycle(number);
     const GuiHandles before = CountGuiHandles();
-    for (int number = 0; number < 1000; ++number)
+    for (int number = 0; number < Rounds(1000); ++number)
         cycle(number);
     EXPECT_EQ("", Growth(before, CountGuiHandles()));
 }

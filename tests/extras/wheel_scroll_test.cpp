@@ -286,6 +286,8 @@ TEST_F(WheelEditor, HalfUnderAHeader_IsCutOff)
     EXPECT_EQ(View(), "0,30");
     ASSERT_TRUE(grid.IsEditing());
     ASSERT_LT(PlaceOf(*grid.EditorWindow()).top, header.bottom);
+    // What it draws last does not show there either.
+    grid.EditorWindow()->RedrawWindow();
     const Snapshot after(grid);
     for (int x = header.left; x < (std::min)(static_cast<int>(header.right), after.Width()); ++x)
         for (int y = header.top; y < header.bottom; ++y)

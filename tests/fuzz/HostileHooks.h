@@ -26,6 +26,7 @@ protected:
     static constexpr long Often = 12;
     static constexpr long Rarely = 1500;
     static constexpr long VetoesOneIn = 6;
+    static constexpr long SuppliesOneIn = 3;
 
     void Act(const char* hook, long oneIn = Often) const
     {
@@ -153,9 +154,14 @@ protected:
         return answer;
     }
 
+    // The inserting hooks supply an object of their own now and then, and may veto it, or change the grid,
+    // after that.
     bool OnBeforeInsertCol(long position, TGGridCol*& col) override
     {
-        return Base::OnBeforeInsertCol(position, col) && Agree("OnBeforeInsertCol");
+        const bool agrees = Base::OnBeforeInsertCol(position, col);
+        if (col == nullptr && Dice().OneIn(SuppliesOneIn))
+            col = new TGGridCol(AnyText(8), *this);
+        return Agree("OnBeforeInsertCol") && agrees;
     }
     void OnInsertCol(TGGridCol& col) override
     {
@@ -178,11 +184,17 @@ protected:
     }
     bool OnBeforeInsertRow(long position, TGGridRow*& row) override
     {
-        return Base::OnBeforeInsertRow(position, row) && Agree("OnBeforeInsertRow");
+        const bool agrees = Base::OnBeforeInsertRow(position, row);
+        if (row == nullptr && Dice().OneIn(SuppliesOneIn))
+            row = MakeRow(*this);
+        return Agree("OnBeforeInsertRow") && agrees;
     }
     bool OnBeforeInsertChild(TGGridTreeRow& parent, long position, TGGridTreeRow*& child) override
     {
-        return Base::OnBeforeInsertChild(parent, position, child) && Agree("OnBeforeInsertChild");
+        const bool agrees = Base::OnBeforeInsertChild(parent, position, child);
+        if (child == nullptr && Dice().OneIn(SuppliesOneIn))
+            child = static_cast<TGGridTreeRow*>(MakeRow(*this));
+        return Agree("OnBeforeInsertChild") && agrees;
     }
     void OnInsertRow(TGGridRow& row) override
     {

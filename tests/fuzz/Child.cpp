@@ -30,6 +30,8 @@ std::wstring CommandLineFor(const Options& options, const std::wstring& name)
     std::wstring line = L"\"" + std::wstring(path) + L"\" --child --progress " + name + L" --control " +
                         Wide(options.controls.front()) + L" --seed " + std::to_wstring(options.seed) +
                         L" --steps " + std::to_wstring(options.steps);
+    if (options.checksEach)
+        line += L" --check-each";
     if (options.bare)
         line += L" --bare";
     if (options.talks)
@@ -75,6 +77,12 @@ HANDLE OpenOutput(const std::wstring& path)
     SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
     return CreateFileW(path.c_str(), GENERIC_WRITE, FILE_SHARE_READ | FILE_SHARE_WRITE, &inherited,
                        CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+}
+
+// Records of who made a block take long, and are wanted when a fault is looked at only.
+void ChooseRecords(const Options& options)
+{
+    SetEnvironmentVariableW(L"QUOR_GUARD_FRAMES", options.checksEach ? nullptr : L"0");
 }
 
 bool Start(std::wstring line, HANDLE output, PROCESS_INFORMATION& process)
@@ -124,6 +132,7 @@ Outcome RunChild(const Options& options)
         line += L" --only-in \"" + WriteSteps(options, folder) + L"\"";
 
     Outcome outcome;
+    ChooseRecords(options);
     const HANDLE output = OpenOutput(outputPath);
     PROCESS_INFORMATION process = {};
     if (!Start(line, output, process))

@@ -18,9 +18,10 @@ using Clock = std::chrono::steady_clock;
 
 void PrintReplay(const Options& run, const std::vector<StepRange>& steps)
 {
-    std::printf("fuzz: again with  --control %s --seed %llu --steps %ld%s%s%s\n",
+    std::printf("fuzz: again with  --control %s --seed %llu --steps %ld%s%s%s%s\n",
                 run.controls.front().c_str(), static_cast<unsigned long long>(run.seed), run.steps,
-                run.bare ? " --bare" : "", steps.empty() ? "" : " --only ", Text(steps).c_str());
+                run.checksEach ? " --check-each" : "", run.bare ? " --bare" : "",
+                steps.empty() ? "" : " --only ", Text(steps).c_str());
 }
 
 // The steps of a short list, and what the process wrote when it did them.
@@ -37,8 +38,21 @@ void Explain(Options run, const std::vector<long>& steps)
                 bare.failed ? bare.signature.c_str() : "no failure");
 }
 
-void Report(Options run, const Outcome& failure, bool shrinks)
+// States are checked now and then only. Checked after each step, the same steps fail where the fault is, as a
+// rule.
+Outcome Narrow(Options& run, const Outcome& failure)
 {
+    run.checksEach = true;
+    const Outcome narrowed = RunChild(run);
+    if (narrowed.failed)
+        return narrowed;
+    run.checksEach = false;
+    return failure;
+}
+
+void Report(Options run, const Outcome& found, bool shrinks)
+{
+    const Outcome failure = Narrow(run, found);
     std::printf("fuzz: FAILED in step %ld: %s\n", failure.step, failure.signature.c_str());
     // A fault that shows at the end, such as a leak, needs all steps.
     const bool atEnd = failure.done >= run.steps || failure.step < 0;

@@ -51,7 +51,7 @@ public:
         grid = make();
         if (Dice().OneIn(2))
             FillGrid(*grid, focus == Focus::Editors);
-        grid->Create(CRect(10, 10, 410, 310), WS_CHILD | WS_VISIBLE, &parent);
+        grid->Create(CRect(10, 10, 230, 170), WS_CHILD | WS_VISIBLE, &parent);
         if (grid->IsColEmpty())
             FillGrid(*grid, focus == Focus::Editors);
     }

@@ -24,7 +24,7 @@ long AnyLength()
     case 2:
         return Dice().OneIn(6) ? Dice().Below(40000) : Dice().Below(3000);
     default:
-        return Dice().Between(60, 500);
+        return Dice().Between(40, 260);
     }
 }
 

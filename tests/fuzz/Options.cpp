@@ -30,6 +30,7 @@ bool ReadSwitch(const std::string& name, Options& options)
         {"--talk", &options.talks},
         {"--child", &options.isChild},
         {"--compare-runs", &options.comparesRuns},
+        {"--check-each", &options.checksEach},
     };
     for (const auto& [known, target] : switches)
         if (name == known)

@@ -22,6 +22,7 @@ struct Options
     bool talks = false;
     bool shrinks = true;
     bool comparesRuns = false;
+    bool checksEach = false; // the state after each step, not now and then
 
     // Of a child only.
     bool isChild = false;

@@ -17,7 +17,11 @@ namespace quor::fuzz
 namespace
 {
 
-constexpr long StepsOfLife = 250;
+constexpr long StepsOfLife = 400;
+// Posted messages and painting wait for some steps. That depends on the step's number, so it is the same in a
+// replay.
+constexpr long StepsBetweenPumps = 4;
+constexpr long StepsBetweenChecks = 8;
 // Counting takes a tenth of a second.
 constexpr long LivesBetweenCounts = 20;
 // Caches of the platform fill up in the first lives, and now and then grow later.
@@ -72,6 +76,8 @@ public:
         for (const auto& [first, last] : options.kept)
             Run(first, last);
         End();
+        if (livesEnded > LivesBetweenCounts)
+            CountObjects();
         host.subject = nullptr;
         host.DestroyWindow();
         return 0;
@@ -98,10 +104,11 @@ private:
         if (CurrentStep().talks)
             std::printf("step %ld\n", step);
         Act();
-        Pump();
+        if (step % StepsBetweenPumps == 0)
+            Pump();
         if (step % 16 == 0)
             AfxGetThread()->OnIdle(1);
-        if (subject->Window() != nullptr)
+        if (subject->Window() != nullptr && (options.checksEach || step % StepsBetweenChecks == 0))
             subject->Check();
         progress.digest =
             static_cast<LONG>(static_cast<unsigned long>(progress.digest) * 31u + subject->Digest());

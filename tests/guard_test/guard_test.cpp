@@ -17,52 +17,66 @@ struct Result
     std::string report;
 };
 
-std::string ReadAll(HANDLE pipe)
+std::string ReadAll(HANDLE file)
 {
     std::string text;
     char part[1024];
     DWORD count = 0;
-    while (ReadFile(pipe, part, sizeof part, &count, nullptr) && count > 0)
+    SetFilePointer(file, 0, nullptr, FILE_BEGIN);
+    while (ReadFile(file, part, sizeof part, &count, nullptr) && count > 0)
         text.append(part, count);
     return text;
 }
 
-std::string VictimPath()
+// What a program writes goes to a file: a pipe would stay open as long as any process that it starts, such as
+// that of the desktop.
+HANDLE MakeOutputFile()
+{
+    char folder[MAX_PATH];
+    char path[MAX_PATH];
+    GetTempPathA(MAX_PATH, folder);
+    GetTempFileNameA(folder, "out", 0, path);
+    SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
+    return CreateFileA(path, GENERIC_READ | GENERIC_WRITE,
+                       FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE, &inheritable, CREATE_ALWAYS,
+                       FILE_ATTRIBUTE_TEMPORARY | FILE_FLAG_DELETE_ON_CLOSE, nullptr);
+}
+
+std::string PathBesideThisProgram(const char* name)
 {
     char path[MAX_PATH];
     GetModuleFileNameA(nullptr, path, sizeof path);
     const std::string program = path;
-    return program.substr(0, program.rfind('\\') + 1) + "guard_victim.exe";
+    return program.substr(0, program.rfind('\\') + 1) + name;
 }
 
-Result RunVictim(const std::string& mistake)
+Result RunProgram(const char* name, const std::string& argument)
 {
-    SECURITY_ATTRIBUTES inheritable{sizeof inheritable, nullptr, TRUE};
-    HANDLE readEnd = nullptr;
-    HANDLE writeEnd = nullptr;
-    CreatePipe(&readEnd, &writeEnd, &inheritable, 0);
-    SetHandleInformation(readEnd, HANDLE_FLAG_INHERIT, 0);
-
+    const HANDLE output = MakeOutputFile();
     STARTUPINFOA startup{};
     startup.cb = sizeof startup;
     startup.dwFlags = STARTF_USESTDHANDLES;
-    startup.hStdOutput = startup.hStdError = writeEnd;
-    std::string command = "\"" + VictimPath() + "\" " + mistake;
+    startup.hStdOutput = startup.hStdError = output;
+    std::string command = "\"" + PathBesideThisProgram(name) + "\" " + argument;
     PROCESS_INFORMATION process{};
     const BOOL started = CreateProcessA(nullptr, command.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
                                         &startup, &process);
-    CloseHandle(writeEnd);
     Result result;
     if (started)
     {
-        result.report = ReadAll(readEnd);
         WaitForSingleObject(process.hProcess, INFINITE);
+        result.report = ReadAll(output);
         GetExitCodeProcess(process.hProcess, &result.exitCode);
         CloseHandle(process.hThread);
         CloseHandle(process.hProcess);
     }
-    CloseHandle(readEnd);
+    CloseHandle(output);
     return result;
+}
+
+Result RunVictim(const std::string& mistake)
+{
+    return RunProgram("guard_victim.exe", mistake);
 }
 
 struct Case
@@ -117,6 +131,33 @@ std::string NameOfCase(const testing::TestParamInfo<Case>& info)
 }
 
 INSTANTIATE_TEST_SUITE_P(Guard, FoundMistake, testing::ValuesIn(cases), NameOfCase);
+
+// What the guard of the heap does not see, but the frame of all windowed test programs does.
+const Case remains[] = {
+    {"Pen", "pens +1"},         {"DeviceContext", "device contexts +1"},
+    {"Menu", "menus +1"},       {"Window", "windows +1"},
+    {"ImageList", "bitmaps +"}, {"AutomationText", "task blocks +1"},
+};
+
+class LeftBehind : public testing::TestWithParam<Case>
+{
+};
+
+TEST_P(LeftBehind, FailsTheProgram)
+{
+    const Result result =
+        RunProgram("leak_victim.exe", std::string("--gtest_filter=Leak.") + GetParam().mistake);
+    EXPECT_EQ(result.exitCode, 1u);
+    EXPECT_NE(result.report.find(GetParam().finding), std::string::npos) << result.report;
+}
+
+INSTANTIATE_TEST_SUITE_P(Guard, LeftBehind, testing::ValuesIn(remains), NameOfCase);
+
+TEST(Guard, NothingLeftBehind_LetsTheProgramPass)
+{
+    const Result result = RunProgram("leak_victim.exe", "--gtest_filter=Leak.Nothing");
+    EXPECT_EQ(result.exitCode, 0u) << result.report;
+}
 
 TEST(Guard, ReadBeforeStart_WithUnderflowSetting_IsReported)
 {

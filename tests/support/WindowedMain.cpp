@@ -3,8 +3,12 @@
 // cache that has only grown later than usual, a third run leaves nothing more behind.
 #include "tests/support/GuiHandles.h"
 #include "tests/support/RunTests.h"
+#include "tests/support/TaskMemory.h"
 
 #include <afxwin.h>
+
+#include <cstdio>
+#include <string>
 
 namespace
 {
@@ -13,23 +17,31 @@ CWinApp application(L"QuorTests");
 
 #ifdef QUOR_GUARD
 
-class HandleWatch : public testing::EmptyTestEventListener
+// Sees what the guard of the heap does not: objects of GDI, among them those that image lists consist of, and
+// of USER, and texts of automation.
+class LeakWatch : public testing::EmptyTestEventListener
 {
 public:
-    explicit HandleWatch(bool& grew) : m_grew(grew) {}
+    explicit LeakWatch(bool& grew) : m_grew(grew) {}
 
     void OnTestIterationEnd(const testing::UnitTest&, int) override
     {
         const quor::test::GuiHandles now = quor::test::CountGuiHandles();
-        const std::string growth = quor::test::Growth(m_before, now);
+        const int blocks = quor::test::CountTaskBlocks();
+        std::string growth = quor::test::Growth(m_before, now);
+        if (blocks > m_blocksBefore)
+            growth +=
+                (growth.empty() ? "" : ", ") + ("task blocks +" + std::to_string(blocks - m_blocksBefore));
         m_before = now;
+        m_blocksBefore = blocks;
         m_grew = m_runs++ > 0 && !growth.empty();
         if (m_grew)
-            std::printf("[  FAILED  ] GDI or USER objects were left behind: %s\n", growth.c_str());
+            std::printf("[  FAILED  ] These were left behind: %s\n", growth.c_str());
     }
 
 private:
     quor::test::GuiHandles m_before;
+    int m_blocksBefore = quor::test::CountTaskBlocks();
     bool& m_grew;
     int m_runs = 0;
 };
@@ -52,18 +64,18 @@ int main(int argumentCount, char** arguments)
     const INITCOMMONCONTROLSEX controls{sizeof controls, 0xffff};
     InitCommonControlsEx(&controls);
 
-    bool handlesGrew = false;
+    bool grew = false;
 #ifdef QUOR_GUARD
-    testing::UnitTest::GetInstance()->listeners().Append(new HandleWatch(handlesGrew));
+    testing::UnitTest::GetInstance()->listeners().Append(new LeakWatch(grew));
     RunTwice();
 #endif
     int result = RUN_ALL_TESTS();
 #ifdef QUOR_GUARD
-    if (result == 0 && handlesGrew)
+    if (result == 0 && grew)
     {
         GTEST_FLAG_SET(repeat, 1);
         result = RUN_ALL_TESTS();
     }
 #endif
-    return handlesGrew ? 1 : result;
+    return grew ? 1 : result;
 }

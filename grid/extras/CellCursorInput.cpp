@@ -14,6 +14,8 @@ namespace
 {
 
 constexpr int CornerId = 102;
+// Milliseconds from one step to the next while a drag waits outside of the view.
+constexpr UINT ScrollTime = 50;
 
 CPoint PointOf(LPARAM lParam)
 {
@@ -72,6 +74,8 @@ bool TGCellCursor::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM l
         if (dragging)
             DragTo(PointOf(lParam));
         return false;
+    case WM_TIMER:
+        return wParam == DragTimer() && DragOn();
     case WM_LBUTTONUP:
         if (std::exchange(dragging, false))
             ::ReleaseCapture();
@@ -168,10 +172,19 @@ void TGCellCursor::PressRightAt(CPoint point)
         MoveTo(row, col);
 }
 
-// Beside the cells the nearest one counts, so that the view follows a drag that leaves it.
+UINT_PTR TGCellCursor::DragTimer() const
+{
+    return reinterpret_cast<UINT_PTR>(&dragging);
+}
+
+// Beside the cells the nearest one counts, so that the view follows a drag that leaves it, and goes on while
+// the mouse stays there.
 void TGCellCursor::DragTo(CPoint point)
 {
     const CPoint logical = ToLogical(point);
+    dragPoint = point;
+    if (!GetView().PtInRect(logical))
+        ::SetTimer(GetGrid()->m_hWnd, DragTimer(), ScrollTime, nullptr);
     long row = -1;
     long col = -1;
     PointToCell(point, row, col);
@@ -179,6 +192,15 @@ void TGCellCursor::DragTo(CPoint point)
     col = logical.x < 0 ? 0L : (std::min)(col, LastCol());
     if (row != GetRow() || col != GetCol())
         MoveTo(row, col, true);
+}
+
+// The timer of a drag that is over, or that has come back, stops itself.
+bool TGCellCursor::DragOn()
+{
+    ::KillTimer(GetGrid()->m_hWnd, DragTimer());
+    if (dragging)
+        DragTo(dragPoint);
+    return true;
 }
 
 // ---- Editing

@@ -33,6 +33,8 @@ void TGCellCursor::OnDetach(TGGrid& oldGrid)
 {
     ranges.clear();
     dragging = false;
+    if (oldGrid.m_hWnd != nullptr)
+        ::KillTimer(oldGrid.m_hWnd, DragTimer());
     oldGrid.Invalidate(0);
 }
 

@@ -40,7 +40,8 @@ struct TGKeyDescription
 //
 // - keys move the current cell, and with Shift span a range; typing opens the editor with what is typed, F2
 //   with the caret at the end; docs/KEYS.md has the table;
-// - a click sets the current cell and edits nothing; dragging and Shift span a range, Ctrl adds one;
+// - a click sets the current cell and edits nothing; dragging and Shift span a range, Ctrl adds one; a drag
+//   that waits outside of the cells in view scrolls on;
 // - the row header, the column header and the corner select rows, columns and all, as ever: then these are
 //   the range;
 // - the letter commands of the grid need Ctrl.
@@ -190,6 +191,8 @@ private:
     void PressRightAt(CPoint point);
     bool IsOnFoldBox(CPoint point, long row, long col) const;
     void DragTo(CPoint point);
+    bool DragOn();
+    UINT_PTR DragTimer() const;
 
     Step enterStep = Step::Down;
     Step tabStep = Step::Right;
@@ -200,6 +203,8 @@ private:
     std::vector<Range> ranges;
     // The cells between two corners of the grid's own selection count as the range.
     bool dragging = false;
+    // Where the mouse was last, in client coordinates.
+    CPoint dragPoint;
     // The editor was opened by typing: arrows commit.
     bool typing = false;
     // The character of a key that was handled follows.

@@ -306,6 +306,71 @@ TEST_F(CellCursor, Dragging_SpansARange)
     EXPECT_NE(::GetCapture(), grid.m_hWnd);
 }
 
+class DragOutOfTheView : public CellCursor
+{
+protected:
+    // Presses on a cell and moves below the view, where the mouse stays until some rows have come by.
+    void Begin()
+    {
+        Make(200);
+        CRect view;
+        grid.GetClientRect(&view);
+        below = CPoint(Middle(1, 1).x, view.bottom + 30);
+        PressMouse(grid, Middle(1, 1));
+        MoveMouse(grid, below);
+        const long first = cursor.GetRow();
+        ASSERT_TRUE(PumpUntil([&] { return cursor.GetRow() >= first + 6; }));
+    }
+    // Longer than from one step to the next, by a timer of the test's own.
+    void WaitSomeSteps()
+    {
+        const UINT_PTR timer = ::SetTimer(nullptr, 0, 250, nullptr);
+        MSG message = {};
+        while (::GetMessage(&message, nullptr, 0, 0) > 0 &&
+               !(message.message == WM_TIMER && message.wParam == timer))
+            ::DispatchMessage(&message);
+        ::KillTimer(nullptr, timer);
+    }
+
+    CPoint below;
+};
+
+TEST_F(DragOutOfTheView, ScrollsOnWhileTheMouseWaits_UntilTheButtonIsReleased)
+{
+    Begin();
+    ReleaseMouse(grid, below);
+    PumpPending();
+    const std::string state = State();
+    EXPECT_NE(state.find("[1,1-"), std::string::npos) << state;
+    EXPECT_LT(cursor.GetRow(), 199);
+    WaitSomeSteps();
+    EXPECT_EQ(State(), state);
+    EXPECT_NE(::GetCapture(), grid.m_hWnd);
+}
+
+TEST_F(DragOutOfTheView, StandsStillOnceTheMouseIsBack)
+{
+    Begin();
+    MoveMouse(grid, CPoint(below.x, below.y - 60));
+    PumpPending();
+    const std::string state = State();
+    WaitSomeSteps();
+    EXPECT_EQ(State(), state);
+    ReleaseMouse(grid, CPoint(below.x, below.y - 60));
+    PumpPending();
+}
+
+TEST_F(DragOutOfTheView, EndsWithTheCursor)
+{
+    Begin();
+    cursor.Detach();
+    const int position = grid.GetScrollPos(SB_VERT);
+    WaitSomeSteps();
+    EXPECT_EQ(grid.GetScrollPos(SB_VERT), position);
+    ReleaseMouse(grid, below);
+    PumpPending();
+}
+
 TEST_F(CellCursor, Headers_SelectRowsColumnsAndAll)
 {
     Make();

@@ -187,10 +187,10 @@ void SheetPage::MakeMillionRows()
         formats.SetFormat(grid.GetColNum() - 1, column.format);
         sort.SetComparison(grid.GetColNum() - 1, column.order);
     }
-    for (long row = 0; row < MillionRows && busy.Step(row); row += RowsBetweenSteps)
+    for (long made = 0; made < MillionRows && (made == 0 || busy.Step(made)); made += RowsBetweenSteps)
     {
-        grid.SetRowNum(row + RowsBetweenSteps);
-        for (long i = row; i < row + RowsBetweenSteps; ++i)
+        grid.SetRowNum(made + RowsBetweenSteps);
+        for (long i = made; i < made + RowsBetweenSteps; ++i)
             FillMillionth(grid.GetRow(i), i);
     }
 }

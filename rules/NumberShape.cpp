@@ -1,6 +1,8 @@
 // Numbers as strings of digits, so that nothing is lost that a binary number could not hold.
 #include "rules/NumberShape.h"
 
+#include "rules/Digits.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -19,11 +21,6 @@ struct Decimal
 
 // Longer texts are no numbers that people read.
 constexpr std::size_t LongestNumber = 300;
-
-bool IsDecimalDigit(wchar_t unit)
-{
-    return unit >= L'0' && unit <= L'9';
-}
 
 std::wstring_view Trimmed(std::wstring_view text)
 {

@@ -1,6 +1,9 @@
 // Natural order, and numbers and dates at the beginning of texts.
 #include "rules/SortKeys.h"
 
+#include "rules/Calendar.h"
+#include "rules/Digits.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
@@ -10,11 +13,6 @@ namespace QuorUiCtr
 {
 namespace
 {
-
-bool IsDecimalDigit(wchar_t character)
-{
-    return character >= L'0' && character <= L'9';
-}
 
 // How many digits a text begins with.
 std::size_t DigitsAt(std::wstring_view text)
@@ -130,13 +128,6 @@ std::optional<int> TakeNextNumber(std::wstring_view& text)
     return number;
 }
 
-int DaysOf(int month, int year)
-{
-    constexpr int Days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool leap = year % 4 == 0 && (year % 100 != 0 || year % 400 == 0);
-    return month == 2 && leap ? 29 : Days[month - 1];
-}
-
 // Days since the first of March of the year 0; counted from March on, a leap day is the last of its year.
 long long DayNumber(int year, int month, int day)
 {
@@ -226,7 +217,7 @@ std::optional<long long> ReadMoment(std::wstring_view text, DateOrder order)
     int year = yearFirst ? *first : *third;
     if (year < 100 && !longYear)
         year += year < 50 ? 2000 : 1900;
-    if (month < 1 || month > 12 || day < 1 || day > DaysOf(month, year))
+    if (month < 1 || month > 12 || day < 1 || day > DaysOf(year, month))
         return std::nullopt;
     constexpr long long SecondsOfADay = 86400;
     return DayNumber(year, month, day) * SecondsOfADay + SecondsAt(text);

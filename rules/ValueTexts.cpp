@@ -1,6 +1,8 @@
 // Reads dates and truth values.
 #include "rules/ValueTexts.h"
 
+#include "rules/Calendar.h"
+
 #include <algorithm>
 #include <cstddef>
 
@@ -72,13 +74,6 @@ bool TakeUnit(std::wstring_view& text, wchar_t unit)
         return false;
     text.remove_prefix(1);
     return true;
-}
-
-int DaysOf(int year, int month)
-{
-    constexpr int days[] = {31, 28, 31, 30, 31, 30, 31, 31, 30, 31, 30, 31};
-    const bool isLeapYear = (year % 4 == 0 && year % 100 != 0) || year % 400 == 0;
-    return month == 2 && isLeapYear ? 29 : days[month - 1];
 }
 
 bool TakeDay(std::wstring_view& text, DateValue& value)

@@ -66,7 +66,7 @@ void BusyPanel::Place(TGGrid& grid)
     grid.CWnd::GetClientRect(&area);
     CRect own;
     GetClientRect(&own);
-    if (own.Size() == area.Size())
+    if (own.Width() == area.Width() && own.Height() == area.Height())
         return;
     SetWindowPos(&wndTop, 0, 0, area.Width(), area.Height(), SWP_NOACTIVATE);
     PlaceButton();

@@ -107,7 +107,7 @@ void TGGrid::Layout::MoveEditor()
     CRect seen;
     seen.IntersectRect(&place, &area);
     HRGN shape = nullptr;
-    if (seen != place)
+    if (!::EqualRect(&seen, &place))
         shape = ::CreateRectRgn(seen.left - place.left, seen.top - place.top, seen.right - place.left,
                                 seen.bottom - place.top);
     // The window owns its shape from now on.

@@ -83,8 +83,9 @@ protected:
                 text += static_cast<wchar_t>(unit);
         else if (done)
             done = std::fputws(text, file) >= 0;
-        if (file != nullptr)
-            done = (std::ferror(file) == 0) & (std::fclose(file) == 0) & done;
+        done = done && std::ferror(file) == 0;
+        if (file != nullptr && std::fclose(file) != 0)
+            done = false;
         if (done && load)
         {
             grid.Clear();

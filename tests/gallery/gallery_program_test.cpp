@@ -62,9 +62,12 @@ protected:
         window = program.Window(L"QuorUiCtrl gallery");
         ASSERT_NE(window, nullptr);
         ::SetForegroundWindow(window);
-        // Before the first control has the focus, the window itself may have it.
+        // Before a control has the focus, the window itself may have it.
         ASSERT_TRUE(WaitUntil(
-            [this] { return ::GetForegroundWindow() == window && FocusOf(window) == Item(IDC_PAGES); }));
+            [this] { return ::GetForegroundWindow() == window && ::IsChild(window, FocusOf(window)); }));
+        // Another page may have been open when the program was closed last.
+        ::SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_PAGES)), TRUE);
+        ASSERT_TRUE(WaitUntil([this] { return FocusOf(window) == Item(IDC_PAGES); }));
     }
 
     // The page that is shown.

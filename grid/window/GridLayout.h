@@ -53,6 +53,7 @@ public:
     void FinishBars();
 
 private:
+    CPoint EditedCellOrigin() const;
     void NoteEditorPlace();
     void MoveEditor();
     static void CALLBACK OnFrame(HWND window, UINT message, UINT_PTR timer, DWORD time);

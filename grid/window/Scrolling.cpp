@@ -73,6 +73,15 @@ void TGGrid::Layout::ScrollView(int dx, int dy, OpenEditor outcome)
         grid.extensions->Tell(GridExtensions::Scrolled);
 }
 
+// In client coordinates.
+CPoint TGGrid::Layout::EditedCellOrigin() const
+{
+    CRect cell;
+    grid.editCell->GetRect(cell);
+    grid.dc->LPtoDP(&cell);
+    return cell.TopLeft();
+}
+
 // Where the editor has put itself. Once it has been moved it need not stand where it should: places of
 // windows have 16 bits.
 void TGGrid::Layout::NoteEditorPlace()
@@ -80,13 +89,10 @@ void TGGrid::Layout::NoteEditorPlace()
     CWnd* const editor = grid.cellCtrl != nullptr ? grid.cellCtrl->GetWnd() : nullptr;
     if (grid.editorMoved || editor->GetSafeHwnd() == nullptr || grid.dc == nullptr)
         return;
-    CRect cell;
-    grid.editCell->GetRect(cell);
-    grid.dc->LPtoDP(&cell);
     CRect place;
     editor->GetWindowRect(&place);
     grid.ScreenToClient(&place);
-    grid.editorInset = place.TopLeft() - cell.TopLeft();
+    grid.editorInset = place.TopLeft() - EditedCellOrigin();
     grid.editorMoved = true;
 }
 
@@ -96,12 +102,9 @@ void TGGrid::Layout::MoveEditor()
     CWnd* const editor = grid.cellCtrl != nullptr ? grid.cellCtrl->GetWnd() : nullptr;
     if (!grid.editorMoved || editor->GetSafeHwnd() == nullptr || grid.dc == nullptr)
         return;
-    CRect cell;
-    grid.editCell->GetRect(cell);
-    grid.dc->LPtoDP(&cell);
     CRect place;
     editor->GetWindowRect(&place);
-    place.OffsetRect(cell.TopLeft() + grid.editorInset - place.TopLeft());
+    place.OffsetRect(EditedCellOrigin() + grid.editorInset - place.TopLeft());
     CRect area;
     grid.GetClientRect(&area);
     CRect seen;

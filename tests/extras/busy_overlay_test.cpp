@@ -44,14 +44,16 @@ protected:
         CancelButton()->GetClientRect(&place);
         return place.CenterPoint();
     }
-    // Works until it is to stop or `steps` are done, with a moment of rest so that real input arrives.
+    // A step of work: over as soon as input arrives.
+    static void AwaitInput() { ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 2, QS_ALLINPUT); }
+    // Works until it is to stop or `steps` are done.
     long long Work(long long steps)
     {
         for (long long done = 0; done < steps; ++done)
         {
             if (!busy.Step(done))
                 return done;
-            ::Sleep(2);
+            AwaitInput();
         }
         return steps;
     }
@@ -376,7 +378,7 @@ TEST_F(BusyOverlay, CancellingThatHides_ClosesTheWindow_OrDeletes)
     SendKey(VK_SPACE);
     long long done = 0;
     while (done < 1000 && own->Step(++done))
-        ::Sleep(2);
+        AwaitInput();
     EXPECT_LT(done, 1000);
     EXPECT_EQ(grid.m_hWnd, nullptr);
     EXPECT_FALSE(own->IsShown());

@@ -1,4 +1,4 @@
-"""clang as the second compiler: every source in two modes, and every public header alone."""
+"""clang as the second compiler: sources in one or two modes, and every public header alone."""
 import os
 import re
 import subprocess

@@ -471,8 +471,8 @@ protected:
     virtual bool OnBeforeInsertRow(long position, TGGridRow*& row);
     // A child is about to be inserted under `parent`; the hook may supply the row object, likewise.
     virtual bool OnBeforeInsertChild(TGGridTreeRow& parent, long position, TGGridTreeRow*& child);
-    // The row is in place. Default: OnDataChanged(). `row` is the row object that came in, at its index,
-    // selected if the command selects it.
+    // The row is in place. Default: OnDataChanged(), but for rows that an extension inserts, which reports
+    // all at once. `row` is the row object that came in, at its index, selected if the command selects it.
     virtual void OnInsertRow(TGGridRow& row);
     // Around the deletion of the selected rows: before it, with the selection still there but for rows that
     // may not be deleted, and after it. After a veto the selection stays without those.
@@ -775,6 +775,9 @@ private:
     // The open editor has gone along with its cell, and where it stands from the cell's corner.
     bool editorMoved = false;
     CSize editorInset;
+
+    // OnInsertRow is told of one of many rows, after which OnDataChanged is called once.
+    bool tellsChangesLater = false;
 };
 
 } // namespace QuorUiCtr

@@ -1,6 +1,7 @@
 // TGGridExtension: what an extra of a grid derives from, and what it is asked and told.
 #pragma once
 
+#include "grid/TGCellRange.h"
 #include "module/QuorExport.h"
 
 #include <afxwin.h>
@@ -54,6 +55,20 @@ enum class TGEditWay
     Editor,
     // An extension stores a text, see TGGridExtension::TypeInto.
     Text
+};
+
+// What became of a text that an extension has stored as if it had been typed.
+enum class TGTyped
+{
+    Stored,
+    // The cell, its row, its column or the grid is.
+    ReadOnly,
+    // An extension or OnBeforeEdit does not let the user edit the cell.
+    NotEditable,
+    // OnModified rejects the text.
+    Rejected,
+    // The cell went while the hooks were asked.
+    Gone
 };
 
 // Rows that have left a grid, each with its cells, its host data and its offspring.
@@ -226,6 +241,12 @@ protected:
     virtual bool OnEdit(TGGridCell& cell, TGEditWay way);
     // The cell that keys are for. True: this extension has one and says which.
     virtual bool OnCurrentCell(long& row, long& col) const;
+    // The cells that commands are for, in ranges of which the last has the current cell; a grid whose rows or
+    // columns are selected is not asked for. True: this extension keeps ranges and has appended them.
+    virtual bool OnSelectedCells(std::vector<TGCellRange>& ranges) const;
+    // A command has ended, and this block, which exists, is what it has changed. True: it is what is selected
+    // now.
+    virtual bool OnSelectCells(const TGCellRange& range);
     // A row object of the grid is being deleted, wherever it was: what was kept under its address is
     // nobody's. It cannot be asked for anything any more, and nothing may be done with the grid.
     virtual void OnRowDeleted(const TGGridRow* row);
@@ -275,12 +296,34 @@ protected:
     CWnd* GetColHeader() const;
     // The current cell of the extension that has one. False without one.
     bool FindCurrentCell(long& row, long& col) const;
+    // What is selected: the runs of rows or columns that are selected in the grid, else the ranges of the
+    // extension that has some, else the current cell. Empty without any; a column without rows ends before it
+    // begins. Rows and columns are those of now, but for the new-row line, on which a range may stand.
+    std::vector<TGCellRange> GetSelectedCells() const;
+    // The first part of that: the runs of selected rows or columns.
+    std::vector<TGCellRange> GetSelectedBands() const;
+    // Makes a block the selection of the extension that has one. False without one.
+    bool SelectCells(const TGCellRange& range) const;
     // The window of the open editor, null when there is none.
     CWnd* GetEditorWindow() const;
     // Stores a text as if it had been typed: nothing for a read-only cell; asks OnEdit, OnBeforeEdit and
     // OnModified, which may change it. The caller tells OnDataChanged, once for all cells. False when it was
     // refused.
     bool TypeInto(TGGridCell& cell, const wchar_t* text) const;
+    // The same, with the reason.
+    TGTyped TryTypeInto(TGGridCell& cell, const wchar_t* text) const;
+    // Makes a row as the user's commands do: asks OnBeforeInsertRow or OnBeforeInsertChild, which may supply
+    // the row, inserts it at the index, or as a child at the position, brought into the range, and tells
+    // OnInsertRow, whose default leaves OnDataChanged to the caller here. A row index must be one between two
+    // trees. Null when the hook or a grid with a fixed number of rows refuses, and when the row has gone
+    // again.
+    TGGridRow* InsertRowAsUser(long position) const;
+    TGGridTreeRow* InsertChildAsUser(TGGridTreeRow& parent, long position) const;
+    // OnBeforePaste or OnBeforePasteChild, and OnEndPaste, for extensions that paste rows; the second is told
+    // with the pasted rows selected.
+    bool AskPaste(long position) const;
+    bool AskPasteChild(TGGridTreeRow& parent) const;
+    void TellPasted() const;
     void TellDataChanged() const;
 
 private:

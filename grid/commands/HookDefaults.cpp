@@ -160,7 +160,8 @@ void TGGrid::OnInsertCol(TGGridCol&)
 
 void TGGrid::OnInsertRow(TGGridRow&)
 {
-    OnDataChanged();
+    if (!tellsChangesLater)
+        OnDataChanged();
 }
 
 void TGGrid::OnDataChanged()

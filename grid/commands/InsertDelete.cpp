@@ -1,6 +1,7 @@
 // The user's row and column commands: insert, append, delete.
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
+#include "grid/model/ScopedValue.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -54,6 +55,8 @@ public:
     bool AskForRow(long position, bool asTree, TGGridRow*& row);
     bool AskForChild(TGGridTreeRow& parent, long position, bool asTree, TGGridTreeRow*& child);
     bool ReportInsertedRow(long position);
+    // Tells OnInsertRow alone; false when the row has gone.
+    bool TellInserted(TGGridRow* row, const RowWatch& watch);
     bool DeleteSelectedRows();
     void DeleteRows(const std::vector<long>& indices);
     bool DeleteSelectedCols();
@@ -300,6 +303,56 @@ bool TGGrid::DoAppendChild()
         OnInsertRow(*appended);
     OnDataChanged();
     return true;
+}
+
+// ---- Extensions that insert as a user does
+
+// The row is held by a watch from before it comes in, because the end of an edit and the hooks may delete it.
+TGGridRow* TGGridExtension::InsertRowAsUser(long position) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGGrid& grid = *extendedGrid;
+    TGGridRow* row = nullptr;
+    if (grid.IsRowFixLength() || position < 0 || !TGGrid::Commands(grid).AskForRow(position, false, row))
+        return nullptr;
+    if (row == nullptr)
+        row = TGGrid::Structure(grid).MakeRow();
+    const RowWatch watch(grid, row);
+    if (position == grid.GetRowNum())
+        grid.AppendRow(row);
+    else
+        grid.InsertRow(position, row);
+    return TGGrid::Commands(grid).TellInserted(row, watch) ? row : nullptr;
+}
+
+TGGridTreeRow* TGGridExtension::InsertChildAsUser(TGGridTreeRow& parent, long position) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGGrid& grid = *extendedGrid;
+    const RowWatch parentWatch(grid, &parent);
+    TGGridTreeRow* child = nullptr;
+    if (grid.IsRowFixLength() || !TGGrid::Commands(grid).AskForChild(parent, position, false, child))
+        return nullptr;
+    if (child == nullptr && parentWatch.IsAlive())
+        child = new TGGridTreeRow(grid);
+    grid.EndEditCell();
+    if (!parentWatch.IsAlive())
+    {
+        delete child;
+        return nullptr;
+    }
+    const RowWatch watch(grid, child);
+    parent.InsertChild(std::clamp(position, 0L, parent.GetChildNum()), child);
+    return TGGrid::Commands(grid).TellInserted(child, watch) ? child : nullptr;
+}
+
+bool TGGrid::Commands::TellInserted(TGGridRow* row, const RowWatch& watch)
+{
+    if (!watch.IsAlive())
+        return false;
+    const ScopedValue guard(grid.tellsChangesLater, true);
+    grid.OnInsertRow(*row);
+    return watch.IsAlive();
 }
 
 // ---- Deletion

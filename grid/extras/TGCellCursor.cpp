@@ -170,33 +170,24 @@ bool TGCellCursor::SelectAllCells()
 
 std::vector<TGCellRange> TGCellCursor::GetRanges() const
 {
-    std::vector<TGCellRange> found;
     if (GetGrid() == nullptr)
-        return found;
-    TGGrid& grid = *GetGrid();
-    const long lastRow = LastRow(false);
-    for (long i = 0; i < grid.GetColSelNum(); ++i)
-    {
-        const long col = grid.GetSelCol(i).GetIndex();
-        if (!found.empty() && found.back().right == col - 1)
-            found.back().right = col;
-        else
-            found.push_back({0, col, lastRow, col});
-    }
-    for (long row = 0, left = grid.GetRowSelNum(); left > 0 && row <= lastRow; ++row)
-    {
-        if (!grid.IsRowSelected(row))
-            continue;
-        --left;
-        if (!found.empty() && found.back().bottom == row - 1)
-            found.back().bottom = row;
-        else
-            found.push_back({row, 0, row, LastCol()});
-    }
+        return {};
+    std::vector<TGCellRange> found = GetSelectedBands();
     if (found.empty())
-        for (const Range& range : ranges)
-            found.push_back(RangeOf(range));
+        OnSelectedCells(found);
     return found;
+}
+
+bool TGCellCursor::OnSelectedCells(std::vector<TGCellRange>& found) const
+{
+    for (const Range& range : ranges)
+        found.push_back(RangeOf(range));
+    return !ranges.empty();
+}
+
+bool TGCellCursor::OnSelectCells(const TGCellRange& range)
+{
+    return SelectRange(range);
 }
 
 bool TGCellCursor::IsInRanges(long row, long col) const

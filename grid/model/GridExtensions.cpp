@@ -118,6 +118,16 @@ bool GridExtensions::FindCurrentCell(long& row, long& col)
     return Each([&](const TGGridExtension& extension) { return extension.OnCurrentCell(row, col); });
 }
 
+bool GridExtensions::FindSelectedCells(std::vector<TGCellRange>& ranges)
+{
+    return Each([&](const TGGridExtension& extension) { return extension.OnSelectedCells(ranges); });
+}
+
+bool GridExtensions::SelectCells(const TGCellRange& range)
+{
+    return Each([&](TGGridExtension& extension) { return extension.OnSelectCells(range); });
+}
+
 // ---- Tips and order
 
 bool GridExtensions::AskTip(TGGridPlace place, long row, long col, CString& text)

@@ -30,6 +30,8 @@ public:
     // Whether an extension refuses an edit or has done it itself.
     bool AskEdit(TGGridCell& cell, TGEditWay way);
     bool FindCurrentCell(long& row, long& col);
+    bool FindSelectedCells(std::vector<TGCellRange>& ranges);
+    bool SelectCells(const TGCellRange& range);
     // Puts rows into the order that an extension wants and returns where each has stood; nothing when none
     // wants one.
     std::optional<std::vector<long>> AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows,

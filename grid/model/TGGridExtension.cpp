@@ -1,9 +1,7 @@
 // The base of all extensions: attaching, the defaults of what they are asked and told, and their services.
 #include "grid/TGGridExtension.h"
 
-#include "grid/edit/CellWatch.h"
 #include "grid/model/GridExtensions.h"
-#include "grid/TGCellCtrl.h"
 #include "grid/TGColSelector.h"
 #include "grid/TGGrid.h"
 #include "grid/window/GridLayout.h"
@@ -93,6 +91,16 @@ bool TGGridExtension::OnEdit(TGGridCell&, TGEditWay)
 }
 
 bool TGGridExtension::OnCurrentCell(long&, long&) const
+{
+    return false;
+}
+
+bool TGGridExtension::OnSelectedCells(std::vector<TGCellRange>&) const
+{
+    return false;
+}
+
+bool TGGridExtension::OnSelectCells(const TGCellRange&)
 {
     return false;
 }
@@ -247,41 +255,6 @@ bool TGGridExtension::FindCurrentCell(long& row, long& col) const
 {
     ASSERT(extendedGrid != nullptr);
     return extendedGrid->extensions->FindCurrentCell(row, col);
-}
-
-// ---- Editing
-
-CWnd* TGGridExtension::GetEditorWindow() const
-{
-    ASSERT(extendedGrid != nullptr);
-    return extendedGrid->editCell != nullptr && extendedGrid->cellCtrl != nullptr
-               ? extendedGrid->cellCtrl->GetWnd()
-               : nullptr;
-}
-
-bool TGGridExtension::TypeInto(TGGridCell& cell, const wchar_t* text) const
-{
-    TGGrid& typed = cell.GetGrid();
-    if (cell.IsReadOnly())
-        return false;
-    const CellWatch watch(typed, &cell);
-    bool commitNewRow = false;
-    CString stored(text);
-    if (typed.extensions != nullptr && typed.extensions->AskEdit(cell, TGEditWay::Text))
-        return false;
-    if (watch.Cell() == nullptr || !typed.OnBeforeEdit(cell, commitNewRow) || watch.Cell() == nullptr ||
-        !typed.OnModified(cell, stored) || watch.Cell() == nullptr)
-        return false;
-    cell.SetText(stored);
-    if (watch.Cell() != nullptr)
-        cell.Refresh();
-    return true;
-}
-
-void TGGridExtension::TellDataChanged() const
-{
-    ASSERT(extendedGrid != nullptr);
-    extendedGrid->OnDataChanged();
 }
 
 } // namespace QuorUiCtr

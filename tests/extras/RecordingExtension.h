@@ -38,14 +38,19 @@ public:
     using TGGridExtension::GetCellRect;
     using TGGridExtension::GetEditorWindow;
     using TGGridExtension::GetLook;
+    using TGGridExtension::GetSelectedCells;
     using TGGridExtension::GetTextPlace;
     using TGGridExtension::GetView;
     using TGGridExtension::HasNewRowLine;
+    using TGGridExtension::InsertChildAsUser;
+    using TGGridExtension::InsertRowAsUser;
     using TGGridExtension::InvalidateLogical;
     using TGGridExtension::PointToCell;
+    using TGGridExtension::SelectCells;
     using TGGridExtension::ShowLogical;
     using TGGridExtension::TellDataChanged;
     using TGGridExtension::ToLogical;
+    using TGGridExtension::TryTypeInto;
     using TGGridExtension::TypeInto;
 
 protected:

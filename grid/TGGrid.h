@@ -518,6 +518,7 @@ protected:
     friend class TGGridRow;
     friend class TGGridTreeRow;
     friend class TGRowSelector;
+    friend class TGUserAction;
 
     // Sends WM_COMMAND with the grid's control id and `code` to the parent window, if there is one.
     void SendParentNotify(unsigned short code) const;

@@ -19,6 +19,7 @@ class TGGridCell;
 class TGGridCol;
 class TGGridRow;
 class TGGridTreeRow;
+enum class TGActionKind;
 
 // How a text is drawn, of a cell or a caption. Comes in as the grid would draw it; what an extension changes
 // counts for this one drawing and is seen by the extensions that follow.
@@ -250,6 +251,13 @@ protected:
     // A row object of the grid is being deleted, wherever it was: what was kept under its address is
     // nobody's. It cannot be asked for anything any more, and nothing may be done with the grid.
     virtual void OnRowDeleted(const TGGridRow* row);
+
+    // ---- Actions
+    // What a user does in one go has begun, and is done: the changes between the two belong together. Of
+    // actions within an action nothing is told; a change may come without any, from a program. Who is
+    // attached meanwhile may be told of the end alone. Neither changes anything in the grid, nor throws.
+    virtual void OnActionBegin(TGActionKind kind);
+    virtual void OnActionEnd(TGActionKind kind);
 
     // ---- What extensions need of the grid
 

@@ -2,6 +2,7 @@
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 #include "grid/model/ScopedValue.h"
+#include "grid/TGUserAction.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -79,6 +80,7 @@ bool TGGrid::DoInsertColAfter()
 
 bool TGGrid::Commands::InsertColAtSelection(CommandPlace place)
 {
+    const TGUserAction action(grid, TGActionKind::InsertCols);
     if (grid.IsColFixLength() || grid.GetColSelNum() != 1)
         return false;
     const long selected = grid.colSel[0];
@@ -94,6 +96,7 @@ bool TGGrid::Commands::InsertColAtSelection(CommandPlace place)
 
 bool TGGrid::DoAppendCol()
 {
+    const TGUserAction action(*this, TGActionKind::InsertCols);
     if (IsColFixLength())
         return false;
     TGGridCol* col = nullptr;
@@ -157,6 +160,7 @@ std::unique_ptr<TGGridTreeRow> TGGrid::Commands::MakeTree()
 
 bool TGGrid::Commands::InsertRowAtSelection(CommandPlace place, bool asTree)
 {
+    const TGUserAction action(grid, TGActionKind::InsertRows);
     if (grid.IsRowFixLength() || grid.GetRowSelNum() != 1)
         return false;
     const long selected = grid.rowSel[0];
@@ -255,6 +259,7 @@ bool TGGrid::Commands::ReportInsertedRow(long position)
 
 bool TGGrid::DoAppendRow(bool select)
 {
+    const TGUserAction action(*this, TGActionKind::InsertRows);
     if (IsRowFixLength())
         return false;
     TGGridRow* row = nullptr;
@@ -272,6 +277,7 @@ bool TGGrid::DoAppendRow(bool select)
 
 bool TGGrid::DoAppendTree()
 {
+    const TGUserAction action(*this, TGActionKind::InsertRows);
     TGGridRow* row = nullptr;
     if (!IsTreeGrid() || IsRowFixLength() || !Commands(*this).AskForRow(GetRowNum(), true, row))
         return false;
@@ -281,6 +287,7 @@ bool TGGrid::DoAppendTree()
 
 bool TGGrid::DoAppendChild()
 {
+    const TGUserAction action(*this, TGActionKind::InsertRows);
     if (!IsTreeGrid() || IsRowFixLength() || GetRowSelNum() != 1 || !GetSelRow(0).IsTreeRow())
         return false;
     const long selected = rowSel[0];
@@ -366,6 +373,7 @@ bool TGGrid::DoDelete()
 
 bool TGGrid::Commands::DeleteSelectedRows()
 {
+    const TGUserAction action(grid, TGActionKind::DeleteRows);
     grid.FilterDelUnable();
     if (!grid.OnBeforeDeleteRow())
         return false;
@@ -388,6 +396,7 @@ void TGGrid::Commands::DeleteRows(const std::vector<long>& indices)
 
 bool TGGrid::Commands::DeleteSelectedCols()
 {
+    const TGUserAction action(grid, TGActionKind::DeleteCols);
     if (!grid.OnBeforeDeleteCol())
         return false;
     const std::vector<long> doomed(grid.colSel.begin(), grid.colSel.end());

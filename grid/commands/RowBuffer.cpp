@@ -2,6 +2,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
+#include "grid/TGUserAction.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -95,6 +96,7 @@ std::unique_ptr<TGGridRow> TGGrid::RowBuffer::CopyOfRow(TGGridRow& row)
 
 bool TGGrid::DoClip()
 {
+    const TGUserAction action(*this, TGActionKind::CutRows);
     if (IsRowFixLength() || !OnBeforeClip())
         return false;
     ClipSelect();
@@ -183,6 +185,7 @@ void TGGrid::RowBuffer::CutRow(TGGridRow& row)
 
 bool TGGrid::DoPaste()
 {
+    const TGUserAction action(*this, TGActionKind::PasteRows);
     if (IsRowFixLength() || GetRowSelNum() > 1 || IsNoPaste() || rowPaste.IsEmpty())
         return false;
     const long target = IsRowSelected() ? rowSel[0] : GetRowNum();
@@ -302,6 +305,7 @@ void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
 
 bool TGGrid::DoPasteChild()
 {
+    const TGUserAction action(*this, TGActionKind::PasteRows);
     if (IsRowFixLength() || !IsTreeGrid() || GetRowSelNum() != 1 || IsNoPaste() || rowPaste.IsEmpty() ||
         !GetSelRow(0).IsTreeRow())
         return false;

@@ -12,6 +12,7 @@
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGCellEdit.h"
 #include "grid/TGCellSpinEdit.h"
+#include "grid/TGUserAction.h"
 
 #include <memory>
 #include <new>
@@ -163,6 +164,7 @@ void TGGrid::EditSession::SkipFoldBox(TGGridCell& cell, CRect& rect)
 // The pending row becomes a row of the grid without an edit.
 void TGGrid::EditSession::AcceptNewRow()
 {
+    const TGUserAction action(grid, TGActionKind::InsertRows);
     if (TGGridRow* accepted = AppendNewRow())
     {
         grid.OnInsertRow(*accepted);
@@ -218,6 +220,7 @@ void TGGrid::EndEditCell()
     if (endingEdit || editCell == nullptr)
         return;
     const ScopedValue guard(endingEdit, true);
+    const TGUserAction action(*this, TGActionKind::Type);
     if (cellCtrl != nullptr && cellCtrl->IsModified())
         EditSession(*this).CommitEdit(*cellCtrl);
     // Also what a hook has opened meanwhile.
@@ -324,6 +327,7 @@ void TGGrid::OnCbnSelchange()
 {
     if (editCell == nullptr || cellCtrl == nullptr)
         return;
+    const TGUserAction action(*this, TGActionKind::Type);
     OnCmbSelchange(*editCell, static_cast<CComboBox*>(cellCtrl->GetWnd()));
     OnDataChanged();
 }
@@ -333,6 +337,7 @@ void TGGrid::OnCbnEditChange()
     CComboBox* combo = static_cast<CComboBox*>(GetDlgItem(CellEditorId));
     if (editCell == nullptr || combo == nullptr)
         return;
+    const TGUserAction action(*this, TGActionKind::Type);
     CellWatch watch(*this, editCell);
     // The hook may destroy the combo box, and the object with it.
     const HWND comboWindow = combo->m_hWnd;

@@ -4,6 +4,7 @@
 
 #include "grid/model/ScopedValue.h"
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 
 #include <algorithm>
 #include <utility>
@@ -233,6 +234,7 @@ long TGCellCursor::EmptyRanges()
 {
     if (GetGrid() == nullptr)
         return 0;
+    const TGUserAction action(*GetGrid(), TGActionKind::Empty);
     long emptied = 0;
     {
         const TGGridUpdate update(*GetGrid());

@@ -2,6 +2,7 @@
 #include "grid/extras/TGCellCursor.h"
 
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 #include "rules/DataEdge.h"
 
 #include <algorithm>
@@ -285,6 +286,7 @@ bool TGCellCursor::Keys::FoldOrStepOut()
     TGGridTreeRow* const row = TreeRow();
     if (row == nullptr)
         return false;
+    const TGUserAction action(grid, TGActionKind::Fold);
     if (row->IsParentRow() && !row->IsFold())
         row->Fold();
     else if (row->IsChildRow())
@@ -297,6 +299,7 @@ bool TGCellCursor::Keys::UnfoldOrStepIn()
     TGGridTreeRow* const row = TreeRow();
     if (row == nullptr || !row->IsParentRow())
         return false;
+    const TGUserAction action(grid, TGActionKind::Fold);
     if (row->IsFold())
         row->UnFold();
     else
@@ -311,6 +314,7 @@ bool TGCellCursor::RunTreeCharacter(wchar_t character)
         (character != L'+' && character != L'-' && character != L'*'))
         return false;
     auto& parent = static_cast<TGGridTreeRow&>(*row);
+    const TGUserAction action(*GetGrid(), TGActionKind::Fold);
     if (character == L'+')
         parent.UnFold();
     else if (character == L'-')

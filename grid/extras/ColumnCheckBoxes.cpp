@@ -2,6 +2,7 @@
 #include "grid/extras/TGColumnFormats.h"
 
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 #include "rules/ValueTexts.h"
 
 #include <algorithm>
@@ -153,7 +154,10 @@ bool TGColumnFormats::Toggle(long row, long col)
 {
     TGGridCell* const cell = GetGrid() != nullptr ? FindCell(row, col) : nullptr;
     const std::weak_ptr<const int> alive = life;
-    if (cell == nullptr || !ToggleCell(*cell))
+    if (cell == nullptr)
+        return false;
+    const TGUserAction action(*GetGrid(), TGActionKind::Type);
+    if (!ToggleCell(*cell))
         return false;
     if (!alive.expired() && GetGrid() != nullptr)
         TellDataChanged();
@@ -184,6 +188,7 @@ bool TGColumnFormats::ToggleSelected()
         return false;
     bool first = false;
     IsCheckBox(boxes.front().row, boxes.front().col, &first);
+    const TGUserAction action(grid, TGActionKind::Type);
     const std::weak_ptr<const int> alive = life;
     bool anyChanged = false;
     for (const Place& place : boxes)

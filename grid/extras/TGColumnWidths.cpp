@@ -3,6 +3,7 @@
 
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 #include "grid/extras/TextRuler.h"
 #include "rules/ColumnEdges.h"
 #include "rules/WidestTexts.h"
@@ -240,6 +241,7 @@ bool TGColumnWidths::PressTwice(CWnd& header, CPoint point)
     const long edge = EdgeUnder(header, point);
     if (edge == -1)
         return false;
+    const TGUserAction action(*GetGrid(), TGActionKind::ResizeCols);
     FitCol(edge, doubleClickCells);
     return true;
 }

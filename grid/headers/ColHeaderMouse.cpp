@@ -2,6 +2,7 @@
 #include "grid/TGColSelector.h"
 
 #include "grid/model/GridStructure.h"
+#include "grid/TGUserAction.h"
 #include "grid/headers/HeaderClick.h"
 #include "grid/headers/HeaderDrag.h"
 
@@ -203,12 +204,14 @@ void TGColSelector::ResizeTo(long x)
     TGGridCol& col = grid->GetCol(resizeCol);
     if (x <= col.GetLeft() + 1)
         return;
+    const TGUserAction action(*grid, TGActionKind::ResizeCols);
     TGGrid::Structure(*grid).ResizeCol(col, x - col.GetLeft());
 }
 
 // The hook may have changed the columns and the selection.
 void TGColSelector::DropAt(long to)
 {
+    const TGUserAction action(*grid, TGActionKind::MoveCols);
     if (to < 0 || to > grid->GetColNum() || !grid->OnMoveCol(to) || to > grid->GetColNum() ||
         !grid->IsColSelected())
         return;

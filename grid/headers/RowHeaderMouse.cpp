@@ -2,6 +2,7 @@
 #include "grid/TGRowSelector.h"
 
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 #include "grid/headers/HeaderClick.h"
 #include "grid/headers/HeaderDrag.h"
 #include "rules/GridGeometry.h"
@@ -184,6 +185,7 @@ void TGRowSelector::OnCaptureChanged(CWnd* newCapture)
 // The hook may have changed the rows and the selection.
 void TGRowSelector::Drop(long to)
 {
+    const TGUserAction action(*grid, TGActionKind::MoveRows);
     if (to == dragRow || to < 0 || to > grid->GetRowNum() || !grid->OnMoveRow(to) || to > grid->GetRowNum() ||
         !grid->IsRowSelected())
         return;

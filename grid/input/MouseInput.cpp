@@ -4,6 +4,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/RowWatch.h"
 #include "grid/TGActiveQuad.h"
+#include "grid/TGUserAction.h"
 #include "grid/window/TipAnswer.h"
 
 namespace QuorUiCtr
@@ -106,6 +107,7 @@ void TGGrid::Pointer::PressTreeCell(long row, CPoint point)
         grid.BeginEditCell(row, 0);
         return;
     }
+    const TGUserAction action(grid, TGActionKind::Fold);
     const RowWatch watch(grid, &treeRow);
     grid.UnSelect();
     if (!watch.IsAlive())

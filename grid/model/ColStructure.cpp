@@ -5,6 +5,7 @@
 
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridLimits.h"
+#include "grid/TGUserAction.h"
 #include "rules/GridGeometry.h"
 #include "rules/SelectedIndices.h"
 
@@ -263,6 +264,7 @@ void TGGrid::Structure::MoveColEdges(long first, long last, long distance)
 
 void TGGrid::SetColNum(long n)
 {
+    const TGUserAction action(*this, n < GetColNum() ? TGActionKind::DeleteCols : TGActionKind::InsertCols);
     const TGGridUpdate update(*this);
     while (GetColNum() > (std::max)(n, 0L))
         DelCol(GetColNum() - 1);

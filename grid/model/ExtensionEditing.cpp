@@ -5,6 +5,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 
 namespace QuorUiCtr
 {
@@ -66,6 +67,7 @@ TGTyped TGGridExtension::TryTypeInto(TGGridCell& cell, const wchar_t* text) cons
     TGGrid& typed = cell.GetGrid();
     if (cell.IsReadOnly())
         return TGTyped::ReadOnly;
+    const TGUserAction action(typed, TGActionKind::Type);
     const CellWatch watch(typed, &cell);
     bool commitNewRow = false;
     CString stored(text);

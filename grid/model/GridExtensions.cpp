@@ -147,6 +147,21 @@ std::optional<std::vector<long>> GridExtensions::AskOrder(TGGridTreeRow* parent,
     return order;
 }
 
+// ---- Actions
+
+void GridExtensions::BeginAction(TGActionKind kind)
+{
+    if (actions++ == 0)
+        Tell(&TGGridExtension::OnActionBegin, kind);
+}
+
+// An action may have begun before the extensions came that there are now.
+void GridExtensions::EndAction(TGActionKind kind)
+{
+    if (actions > 0 && --actions == 0)
+        Tell(&TGGridExtension::OnActionEnd, kind);
+}
+
 // ---- Changes
 
 bool GridExtensions::IsInGrid(TGGridRow& row) const

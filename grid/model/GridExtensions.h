@@ -57,6 +57,10 @@ public:
         return untold != nullptr && changed.size() == 1 && changed.front() == untold;
     }
 
+    // An action begins and ends; the outermost one is told.
+    void BeginAction(TGActionKind kind);
+    void EndAction(TGActionKind kind);
+
     // Whether a row or the tree that it belongs to stands in the grid.
     bool IsInGrid(TGGridRow& row) const;
     // For cells of rows in the grid.
@@ -132,6 +136,7 @@ private:
     // Somebody has come who is to be called before others.
     bool reordering = false;
     int sortings = 0;
+    int actions = 0;
     bool selectionWaits = false;
     const TGGridTreeRow* untold = nullptr;
     bool closing = false;

@@ -5,6 +5,7 @@
 #include "grid/model/MakeOrNull.h"
 #include "grid/model/RowPlaces.h"
 #include "grid/model/RowWatch.h"
+#include "grid/TGUserAction.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -229,6 +230,7 @@ private:
 
 void TGGrid::Arrange(bool ascending)
 {
+    const TGUserAction action(*this, TGActionKind::Sort);
     EndEditCell();
     SortingScope sorting(*this);
     {

@@ -8,6 +8,7 @@
 #include "grid/model/LateNumbers.h"
 #include "grid/model/MakeOrNull.h"
 #include "grid/model/RowWatch.h"
+#include "grid/TGUserAction.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -132,6 +133,7 @@ void TGGrid::MoveRow(long from, long to)
 
 void TGGrid::SetRowNum(long n)
 {
+    const TGUserAction action(*this, n < GetRowNum() ? TGActionKind::DeleteRows : TGActionKind::InsertRows);
     const TGGridUpdate update(*this);
     while (GetRowNum() > (std::max)(n, 0L))
         DelRow(GetRowNum() - 1);

@@ -106,6 +106,8 @@ bool TGGridExtension::OnSelectCells(const TGCellRange&)
 }
 
 void TGGridExtension::OnRowDeleted(const TGGridRow*) {}
+void TGGridExtension::OnActionBegin(TGActionKind) {}
+void TGGridExtension::OnActionEnd(TGActionKind) {}
 
 // ---- Places
 

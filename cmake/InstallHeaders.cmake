@@ -3,7 +3,7 @@
 # So there is no list to keep, and a header that is moved or split stays installed as long as it is needed. Needs
 # QUOR_SOURCE_DIR, and CMAKE_INSTALL_PREFIX, which the install run sets.
 cmake_minimum_required(VERSION 3.25)
-set(families grid treedrag propgrid controls)
+set(families grid treedrag undo propgrid controls)
 
 # Headers that no class needs but hosts use: identifiers of the resources and of the cell editors, the texts.
 set(pending module/resource.h module/QuorTexts.h grid/TGCellCtrlIds.h)

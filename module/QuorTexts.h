@@ -44,7 +44,39 @@ enum class QuorText
     TreeInvalidMove,
     TreeInvalidName,
     // The button of a TGBusyOverlay.
-    BusyCancel
+    BusyCancel,
+    // Menu entries of a TGUndoStack, with the name of the step for "%s", and without a step.
+    UndoEntry,
+    RedoEntry,
+    UndoNothing,
+    RedoNothing,
+    // Names of steps; for several of a kind with their number for "%d".
+    UndoChange,
+    UndoTyping,
+    UndoInsertRow,
+    UndoInsertRows,
+    UndoDeleteRow,
+    UndoDeleteRows,
+    UndoCutRow,
+    UndoCutRows,
+    UndoPasteRow,
+    UndoPasteRows,
+    UndoMoveRow,
+    UndoMoveRows,
+    UndoInsertCol,
+    UndoInsertCols,
+    UndoDeleteCol,
+    UndoDeleteCols,
+    UndoMoveCol,
+    UndoMoveCols,
+    UndoResizeCols,
+    UndoSort,
+    UndoFold,
+    UndoEmptyCell,
+    UndoEmptyCells,
+    UndoCut,
+    UndoPaste,
+    UndoFill
 };
 
 // The texts are string resources of the library. A program chooses their language once, usually when it

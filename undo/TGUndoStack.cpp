@@ -1,0 +1,248 @@
+// The undo stack as hosts see it: commands, keys, and the way to the history.
+#include "undo/TGUndoStack.h"
+
+#include "undo/UndoHistory.h"
+
+#include <iterator>
+
+namespace QuorUiCtr
+{
+namespace
+{
+
+constexpr long UsualSteps = 1000;
+constexpr std::size_t UsualBytes = 256U << 20;
+
+} // namespace
+
+BEGIN_MESSAGE_MAP(TGUndoStack, CCmdTarget)
+    ON_COMMAND(ID_EDIT_UNDO, &TGUndoStack::OnEditUndo)
+    ON_COMMAND(ID_EDIT_REDO, &TGUndoStack::OnEditRedo)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_UNDO, &TGUndoStack::OnUpdateEditUndo)
+    ON_UPDATE_COMMAND_UI(ID_EDIT_REDO, &TGUndoStack::OnUpdateEditRedo)
+END_MESSAGE_MAP()
+
+class TGUndoStack::Listener : public UndoListener
+{
+public:
+    explicit Listener(TGUndoStack& heard) : stack(heard) {}
+
+    bool AskStep(bool back, const CString& name) override
+    {
+        return back ? stack.OnUndoing(name) : stack.OnRedoing(name);
+    }
+    void TellStep(bool back, const CString& name) override
+    {
+        back ? stack.OnUndone(name) : stack.OnRedone(name);
+    }
+    void TellEnded() override { stack.OnHistoryEnded(); }
+    void TellHistory() override { stack.OnHistoryChanged(); }
+    bool RunKey(const MSG& message) override { return stack.RunKey(message); }
+
+private:
+    TGUndoStack& stack;
+};
+
+TGUndoStack::TGUndoStack()
+    : listener(std::make_unique<Listener>(*this)), history(std::make_unique<UndoHistory>(*listener))
+{
+    history->SetLimits(UsualSteps, UsualBytes);
+}
+
+TGUndoStack::~TGUndoStack() = default;
+
+// ---- Controls
+
+bool TGUndoStack::Unwatch(CWnd& control)
+{
+    return history->Leave(control);
+}
+
+bool TGUndoStack::IsWatching(const CWnd& control) const
+{
+    return history->Find(control) != nullptr;
+}
+
+// ---- Undoing
+
+bool TGUndoStack::CanUndo() const
+{
+    return history->CanGo(true);
+}
+
+bool TGUndoStack::CanRedo() const
+{
+    return history->CanGo(false);
+}
+
+bool TGUndoStack::Undo()
+{
+    return history->Go(true);
+}
+
+bool TGUndoStack::Redo()
+{
+    return history->Go(false);
+}
+
+long TGUndoStack::GetUndoNum() const
+{
+    return history->GetNum(true);
+}
+
+long TGUndoStack::GetRedoNum() const
+{
+    return history->GetNum(false);
+}
+
+CString TGUndoStack::GetUndoName(long i) const
+{
+    return history->GetName(true, i);
+}
+
+CString TGUndoStack::GetRedoName(long i) const
+{
+    return history->GetName(false, i);
+}
+
+void TGUndoStack::Clear()
+{
+    history->Clear();
+}
+
+void TGUndoStack::SetLimits(long steps, std::size_t bytes)
+{
+    history->SetLimits(steps, bytes);
+}
+
+std::size_t TGUndoStack::GetBytes() const
+{
+    return history->GetBytes();
+}
+
+void TGUndoStack::SetSaved()
+{
+    history->SetSaved();
+}
+
+bool TGUndoStack::IsSaved() const
+{
+    return history->IsSaved();
+}
+
+bool TGUndoStack::OnUndoing(const CString&)
+{
+    return true;
+}
+
+bool TGUndoStack::OnRedoing(const CString&)
+{
+    return true;
+}
+
+void TGUndoStack::OnUndone(const CString&) {}
+void TGUndoStack::OnRedone(const CString&) {}
+void TGUndoStack::OnHistoryEnded() {}
+void TGUndoStack::OnHistoryChanged() {}
+
+// ---- Commands
+
+// The edit in a watched control that has the focus and something to undo.
+HWND TGUndoStack::EditorWithUndo() const
+{
+    const HWND focus = ::GetFocus();
+    wchar_t kind[8] = {};
+    if (focus == nullptr || ::GetClassName(focus, kind, static_cast<int>(std::size(kind))) == 0 ||
+        ::lstrcmpi(kind, L"Edit") != 0)
+        return nullptr;
+    for (const auto& recorder : history->GetRecorders())
+        if (const CWnd* control = recorder->GetControl();
+            control->GetSafeHwnd() != nullptr && ::IsChild(control->m_hWnd, focus))
+            return ::SendMessage(focus, EM_CANUNDO, 0, 0) != 0 ? focus : nullptr;
+    return nullptr;
+}
+
+void TGUndoStack::OnEditUndo()
+{
+    if (const HWND editor = EditorWithUndo())
+        ::SendMessage(editor, EM_UNDO, 0, 0);
+    else
+        Undo();
+}
+
+// What is being typed has nothing behind it that could be made again.
+void TGUndoStack::OnEditRedo()
+{
+    if (EditorWithUndo() == nullptr)
+        Redo();
+}
+
+bool TGUndoStack::RunKey(const MSG& message)
+{
+    const auto isDown = [](int key) { return (::GetKeyState(key) & 0x8000) != 0; };
+    if (message.message != WM_KEYDOWN || !isDown(VK_CONTROL) || isDown(VK_MENU))
+        return false;
+    const bool shift = isDown(VK_SHIFT);
+    if (message.wParam == 'Z' && !shift)
+        OnEditUndo();
+    else if ((message.wParam == 'Z' && shift) || (message.wParam == 'Y' && !shift))
+        OnEditRedo();
+    else
+        return false;
+    return true;
+}
+
+namespace
+{
+
+void NameUndoEntry(CCmdUI& ui, QuorText entry, const CString& name)
+{
+    CString text = QuorTexts::Get(entry);
+    text.Replace(L"%s", name);
+    ui.SetText(text);
+}
+
+} // namespace
+
+void TGUndoStack::OnUpdateEditUndo(CCmdUI* ui)
+{
+    const bool inEditor = EditorWithUndo() != nullptr;
+    ui->Enable(inEditor || CanUndo());
+    if (inEditor)
+        NameUndoEntry(*ui, QuorText::UndoEntry, QuorTexts::Get(QuorText::UndoTyping));
+    else
+        NameUndoEntry(*ui, CanUndo() ? QuorText::UndoEntry : QuorText::UndoNothing, GetUndoName());
+}
+
+void TGUndoStack::OnUpdateEditRedo(CCmdUI* ui)
+{
+    const bool can = EditorWithUndo() == nullptr && CanRedo();
+    ui->Enable(can);
+    NameUndoEntry(*ui, can ? QuorText::RedoEntry : QuorText::RedoNothing, GetRedoName());
+}
+
+// ---- Scopes
+
+TGUndoTransaction::TGUndoTransaction(TGUndoStack& groupedStack, const wchar_t* name) : stack(groupedStack)
+{
+    UndoName words;
+    words.words = name;
+    stack.history->BeginStep(nullptr, words);
+}
+
+TGUndoTransaction::~TGUndoTransaction()
+{
+    stack.history->EndStep();
+}
+
+TGUndoPause::TGUndoPause(TGUndoStack& pausedStack) : stack(pausedStack)
+{
+    stack.history->BeginLeavingOut();
+}
+
+TGUndoPause::~TGUndoPause()
+{
+    stack.history->EndLeavingOut();
+}
+
+} // namespace QuorUiCtr

@@ -1,0 +1,499 @@
+// The steps of an undo stack: recorded, dropped, taken back.
+#include "undo/UndoHistory.h"
+
+#include "grid/model/ScopedValue.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace QuorUiCtr
+{
+
+bool UndoChange::Merge(UndoChange&)
+{
+    return false;
+}
+
+CString UndoName::Get() const
+{
+    if (!words.IsEmpty())
+        return words;
+    if (number <= 1)
+        return QuorTexts::Get(one);
+    CString text;
+    text.Format(L"%d", static_cast<int>(number));
+    CString name = QuorTexts::Get(many);
+    name.Replace(L"%d", text);
+    return name;
+}
+
+// ---- Steps
+
+bool UndoHistory::Step::IsBroken() const
+{
+    return std::any_of(changes.begin(), changes.end(), [](const auto& change) { return change->IsBroken(); });
+}
+
+bool UndoHistory::Step::IsView() const
+{
+    return std::all_of(changes.begin(), changes.end(), [](const auto& change) { return change->IsView(); });
+}
+
+void UndoHistory::Step::Weigh()
+{
+    bytes = sizeof(Step) + BytesOf(changes);
+}
+
+UndoHistory::Views& UndoHistory::Step::ViewsOf(UndoRecorder& recorder)
+{
+    const auto found = std::find_if(views.begin(), views.end(),
+                                    [&](const Views& kept) { return kept.recorder == &recorder; });
+    if (found != views.end())
+        return *found;
+    views.push_back({&recorder, nullptr, nullptr});
+    return views.back();
+}
+
+void UndoHistory::Append(Changes& changes, std::unique_ptr<UndoChange> change)
+{
+    if (changes.empty() || &changes.back()->GetRecorder() != &change->GetRecorder() ||
+        !changes.back()->Merge(*change))
+        changes.push_back(std::move(change));
+}
+
+std::size_t UndoHistory::BytesOf(const Changes& changes)
+{
+    std::size_t bytes = 0;
+    for (const auto& change : changes)
+        bytes += change->GetBytes() + sizeof(change);
+    return bytes;
+}
+
+// ---- Controls
+
+UndoHistory::~UndoHistory()
+{
+    while (!recorders.empty())
+        Leave(*recorders.back()->GetControl());
+}
+
+bool UndoHistory::Leave(const CWnd& control)
+{
+    const std::shared_ptr<UndoRecorder> recorder = Hold(Find(control));
+    if (recorder == nullptr)
+        return false;
+    recorder->Leave();
+    Remove(*recorder);
+    listener.TellHistory();
+    return true;
+}
+
+void UndoHistory::Add(std::shared_ptr<UndoRecorder> recorder)
+{
+    if (recorder->IsModified() && IsSaved())
+        saved = NoPosition;
+    recorders.push_back(std::move(recorder));
+}
+
+UndoRecorder* UndoHistory::Find(const CWnd& control) const
+{
+    for (const auto& recorder : recorders)
+        if (recorder->GetControl() == &control)
+            return recorder.get();
+    return nullptr;
+}
+
+std::shared_ptr<UndoRecorder> UndoHistory::Hold(const UndoRecorder* wanted) const
+{
+    for (const auto& recorder : recorders)
+        if (recorder.get() == wanted)
+            return recorder;
+    return nullptr;
+}
+
+void UndoHistory::Remove(UndoRecorder& recorder)
+{
+    const std::shared_ptr<UndoRecorder> held = Hold(&recorder);
+    const auto isIts = [&](const auto& change) { return &change->GetRecorder() == &recorder; };
+    std::erase_if(drift, isIts);
+    for (Step* step : {open.get(), mirror, taken.get()})
+        if (step != nullptr)
+        {
+            std::erase_if(step->changes, isIts);
+            std::erase_if(step->views, [&](const Views& kept) { return kept.recorder == &recorder; });
+        }
+    RemoveFrom(undo, recorder, base);
+    RemoveFrom(redo, recorder, Position());
+    std::erase_if(recorders, [&](const auto& kept) { return kept.get() == &recorder; });
+}
+
+// A step that has nothing left goes; the position behind it is the one before it then. `before` is the
+// position below all of them: those that are undone stand in the list from the last one to the first.
+void UndoHistory::RemoveFrom(Steps& steps, const UndoRecorder& recorder, unsigned before)
+{
+    const bool backwards = &steps == &redo;
+    const std::size_t number = steps.size();
+    for (std::size_t i = 0; i < number; ++i)
+    {
+        std::unique_ptr<Step>& step = steps[backwards ? number - 1 - i : i];
+        std::erase_if(step->changes, [&](const auto& change) { return &change->GetRecorder() == &recorder; });
+        std::erase_if(step->views, [&](const Views& kept) { return kept.recorder == &recorder; });
+        bytes -= step->bytes;
+        step->Weigh();
+        bytes += step->bytes;
+        if (!step->changes.empty())
+        {
+            before = step->id;
+            continue;
+        }
+        if (saved == step->id)
+            saved = before;
+        bytes -= step->bytes;
+        step.reset();
+    }
+    std::erase(steps, nullptr);
+}
+
+// ---- Recording
+
+void UndoHistory::BeginStep(UndoRecorder* recorder, const UndoName& name)
+{
+    if (depth++ > 0 || settling)
+        return;
+    open = std::make_unique<Step>();
+    open->name = name;
+    open->isHosts = !name.words.IsEmpty();
+    if (recorder != nullptr)
+        open->ViewsOf(*recorder).before = recorder->KeepView();
+}
+
+void UndoHistory::EndStep(bool joins)
+{
+    if (depth == 0 || --depth > 0)
+        return;
+    std::unique_ptr<Step> step = std::move(open);
+    if (step != nullptr && !step->changes.empty())
+        Push(std::move(step), joins);
+}
+
+void UndoHistory::Record(std::unique_ptr<UndoChange> change)
+{
+    if (!IsRecording())
+        return;
+    if (settling)
+        Append(drift, std::move(change));
+    else if (open != nullptr)
+        Append(open->changes, std::move(change));
+    else if (!change->IsView())
+    {
+        BeginStep(nullptr, {});
+        Append(open->changes, std::move(change));
+        EndStep();
+    }
+    else if (!undo.empty() || !redo.empty())
+        Append(drift, std::move(change));
+}
+
+void UndoHistory::RecordBack(std::unique_ptr<UndoChange> change)
+{
+    if (mirror != nullptr)
+        Append(mirror->changes, std::move(change));
+}
+
+UndoChange* UndoHistory::GetLast(bool back) const
+{
+    const Changes* changes = nullptr;
+    if (back)
+        changes = mirror != nullptr ? &mirror->changes : nullptr;
+    else if (settling)
+        changes = &drift;
+    else
+        changes = open != nullptr ? &open->changes : nullptr;
+    return changes != nullptr && !changes->empty() ? changes->back().get() : nullptr;
+}
+
+void UndoHistory::Push(std::unique_ptr<Step> step, bool joins)
+{
+    if (!step->isHosts && step->IsView())
+    {
+        if (!undo.empty() || !redo.empty())
+            for (auto& change : step->changes)
+                Append(drift, std::move(change));
+        return;
+    }
+    for (const auto& change : step->changes)
+        if (const auto recorder = Hold(&change->GetRecorder()))
+            step->ViewsOf(*recorder);
+    for (Views& views : step->views)
+        views.after = views.recorder->KeepView();
+    Drop(redo);
+    if (joins && JoinsLast(*step))
+        return;
+    step->name.number = 0;
+    for (const auto& change : step->changes)
+        step->name.number += change->GetNumber();
+    step->changes.insert(step->changes.begin(), std::make_move_iterator(drift.begin()),
+                         std::make_move_iterator(drift.end()));
+    drift.clear();
+    step->id = ++lastId;
+    Put(undo, std::move(step));
+    KeepLimits();
+    listener.TellHistory();
+}
+
+bool UndoHistory::JoinsLast(Step& step)
+{
+    if (undo.empty() || !drift.empty() || IsSaved() || step.changes.size() != 1)
+        return false;
+    Step& last = *undo.back();
+    if (&last.changes.back()->GetRecorder() != &step.changes.front()->GetRecorder() ||
+        !last.changes.back()->Merge(*step.changes.front()))
+        return false;
+    for (Views& views : step.views)
+        last.ViewsOf(*views.recorder).after = std::move(views.after);
+    bytes -= last.bytes;
+    last.Weigh();
+    bytes += last.bytes;
+    return true;
+}
+
+// ---- The lists
+
+void UndoHistory::Put(Steps& steps, std::unique_ptr<Step> step)
+{
+    step->Weigh();
+    bytes += step->bytes;
+    steps.push_back(std::move(step));
+}
+
+std::unique_ptr<UndoHistory::Step> UndoHistory::TakeLast(Steps& steps)
+{
+    std::unique_ptr<Step> last = std::move(steps.back());
+    steps.pop_back();
+    bytes -= last->bytes;
+    return last;
+}
+
+// What steps own goes when the lists are in order again.
+void UndoHistory::Drop(Steps& steps)
+{
+    const unsigned position = Position();
+    Steps dropped = std::exchange(steps, {});
+    for (const auto& step : dropped)
+        bytes -= step->bytes;
+    if (&steps == &undo)
+        base = position;
+    const ScopedValue guard(dropping, true);
+    dropped.clear();
+}
+
+void UndoHistory::DropFirst(Steps& steps)
+{
+    std::unique_ptr<Step> first = std::move(steps.front());
+    steps.pop_front();
+    bytes -= first->bytes;
+    if (&steps == &undo)
+        base = first->id;
+    const ScopedValue guard(dropping, true);
+    first.reset();
+}
+
+void UndoHistory::KeepLimits()
+{
+    while (maxSteps > 0 && static_cast<long>(undo.size()) > maxSteps)
+        DropFirst(undo);
+    while (maxBytes > 0 && bytes > maxBytes && (!undo.empty() || !redo.empty()))
+        DropFirst(!undo.empty() ? undo : redo);
+}
+
+void UndoHistory::SetLimits(long steps, std::size_t limit)
+{
+    maxSteps = steps;
+    maxBytes = limit;
+    KeepLimits();
+    listener.TellHistory();
+}
+
+std::size_t UndoHistory::GetBytes() const
+{
+    return bytes + BytesOf(drift);
+}
+
+void UndoHistory::Clear()
+{
+    Drop(redo);
+    Drop(undo);
+    drift.clear();
+    listener.TellHistory();
+}
+
+void UndoHistory::End()
+{
+    for (Step* step : {open.get(), taken.get()})
+        if (step != nullptr)
+            step->changes.clear();
+    saved = NoPosition;
+    Clear();
+    listener.TellEnded();
+}
+
+void UndoHistory::SetSaved()
+{
+    saved = Position();
+    for (const auto& recorder : std::vector(recorders))
+        recorder->MarkModified(false);
+}
+
+// ---- Going back and forth
+
+bool UndoHistory::CanGo(bool back) const
+{
+    const Steps& steps = back ? undo : redo;
+    return !busy && depth == 0 && !steps.empty() && !steps.back()->IsBroken();
+}
+
+CString UndoHistory::GetName(bool back, long i) const
+{
+    const Steps& steps = back ? undo : redo;
+    if (i < 0 || i >= static_cast<long>(steps.size()))
+        return CString();
+    return steps[steps.size() - 1 - static_cast<std::size_t>(i)]->name.Get();
+}
+
+bool UndoHistory::Go(bool back)
+{
+    if (busy || depth > 0)
+        return false;
+    const ScopedValue guard(busy, true);
+    for (const auto& recorder : std::vector(recorders))
+        if (Hold(recorder.get()) != nullptr)
+            recorder->EndEdit();
+    Steps& steps = back ? undo : redo;
+    if (depth > 0 || steps.empty())
+        return false;
+    if (steps.back()->IsBroken())
+    {
+        EndSide(back, Position());
+        return false;
+    }
+    const unsigned id = steps.back()->id;
+    const CString name = steps.back()->name.Get();
+    // Who is asked may change everything.
+    if (!listener.AskStep(back, name) || depth > 0 || steps.empty() || steps.back()->id != id)
+        return false;
+    if (!GoBy(back))
+        return false;
+    listener.TellStep(back, name);
+    listener.TellHistory();
+    return true;
+}
+
+bool UndoHistory::GoBy(bool back)
+{
+    const ScopedValue guard(settling, true);
+    const unsigned position = Position();
+    taken = TakeLast(back ? undo : redo);
+    auto reversed = std::make_unique<Step>();
+    reversed->name = taken->name;
+    reversed->id = taken->id;
+    reversed->isHosts = taken->isHosts;
+    const Held touched = Touched();
+    for (const auto& recorder : touched)
+        recorder->BeginRevert();
+    // What others change meanwhile drifts away from the new position.
+    Changes drifted = std::exchange(drift, {});
+    const bool hadDrift = !drifted.empty();
+    mirror = reversed.get();
+    const bool isDone = RevertAll(drifted) && RevertAll(taken->changes);
+    const std::vector<Views> views = taken->views;
+    if (isDone)
+    {
+        reversed->views = views;
+        Put(back ? redo : undo, std::move(reversed));
+    }
+    else
+    {
+        RollForward(*reversed);
+        if (hadDrift)
+            Drop(back ? redo : undo);
+        EndSide(back, position);
+    }
+    mirror = nullptr;
+    taken.reset();
+    Finish(isDone ? views : std::vector<Views>(), touched, back);
+    if (isDone)
+        TellChanged(touched);
+    KeepLimits();
+    return isDone;
+}
+
+UndoHistory::Held UndoHistory::Touched()
+{
+    Held touched;
+    for (const Changes* changes : {&taken->changes, &drift})
+        for (const auto& change : *changes)
+        {
+            const auto recorder = Hold(&change->GetRecorder());
+            if (std::find(touched.begin(), touched.end(), recorder) == touched.end())
+                touched.push_back(recorder);
+        }
+    return touched;
+}
+
+bool UndoHistory::RevertAll(Changes& changes)
+{
+    while (!changes.empty())
+    {
+        const std::unique_ptr<UndoChange> change = std::move(changes.back());
+        changes.pop_back();
+        if (change->IsBroken() || !change->Fits() || !change->Revert())
+            return false;
+    }
+    return true;
+}
+
+// Makes again what has been taken back of a step that does not fit.
+void UndoHistory::RollForward(Step& reversed)
+{
+    Step again;
+    Changes made = std::exchange(reversed.changes, {});
+    mirror = &again;
+    if (!RevertAll(made))
+        End();
+}
+
+// Hooks may make a control leave, or drop the steps.
+void UndoHistory::Finish(const std::vector<Views>& views, const Held& touched, bool back)
+{
+    for (const auto& recorder : touched)
+    {
+        std::shared_ptr<UndoView> view;
+        for (const Views& kept : views)
+            if (kept.recorder == recorder.get())
+                view = back ? kept.before : kept.after;
+        recorder->EndRevert(view.get());
+    }
+}
+
+void UndoHistory::TellChanged(const Held& touched)
+{
+    for (const auto& recorder : touched)
+        if (Hold(recorder.get()) != nullptr)
+            recorder->TellChanged();
+    const bool isSaved = IsSaved();
+    for (const auto& recorder : Held(isSaved ? recorders : touched))
+        if (Hold(recorder.get()) != nullptr)
+            recorder->MarkModified(!isSaved);
+}
+
+void UndoHistory::EndSide(bool back, unsigned position)
+{
+    Drop(back ? undo : redo);
+    if (back)
+        base = position;
+    drift.clear();
+    listener.TellEnded();
+    listener.TellHistory();
+}
+
+} // namespace QuorUiCtr

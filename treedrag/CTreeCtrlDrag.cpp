@@ -1,6 +1,7 @@
 // The tree itself: life, message map, questions about items, walking the tree.
 #include "treedrag/CTreeCtrlDrag.h"
 
+#include "treedrag/TreeActions.h"
 #include "treedrag/TreeWatch.h"
 
 namespace QuorUiCtr
@@ -65,12 +66,16 @@ BOOL CTreeCtrlDrag::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LR
 {
     if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == TVN_DELETEITEMW)
         ForgetItem(reinterpret_cast<const NMTREEVIEW*>(lParam)->itemOld.hItem);
+    else if (message == WM_NOTIFY && actionWatcher != nullptr)
+        actionWatcher->OnNotify(*reinterpret_cast<const NMHDR*>(lParam));
     return CTreeCtrl::OnChildNotify(message, wParam, lParam, result);
 }
 
 void CTreeCtrlDrag::ForgetItem(HTREEITEM item)
 {
     TreeWatch::NoteDeletedItem(newestWatch, item);
+    if (actionWatcher != nullptr)
+        actionWatcher->OnItemGone(item);
     if (item == itemToReopen)
         itemToReopen = nullptr;
     if (item == dropTarget)

@@ -9,6 +9,7 @@
 namespace QuorUiCtr
 {
 
+class TreeActionWatcher;
 class TreeWatch;
 struct TreeMove;
 
@@ -234,6 +235,8 @@ protected:
     HTREEITEM lastVisibleItem = nullptr;
 
 private:
+    friend class TreeActionWatcher;
+
     // Sends a message to the parent window; 0 without one.
     LRESULT TellParent(UINT message, HTREEITEM item, HTREEITEM place = nullptr);
 
@@ -284,6 +287,8 @@ private:
     bool IsHeldByMove(HTREEITEM item, HTREEITEM newParent) const;
     bool BeginCommandMove();
     void CarryOutCommandMove(HTREEITEM newParent, bool tellAgain);
+    void MoveByCommand(HTREEITEM newParent, bool tellAgain);
+    HTREEITEM CopyDragItem(HTREEITEM parent, HTREEITEM after);
     bool IsMoveAllowed(HTREEITEM newParent);
     void EndMove();
 
@@ -308,6 +313,7 @@ private:
     HTREEITEM itemToReopen = nullptr; // its label was refused and is to be edited again
     TreeWatch* newestWatch = nullptr;
     TreeMove* innermostMove = nullptr;
+    TreeActionWatcher* actionWatcher = nullptr;
 };
 
 } // namespace QuorUiCtr

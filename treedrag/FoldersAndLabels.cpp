@@ -2,6 +2,7 @@
 #include "treedrag/CTreeCtrlDrag.h"
 
 #include "module/QuorTexts.h"
+#include "treedrag/TreeActions.h"
 #include "treedrag/TreeWatch.h"
 #include "rules/TreeDragRules.h"
 
@@ -89,6 +90,7 @@ HTREEITEM CTreeCtrlDrag::CreateNewFolder()
     if (!FinishLabelEdit())
         return nullptr;
     TreeWatch watch(newestWatch);
+    const TreeActionScope action(newestWatch, actionWatcher, TreeAction::NewFolder);
     const HTREEITEM folder = InsertFolder();
     SelectItem(folder);
     if (!watch.IsGone(folder))
@@ -135,8 +137,10 @@ void CTreeCtrlDrag::DeleteSelected()
     if (ItemHasChildren(selected) &&
         AfxMessageBox(QuorTexts::Get(QuorText::TreeDeleteQuestion), MB_YESNO) != IDYES)
         return;
-    if (!watch.IsGone(selected))
-        ReportDeletion(selected);
+    if (watch.IsGone(selected))
+        return;
+    const TreeActionScope action(newestWatch, actionWatcher, TreeAction::Delete);
+    ReportDeletion(selected);
     if (!watch.IsGone(selected))
         DeleteItem(selected);
 }
@@ -180,15 +184,17 @@ void CTreeCtrlDrag::OnEndLabelEdit(NMHDR* header, LRESULT* result)
     CString text(edited.pszText);
     text.Trim();
     TreeWatch watch(newestWatch);
-    if (!text.IsEmpty())
-    {
-        if (noDuplicates && !IsUniqueNameOnThisLevel(text, item, GetParentItem(item)))
-            RefuseLabel(item);
-        else
-            AcceptLabel(item, text);
-    }
-    if (!watch.IsTreeGone())
-        SwitchTemporaryEditOff();
+    const bool isRefused =
+        !text.IsEmpty() && noDuplicates && !IsUniqueNameOnThisLevel(text, item, GetParentItem(item));
+    if (isRefused)
+        RefuseLabel(item);
+    else if (!text.IsEmpty())
+        AcceptLabel(item, text);
+    if (watch.IsTreeGone())
+        return;
+    SwitchTemporaryEditOff();
+    if (actionWatcher != nullptr && !isRefused)
+        actionWatcher->OnLabelEditEnd();
 }
 
 // An edit that is ending loses the focus, to a message box or as its window goes; not every version of the
@@ -203,6 +209,7 @@ bool CTreeCtrlDrag::IsEndedAlready()
 
 void CTreeCtrlDrag::AcceptLabel(HTREEITEM item, const CString& text)
 {
+    const TreeActionScope action(newestWatch, actionWatcher, TreeAction::Rename);
     SetItemText(item, text);
     TellParent(TDM_ITEM_RENAMED, item);
 }

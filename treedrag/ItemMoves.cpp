@@ -2,6 +2,7 @@
 #include "treedrag/CTreeCtrlDrag.h"
 
 #include "module/QuorTexts.h"
+#include "treedrag/TreeActions.h"
 #include "treedrag/TreeWatch.h"
 
 #include <cwchar>
@@ -51,6 +52,7 @@ void CTreeCtrlDrag::SuccessfulDrag()
     if (!FinishLabelEdit())
         return;
     TreeWatch watch(newestWatch);
+    const TreeActionScope action(newestWatch, actionWatcher, TreeAction::Drop);
     SaveFirstAndLastVisibleItems();
     if (dragItem != nullptr && dropTarget != nullptr && !IsDropWithoutEffect())
     {
@@ -106,6 +108,20 @@ HTREEITEM CTreeCtrlDrag::InsertItemAndSubtree(HTREEITEM parent)
     if (IsSelfOrBelow(parent, dragItem))
         return nullptr;
     const HTREEITEM after = InsertAfterUnder(parent);
+    if (actionWatcher != nullptr)
+        actionWatcher->OnCopyBegin(dragItem, parent);
+    const HTREEITEM copy = CopyDragItem(parent, after);
+    if (actionWatcher != nullptr)
+        actionWatcher->OnCopyEnd(copy);
+    if (copy == nullptr)
+        return nullptr;
+    TreeWatch watch(newestWatch);
+    TellParent(TDM_ITEM_INSERTED, copy, after == TVI_FIRST ? parent : after);
+    return watch.IsGone(copy) ? nullptr : copy;
+}
+
+HTREEITEM CTreeCtrlDrag::CopyDragItem(HTREEITEM parent, HTREEITEM after)
+{
     const HTREEITEM copy = InsertPlaceholder(L"dummy", parent, after);
     if (copy == nullptr)
         return nullptr;
@@ -117,9 +133,7 @@ HTREEITEM CTreeCtrlDrag::InsertItemAndSubtree(HTREEITEM parent)
         return nullptr;
     }
     CopyItem(copy, dragItem);
-    TreeWatch watch(newestWatch);
-    TellParent(TDM_ITEM_INSERTED, copy, after == TVI_FIRST ? parent : after);
-    return watch.IsGone(copy) ? nullptr : copy;
+    return copy;
 }
 
 HTREEITEM CTreeCtrlDrag::InsertPlaceholder(const wchar_t* text, HTREEITEM parent, HTREEITEM after)
@@ -181,6 +195,8 @@ void CTreeCtrlDrag::CopyItem(HTREEITEM destination, HTREEITEM source)
     SetItem(&item);
     if ((item.state & TVIS_EXPANDED) != 0)
         Expand(destination, TVE_EXPAND);
+    if (actionWatcher != nullptr)
+        actionWatcher->OnCopied(source, destination);
 }
 
 HTREEITEM CTreeCtrlDrag::ReplaceDragItem(HTREEITEM newParent)
@@ -190,13 +206,21 @@ HTREEITEM CTreeCtrlDrag::ReplaceDragItem(HTREEITEM newParent)
         return nullptr;
     TreeWatch watch(newestWatch);
     TreeMove move(watch, original, innermostMove);
+    if (actionWatcher != nullptr)
+        actionWatcher->OnMoveBegin(original);
     const HTREEITEM copy = InsertItemAndSubtree(newParent);
     if (!watch.IsGone(copy))
     {
         SelectItem(copy);
         if (!watch.IsGone(original))
+        {
+            if (actionWatcher != nullptr && !watch.IsGone(copy))
+                actionWatcher->OnMoved(original, copy);
             DeleteItem(original);
+        }
     }
+    if (!watch.IsTreeGone() && actionWatcher != nullptr)
+        actionWatcher->OnMoveEnd();
     return watch.IsGone(copy) ? nullptr : copy;
 }
 
@@ -269,17 +293,23 @@ bool CTreeCtrlDrag::BeginCommandMove()
 
 void CTreeCtrlDrag::CarryOutCommandMove(HTREEITEM newParent, bool tellAgain)
 {
-    const HTREEITEM original = dragItem;
     TreeWatch watch(newestWatch);
-    const HTREEITEM copy = IsMoveAllowed(newParent) ? ReplaceDragItem(newParent) : nullptr;
-    if (copy != nullptr)
-    {
-        ResetVisibleItems(copy, original, GetPrevVisibleItem(copy));
-        if (tellAgain)
-            TellParent(TDM_ITEM_INSERTED, original, copy);
-    }
+    if (IsMoveAllowed(newParent))
+        MoveByCommand(newParent, tellAgain);
     if (!watch.IsTreeGone())
         EndMove();
+}
+
+void CTreeCtrlDrag::MoveByCommand(HTREEITEM newParent, bool tellAgain)
+{
+    const TreeActionScope action(newestWatch, actionWatcher, TreeAction::Move);
+    const HTREEITEM original = dragItem;
+    const HTREEITEM copy = ReplaceDragItem(newParent);
+    if (copy == nullptr)
+        return;
+    ResetVisibleItems(copy, original, GetPrevVisibleItem(copy));
+    if (tellAgain)
+        TellParent(TDM_ITEM_INSERTED, original, copy);
 }
 
 bool CTreeCtrlDrag::IsMoveAllowed(HTREEITEM newParent)

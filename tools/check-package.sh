@@ -45,12 +45,13 @@ check_content() {
         die "the ZIP does not hold what is installed"
     for file in bin/{QuorUiCtrl,QuorFx,libstdc++-6,libgcc_s_seh-1,libwinpthread-1}.dll bin/gallery.exe \
         bin/data/{elements.csv,countries.csv,README.md} lib/lib{QuorUiCtrl.dll,QuorFx.dll,QuorFxMain}.a \
-        include/QuorUiCtrl/{grid/{TGGrid,TGTreeGrid},treedrag/CTreeCtrlDrag,controls/CGridListCtrl}.h \
+        include/QuorUiCtrl/{grid/{TGGrid,TGTreeGrid},treedrag/CTreeCtrlDrag,undo/TGUndoStack,controls/CGridListCtrl}.h \
         include/QuorUiCtrl/propgrid/CMFCPropertyGridCtrlEx.h include/QuorFx/afxwin.h \
         share/licenses/QuorUiCtrl/LICENSE $package_dir/{QuorUiCtrlConfig,mingw-w64}.cmake; do
         [[ -s $prefix/$file ]] || die "the package lacks $file"
     done
-    for file in grid/window/GridLayout.h grid/model/GridStructure.h rules/ListGeometry.h treedrag/TreeWatch.h; do
+    for file in grid/window/GridLayout.h grid/model/GridStructure.h rules/ListGeometry.h treedrag/TreeWatch.h \
+        undo/UndoHistory.h; do
         [[ ! -e $prefix/include/QuorUiCtrl/$file ]] || die "the package has the private header $file"
     done
     ! grep -rlF "$quor_root" "$prefix" || die "these files name a path of this machine"

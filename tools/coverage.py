@@ -26,6 +26,7 @@ LIMITS = {
     "grid": (98, 93),
     "rules": (98, 93),
     "treedrag": (98, 93),
+    "undo": (98, 93),
     "controls": (98, 93),
     "propgrid": (98, 93),
     "framework/src": (93, 85),

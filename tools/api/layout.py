@@ -3,7 +3,7 @@ import glob
 import os
 import subprocess
 
-LIBRARY = ('grid', 'propgrid', 'treedrag', 'controls', 'rules', 'module')
+LIBRARY = ('grid', 'propgrid', 'treedrag', 'undo', 'controls', 'rules', 'module')
 SAMPLES = ('samples',)
 
 DEFINITIONS = ['UNICODE', '_UNICODE', '_AFXDLL', 'WIN32', '_WINDOWS', '_WIN32_WINNT=0x0601', 'WINVER=0x0601',

@@ -6,8 +6,8 @@ import sys
 import tempfile
 
 ROOT = os.path.dirname(os.path.dirname(os.path.dirname(os.path.abspath(__file__))))
-FOLDERS = ('framework', 'grid', 'propgrid', 'treedrag', 'controls', 'rules', 'module', 'samples', 'tools', 'docs',
-           'cmake')
+FOLDERS = ('framework', 'grid', 'propgrid', 'treedrag', 'undo', 'controls', 'rules', 'module', 'samples', 'tools',
+           'docs', 'cmake')
 
 
 class Plant:

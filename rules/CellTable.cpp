@@ -102,6 +102,17 @@ void CellTable::MakeCaptionsARow()
     hasCaptions = false;
 }
 
+void CellTable::MakeFirstRowCaptions()
+{
+    if (hasCaptions || rowEnds.empty())
+        return;
+    captionNum = rowEnds.front();
+    hasCaptions = true;
+    rowEnds.erase(rowEnds.begin());
+    if (!marks.empty())
+        marks.erase(marks.begin());
+}
+
 void CellTable::WriteTo(CellSink& sink) const
 {
     if (hasCaptions)

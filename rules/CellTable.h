@@ -84,6 +84,8 @@ public:
     std::wstring_view GetCaption(std::size_t col) const;
     // The captions become the first row, for a program that has no use for them; nothing without.
     void MakeCaptionsARow();
+    // The other way: the first row becomes the captions. Nothing without a row, or with captions.
+    void MakeFirstRowCaptions();
 
     // Hands all over to another sink.
     void WriteTo(CellSink& sink) const;

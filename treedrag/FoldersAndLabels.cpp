@@ -41,6 +41,8 @@ BOOL CTreeCtrlDrag::PreTranslateMessage(MSG* message)
 {
     if (message->message == WM_KEYDOWN)
     {
+        if (actionWatcher != nullptr && actionWatcher->OnKey(*message))
+            return TRUE;
         CEdit* edit = GetEditControl();
         if (edit != nullptr && PassKeyToEdit(*message, *edit))
             return TRUE;

@@ -47,6 +47,8 @@ public:
     // The next item that is deleted is the original: the copy takes its place.
     virtual void OnMoved(HTREEITEM original, HTREEITEM copy) = 0;
 
+    // A key has been pressed in the tree or in its label edit. True: it is done.
+    virtual bool OnKey(const MSG& message) = 0;
     // An item is being deleted, by whomever.
     virtual void OnItemGone(HTREEITEM item) = 0;
     // A notification of the platform's tree, before the tree or its owner sees it.

@@ -71,6 +71,12 @@ constexpr TextResource TextResources[] = {
     {QuorText::UndoCut, IDS_UNDO_CUT, ChineseTexts},
     {QuorText::UndoPaste, IDS_UNDO_PASTE, ChineseTexts},
     {QuorText::UndoFill, IDS_UNDO_FILL, ChineseTexts},
+    {QuorText::UndoTreeMove, IDS_UNDO_TREE_MOVE, ChineseTexts},
+    {QuorText::UndoTreeNewFolder, IDS_UNDO_TREE_NEW_FOLDER, ChineseTexts},
+    {QuorText::UndoTreeRename, IDS_UNDO_TREE_RENAME, ChineseTexts},
+    {QuorText::UndoTreeDelete, IDS_UNDO_TREE_DELETE, ChineseTexts},
+    {QuorText::UndoTreeDeleteMany, IDS_UNDO_TREE_DELETE_MANY, ChineseTexts},
+    {QuorText::UndoTreeCheck, IDS_UNDO_TREE_CHECK, ChineseTexts},
 };
 
 // What the process has chosen, under the lock.

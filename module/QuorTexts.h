@@ -76,7 +76,14 @@ enum class QuorText
     UndoEmptyCells,
     UndoCut,
     UndoPaste,
-    UndoFill
+    UndoFill,
+    // In a drag tree.
+    UndoTreeMove,
+    UndoTreeNewFolder,
+    UndoTreeRename,
+    UndoTreeDelete,
+    UndoTreeDeleteMany,
+    UndoTreeCheck
 };
 
 // The texts are string resources of the library. A program chooses their language once, usually when it

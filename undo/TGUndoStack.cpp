@@ -1,9 +1,11 @@
 // The undo stack as hosts see it: commands, keys, and the way to the history.
 #include "undo/TGUndoStack.h"
 
+#include "undo/TreeUndo.h"
 #include "undo/UndoHistory.h"
 
 #include <iterator>
+#include <utility>
 
 namespace QuorUiCtr
 {
@@ -52,6 +54,15 @@ TGUndoStack::TGUndoStack()
 TGUndoStack::~TGUndoStack() = default;
 
 // ---- Controls
+
+bool TGUndoStack::Watch(CTreeCtrlDrag& tree, TGTreeUndoHost* treeHost)
+{
+    std::shared_ptr<TreeUndo> watch = TreeUndo::Watch(*history, tree, treeHost);
+    if (watch == nullptr)
+        return false;
+    history->Add(std::move(watch));
+    return true;
+}
 
 bool TGUndoStack::Unwatch(CWnd& control)
 {

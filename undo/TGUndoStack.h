@@ -11,6 +11,8 @@
 namespace QuorUiCtr
 {
 
+class CTreeCtrlDrag;
+class TGTreeUndoHost;
 class UndoHistory;
 
 // Watches any number of controls, keeps what changes in them, and takes it back, in one order of steps over
@@ -54,6 +56,10 @@ public:
 
     // ---- Controls
 
+    // Watches a drag tree, as it is now, until it or its window goes. `treeHost`, if any, is told what the
+    // messages of the tree do not say; it must exist as long as the watch. False: the tree has no window, or
+    // is watched already.
+    bool Watch(CTreeCtrlDrag& tree, TGTreeUndoHost* treeHost = nullptr);
     // Does not watch any more what was recorded of the control; false when it is not watched.
     bool Unwatch(CWnd& control);
     bool IsWatching(const CWnd& control) const;

@@ -167,6 +167,16 @@ void UndoHistory::BeginStep(UndoRecorder* recorder, const UndoName& name)
         open->ViewsOf(*recorder).before = recorder->KeepView();
 }
 
+bool UndoHistory::ContinueStep(unsigned position)
+{
+    if (depth > 0 || settling || undo.empty() || !redo.empty() || !drift.empty() || IsSaved() ||
+        Position() != position)
+        return false;
+    open = TakeLast(undo);
+    ++depth;
+    return true;
+}
+
 void UndoHistory::EndStep(bool joins)
 {
     if (depth == 0 || --depth > 0)

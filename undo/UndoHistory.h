@@ -60,6 +60,11 @@ public:
     // of the one before it.
     void BeginStep(UndoRecorder* recorder, const UndoName& name);
     void EndStep(bool joins = false);
+    // Instead of BeginStep: goes on with the last step, when it is the one behind which the history stands at
+    // `position`, and nothing has happened since. False: it is not, and nothing has begun.
+    bool ContinueStep(unsigned position);
+    // Where the history stands: no two positions have the same number.
+    unsigned Position() const { return undo.empty() ? base : undo.back()->id; }
     bool IsInStep() const { return depth > 0; }
     // A change that has happened. Outside of steps it is one.
     void Record(std::unique_ptr<UndoChange> change);
@@ -126,7 +131,6 @@ private:
     static void Append(Changes& changes, std::unique_ptr<UndoChange> change);
     static std::size_t BytesOf(const Changes& changes);
     std::shared_ptr<UndoRecorder> Hold(const UndoRecorder* recorder) const;
-    unsigned Position() const { return undo.empty() ? base : undo.back()->id; }
     void Push(std::unique_ptr<Step> step, bool joins);
     bool JoinsLast(Step& step);
     void Put(Steps& steps, std::unique_ptr<Step> step);

@@ -68,7 +68,7 @@ std::optional<int> TakeExponent(std::wstring_view& text)
     return isNegative ? -value : value;
 }
 
-std::optional<Decimal> ReadDecimal(std::wstring_view text)
+std::optional<Decimal> DecimalOf(std::wstring_view text)
 {
     text = Trimmed(text);
     if (text.empty() || text.size() > LongestNumber)
@@ -201,7 +201,7 @@ std::wstring Negative(const std::wstring& number, const NumberMarks& marks)
 std::optional<std::wstring> ShapeNumber(std::wstring_view text, const NumberStyle& style,
                                         const NumberMarks& marks)
 {
-    std::optional<Decimal> value = ReadDecimal(text);
+    std::optional<Decimal> value = DecimalOf(text);
     if (!value)
         return std::nullopt;
     if (style.isPercent)

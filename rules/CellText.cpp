@@ -138,7 +138,8 @@ wchar_t TakeNamedSeparator(std::wstring_view& text)
         return L'\0';
     const wchar_t named = rest[Name.size()];
     rest.remove_prefix(Name.size() + 1);
-    if (named == Quote || named == L'\0' || IsBreak(named) || (!rest.empty() && !IsBreak(rest.front())))
+    if (named == Quote || named == L'\0' || named == FileMark || IsBreak(named) ||
+        (!rest.empty() && !IsBreak(rest.front())))
         return L'\0';
     rest.remove_prefix(rest.starts_with(L"\r\n") ? 2 : rest.empty() ? 0 : 1);
     text = rest;

@@ -69,11 +69,11 @@ struct CellHtmlNotes
 // - The fragment is what stands between its comments, else between its offsets, else all up to the first
 //   U+0000. It may begin and end within a table.
 // - Rows are those of all tables, in order. A first row of nothing but <th> is the captions, unless it is the
-//   only one. Rows of one cell are the lines of text that stands outside of tables.
+//   only one. Rows of one cell are the lines of text that stands outside of tables; text between the cells
+//   of a table comes before it, as browsers show it.
 // - Cells that a colspan or rowspan covers are empty ones. Rows that are not displayed are left out.
 // - A table within a cell is text of the cell: a line for each row, tabs between cells. But where a cell is
-// all
-//   that a table has, and a table all that the cell has, the inner one is taken for the outer one.
+//   all that a table has, and a table all that the cell has, the inner one is taken for the outer one.
 // - White space is folded as browsers do, unless a style or <pre> keeps it. &nbsp; is a blank, which others
 //   write so that it is not folded, other names and numbers of U+00A0 are that character. <br> is a line
 //   feed, paragraphs are divided by one. A cell with nothing but one &nbsp; or <br> is empty, unless its

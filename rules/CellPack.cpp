@@ -36,15 +36,21 @@ enum HeaderPlace : std::size_t
 
 template <class Number> void Put(unsigned char* at, Number number)
 {
-    for (std::size_t i = 0; i < sizeof(Number); ++i)
-        at[i] = static_cast<unsigned char>(number >> (8 * i));
+    if constexpr (std::endian::native == std::endian::little)
+        std::memcpy(at, &number, sizeof number);
+    else
+        for (std::size_t i = 0; i < sizeof(Number); ++i)
+            at[i] = static_cast<unsigned char>(number >> (8 * i));
 }
 
 template <class Number> Number Get(const unsigned char* at)
 {
     Number number = 0;
-    for (std::size_t i = 0; i < sizeof(Number); ++i)
-        number = static_cast<Number>(number | static_cast<Number>(static_cast<Number>(at[i]) << (8 * i)));
+    if constexpr (std::endian::native == std::endian::little)
+        std::memcpy(&number, at, sizeof number);
+    else
+        for (std::size_t i = 0; i < sizeof(Number); ++i)
+            number = static_cast<Number>(number | static_cast<Number>(static_cast<Number>(at[i]) << (8 * i)));
     return number;
 }
 
@@ -61,12 +67,11 @@ std::uint64_t SumOf(const unsigned char* first, std::size_t size)
 // Units of UTF-16, whatever the size of wchar_t.
 void AppendUnits(std::u16string& units, std::wstring_view text)
 {
-    const std::size_t before = units.size();
     if constexpr (sizeof(wchar_t) == sizeof(char16_t))
     {
+        const std::size_t before = units.size();
         units.resize(before + text.size());
-        if (!text.empty())
-            std::memcpy(units.data() + before, text.data(), text.size() * sizeof(char16_t));
+        std::copy(text.begin(), text.end(), units.data() + before);
         return;
     }
     for (const wchar_t character : text)

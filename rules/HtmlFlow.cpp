@@ -5,27 +5,40 @@
 #include "rules/Utf8.h"
 
 #include <algorithm>
+#include <array>
 
 namespace QuorUiCtr
 {
 namespace
 {
 
-bool IsFoldedSpace(char unit)
+enum class ByteKind : unsigned char
 {
-    return unit == ' ' || unit == '\t' || unit == '\n' || unit == '\r' || unit == '\f';
-}
+    // A character by itself.
+    Plain,
+    // White space, which is folded.
+    Space,
+    // The beginning of a name, of a longer character, or what HTML cannot have.
+    Other
+};
 
-// A character that is itself.
-bool IsItself(char unit)
-{
-    const auto code = static_cast<unsigned char>(unit);
-    return code < 0x80 && code != '&' && code != '\0' && !IsFoldedSpace(unit);
-}
+constexpr auto ByteKinds = [] {
+    std::array<ByteKind, 256> kinds = {};
+    for (std::size_t code = 0x80; code < kinds.size(); ++code)
+        kinds[code] = ByteKind::Other;
+    kinds['\0'] = kinds['&'] = ByteKind::Other;
+    for (const unsigned char space : {' ', '\t', '\n', '\r', '\f'})
+        kinds[space] = ByteKind::Space;
+    return kinds;
+}();
 
-std::size_t RunOf(std::string_view text, bool (*belongs)(char))
+// How many bytes of a kind a text begins with.
+std::size_t RunOf(std::string_view text, ByteKind kind)
 {
-    return static_cast<std::size_t>(std::find_if_not(text.begin(), text.end(), belongs) - text.begin());
+    std::size_t length = 0;
+    while (length < text.size() && ByteKinds[static_cast<unsigned char>(text[length])] == kind)
+        ++length;
+    return length;
 }
 
 } // namespace
@@ -55,15 +68,13 @@ void HtmlFlow::Add(std::string_view html, std::size_t& wrongBytes)
 {
     while (!html.empty())
     {
-        if (const std::size_t run = RunOf(html, IsItself); run > 0)
+        if (const std::size_t run = RunOf(html, ByteKind::Plain); run > 0)
         {
-            Flush();
-            hasContent = true;
-            text.append(html.begin(), html.begin() + static_cast<std::ptrdiff_t>(run));
+            AddPlain(html.substr(0, run));
             html.remove_prefix(run);
             continue;
         }
-        if (const std::size_t run = RunOf(html, IsFoldedSpace); run > 0)
+        if (const std::size_t run = RunOf(html, ByteKind::Space); run > 0)
         {
             AddSpaces(html.substr(0, run));
             html.remove_prefix(run);
@@ -83,6 +94,15 @@ void HtmlFlow::Add(std::string_view html, std::size_t& wrongBytes)
         }
         html.remove_prefix(entity.length);
     }
+}
+
+void HtmlFlow::AddPlain(std::string_view characters)
+{
+    Flush();
+    hasContent = true;
+    const std::size_t before = text.size();
+    text.resize(before + characters.size());
+    std::copy(characters.begin(), characters.end(), text.data() + before);
 }
 
 void HtmlFlow::AddSpaces(std::string_view spaces)

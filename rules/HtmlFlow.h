@@ -37,6 +37,7 @@ public:
     std::wstring_view GetText() const;
 
 private:
+    void AddPlain(std::string_view characters);
     void AddSpaces(std::string_view spaces);
     void AddFiller(wchar_t unit);
     void AddOther(char32_t character);

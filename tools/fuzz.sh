@@ -6,7 +6,7 @@
 #   tools/fuzz.sh --steps 10000000             a long run
 #   tools/fuzz.sh --variant plain ...          without assertions and guard allocator: faster, and what users get
 #   tools/fuzz.sh --control drag-tree --seed 7 --steps 866      the same steps again
-#   tools/fuzz.sh --native 600                 the collections and the rules, 600 seconds each target, with
+#   tools/fuzz.sh --native 600                 the collections, the rules and the clipboard formats, 600 seconds each, with
 #                                              clang's fuzzer and sanitizers, without Wine
 #
 # Controls: grid, tree-rows, tree-grid, headers, editors, drag-tree, properties, list, select-all. --control may be given
@@ -22,7 +22,7 @@ set -euo pipefail
 # shellcheck source=lib.sh
 source "$(dirname "$0")/lib.sh"
 
-native_targets=(List Owner Rules)
+native_targets=(List Owner Rules Cells)
 native_tree=$quor_build/fuzz-native
 
 run_in_wine() {
@@ -34,7 +34,7 @@ run_in_wine() {
 
 build_target() {
     local sources=("$quor_root/tests/fuzz/native/$1Target.cpp")
-    [[ $1 != Rules ]] || sources+=("$quor_root"/rules/*.cpp "$quor_root"/framework/src/propertyrules/*.cpp)
+    [[ $1 != Rules && $1 != Cells ]] || sources+=("$quor_root"/rules/*.cpp "$quor_root"/framework/src/propertyrules/*.cpp)
     clang++ -std=c++20 -g -O1 -Wall -Wextra -fsanitize=fuzzer,address,undefined -fno-sanitize-recover=all \
         -I"$quor_root" -I"$quor_root/framework/src" "${sources[@]}" -o "$native_tree/$1"
 }

@@ -109,6 +109,8 @@ private:
         ReadOnlyFlag = 0x01
     };
 
+    // SetText() with a text that may be shared.
+    void StoreText(CString newText);
     // Draws frame, background and tree decoration in the colours of the context, and returns the place of the
     // text.
     CRect DrawBox(CDC& context, const CRect& cell) const;

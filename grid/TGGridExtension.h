@@ -318,13 +318,17 @@ protected:
     // OnModified, which may change it. The caller tells OnDataChanged, once for all cells. False when it was
     // refused.
     bool TypeInto(TGGridCell& cell, const wchar_t* text) const;
-    // The same, with the reason.
-    TGTyped TryTypeInto(TGGridCell& cell, const wchar_t* text) const;
-    // Makes a row as the user's commands do: asks OnBeforeInsertRow or OnBeforeInsertChild, which may supply
-    // the row, inserts it at the index, or as a child at the position, brought into the range, and tells
-    // OnInsertRow, whose default leaves OnDataChanged to the caller here. A row index must be one between two
-    // trees. Null when the hook or a grid with a fixed number of rows refuses, and when the row has gone
-    // again.
+    // The same, with the reason; the text may have any characters.
+    TGTyped TryTypeInto(TGGridCell& cell, CString text) const;
+    // The steps in which rows come in as by the user's commands: asks OnBeforeInsertRow for a row, which may
+    // supply it, null when it refuses and when the number of rows is fixed; inserts rows at an index, which
+    // must be one between two trees, all at once; and tells OnInsertRow of each, whose default leaves
+    // OnDataChanged to the caller here. Hooks may delete rows that they were not told of yet.
+    std::unique_ptr<TGGridRow> AskForRow(long position) const;
+    void InsertRows(long position, std::vector<std::unique_ptr<TGGridRow>> rows) const;
+    void TellInserted(TGGridRow& row) const;
+    // The same for one row, or for one child, at a position that is brought into the range, by
+    // OnBeforeInsertChild. Null when it is refused, and when the row has gone again.
     TGGridRow* InsertRowAsUser(long position) const;
     TGGridTreeRow* InsertChildAsUser(TGGridTreeRow& parent, long position) const;
     // OnBeforePaste or OnBeforePasteChild, and OnEndPaste, for extensions that paste rows; the second is told

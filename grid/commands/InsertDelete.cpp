@@ -314,21 +314,59 @@ bool TGGrid::DoAppendChild()
 
 // ---- Extensions that insert as a user does
 
-// The row is held by a watch from before it comes in, because the end of an edit and the hooks may delete it.
-TGGridRow* TGGridExtension::InsertRowAsUser(long position) const
+std::unique_ptr<TGGridRow> TGGridExtension::AskForRow(long position) const
 {
     ASSERT(extendedGrid != nullptr);
     TGGrid& grid = *extendedGrid;
-    TGGridRow* row = nullptr;
-    if (grid.IsRowFixLength() || position < 0 || !TGGrid::Commands(grid).AskForRow(position, false, row))
+    if (grid.IsRowFixLength() || position < 0)
         return nullptr;
-    if (row == nullptr)
-        row = TGGrid::Structure(grid).MakeRow();
+    TGGridRow* row = nullptr;
+    const bool agreed = AskHook(row, [&] { return grid.OnBeforeInsertRow(position, row); });
+    std::unique_ptr<TGGridRow> supplied(row);
+    if (!agreed)
+        return nullptr;
+    if (supplied == nullptr)
+        supplied.reset(TGGrid::Structure(grid).MakeRow());
+    return supplied;
+}
+
+// The rows that hooks have made may not fit the columns any more.
+void TGGridExtension::InsertRows(long position, std::vector<std::unique_ptr<TGGridRow>> rows) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGGrid& grid = *extendedGrid;
+    grid.EndEditCell();
+    position = std::clamp(position, 0L, grid.GetRowNum());
+    std::vector<TGGridRow*> entered;
+    entered.reserve(rows.size());
+    for (const std::unique_ptr<TGGridRow>& row : rows)
+    {
+        TGGrid::Structure(grid).FitToCols(*row);
+        entered.push_back(row.get());
+    }
+    TGGrid::Structure(grid).InsertRows(position, entered);
+    for (std::unique_ptr<TGGridRow>& row : rows)
+        static_cast<void>(row.release());
+    grid.RecalcRows();
+    TGGrid::Structure(grid).TellInserted(position, entered);
+}
+
+void TGGridExtension::TellInserted(TGGridRow& row) const
+{
+    ASSERT(extendedGrid != nullptr);
+    TGGrid::Commands(*extendedGrid).TellInserted(&row, RowWatch(*extendedGrid, &row));
+}
+
+// The row is held by a watch from before it comes in, because the end of an edit and the hooks may delete it.
+TGGridRow* TGGridExtension::InsertRowAsUser(long position) const
+{
+    TGGrid& grid = *extendedGrid;
+    std::unique_ptr<TGGridRow> made = AskForRow(position);
+    if (made == nullptr)
+        return nullptr;
+    TGGridRow* const row = made.get();
     const RowWatch watch(grid, row);
-    if (position == grid.GetRowNum())
-        grid.AppendRow(row);
-    else
-        grid.InsertRow(position, row);
+    grid.InsertRow((std::min)(position, grid.GetRowNum()), made.release());
     return TGGrid::Commands(grid).TellInserted(row, watch) ? row : nullptr;
 }
 

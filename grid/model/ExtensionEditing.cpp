@@ -5,6 +5,8 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/TGGrid.h"
+
+#include <utility>
 #include "grid/TGUserAction.h"
 
 namespace QuorUiCtr
@@ -62,7 +64,8 @@ bool TGGridExtension::TypeInto(TGGridCell& cell, const wchar_t* text) const
     return TryTypeInto(cell, text) == TGTyped::Stored;
 }
 
-TGTyped TGGridExtension::TryTypeInto(TGGridCell& cell, const wchar_t* text) const
+// The text that is stored is shared with the one that the hooks have seen.
+TGTyped TGGridExtension::TryTypeInto(TGGridCell& cell, CString text) const
 {
     TGGrid& typed = cell.GetGrid();
     if (cell.IsReadOnly())
@@ -70,7 +73,6 @@ TGTyped TGGridExtension::TryTypeInto(TGGridCell& cell, const wchar_t* text) cons
     const TGUserAction action(typed, TGActionKind::Type);
     const CellWatch watch(typed, &cell);
     bool commitNewRow = false;
-    CString stored(text);
     const bool isRefused =
         (typed.extensions != nullptr && typed.extensions->AskEdit(cell, TGEditWay::Text)) ||
         (watch.Cell() != nullptr && !typed.OnBeforeEdit(cell, commitNewRow));
@@ -78,12 +80,12 @@ TGTyped TGGridExtension::TryTypeInto(TGGridCell& cell, const wchar_t* text) cons
         return TGTyped::Gone;
     if (isRefused)
         return TGTyped::NotEditable;
-    const bool isRejected = !typed.OnModified(cell, stored);
+    const bool isRejected = !typed.OnModified(cell, text);
     if (watch.Cell() == nullptr)
         return TGTyped::Gone;
     if (isRejected)
         return TGTyped::Rejected;
-    cell.SetText(stored);
+    cell.StoreText(std::move(text));
     if (watch.Cell() != nullptr)
         cell.Refresh();
     return TGTyped::Stored;

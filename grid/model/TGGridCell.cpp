@@ -33,14 +33,15 @@ void TGGridCell::GiveBack(void* memory, unsigned place)
 TGGridCell& TGGridCell::operator=(const TGGridCell& other)
 {
     style = other.style;
-    if (grid->extensions == nullptr)
-    {
-        text = other.text;
-        return *this;
-    }
-    const CString oldText = std::exchange(text, CString(other.text));
-    grid->extensions->TellText(*this, oldText);
+    StoreText(other.text);
     return *this;
+}
+
+void TGGridCell::StoreText(CString newText)
+{
+    std::swap(text, newText);
+    if (grid->extensions != nullptr)
+        grid->extensions->TellText(*this, newText);
 }
 
 void TGGridCell::SetText(const wchar_t* newText)

@@ -83,7 +83,33 @@ enum class QuorText
     UndoTreeRename,
     UndoTreeDelete,
     UndoTreeDeleteMany,
-    UndoTreeCheck
+    UndoTreeCheck,
+    // Lines of the report of a TGClipboard; "%1" stands for a number. First what was done,
+    ClipboardCopied,
+    ClipboardCut,
+    ClipboardPasted,
+    ClipboardFilled,
+    ClipboardEmptied,
+    ClipboardRowsInserted,
+    ClipboardRowsRemoved,
+    // then why a command has stopped,
+    ClipboardNothingSelected,
+    ClipboardDifferentShapes,
+    ClipboardBusy,
+    ClipboardNothingToPaste,
+    ClipboardTooLarge,
+    ClipboardNoMemory,
+    ClipboardNotAllowed,
+    ClipboardNoNumbers,
+    ClipboardRunning,
+    // then what was left, and why.
+    ClipboardLeftReadOnly,
+    ClipboardLeftNotEditable,
+    ClipboardLeftRejected,
+    ClipboardLeftBeyondCol,
+    ClipboardLeftBeyondRow,
+    ClipboardLeftRowRefused,
+    ClipboardLeftGone
 };
 
 // The texts are string resources of the library. A program chooses their language once, usually when it

@@ -18,7 +18,7 @@ namespace
 class Texts : public HeaderFixture
 {
 protected:
-    static constexpr int Count = static_cast<int>(QuorText::UndoTreeCheck) + 1;
+    static constexpr int Count = static_cast<int>(QuorText::ClipboardLeftGone) + 1;
 
     ~Texts() override
     {

@@ -2,6 +2,7 @@
 #include "grid/extras/HeaderSortOrder.h"
 
 #include "grid/collections/MergeSort.h"
+#include "grid/extras/ViewOf.h"
 #include "grid/TGGridCell.h"
 #include "rules/SortKeys.h"
 
@@ -9,18 +10,12 @@
 #include <cstring>
 #include <limits>
 #include <numeric>
-#include <string_view>
 #include <utility>
 
 namespace QuorUiCtr
 {
 namespace
 {
-
-std::wstring_view ViewOf(const CString& text)
-{
-    return {text.GetString(), static_cast<std::size_t>(text.GetLength())};
-}
 
 // Texts are shared, not copied: a function of the host may change what stands in the cells.
 class TextSortColumn : public SortColumn

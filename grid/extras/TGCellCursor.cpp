@@ -185,9 +185,10 @@ bool TGCellCursor::OnSelectedCells(std::vector<TGCellRange>& found) const
     return !ranges.empty();
 }
 
+// The current cell is the first one, so that it stays in view.
 bool TGCellCursor::OnSelectCells(const TGCellRange& range)
 {
-    return SelectRange(range);
+    return SelectRange({range.bottom, range.right, range.top, range.left});
 }
 
 bool TGCellCursor::IsInRanges(long row, long col) const

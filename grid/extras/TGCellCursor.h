@@ -1,19 +1,11 @@
 // TGCellCursor: a current cell, ranges of cells, and the keys that people know from spreadsheets.
 #pragma once
 
+#include "grid/extras/TGKeyDescription.h"
 #include "grid/TGGridExtension.h"
 
 namespace QuorUiCtr
 {
-
-// One line of the table of keys.
-struct TGKeyDescription
-{
-    // The keys as they are printed in documents, for example L"Ctrl+Home". Static.
-    const wchar_t* keys;
-    // What they do, in English. Static.
-    const wchar_t* action;
-};
 
 // An extra for grids whose users expect a cell cursor: a current cell without an editor, drawn as a focus
 // frame, and rectangular ranges. While it is attached

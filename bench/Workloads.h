@@ -26,6 +26,8 @@ void RunEdit(Report& report);
 void RunCommands(Report& report);
 // Moving a folder of a drag tree, with all its items collapsed and expanded.
 void RunTreeMove(Report& report);
+// Copying, pasting and filling cells.
+void RunClipboard(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
 // Trees of groups and items, compared with the tree view.

@@ -26,7 +26,7 @@ constexpr Workload Workloads[] = {
     {"columns", bench::RunColumns},   {"command", bench::RunCommands},  {"edit", bench::RunEdit},
     {"populate", bench::RunPopulate}, {"propgrid", bench::RunPropGrid}, {"repaint", bench::RunRepaint},
     {"scroll", bench::RunScroll},     {"select", bench::RunSelection},  {"treegrid", bench::RunTreeGrid},
-    {"treemove", bench::RunTreeMove}, {"list", bench::RunList},
+    {"treemove", bench::RunTreeMove}, {"list", bench::RunList},         {"clipboard", bench::RunClipboard},
 };
 
 // Short ones, whose outcome does not depend on the machine.

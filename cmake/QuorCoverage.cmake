@@ -6,6 +6,8 @@ option(QUOR_COVERAGE "Count which lines and branches of the libraries run" OFF)
 function(quor_count_runs target)
     if(QUOR_COVERAGE)
         target_compile_options(${target} PRIVATE -O0 -g1 --coverage -fprofile-abs-path)
+        # Headers that were precompiled without these options do not fit.
+        set_target_properties(${target} PROPERTIES DISABLE_PRECOMPILE_HEADERS ON)
         target_link_options(${target} PUBLIC --coverage)
     endif()
 endfunction()

@@ -243,6 +243,81 @@ TEST(CalendarWrapper, SeveralDaysAndTheWeek)
     EXPECT_EQ(RGB(1, 2, 3), calendar.GetColor(MCSC_TEXT));
 }
 
+TEST(CalendarWrapper, DaysAreTheSameInEachForm)
+{
+    HostWindow host;
+    CMonthCalCtrl calendar;
+    ASSERT_TRUE(calendar.Create(WS_CHILD | WS_VISIBLE, CPoint(5, 6), &host, 1));
+    EXPECT_TRUE(calendar.SetCurSel(CTime(2024, 3, 4, 0, 0, 0)));
+    SYSTEMTIME day = {};
+    EXPECT_TRUE(calendar.GetCurSel(&day));
+    EXPECT_EQ(4, day.wDay);
+    EXPECT_EQ(3, day.wMonth);
+    day.wDay = 5;
+    EXPECT_TRUE(calendar.SetCurSel(&day));
+    COleDateTime read;
+    EXPECT_TRUE(calendar.GetCurSel(read));
+    EXPECT_EQ(5, read.GetDay());
+    const CTime today(2024, 3, 20, 0, 0, 0);
+    calendar.SetToday(&today);
+    EXPECT_TRUE(calendar.GetToday(&day));
+    EXPECT_EQ(20, day.wDay);
+}
+
+TEST(CalendarWrapper, LimitsAreTheSameInEachForm)
+{
+    HostWindow host;
+    CMonthCalCtrl calendar;
+    ASSERT_TRUE(calendar.Create(WS_CHILD | WS_VISIBLE, CPoint(5, 6), &host, 1));
+    const COleDateTime low(2024, 3, 2, 0, 0, 0), high(2024, 3, 25, 0, 0, 0);
+    EXPECT_TRUE(calendar.SetRange(&low, &high));
+    CTime firstTime, lastTime;
+    EXPECT_EQ(static_cast<DWORD>(GDTR_MIN | GDTR_MAX), calendar.GetRange(&firstTime, &lastTime));
+    EXPECT_EQ(2, firstTime.GetDay());
+    EXPECT_EQ(25, lastTime.GetDay());
+    SYSTEMTIME first = {}, last = {};
+    first.wYear = last.wYear = 2024;
+    first.wMonth = last.wMonth = 3;
+    first.wDay = 7;
+    last.wDay = 9;
+    EXPECT_TRUE(calendar.SetRange(&first, &last));
+    SYSTEMTIME readFirst = {}, readLast = {};
+    EXPECT_EQ(static_cast<DWORD>(GDTR_MIN | GDTR_MAX), calendar.GetRange(&readFirst, &readLast));
+    EXPECT_EQ(7, readFirst.wDay);
+    EXPECT_EQ(9, readLast.wDay);
+    EXPECT_TRUE(calendar.SetRange(&first, static_cast<LPSYSTEMTIME>(nullptr)));
+    EXPECT_EQ(static_cast<DWORD>(GDTR_MIN),
+              calendar.GetRange(&readFirst, static_cast<LPSYSTEMTIME>(nullptr)));
+    EXPECT_EQ(7, readFirst.wDay);
+}
+
+TEST(CalendarWrapper, SelectionsAndMonthsAreTheSameInEachForm)
+{
+    HostWindow host;
+    CMonthCalCtrl calendar;
+    ASSERT_TRUE(calendar.Create(WS_CHILD | WS_VISIBLE | MCS_MULTISELECT, CRect(0, 0, 300, 200), &host, 1));
+    ASSERT_TRUE(calendar.SetMaxSelCount(10));
+    EXPECT_TRUE(calendar.SetSelRange(CTime(2024, 3, 4, 0, 0, 0), CTime(2024, 3, 6, 0, 0, 0)));
+    COleDateTime low, high;
+    EXPECT_TRUE(calendar.GetSelRange(low, high));
+    EXPECT_EQ(4, low.GetDay());
+    EXPECT_EQ(6, high.GetDay());
+    SYSTEMTIME first = {}, last = {};
+    EXPECT_TRUE(calendar.GetSelRange(&first, &last));
+    EXPECT_EQ(4, first.wDay);
+    EXPECT_EQ(6, last.wDay);
+    last.wDay = 8;
+    EXPECT_TRUE(calendar.SetSelRange(&first, &last));
+    EXPECT_TRUE(calendar.GetSelRange(low, high));
+    EXPECT_EQ(8, high.GetDay());
+    CTime firstDay, lastDay;
+    EXPECT_EQ(1, calendar.GetMonthRange(firstDay, lastDay, GMR_VISIBLE));
+    EXPECT_EQ(31, lastDay.GetDay());
+    EXPECT_EQ(1, calendar.GetMonthRange(&first, &last, GMR_VISIBLE));
+    EXPECT_EQ(1, first.wDay);
+    EXPECT_EQ(31, last.wDay);
+}
+
 // Exchanges what the test says.
 class TimesDialog : public CDialog
 {

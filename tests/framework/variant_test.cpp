@@ -209,3 +209,55 @@ TEST(OleException, HasTheSystemsText)
     EXPECT_NO_THROW(AfxThrowOleException(S_FALSE));
     EXPECT_THROW(AfxThrowOleException(E_OUTOFMEMORY), CMemoryException*);
 }
+
+TEST(Variant, Comparison_KnowsEachType)
+{
+    // Two of a type that differ, as they are converted from texts or numbers.
+    for (const VARTYPE type : {VT_I1, VT_UI1, VT_I2, VT_UI2, VT_I4, VT_UI4, VT_INT, VT_UINT, VT_I8, VT_UI8,
+                               VT_CY, VT_R4, VT_R8, VT_DATE, VT_DECIMAL})
+    {
+        COleVariant one(1.0), same(1.0), other(2.0);
+        one.ChangeType(type);
+        same.ChangeType(type);
+        other.ChangeType(type);
+        EXPECT_EQ(one.vt, type);
+        EXPECT_TRUE(Equal(one, same)) << type;
+        EXPECT_FALSE(Equal(one, other)) << type;
+    }
+}
+
+TEST(Variant, Comparison_OfReferencesIsThatOfTheirTargets)
+{
+    long one = 1, other = 1;
+    VARIANT first = {}, same = {}, second = {};
+    first.vt = same.vt = second.vt = VT_BYREF | VT_I4;
+    first.plVal = same.plVal = &one;
+    second.plVal = &other;
+    COleVariant value;
+    value.vt = first.vt;
+    value.plVal = &one;
+    EXPECT_TRUE(Equal(value, same));
+    EXPECT_FALSE(Equal(value, second));
+    EXPECT_TRUE(value.operator==(static_cast<LPCVARIANT>(&same)));
+    value.vt = VT_EMPTY;
+}
+
+TEST(Variant, ALongUnsignedNumberKeepsItsType)
+{
+    COleVariant value;
+    value = static_cast<ULONGLONG>(0xffffffffffffffff);
+    EXPECT_EQ(VT_UI8, value.vt);
+    EXPECT_EQ(0xffffffffffffffffull, value.ullVal);
+}
+
+TEST(Variant, IsMadeFromAPointerToAnother)
+{
+    const COleVariant source(5L);
+    const COleVariant made(static_cast<LPCVARIANT>(&source));
+    EXPECT_TRUE(Equal(made, source));
+    COleVariant assigned;
+    assigned = static_cast<LPCVARIANT>(&source);
+    EXPECT_TRUE(Equal(assigned, source));
+    const COleVariant text(L"abc", VT_BSTR);
+    EXPECT_STREQ(L"abc", text.bstrVal);
+}

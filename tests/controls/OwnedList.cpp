@@ -35,9 +35,11 @@ void TestList::OnDraw(NMHDR* header, LRESULT* result)
 
 LRESULT TestList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    const bool destroysItself =
-        destroysItselfWhenScrolled && (message == LVM_SCROLL || message == LVM_ENSUREVISIBLE);
+    const bool scrolls = message == LVM_SCROLL || message == LVM_ENSUREVISIBLE;
+    const bool destroysItself = destroysItselfWhenScrolled && scrolls;
     const LRESULT result = CGridListCtrl::WindowProc(message, wParam, lParam);
+    if (scrolls && onScrolled)
+        onScrolled();
     if (destroysItself)
         DestroyWindow();
     return result;

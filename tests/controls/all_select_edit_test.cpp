@@ -113,6 +113,40 @@ TEST_F(AllSelectEdit, EmptyEdit_TakesClicks)
     EXPECT_TRUE(edit->selectAllDone);
 }
 
+TEST_F(AllSelectEdit, OwnerThatHearsOfTheFocus_FindsAllSelected)
+{
+    class Owner : public HostWindow
+    {
+    public:
+        std::string heard;
+        std::function<std::string()> selection;
+
+    protected:
+        LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+        {
+            if (message == WM_COMMAND && HIWORD(wParam) == EN_SETFOCUS)
+                heard = selection();
+            return HostWindow::WindowProc(message, wParam, lParam);
+        }
+    } owner;
+    edit->DestroyWindow();
+    edit->Create(WS_CHILD | WS_VISIBLE, CRect(10, 10, 210, 30), &owner, 3);
+    edit->SetWindowText(L"some text");
+    owner.selection = [this] { return Selection(); };
+    owner.SetFocus();
+    Press(front);
+    EXPECT_EQ(owner.heard, "0-9");
+    edit->DestroyWindow();
+}
+
+TEST_F(AllSelectEdit, OwnerHearsThatTheFocusIsLost)
+{
+    edit->SetFocus();
+    host.TakeLog();
+    host.SetFocus();
+    EXPECT_EQ(host.TakeLog(), std::vector<std::string>{"command 3 code " + std::to_string(EN_KILLFOCUS)});
+}
+
 // Another field loses the focus to the edit, and its owner deletes the edit then.
 class FocusLosingEdit : public CEdit
 {

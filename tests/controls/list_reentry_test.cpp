@@ -194,6 +194,16 @@ TEST_F(ListReentry, ListDestroyedWhileItMakesRoomForAnEditor_RefusesIt)
     }
 }
 
+TEST_F(ListReentry, ControlDestroyedWhileRoomIsMadeForIt_IsRefused)
+{
+    CStatic control;
+    control.Create(L"", WS_CHILD, CRect(1, 2, 3, 4), &list, 77);
+    list.onScrolled = [&] { control.DestroyWindow(); };
+    EXPECT_EQ(list.PositionControl(&control, 50, 1), 0);
+    EXPECT_EQ(control.m_hWnd, nullptr);
+    list.onScrolled = nullptr;
+}
+
 TEST_F(ListReentry, ManyEdits_LeaveNoHandles)
 {
     const auto editOnce = [this](int row) {

@@ -98,6 +98,20 @@ TEST_F(ColDrags, ColumnMark_IsThreePixelsWideAtTheLeftEdgeOrBehindTheLastColumn)
     EXPECT_FALSE(markAt(120 + 1, 1));
 }
 
+TEST_F(ColDrags, RefusedPosition_GetsNoMark)
+{
+    CommandGrid grid;
+    Make(grid, "");
+    grid.SelectCols({0});
+    grid.vetoes = {"OnMovingCol"};
+    Press(ColHeader(grid), ColBox(grid, 0));
+    Move(ColHeader(grid), ColBox(grid, 3));
+    const Snapshot picture(grid);
+    const CPoint corner = grid.ToClient(150, 0);
+    EXPECT_TRUE(picture.IsAll(CRect(corner.x, 100, corner.x + 10, 140), white));
+    ColHeader(grid).SendMessage(WM_CANCELMODE);
+}
+
 TEST_F(ColDrags, ResizeZone_IsTwoPixelsWide)
 {
     CommandGrid grid;

@@ -415,6 +415,27 @@ TEST_F(EditSessionTest, ChildThatIsFoldedAway_IsStillShownWhenItsTextIsStored)
     EXPECT_EQ(parent.GetChild(0)[0].GetText(), L"child");
 }
 
+TEST_F(EditSessionTest, SecondChildThatIsFoldedAway_IsStoredWhileTheFirstIsStillShown)
+{
+    EditGrid grid(true);
+    Make(grid);
+    TGGridTreeRow& parent = grid.GetTreeRow(0);
+    parent.AppendChild(nullptr);
+    parent.AppendChild(nullptr);
+    parent.UnFold();
+    grid.BeginEditCell(2, 0);
+    ASSERT_TRUE(grid.IsEditing());
+    grid.Enter(L"child");
+    long shown = 0;
+    grid.modifiedText = [&](TGGridCell&, CString&) {
+        shown = grid.GetRowNum();
+        return true;
+    };
+    parent.Fold();
+    EXPECT_EQ(shown, 5);
+    EXPECT_EQ(parent.GetChild(1)[0].GetText(), L"child");
+}
+
 TEST_F(EditSessionTest, WithoutAnEditor_TheGridStaysIdle)
 {
     EditGrid grid;

@@ -65,6 +65,18 @@ TEST_F(GridScrolling, MoveView_StopsAtTheEnds)
     EXPECT_EQ("0,0", Position());
 }
 
+TEST_F(GridScrolling, CutRows_ShortenTheScrollRange)
+{
+    const std::string bars = grid.Bars();
+    for (long row = 0; row < 50; ++row)
+        grid.SelectRow(row, true);
+    ASSERT_TRUE(grid.DoClip());
+    EXPECT_EQ(grid.GetRowNum(), 50);
+    EXPECT_NE(grid.Bars(), bars);
+    grid.MoveView(0, 5000);
+    EXPECT_EQ(grid.VScroll(), 1000 - grid.Area().Height());
+}
+
 TEST_F(GridScrolling, MoveView_KeepsThePictureTrue)
 {
     grid.SelectRow(4, true);

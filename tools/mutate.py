@@ -10,7 +10,9 @@
     tools/mutate.py --sample 50 --seed 7    only so many, of all folders alike
     tools/mutate.py --variant mingw-checked leaks are noticed in the checked variant only
     tools/mutate.py --native                only with the tests of rules and collections, which need no Wine
-    tools/mutate.py --without '*Fuzz.*'     only with the other tests; what survives is worth another run with all
+    tools/mutate.py --without '*Fuzz.*'     only with the other tests
+    tools/mutate.py --most 10               at most so many seconds of tests of each program for a change; what survives
+                                            this or the line above is worth another run with all
     tools/mutate.py --jobs 2                so many programs at the same time
     tools/mutate.py --list                  lists the plan with what is known of each change
     tools/mutate.py --report                prints scores and survivors of all runs so far
@@ -65,6 +67,7 @@ def parse():
     parser.add_argument("--scratch", type=pathlib.Path, default=BUILD / "mutate")
     parser.add_argument("--native", action="store_true")
     parser.add_argument("--without", default="", metavar="TESTS")
+    parser.add_argument("--most", type=float, default=float("inf"), metavar="SECONDS")
     parser.add_argument("--jobs", type=int, default=1)
     parser.add_argument("--list", action="store_true")
     parser.add_argument("--report", action="store_true")
@@ -145,7 +148,7 @@ def attempt_all(wanted, planned, options, results, scratch):
     copy = Copy(options.variant, scratch, options.native)
     # All of the plan is built in, whatever is due, so that another run need not build anew.
     copy.prepare(programs, [*planned, *(change for change in due if change not in planned)])
-    trials = Trials(copy, options.jobs, options.without)
+    trials = Trials(copy, options.jobs, options.without, options.most)
     try:
         trials.record(programs)
         attempt_each(due, options, results, trials)

@@ -48,17 +48,17 @@ class Reach:
             for number in numbers:
                 self.tests[number].add(test)
 
-    def rounds(self, number, hints):
+    def rounds(self, number, hints, most):
         """The tests that reach the change, or all for a change that is built alone, in lists of which each takes longer than
-        the one before; then the others, when the change is reached before the tests begin."""
+        the one before; then the others, when the change is reached before the tests begin. None that would make them take
+        more than so many seconds."""
         all_tests = set(self.seconds) - self.failing
         reaching = all_tests if number is None else self.tests.get(number, set()) - self.failing
-        yield from self.parted(reaching, hints)
+        left = self.in_order(reaching, hints)
         if number in self.always:
-            yield from self.parted(all_tests - reaching, hints)
-
-    def parted(self, tests, hints):
-        left = sorted(tests, key=lambda test: (test not in hints, self.seconds[test], test))
+            left += self.in_order(all_tests - reaching, hints)
+        while left and sum(self.seconds[test] for test in left) > most:
+            left.pop()
         for allowed in ROUNDS:
             taken, whole = [], 0.0
             while left and (not taken or whole + self.seconds[left[0]] <= allowed):
@@ -69,11 +69,15 @@ class Reach:
         if left:
             yield left
 
+    def in_order(self, tests, hints):
+        return sorted(tests, key=lambda test: (test not in hints, self.seconds[test], test))
+
 
 class Trials:
-    def __init__(self, copy, jobs, without):
+    def __init__(self, copy, jobs, without, most):
         self.copy = copy
         self.without = without  # tests that do not take part, as --gtest_filter writes them
+        self.most = most
         self.reach = {}
         self.hints = collections.defaultdict(list)  # file -> tests that have noticed other changes of it
         self.sessions = [session.Session(number) for number in range(1, jobs + 1)]
@@ -151,14 +155,14 @@ class Trials:
         reached = False
         for program in self.programs(change):
             reach = self.reach[program]
-            for tests in reach.rounds(number, self.hints[change.file]):
+            for tests in reach.rounds(number, self.hints[change.file], self.most):
                 reached = True
                 culprit = self.failing_one(one, program, tests, number)
                 if culprit:
                     return "noticed", f"{program} {culprit}"
         if not reached:
             return "survived", "no test reaches it"
-        return "survived", f"without {self.without}" if self.without else ""
+        return "survived", "not all tests" if self.without or self.most < float("inf") else ""
 
     def failing_one(self, one, program, tests, number):
         """The first of the tests that fails, and fails again alone: on a busy machine a test may fail by itself."""

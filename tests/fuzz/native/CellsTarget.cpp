@@ -5,7 +5,7 @@
 #include "rules/CellHtml.h"
 #include "rules/CellPack.h"
 #include "rules/CellText.h"
-#include "rules/NumberSeries.h"
+#include "rules/TextSeries.h"
 #include "rules/Utf8.h"
 
 #include <algorithm>
@@ -144,7 +144,7 @@ void CheckSeries(std::string_view bytes)
     const std::size_t half = (std::min)(text.find(L'\n'), text.size());
     const std::wstring_view first = std::wstring_view(text).substr(0, half);
     const std::wstring_view second = std::wstring_view(text).substr((std::min)(half + 1, text.size()));
-    if (const auto series = NumberSeries::Of(first, second))
+    if (const auto series = TextSeries::Of(first, second))
         for (const long place : {0L, 1L, 2L, 1000L, 2147483647L})
             series->At(place);
 }

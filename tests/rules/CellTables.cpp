@@ -11,15 +11,28 @@ namespace quor::test
 namespace
 {
 
+// The code at a place: that of both halves of a pair, where texts have such.
+unsigned long CodeAt(std::wstring_view text, std::size_t& at)
+{
+    const auto code = static_cast<unsigned long>(text[at]);
+    const auto next = at + 1 < text.size() ? static_cast<unsigned long>(text[at + 1]) : 0UL;
+    const bool isPair =
+        sizeof(wchar_t) == 2 && code >= 0xD800 && code < 0xDC00 && next >= 0xDC00 && next < 0xE000;
+    if (!isPair)
+        return code;
+    ++at;
+    return 0x10000 + ((code - 0xD800) << 10) + (next - 0xDC00);
+}
+
 void Show(std::string& shown, std::wstring_view text)
 {
-    for (const wchar_t character : text)
+    for (std::size_t at = 0; at < text.size(); ++at)
     {
-        const auto code = static_cast<unsigned long>(character);
+        const unsigned long code = CodeAt(text, at);
         char escaped[16];
-        if (character == L'\r' || character == L'\n' || character == L'\t')
-            shown += character == L'\r' ? "\\r" : character == L'\n' ? "\\n" : "\\t";
-        else if (code >= 0x20 && code < 0x7F && character != L'|' && character != L'\\')
+        if (code == '\r' || code == '\n' || code == '\t')
+            shown += code == '\r' ? "\\r" : code == '\n' ? "\\n" : "\\t";
+        else if (code >= 0x20 && code < 0x7F && code != '|' && code != '\\')
             shown += static_cast<char>(code);
         else
             shown.append(escaped,

@@ -2,6 +2,7 @@
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowWatch.h"
 #include "grid/model/ScopedValue.h"
+#include "grid/TGGridExtension.h"
 #include "grid/TGUserAction.h"
 #include "rules/SelectedIndices.h"
 

@@ -1,5 +1,6 @@
 // What the documents say of extensions is what is compiled: the example, and the table of keys.
 #include "grid/extras/TGCellCursor.h"
+#include "grid/extras/TGClipboard.h"
 #include "samples/extension/ChangeMarks.h"
 #include "tests/grid/WindowGrid.h"
 
@@ -36,16 +37,24 @@ TEST(Documents, TheExampleOfAnExtension_IsTheSample)
               ReadSource("samples/extension/ChangeMarks.h"));
 }
 
-TEST(Documents, TheTableOfKeys_IsTheOneOfTheCursor)
+std::string LinesOf(const std::vector<TGKeyDescription>& keys)
 {
     std::string table;
-    for (const TGKeyDescription& key : TGCellCursor::GetKeys())
+    for (const TGKeyDescription& key : keys)
     {
         const std::wstring line = std::wstring(L"| ") + key.keys + L" | " + key.action + L" |\n";
         for (const wchar_t character : line)
             table += static_cast<char>(character);
     }
-    EXPECT_EQ(Between(ReadSource("docs/KEYS.md"), "|---|---|\n", "\n\n") + "\n", table);
+    return table;
+}
+
+TEST(Documents, TheTablesOfKeys_AreThoseOfCursorAndClipboard)
+{
+    const std::string page = ReadSource("docs/KEYS.md");
+    EXPECT_EQ(Between(page, "|---|---|\n", "\n\n") + "\n", LinesOf(TGCellCursor::GetKeys()));
+    EXPECT_EQ(Between(page.substr(page.find("## With a clipboard")), "|---|---|\n", "\n\n"),
+              LinesOf(TGClipboard::GetKeys()));
 }
 
 class Marks : public GridWindowTest

@@ -275,6 +275,8 @@ protected:
     static TGGridCell* CellOf(TGGridRow& row, long col);
     // The row at an index; null for the new-row line.
     TGGridRow* FindRow(long row) const;
+    // Appends the rows from one index to another, both included, as far as there are any.
+    void FindRows(long first, long last, std::vector<TGGridRow*>& found) const;
     // The rectangle of a cell, also on the new-row line, and of a block of cells, in logical coordinates;
     // empty for indices that there are not.
     CRect GetCellRect(long row, long col) const;

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstring>
+#include <string>
 
 namespace QuorUiCtr
 {
@@ -29,24 +30,23 @@ const FormatNumbers& Formats()
 
 // ---- Writing
 
-// Memory for so many bytes, which `fill` fills, and a zero of `zeros` bytes behind.
-template <class Fill> HGLOBAL MakeMemory(std::size_t bytes, std::size_t zeros, Fill fill)
+// Memory for so many bytes, which `fill` fills.
+template <class Fill> HGLOBAL MakeMemory(std::size_t bytes, Fill fill)
 {
-    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes + zeros);
+    const HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, bytes);
     auto* const place = memory != nullptr ? static_cast<unsigned char*>(::GlobalLock(memory)) : nullptr;
     if (place == nullptr)
         return nullptr;
     fill(place);
-    std::memset(place + bytes, 0, zeros);
     ::GlobalUnlock(memory);
     return memory;
 }
 
-template <class Text> HGLOBAL MemoryOf(const Text& text)
+// The text with a zero behind it.
+template <class Character> HGLOBAL MemoryOf(const std::basic_string<Character>& text)
 {
-    const std::size_t bytes = text.size() * sizeof(text[0]);
-    return MakeMemory(bytes, sizeof(text[0]),
-                      [&](unsigned char* place) { std::memcpy(place, text.data(), bytes); });
+    const std::size_t bytes = (text.size() + 1) * sizeof(Character);
+    return MakeMemory(bytes, [&](unsigned char* place) { std::memcpy(place, text.c_str(), bytes); });
 }
 
 // Programs that read CSV from the clipboard take it as text of the system's code page, unless a mark says
@@ -176,7 +176,7 @@ HGLOBAL RenderFormat(UINT format, const CellSource& write)
     CellPackWriter writer;
     write(writer);
     return writer.IsComplete()
-               ? MakeMemory(writer.GetSize(), 0, [&](unsigned char* place) { writer.Write(place); })
+               ? MakeMemory(writer.GetSize(), [&](unsigned char* place) { writer.Write(place); })
                : nullptr;
 }
 

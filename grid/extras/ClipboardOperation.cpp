@@ -128,8 +128,10 @@ void TGClipboard::Operation::Hold(const CellBlock& block)
     cols.clear();
     if (!IsAlive())
         return;
-    for (long row = block.top; row <= (std::min)(block.bottom, grid.GetRowNum() - 1); ++row)
-        rows.Add(clipboard->FindRow(row));
+    std::vector<TGGridRow*> found;
+    clipboard->FindRows(block.top, block.bottom, found);
+    for (TGGridRow* row : found)
+        rows.Add(row);
     for (long col = block.left; col <= (std::min)(block.right, grid.GetColNum() - 1); ++col)
         cols.push_back(&grid.GetCol(col));
 }

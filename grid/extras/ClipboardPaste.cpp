@@ -109,6 +109,7 @@ void TGClipboard::Writer::Insert(std::vector<std::unique_ptr<TGGridRow>> made)
 {
     const std::size_t first = operation.rows.GetNum();
     std::vector<TGGridRow*> added;
+    added.reserve(made.size());
     for (const std::unique_ptr<TGGridRow>& row : made)
         added.push_back(row.get());
     operation.Extension().InsertRows(operation.Grid().GetRowNum(), std::move(made));

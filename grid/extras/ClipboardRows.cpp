@@ -34,7 +34,7 @@ private:
     TGGridTreeRow* TreeRowIn(std::size_t slot) const;
     TGGridRow* InsertTop();
     TGGridRow* InsertBelow(int level);
-    long PositionIn(TGGridTreeRow& parent, const TGGridRow* row);
+    long PositionIn(TGGridTreeRow& parent, const TGGridRow* row) const;
     std::size_t WriteLine(std::size_t line);
     void SkipTree(std::size_t line, std::size_t behind, TGCellLeft reason);
     void UnfoldAndSelect();
@@ -88,7 +88,7 @@ TGGridTreeRow* TGClipboard::TreeWriter::TreeRowIn(std::size_t slot) const
 }
 
 // Where a child stands: where it stood last, or one further.
-long TGClipboard::TreeWriter::PositionIn(TGGridTreeRow& parent, const TGGridRow* row)
+long TGClipboard::TreeWriter::PositionIn(TGGridTreeRow& parent, const TGGridRow* row) const
 {
     const long number = parent.GetChildNum();
     for (long i = lastPosition; i < number; ++i)

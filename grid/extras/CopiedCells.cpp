@@ -5,6 +5,7 @@
 #include "grid/TGGrid.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace QuorUiCtr
 {
@@ -32,16 +33,25 @@ void TGClipboard::Copied::AddPart(const TGClipboard& clipboard, const CellPart& 
     if (parts.size() == 1)
         for (const TGGridCol* col : parts.back().cols)
             captions.push_back(col->GetName());
-    for (const auto& [first, last] : part.rows)
-        for (long row = first; row <= last; ++row)
-            if (TGGridRow* found = clipboard.FindRow(row))
-            {
-                if (hasWholeRows && found->IsTreeRow())
-                    AddTree(*found, static_cast<int>(static_cast<TGGridTreeRow*>(found)->GetParentNum()));
-                else
-                    rows.push_back(found);
-            }
+    const std::size_t first = rows.size();
+    for (const auto& [top, bottom] : part.rows)
+        clipboard.FindRows(top, bottom, rows);
+    if (hasWholeRows && first < rows.size() && (grid.IsTreeGrid() || rows[first]->IsTreeRow()))
+        AddTrees(first);
     cellNum += parts.back().cols.size() * (rows.size() - parts.back().firstRow);
+}
+
+// The rows from a place on get what belongs to them.
+void TGClipboard::Copied::AddTrees(std::size_t first)
+{
+    const auto place = rows.begin() + static_cast<std::ptrdiff_t>(first);
+    const std::vector<TGGridRow*> shown(place, rows.end());
+    rows.erase(place, rows.end());
+    for (TGGridRow* row : shown)
+        if (row->IsTreeRow())
+            AddTree(*row, static_cast<int>(static_cast<TGGridTreeRow*>(row)->GetParentNum()));
+        else
+            rows.push_back(row);
 }
 
 // A row, and the offspring of a folded one, which is not shown. The marks say that the rows are whole ones.

@@ -41,6 +41,7 @@ private:
         std::vector<TGGridCol*> cols;
     };
 
+    void AddTrees(std::size_t first);
     void AddTree(TGGridRow& row, int level);
     // Calls `take` with the text of each cell, and the other two around each row, whose place `begin` gets.
     template <class Begin, class Take, class End> void Walk(Begin begin, Take take, End end) const;

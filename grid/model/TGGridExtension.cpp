@@ -6,6 +6,8 @@
 #include "grid/TGGrid.h"
 #include "grid/window/GridLayout.h"
 
+#include <algorithm>
+
 namespace QuorUiCtr
 {
 
@@ -127,6 +129,17 @@ TGGridRow* TGGridExtension::FindRow(long row) const
 {
     ASSERT(extendedGrid != nullptr);
     return extendedGrid->RowAtIndex(row);
+}
+
+void TGGridExtension::FindRows(long first, long last, std::vector<TGGridRow*>& found) const
+{
+    ASSERT(extendedGrid != nullptr);
+    first = (std::max)(first, 0L);
+    last = (std::min)(last, extendedGrid->GetRowNum() - 1);
+    auto slot = first <= last ? extendedGrid->rows.IteratorAt(first) : extendedGrid->rows.end();
+    for (; first <= last; ++first, ++slot)
+        if (*slot != nullptr)
+            found.push_back(*slot);
 }
 
 TGGridCell* TGGridExtension::CellOf(TGGridRow& row, long col)

@@ -108,6 +108,13 @@ private:
     bool buffered;
 };
 
+// The order of rows that stand side by side: those of the first level (null) or the children of a row.
+struct TGRowOrder
+{
+    TGGridTreeRow* parent;
+    std::vector<TGGridRow*> rows;
+};
+
 // An extra that is attached to a grid: it sees messages before the grid does, draws over the cells, changes
 // how texts look, adds tips and menu entries, orders rows when they are sorted, and is told of every change.
 // docs/EXTENDING.md builds one step by step.
@@ -259,6 +266,13 @@ protected:
     virtual void OnActionBegin(TGActionKind kind);
     virtual void OnActionEnd(TGActionKind kind);
 
+    // ---- Rows beside the grid
+    // The host data of a row and of its offspring is with another row and its offspring now, which has the
+    // same texts: rows of a tree that are cut are copied, and plain rows that are pasted into one.
+    virtual void OnDataMoved(TGGridRow& from, TGGridRow& to);
+    // The row buffer is about to be filled anew, and these rows of it deleted. They can be taken over.
+    virtual void OnBufferDropped(TGRemovedRows& rows);
+
     // ---- What extensions need of the grid
 
     // Numbers of menu entries below are the grid's.
@@ -339,6 +353,46 @@ protected:
     bool AskPasteChild(TGGridTreeRow& parent) const;
     void TellPasted() const;
     void TellDataChanged() const;
+
+    // ---- Taking changes back
+    // For extensions that keep what they are told of. None of these runs a hook but where it says so, and all
+    // tell extensions as ever. No cell is edited and nothing selected.
+
+    // Puts rows with their offspring back, as children or, with null, before the row at an index, which lies
+    // between two trees. The grid owns them then.
+    void PutRows(TGGridTreeRow* parent, long position, std::vector<std::unique_ptr<TGGridRow>> rows) const;
+    // Takes rows out that stand side by side, with their offspring, which keeps its folding. False, changing
+    // nothing, when they do not stand so.
+    bool TakeRows(TGGridTreeRow* parent, std::span<TGGridRow* const> rows) const;
+    bool HasRows(TGGridTreeRow* parent, std::span<TGGridRow* const> rows) const;
+    // Where a row stands in its level, and what stands there: by its row index at the first level. Null for
+    // no row.
+    long GetPosition(TGGridTreeRow* parent, TGGridRow& row) const;
+    TGGridRow* FindSibling(TGGridTreeRow* parent, long position) const;
+    // All rows of a level, those of the first level without offspring.
+    std::vector<TGGridRow*> GetSiblings(TGGridTreeRow* parent) const;
+    // Gives rows another order. False, changing nothing, when a level has other rows.
+    bool OrderRows(std::span<const TGRowOrder> levels) const;
+    // Folds or unfolds a row.
+    void FoldRow(TGGridTreeRow& row, bool folded) const;
+    // The row stands in the grid, shown or not.
+    bool IsInGrid(TGGridRow& row) const;
+    // Takes a column out, told as by DelCol.
+    void TakeCol(long position) const;
+    // Selects nothing, without OnCurChanged; selects these, of which one is empty, with it.
+    void DropSelection() const;
+    void SelectExactly(const std::vector<long>& rows, const std::vector<long>& cols) const;
+    // An extension that keeps the address of a row marks the row, and need not look for the others that
+    // OnRowDeleted tells of, where the mark can be asked for. The mark stays.
+    static void Mark(TGGridRow& row);
+    static bool IsMarked(const TGGridRow& row);
+    // The cell's own style word.
+    static int GetStyle(const TGGridCell& cell);
+    static void SetStyle(TGGridCell& cell, int style);
+    // Moves the host data of one row to another.
+    static void MoveHostData(TGGridRow& from, TGGridRow& to);
+    // Gives a row that stands in no grid the cells for the columns of now.
+    static void FitToCols(TGGridRow& row);
 
 private:
     TGGrid* extendedGrid = nullptr;

@@ -162,6 +162,8 @@ private:
     TGGrid* grid;
     // The serial number of the youngest column that there was when the cells were last in step.
     unsigned colsSeen;
+    // An extension knows the row by its address.
+    bool keptByAddress = false;
 };
 
 } // namespace QuorUiCtr

@@ -33,6 +33,8 @@ public:
     Rows TakeAll();
     // The way back.
     void PutBack(Rows taken);
+    // Deletes what extensions do not take over of the last rows of the buffer.
+    void DropFrom(long first);
 
 private:
     std::unique_ptr<TGGridRow> CopyOfRow(TGGridRow& row);
@@ -65,12 +67,23 @@ void TGGrid::RowBuffer::CopySelection()
             copies.push_back(CopyOfRow(*row));
             added.push_back(copies.back().get());
         }
-    const long before = grid.rowPaste.GetNum();
-    grid.rowPaste.SpliceInsert(before, added);
+    grid.rowPaste.SpliceInsert(0, added);
     for (std::unique_ptr<TGGridRow>& copy : copies)
         static_cast<void>(copy.release());
-    while (grid.rowPaste.GetNum() > static_cast<long>(added.size()))
-        delete grid.rowPaste.Detach(0);
+    DropFrom(static_cast<long>(added.size()));
+}
+
+void TGGrid::RowBuffer::DropFrom(long first)
+{
+    std::vector<TGGridRow*> dropped(grid.rowPaste.IteratorAt(first), grid.rowPaste.end());
+    grid.rowPaste.Release(first, static_cast<long>(dropped.size()));
+    if (grid.extensions != nullptr && !dropped.empty())
+    {
+        grid.extensions->TellBufferDropped(std::move(dropped));
+        return;
+    }
+    for (TGGridRow* row : dropped)
+        delete row;
 }
 
 // A folded tree row is copied with its offspring; the children of an unfolded one are rows of their own.
@@ -107,7 +120,7 @@ bool TGGrid::DoClip()
 
 void TGGrid::ClipSelect()
 {
-    rowPaste.Clear();
+    RowBuffer(*this).DropFrom(0);
     RowBuffer(*this).CutSelection();
 }
 
@@ -151,7 +164,9 @@ void TGGrid::RowBuffer::CutTree(TGGridTreeRow& row)
     auto copy = std::make_unique<TGGridTreeRow>(grid);
     *copy << row;
     grid.rowPaste.Insert(0, copy.get());
-    copy.release();
+    TGGridRow& buffered = *copy.release();
+    if (grid.extensions != nullptr)
+        grid.extensions->Tell(GridExtensions::DataMoved, row, buffered);
     grid.DelRowEx(row.GetIndex());
 }
 
@@ -171,8 +186,13 @@ void TGGrid::RowBuffer::CutRow(TGGridRow& row)
 
     const RowWatch buffered(grid, &row);
     const RowWatch watch(grid, left);
+    if (grid.extensions != nullptr)
+        grid.extensions->SetStandIn(left, &row);
     grid.OnCurChanged();
-    if (!watch.IsAlive() || !Structure(grid).PrepareToGo(*left))
+    const bool stays = watch.IsAlive() && Structure(grid).PrepareToGo(*left);
+    if (grid.extensions != nullptr)
+        grid.extensions->SetStandIn(nullptr, nullptr);
+    if (!stays)
         return;
     const long place = left->GetIndex();
     Structure(grid).RemoveRow(place);
@@ -298,7 +318,12 @@ void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
     for (const auto& [plain, treeRow] : replaced)
     {
         treeRow->SetExtendData(plain->ReleaseExtendData());
-        delete plain;
+        if (grid.extensions != nullptr)
+            grid.extensions->Tell(GridExtensions::DataMoved, *plain, *treeRow);
+        if (grid.extensions != nullptr)
+            grid.extensions->TellBufferDropped({plain});
+        else
+            delete plain;
     }
     Structure(grid).TellChildren(parent, position, pasted);
 }

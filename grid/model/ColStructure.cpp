@@ -195,16 +195,21 @@ void TGGrid::DelCol(long i)
     CancelEditCell();
     if (!IsValidCol(i))
         return;
-    if (extensions != nullptr)
-        extensions->Tell(GridExtensions::ColRemoving, *ColAtIndex(i));
-    std::unique_ptr<TGGridCol> col(ColAtIndex(i));
-    Structure(*this).RemoveCol(i);
-    Structure(*this).ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
-    RecalcLayout(1);
+    Structure(*this).TakeCol(i);
+}
+
+void TGGrid::Structure::TakeCol(long i)
+{
+    if (grid.extensions != nullptr)
+        grid.extensions->Tell(GridExtensions::ColRemoving, *grid.ColAtIndex(i));
+    std::unique_ptr<TGGridCol> col(grid.ColAtIndex(i));
+    RemoveCol(i);
+    ChangeRows([i](TGGridRow& row) { row.DelCol(i); });
+    grid.RecalcLayout(1);
     // As in InsertCol.
-    SelectedIndices::Shift(colSel, cols, i + 1, -1);
-    if (extensions != nullptr)
-        extensions->Tell(GridExtensions::ColRemoved, i, col);
+    SelectedIndices::Shift(grid.colSel, grid.cols, i + 1, -1);
+    if (grid.extensions != nullptr)
+        grid.extensions->Tell(GridExtensions::ColRemoved, i, col);
 }
 
 void TGGrid::MoveCol(long from, long to)

@@ -171,15 +171,37 @@ bool GridExtensions::IsInGrid(TGGridRow& row) const
 
 void GridExtensions::TellText(TGGridCell& cell, const CString& oldText)
 {
-    if (IsInGrid(cell.GetRow()))
+    if (&cell.GetRow() != standIn && IsInGrid(cell.GetRow()))
         Tell(&TGGridExtension::OnTextChanged, cell, oldText);
 }
 
 void GridExtensions::TellRemoved(TGGridTreeRow* parent, long position, std::vector<TGGridRow*> rows,
                                  bool buffered)
 {
+    const Call call(*this);
+    const auto found =
+        standIn != nullptr && !buffered ? std::find(rows.begin(), rows.end(), standIn) : rows.end();
+    if (found != rows.end())
+    {
+        // From the last to the first, so that the positions are those of the moment.
+        const long place = static_cast<long>(found - rows.begin());
+        TellRemoved(parent, position + place + 1, std::vector<TGGridRow*>(found + 1, rows.end()), false);
+        TGGridRow* const gone = std::exchange(standIn, nullptr);
+        TellRemoved(parent, position + place, {replaced}, true);
+        delete gone;
+        rows.erase(found, rows.end());
+    }
+    if (rows.empty())
+        return;
     TGRemovedRows removed(parent, position, std::move(rows), buffered);
     Tell(&TGGridExtension::OnRowsRemoved, removed);
+}
+
+void GridExtensions::TellBufferDropped(std::vector<TGGridRow*> rows)
+{
+    std::erase(rows, nullptr);
+    TGRemovedRows dropped(nullptr, 0, std::move(rows), false);
+    Tell(&TGGridExtension::OnBufferDropped, dropped);
 }
 
 TGRemovedRows::TGRemovedRows(TGGridTreeRow* parentRow, long firstPosition, std::vector<TGGridRow*> removed,

@@ -65,8 +65,17 @@ public:
     bool IsInGrid(TGGridRow& row) const;
     // For cells of rows in the grid.
     void TellText(TGGridCell& cell, const CString& oldText);
-    // Deletes what nobody takes over.
+    // Delete what nobody takes over.
     void TellRemoved(TGGridTreeRow* parent, long position, std::vector<TGGridRow*> rows, bool buffered);
+    void TellBufferDropped(std::vector<TGGridRow*> rows);
+    // From now on a row of the grid stands in for another one, which is in the row buffer already: what is
+    // told of it is told of that one. Null for none.
+    TGGridRow* Meant(TGGridRow* row) const { return row != nullptr && row == standIn ? replaced : row; }
+    void SetStandIn(TGGridRow* row, TGGridRow* standsFor)
+    {
+        standIn = row;
+        replaced = standsFor;
+    }
 
     // Calls a member function of every extension.
     template <class... Parameters, class... Arguments>
@@ -96,6 +105,7 @@ public:
     static constexpr auto LaidOut = &TGGridExtension::OnLaidOut;
     static constexpr auto Scrolled = &TGGridExtension::OnScrolled;
     static constexpr auto RowDeleted = &TGGridExtension::OnRowDeleted;
+    static constexpr auto DataMoved = &TGGridExtension::OnDataMoved;
 
 private:
     explicit GridExtensions(TGGrid& servedGrid) : grid(servedGrid) {}
@@ -140,6 +150,8 @@ private:
     bool selectionWaits = false;
     const TGGridTreeRow* untold = nullptr;
     bool closing = false;
+    TGGridRow* standIn = nullptr;
+    TGGridRow* replaced = nullptr;
 };
 
 } // namespace QuorUiCtr

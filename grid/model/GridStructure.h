@@ -2,6 +2,7 @@
 #pragma once
 
 #include "grid/TGGrid.h"
+#include "grid/TGGridExtension.h"
 
 #include <algorithm>
 #include <cstddef>
@@ -62,6 +63,22 @@ public:
     void DropRow(TGGridTreeRow* parent, long position, TGGridRow* row);
     void DropChildren(TGGridTreeRow& parent);
     void DropAllRows();
+    // Put rows with their offspring, fitted to the columns, into a level, and take `number` out of it, see
+    // TGGridExtension; tell nobody.
+    void PutRows(TGGridTreeRow* parent, long position, std::span<TGGridRow* const> added);
+    std::vector<TGGridRow*> TakeRows(TGGridTreeRow* parent, long position, long number);
+    // Folds or unfolds a row without hooks.
+    void FoldRow(TGGridTreeRow& row, bool folded);
+    // The rows stand side by side in a level, in this order.
+    bool HasRows(TGGridTreeRow* parent, std::span<TGGridRow* const> wanted);
+    static long PositionOf(TGGridTreeRow* parent, TGGridRow& row);
+    static TGGridRow* ChildAt(TGGridTreeRow& parent, long position);
+    // The rows of a level: those of the first level (null) or the children of a row.
+    std::vector<TGGridRow*> Level(TGGridTreeRow* parent);
+    // Gives levels another order; tells nobody. False, changing nothing, when they have other rows.
+    bool OrderLevels(std::span<const TGRowOrder> levels);
+    // Tells extensions of the levels that were sorted or ordered.
+    void TellSorted();
     // Whether a row stands in the grid, shown or below a folded one.
     bool StandsInGrid(TGGridRow& row) const;
     // Tell extensions of rows that have come in at the first level, and as children.
@@ -95,6 +112,8 @@ public:
     // Gives a column another width, moves those behind, lays out and tells extensions. The layout may run
     // the hooks of an edit that ends.
     void ResizeCol(TGGridCol& col, long width);
+    // Takes a column out with its cells, for extensions or to be deleted; runs no hooks.
+    void TakeCol(long i);
     // Takes the slot of a column out and closes the gap.
     void RemoveCol(long i);
     // Gives a column that is about to move and the columns that it passes their edges.
@@ -133,6 +152,7 @@ private:
     template <class Row> void SortLevel(PDList<Row>& level, TGGridTreeRow* parent, bool ascending);
     void SortBelow(TGGridTreeRow& row, bool ascending);
     void SortExtended(bool ascending);
+    static std::vector<TGGridRow*> ShownOf(std::span<TGGridRow* const> roots);
     // Folds a row, or unfolds it, of which extensions are not told.
     static void FoldUntold(TGGrid& grid, TGGridTreeRow& row, bool folded);
     static bool StandsBelow(TGGridTreeRow& child, TGGridTreeRow& parent);

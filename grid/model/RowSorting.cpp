@@ -379,10 +379,7 @@ void TGGrid::Structure::SortExtended(bool ascending)
         if (folded)
             folded->UnFold();
     }
-    for (const SortNotice& notice : sorted)
-        if (grid.extensions != nullptr)
-            grid.extensions->Tell(GridExtensions::RowsSorted, notice.parent,
-                                  std::span<const long>(notice.order));
+    TellSorted();
 }
 
 } // namespace QuorUiCtr

@@ -110,6 +110,8 @@ bool TGGridExtension::OnSelectCells(const TGCellRange&)
 void TGGridExtension::OnRowDeleted(const TGGridRow*) {}
 void TGGridExtension::OnActionBegin(TGActionKind) {}
 void TGGridExtension::OnActionEnd(TGActionKind) {}
+void TGGridExtension::OnDataMoved(TGGridRow&, TGGridRow&) {}
+void TGGridExtension::OnBufferDropped(TGRemovedRows&) {}
 
 // ---- Places
 

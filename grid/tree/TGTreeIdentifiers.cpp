@@ -107,7 +107,9 @@ void TGTreeGrid::Identifiers::Renumber(TGGridRow& leaf)
         return;
     const int present = Leaves::IdentifierOf(cell);
     const int valid = AutoId(present);
-    cell->GetText().Format(L"%d", valid);
+    CString text;
+    text.Format(L"%d", valid);
+    cell->SetText(text);
     if (valid == present)
         return;
     --holders[present];

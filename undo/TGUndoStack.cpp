@@ -1,6 +1,7 @@
 // The undo stack as hosts see it: commands, keys, and the way to the history.
 #include "undo/TGUndoStack.h"
 
+#include "undo/GridUndo.h"
 #include "undo/TreeUndo.h"
 #include "undo/UndoHistory.h"
 
@@ -54,6 +55,17 @@ TGUndoStack::TGUndoStack()
 TGUndoStack::~TGUndoStack() = default;
 
 // ---- Controls
+
+bool TGUndoStack::Watch(TGGrid& grid)
+{
+    if (IsWatching(grid))
+        return false;
+    auto undo = std::make_shared<GridUndo>(*history);
+    if (!undo->AttachTo(grid))
+        return false;
+    history->Add(std::move(undo));
+    return true;
+}
 
 bool TGUndoStack::Watch(CTreeCtrlDrag& tree, TGTreeUndoHost* treeHost)
 {

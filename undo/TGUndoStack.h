@@ -12,6 +12,7 @@ namespace QuorUiCtr
 {
 
 class CTreeCtrlDrag;
+class TGGrid;
 class TGTreeUndoHost;
 class UndoHistory;
 
@@ -56,11 +57,13 @@ public:
 
     // ---- Controls
 
+    // Records what changes in a grid from now on, with or without a window; false when it is watched already.
+    bool Watch(TGGrid& grid);
     // Watches a drag tree, as it is now, until it or its window goes. `treeHost`, if any, is told what the
     // messages of the tree do not say; it must exist as long as the watch. False: the tree has no window, or
     // is watched already.
     bool Watch(CTreeCtrlDrag& tree, TGTreeUndoHost* treeHost = nullptr);
-    // Does not watch any more what was recorded of the control; false when it is not watched.
+    // Forgets a control with all that was recorded of it; false when it is not watched.
     bool Unwatch(CWnd& control);
     bool IsWatching(const CWnd& control) const;
 

@@ -263,7 +263,7 @@ void TreeUndo::EndEdit()
         ::SendMessage(window, TVM_ENDEDITLABELNOW, FALSE, 0);
 }
 
-std::unique_ptr<UndoView> TreeUndo::KeepView()
+std::shared_ptr<UndoView> TreeUndo::KeepView()
 {
     if (tree == nullptr)
         return nullptr;

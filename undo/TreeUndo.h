@@ -79,7 +79,7 @@ public:
 
     CWnd* GetControl() const override { return tree; }
     void EndEdit() override;
-    std::unique_ptr<UndoView> KeepView() override;
+    std::shared_ptr<UndoView> KeepView() override;
     void BeginRevert() override;
     void EndRevert(const UndoView* view) override;
     void TellChanged() override;

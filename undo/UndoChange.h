@@ -81,7 +81,7 @@ public:
     virtual CWnd* GetControl() const = 0;
     // An open editor is committed; runs hooks, and may record.
     virtual void EndEdit() = 0;
-    virtual std::unique_ptr<UndoView> KeepView() = 0;
+    virtual std::shared_ptr<UndoView> KeepView() = 0;
     // Around the changes of a step that are taken back: one repaint. The end shows a view, null: what there
     // is; runs hooks.
     virtual void BeginRevert() = 0;
@@ -93,6 +93,8 @@ public:
     virtual void MarkModified(bool modified) = 0;
     // The stack does not watch the control any more.
     virtual void Leave() = 0;
+    // Somebody asks for changes: those that cannot be taken back any more are broken by now.
+    virtual void Settle() {}
 };
 
 } // namespace QuorUiCtr

@@ -41,7 +41,7 @@ bool UndoHistory::Step::IsView() const
 
 void UndoHistory::Step::Weigh()
 {
-    bytes = sizeof(Step) + BytesOf(changes);
+    bytes = sizeof(Step) + BytesOf(changes) + BytesOf(away);
 }
 
 UndoHistory::Views& UndoHistory::Step::ViewsOf(UndoRecorder& recorder)
@@ -120,6 +120,7 @@ void UndoHistory::Remove(UndoRecorder& recorder)
         if (step != nullptr)
         {
             std::erase_if(step->changes, isIts);
+            std::erase_if(step->away, isIts);
             std::erase_if(step->views, [&](const Views& kept) { return kept.recorder == &recorder; });
         }
     RemoveFrom(undo, recorder, base);
@@ -136,7 +137,8 @@ void UndoHistory::RemoveFrom(Steps& steps, const UndoRecorder& recorder, unsigne
     for (std::size_t i = 0; i < number; ++i)
     {
         std::unique_ptr<Step>& step = steps[backwards ? number - 1 - i : i];
-        std::erase_if(step->changes, [&](const auto& change) { return &change->GetRecorder() == &recorder; });
+        for (Changes* changes : {&step->changes, &step->away})
+            std::erase_if(*changes, [&](const auto& change) { return &change->GetRecorder() == &recorder; });
         std::erase_if(step->views, [&](const Views& kept) { return kept.recorder == &recorder; });
         bytes -= step->bytes;
         step->Weigh();
@@ -358,6 +360,8 @@ void UndoHistory::SetSaved()
 
 bool UndoHistory::CanGo(bool back) const
 {
+    for (const auto& recorder : recorders)
+        recorder->Settle();
     const Steps& steps = back ? undo : redo;
     return !busy && depth == 0 && !steps.empty() && !steps.back()->IsBroken();
 }
@@ -379,6 +383,8 @@ bool UndoHistory::Go(bool back)
         if (Hold(recorder.get()) != nullptr)
             recorder->EndEdit();
     Steps& steps = back ? undo : redo;
+    for (const auto& recorder : recorders)
+        recorder->Settle();
     if (depth > 0 || steps.empty())
         return false;
     if (steps.back()->IsBroken())
@@ -413,23 +419,34 @@ bool UndoHistory::GoBy(bool back)
     // What others change meanwhile drifts away from the new position.
     Changes drifted = std::exchange(drift, {});
     const bool hadDrift = !drifted.empty();
+    Step away;
+    mirror = &away;
+    bool isDone = RevertAll(drifted);
     mirror = reversed.get();
-    const bool isDone = RevertAll(drifted) && RevertAll(taken->changes);
+    isDone = isDone && RevertAll(taken->changes);
     const std::vector<Views> views = taken->views;
     if (isDone)
     {
+        if (!back)
+            DriftAgain();
+        else
+            reversed->away = std::move(away.changes);
         reversed->views = views;
         Put(back ? redo : undo, std::move(reversed));
     }
     else
     {
-        RollForward(*reversed);
+        RollForward(*reversed, away);
         if (hadDrift)
             Drop(back ? redo : undo);
         EndSide(back, position);
     }
     mirror = nullptr;
     taken.reset();
+    {
+        const ScopedValue dropped(dropping, true);
+        away.changes.clear();
+    }
     Finish(isDone ? views : std::vector<Views>(), touched, back);
     if (isDone)
         TellChanged(touched);
@@ -437,10 +454,21 @@ bool UndoHistory::GoBy(bool back)
     return isDone;
 }
 
+// What had drifted away from the position does so again, as far as it fits.
+void UndoHistory::DriftAgain()
+{
+    Step again;
+    mirror = &again;
+    RevertAll(taken->away);
+    mirror = nullptr;
+    for (auto& change : again.changes)
+        Append(drift, std::move(change));
+}
+
 UndoHistory::Held UndoHistory::Touched()
 {
     Held touched;
-    for (const Changes* changes : {&taken->changes, &drift})
+    for (Changes* changes : {&taken->changes, &taken->away, &drift})
         for (const auto& change : *changes)
         {
             const auto recorder = Hold(&change->GetRecorder());
@@ -463,13 +491,16 @@ bool UndoHistory::RevertAll(Changes& changes)
 }
 
 // Makes again what has been taken back of a step that does not fit.
-void UndoHistory::RollForward(Step& reversed)
+void UndoHistory::RollForward(Step& reversed, Step& away)
 {
     Step again;
-    Changes made = std::exchange(reversed.changes, {});
     mirror = &again;
-    if (!RevertAll(made))
+    Changes made = std::exchange(reversed.changes, {});
+    Changes drifted = std::exchange(away.changes, {});
+    if (!RevertAll(made) || !RevertAll(drifted))
         End();
+    const ScopedValue guard(dropping, true);
+    again.changes.clear();
 }
 
 // Hooks may make a control leave, or drop the steps.

@@ -28,7 +28,8 @@ public:
 //
 // The history stands at a position between two steps. What changes there without being a step, as folding
 // does and what hooks do while a step is taken back, drifts away from the position: it is taken back before
-// the next step is, in either direction, and becomes a part of a step that is added.
+// the next step is, in either direction, and comes back when a step is made again; a step that is added has
+// it for its beginning.
 class UndoHistory
 {
 public:
@@ -118,6 +119,8 @@ private:
         unsigned id = 0;
         bool isHosts = false;
         Changes changes = {};
+        // Of a step that was undone: what had drifted away from the position behind it, taken back.
+        Changes away = {};
         std::vector<Views> views = {};
         std::size_t bytes = 0;
 
@@ -141,8 +144,9 @@ private:
     void RemoveFrom(Steps& steps, const UndoRecorder& recorder, unsigned before);
     bool GoBy(bool back);
     Held Touched();
+    void DriftAgain();
     static bool RevertAll(Changes& changes);
-    void RollForward(Step& reversed);
+    void RollForward(Step& reversed, Step& away);
     void Finish(const std::vector<Views>& views, const Held& touched, bool back);
     void TellChanged(const Held& touched);
     // The steps on one side cannot be reached any more, from a position.
@@ -188,13 +192,19 @@ template <class Use> void UndoHistory::ForChanges(const UndoRecorder& recorder, 
     if (mirror != nullptr)
         useAll(mirror->changes);
     if (taken != nullptr)
+    {
         useAll(taken->changes);
+        useAll(taken->away);
+    }
     useAll(drift);
     if (open != nullptr)
         useAll(open->changes);
     for (Steps* steps : {&redo, &undo})
         for (auto step = steps->rbegin(); step != steps->rend(); ++step)
+        {
             useAll((*step)->changes);
+            useAll((*step)->away);
+        }
 }
 
 } // namespace QuorUiCtr

@@ -1,0 +1,93 @@
+// A random user changes several controls; undoing everything gives the first state, redoing everything the
+// last.
+#include "tests/support/Rounds.h"
+#include "tests/undo/GridSubject.h"
+#include "tests/undo/UndoWorld.h"
+
+#include <gtest/gtest.h>
+
+#include <cstdlib>
+
+using namespace QuorUiCtr;
+
+namespace quor::test
+{
+namespace
+{
+
+constexpr int StepsPerRound = 400;
+
+long WantedSteps()
+{
+    const char* const wanted = std::getenv("QUOR_UNDO_STEPS");
+    return wanted != nullptr ? std::atol(wanted) : 50000;
+}
+
+// What hooks change after the last step that is undone stays until the next one.
+void GoAll(UndoWorld& world, bool back, fuzz::Random* mutating)
+{
+    while (back ? world.stack.CanUndo() : world.stack.CanRedo())
+    {
+        const long left = back ? world.stack.GetUndoNum() : world.stack.GetRedoNum();
+        world.SetMutating(left > 1 ? mutating : nullptr);
+        back ? world.stack.Undo() : world.stack.Redo();
+    }
+    world.SetMutating(nullptr);
+}
+
+void RunRound(std::uint64_t seed, bool mutates)
+{
+    fuzz::Random random(seed);
+    fuzz::Random hooks(seed + 1);
+    UndoWorld world;
+    AddGrids(world);
+    for (const auto& subject : world.subjects)
+        subject->Watch(world.stack);
+    world.stack.SetLimits(0, 0);
+    world.stack.refusing = &hooks;
+    fuzz::Random* const mutating = mutates ? &hooks : nullptr;
+    // What only changes the view before there is a step is not kept.
+    std::string first;
+    while (world.stack.GetUndoNum() == 0)
+    {
+        first = world.Snapshot();
+        random.Pick(world.subjects)->Step(random);
+    }
+    for (int i = 0; i < StepsPerRound; ++i)
+    {
+        world.SetMutating(mutating);
+        if (random.OneIn(8))
+            world.stack.Undo();
+        else if (random.OneIn(8))
+            world.stack.Redo();
+        else
+            random.Pick(world.subjects)->Step(random);
+    }
+    world.SetMutating(nullptr);
+    ASSERT_EQ(world.stack.ended, 0) << "seed " << seed;
+    // What has drifted away from the last step is in none.
+    GoAll(world, true, mutating);
+    GoAll(world, false, mutating);
+    const std::string last = world.Snapshot();
+    GoAll(world, true, mutating);
+    ASSERT_EQ(world.stack.ended, 0) << "seed " << seed;
+    ASSERT_EQ(world.stack.GetUndoNum(), 0) << "seed " << seed;
+    ASSERT_EQ(world.Snapshot(), first) << "seed " << seed;
+    GoAll(world, false, mutating);
+    ASSERT_EQ(world.stack.ended, 0) << "seed " << seed;
+    ASSERT_EQ(world.Snapshot(), last) << "seed " << seed;
+}
+
+TEST(RandomUndo, BringsTheFirstAndTheLastStateBack)
+{
+    const long rounds = WantedSteps() / StepsPerRound;
+    const char* const start = std::getenv("QUOR_UNDO_SEED");
+    const auto seed = static_cast<std::uint64_t>(start != nullptr ? std::atoll(start) : 1);
+    for (long round = 0; round < rounds && !HasFatalFailure(); ++round)
+        RunRound(seed + static_cast<std::uint64_t>(round),
+                 (seed + static_cast<std::uint64_t>(round)) % 2 == 0);
+    EXPECT_EQ(NumberedData::alive, 0);
+}
+
+} // namespace
+} // namespace quor::test

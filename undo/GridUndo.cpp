@@ -1,0 +1,534 @@
+// What a grid tells is recorded; the view around a step is kept and shown.
+#include "undo/GridUndo.h"
+
+#include "grid/TGTreeGrid.h"
+#include "undo/GridChange.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace QuorUiCtr
+{
+namespace
+{
+
+struct ActionName
+{
+    TGActionKind kind;
+    QuorText one;
+    QuorText many;
+};
+
+constexpr ActionName ActionNames[] = {
+    {TGActionKind::Type, QuorText::UndoTyping, QuorText::UndoTyping},
+    {TGActionKind::InsertRows, QuorText::UndoInsertRow, QuorText::UndoInsertRows},
+    {TGActionKind::DeleteRows, QuorText::UndoDeleteRow, QuorText::UndoDeleteRows},
+    {TGActionKind::CutRows, QuorText::UndoCutRow, QuorText::UndoCutRows},
+    {TGActionKind::PasteRows, QuorText::UndoPasteRow, QuorText::UndoPasteRows},
+    {TGActionKind::MoveRows, QuorText::UndoMoveRow, QuorText::UndoMoveRows},
+    {TGActionKind::InsertCols, QuorText::UndoInsertCol, QuorText::UndoInsertCols},
+    {TGActionKind::DeleteCols, QuorText::UndoDeleteCol, QuorText::UndoDeleteCols},
+    {TGActionKind::MoveCols, QuorText::UndoMoveCol, QuorText::UndoMoveCols},
+    {TGActionKind::ResizeCols, QuorText::UndoResizeCols, QuorText::UndoResizeCols},
+    {TGActionKind::Sort, QuorText::UndoSort, QuorText::UndoSort},
+    {TGActionKind::Fold, QuorText::UndoFold, QuorText::UndoFold},
+    {TGActionKind::Empty, QuorText::UndoEmptyCell, QuorText::UndoEmptyCells},
+    {TGActionKind::Cut, QuorText::UndoCut, QuorText::UndoCut},
+    {TGActionKind::Paste, QuorText::UndoPaste, QuorText::UndoPaste},
+    {TGActionKind::Fill, QuorText::UndoFill, QuorText::UndoFill},
+};
+
+UndoName NameOfAction(TGActionKind kind)
+{
+    UndoName name;
+    for (const ActionName& known : ActionNames)
+        if (known.kind == kind)
+        {
+            name.one = known.one;
+            name.many = known.many;
+        }
+    return name;
+}
+
+} // namespace
+
+// ---- Reverting
+
+GridUndo::Reverting::Reverting(GridUndo& revertingUndo, const TGGridCell* cell) : undo(revertingUndo)
+{
+    undo.reverting = true;
+    undo.told = false;
+    undo.revertedCell = cell;
+}
+
+GridUndo::Reverting::~Reverting()
+{
+    undo.reverting = false;
+    undo.revertedCell = nullptr;
+}
+
+TGGridTreeRow* GridUndo::ParentOf(TGGridRow& row)
+{
+    return row.IsTreeRow() ? static_cast<TGGridTreeRow&>(row).Parent() : nullptr;
+}
+
+TGGridRow* GridUndo::FindBefore(TGGridTreeRow* parent, long position) const
+{
+    TGGridRow* const row = FindSibling(parent, position - 1);
+    return parent == nullptr && row != nullptr && row->IsTreeRow()
+               ? &static_cast<TGGridTreeRow&>(*row).RootRow()
+               : row;
+}
+
+long GridUndo::EndOf(TGGridTreeRow* parent) const
+{
+    if (parent == nullptr)
+        return GetGrid()->GetRowNum();
+    const long depth = parent->GetParentNum();
+    long i = parent->GetIndex() + 1;
+    while (i < GetGrid()->GetRowNum() && GetGrid()->GetRow(i).IsTreeRow() &&
+           GetGrid()->GetTreeRow(i).GetParentNum() > depth)
+        ++i;
+    return i;
+}
+
+unsigned GridUndo::SerialAt(long index) const
+{
+    return GetGrid() != nullptr && GetGrid()->IsValidCol(index) ? GetSerial(GetGrid()->GetCol(index)) : 0;
+}
+
+TGGridCol* GridUndo::FindCol(long index, unsigned serial) const
+{
+    return serial != 0 && SerialAt(index) == serial ? &GetGrid()->GetCol(index) : nullptr;
+}
+
+void GridUndo::RecordBack(std::unique_ptr<GridChange> change)
+{
+    told = true;
+    history.RecordBack(std::move(change));
+}
+
+void GridUndo::Fetch(std::unordered_set<const TGGridRow*>& wanted, LentRows& found)
+{
+    FetchFromBuffer(wanted, found);
+    history.ForChanges(*this, [&](UndoChange& change) {
+        if (!wanted.empty())
+            static_cast<GridChange&>(change).Lend(wanted, found);
+    });
+}
+
+void GridUndo::NoteTraveller(TGGridRow& row)
+{
+    Mark(row);
+    travellers.insert(&row);
+}
+
+std::vector<TGGridRow*> GridUndo::GetRowsBeside() const
+{
+    std::unordered_set<TGGridRow*> rows;
+    for (TGGridRow* row : GetGrid()->GetRowPaste())
+        if (row != nullptr)
+            rows.insert(row);
+    for (TGGridRow* row : travellers)
+        if (!row->IsChildRow() && !IsInGrid(*row))
+            rows.insert(row);
+    return std::vector<TGGridRow*>(rows.begin(), rows.end());
+}
+
+// Only rows that have been in the row buffer are needed by more than one.
+void GridUndo::GiveUp(std::unique_ptr<TGGridRow> row)
+{
+    if (leaving || travellers.count(row.get()) == 0)
+        return;
+    history.ForChanges(*this, [&](UndoChange& change) {
+        if (row != nullptr)
+            static_cast<GridChange&>(change).Keep(row);
+    });
+}
+
+// Copies stay in the buffer, as if the rows had been copied and not cut.
+void GridUndo::FetchFromBuffer(std::unordered_set<const TGGridRow*>& wanted, LentRows& found)
+{
+    TGGrid& grid = *GetGrid();
+    for (TGGridRow*& slot : grid.GetRowPaste())
+    {
+        if (wanted.empty())
+            return;
+        if (slot == nullptr || slot->IsTreeRow() || wanted.erase(slot) == 0)
+            continue;
+        auto copy = std::make_unique<TGGridRow>(grid);
+        *copy = *slot;
+        TGGridRow* const fetched = std::exchange(slot, copy.release());
+        found[fetched].reset(fetched);
+    }
+}
+
+// ---- Views
+
+class GridUndo::View : public UndoView
+{
+public:
+    // Runs of selected rows or columns, or the ranges of a cell cursor.
+    std::vector<TGCellRange> bands;
+    bool isRows = false;
+    std::vector<TGCellRange> cells;
+    CPoint corner;
+    bool hasCorner = false;
+
+    std::vector<long> Indices(bool rows, long number) const
+    {
+        std::vector<long> indices;
+        if (isRows != rows)
+            return indices;
+        for (const TGCellRange& band : bands)
+            for (long i = rows ? band.top : band.left; i <= (rows ? band.bottom : band.right); ++i)
+                if (i < number)
+                    indices.push_back(i);
+        return indices;
+    }
+};
+
+std::shared_ptr<UndoView> GridUndo::KeepView()
+{
+    if (GetGrid() == nullptr)
+        return nullptr;
+    auto view = std::make_shared<View>();
+    view->bands = GetSelectedBands();
+    view->isRows = GetGrid()->IsRowSelected();
+    if (view->bands.empty())
+        view->cells = GetSelectedCells();
+    view->hasCorner = GetGrid()->GetSafeHwnd() != nullptr && !GetGrid()->IsUpdating();
+    if (view->hasCorner)
+        view->corner = GetView().TopLeft();
+    return view;
+}
+
+void GridUndo::BeginRevert()
+{
+    viewBefore = KeepView();
+    GetGrid()->CancelEditCell();
+    GetGrid()->BeginUpdate();
+    updating = true;
+    DropSelection();
+}
+
+// Hooks may detach this object, or close the window.
+void GridUndo::EndRevert(const UndoView* shown)
+{
+    const std::shared_ptr<UndoView> kept = std::move(viewBefore);
+    const auto* const view = static_cast<const View*>(shown != nullptr ? shown : kept.get());
+    if (GetGrid() == nullptr || view == nullptr)
+        return;
+    GetGrid()->Invalidate(0);
+    SelectExactly(view->Indices(true, GetGrid()->GetRowNum()), view->Indices(false, GetGrid()->GetColNum()));
+    if (GetGrid() != nullptr && view->bands.empty() && !view->cells.empty())
+        SelectCells(view->cells.back());
+    if (GetGrid() == nullptr)
+        return;
+    updating = false;
+    GetGrid()->EndUpdate();
+    if (GetGrid() == nullptr || !view->hasCorner || GetGrid()->GetSafeHwnd() == nullptr)
+        return;
+    const CPoint corner = GetView().TopLeft();
+    ScrollBy(view->corner.x - corner.x, view->corner.y - corner.y, false);
+}
+
+// ---- The control
+
+void GridUndo::EndEdit()
+{
+    if (GetGrid() != nullptr)
+        GetGrid()->EndEditCell();
+}
+
+void GridUndo::TellChanged()
+{
+    if (GetGrid() != nullptr)
+        TellDataChanged();
+}
+
+bool GridUndo::IsModified() const
+{
+    if (const auto* tree = dynamic_cast<const TGTreeGrid*>(GetGrid()))
+        return tree->IsModified();
+    return GetGrid() != nullptr && GetGrid()->IsModified();
+}
+
+void GridUndo::MarkModified(bool modified)
+{
+    if (auto* tree = dynamic_cast<TGTreeGrid*>(GetGrid()))
+        tree->SetModified(modified);
+    else if (GetGrid() != nullptr)
+        GetGrid()->SetModify(modified);
+}
+
+void GridUndo::OnDetach(TGGrid& oldGrid)
+{
+    if (std::exchange(updating, false))
+        oldGrid.EndUpdate();
+    if (std::exchange(inAction, false))
+        history.EndStep();
+    goingCol.reset();
+    leaving = true;
+    // May delete this object.
+    history.Remove(*this);
+}
+
+bool GridUndo::OnPreTranslate(MSG& message)
+{
+    return history.GetListener().RunKey(message);
+}
+
+// ---- Actions
+
+void GridUndo::OnActionBegin(TGActionKind begun)
+{
+    Noting([&] {
+        kind = begun;
+        history.BeginStep(this, NameOfAction(begun));
+        inAction = true;
+    });
+}
+
+// A combo box stores the chosen text, and its edit the same cell once more when it ends: typing in one cell
+// is one step.
+void GridUndo::OnActionEnd(TGActionKind ended)
+{
+    if (!std::exchange(inAction, false))
+        return;
+    Noting([&] {
+        const bool isTyping = ended == TGActionKind::Type;
+        const auto* const texts = isTyping ? Last<GridTextChange>(false) : nullptr;
+        const bool joins = texts != nullptr && openCell != nullptr && texts->IsOnly(*openCell) &&
+                           openPosition == history.Position();
+        long row = -1;
+        long col = -1;
+        const bool isOpen = GetGrid() != nullptr && isTyping && GetGrid()->GetCurCell(row, col);
+        const TGGridCell* const cell = isOpen ? FindCell(row, col) : nullptr;
+        openCell = texts != nullptr && cell != nullptr && texts->IsOnly(*cell) ? cell : nullptr;
+        history.EndStep(joins);
+        openPosition = history.Position();
+    });
+}
+
+// ---- Notices
+
+void GridUndo::Settle()
+{
+    if (std::exchange(lost, false))
+        history.End();
+    if (dead.empty())
+        return;
+    const std::unordered_set<const TGGridRow*> gone = std::exchange(dead, {});
+    history.ForChanges(*this, [&](UndoChange& change) { static_cast<GridChange&>(change).Forget(gone); });
+}
+
+bool GridUndo::IsRecording() const
+{
+    return GetGrid() != nullptr && (reverting || history.IsRecording());
+}
+
+template <class Note> void GridUndo::Noting(Note note)
+{
+    try
+    {
+        note();
+    }
+    catch (...)
+    {
+        history.End();
+    }
+}
+
+template <class Change> Change* GridUndo::Last(bool back) const
+{
+    UndoChange* const last = history.GetLast(back);
+    return last != nullptr && &last->GetRecorder() == this ? dynamic_cast<Change*>(last) : nullptr;
+}
+
+void GridUndo::Put(std::unique_ptr<GridChange> change)
+{
+    if (reverting)
+        RecordBack(std::move(change));
+    else
+        history.Record(std::move(change));
+}
+
+void GridUndo::OnTextChanged(TGGridCell& cell, const CString& oldText)
+{
+    if (!IsRecording() || oldText == cell.GetText())
+        return;
+    Noting([&] {
+        Settle();
+        const bool back = reverting && &cell == revertedCell;
+        if (auto* const last = Last<GridTextChange>(back))
+        {
+            last->Add(cell, oldText);
+            return;
+        }
+        auto change = std::make_unique<GridTextChange>(*this);
+        change->Add(cell, oldText);
+        if (back)
+            RecordBack(std::move(change));
+        else
+            history.Record(std::move(change));
+    });
+}
+
+void GridUndo::OnRowsInserted(TGGridTreeRow* parent, long position, std::span<TGGridRow* const> rows)
+{
+    if (!IsRecording() || rows.empty())
+        return;
+    // A row that comes in alone shows no children, whatever its flag says: as it comes back, the two agree.
+    for (TGGridRow* row : rows)
+        if (row->IsParentRow() && !static_cast<TGGridTreeRow*>(row)->IsChildVisible() && row->GetIndex() >= 0)
+            static_cast<TGGridTreeRow*>(row)->SetUnFoldFlag(false);
+    Noting([&] {
+        Settle();
+        Put(std::make_unique<GridRowsIn>(*this, parent, position, rows));
+    });
+}
+
+void GridUndo::OnRowsRemoved(TGRemovedRows& rows)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] {
+        Settle();
+        if (rows.IsBuffered())
+            travellers.insert(rows.GetRows().begin(), rows.GetRows().end());
+        told = told || reverting;
+        if (auto* const last = Last<GridRowsOut>(reverting); last != nullptr && last->Add(rows))
+            return;
+        auto change = std::make_unique<GridRowsOut>(*this, rows.GetParent(), rows.GetPosition());
+        change->Add(rows);
+        Put(std::move(change));
+    });
+}
+
+void GridUndo::OnRowMoved(long from, long to, long number)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] {
+        Settle();
+        Put(std::make_unique<GridRowMove>(*this, from, to, number));
+    });
+}
+
+void GridUndo::OnRowsSorted(TGGridTreeRow* parent, std::span<const long> order)
+{
+    if (!IsRecording())
+        return;
+    told = told || reverting;
+    if (std::is_sorted(order.begin(), order.end()))
+        return;
+    Noting([&] {
+        Settle();
+        if (auto* const last = Last<GridOrder>(reverting); last != nullptr && last->Add(parent, order))
+            return;
+        auto change = std::make_unique<GridOrder>(*this);
+        change->Add(parent, order);
+        Put(std::move(change));
+    });
+}
+
+void GridUndo::OnRowsFolded(std::span<TGGridTreeRow* const> rows)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] {
+        Settle();
+        Put(std::make_unique<GridFold>(*this, rows));
+    });
+}
+
+void GridUndo::OnColInserted(TGGridCol& col)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] { Put(std::make_unique<GridColIn>(*this, col)); });
+}
+
+void GridUndo::OnColRemoving(TGGridCol& col)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] {
+        Settle();
+        goingCol = std::make_unique<GridColOut>(*this, col);
+    });
+}
+
+void GridUndo::OnColRemoved(long, std::unique_ptr<TGGridCol>& col)
+{
+    if (goingCol == nullptr)
+        return;
+    Noting([&] {
+        static_cast<GridColOut&>(*goingCol).Take(std::move(col));
+        Put(std::move(goingCol));
+    });
+}
+
+void GridUndo::OnColMoved(long from, long to)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] { Put(std::make_unique<GridColMove>(*this, from, to)); });
+}
+
+void GridUndo::OnColResized(TGGridCol& col, long oldWidth)
+{
+    if (!IsRecording() || oldWidth == col.GetWidth())
+        return;
+    Noting([&] {
+        const bool byUser = inAction && kind == TGActionKind::ResizeCols;
+        Put(std::make_unique<GridColWidth>(*this, col, oldWidth, byUser));
+    });
+}
+
+// Of a row that goes with the step that owns it nobody knows, unless it has been in the row buffer.
+void GridUndo::OnRowDeleted(const TGGridRow* row)
+{
+    if (!IsMarked(*row) || (history.IsDropping() && travellers.count(const_cast<TGGridRow*>(row)) == 0))
+        return;
+    try
+    {
+        travellers.erase(const_cast<TGGridRow*>(row));
+        dead.insert(row);
+    }
+    catch (...)
+    {
+        lost = true;
+    }
+}
+
+void GridUndo::OnDataMoved(TGGridRow& from, TGGridRow& to)
+{
+    if (!IsRecording())
+        return;
+    Noting([&] {
+        Settle();
+        travellers.insert({&from, &to});
+        Put(std::make_unique<GridDataMove>(*this, from, to));
+    });
+}
+
+void GridUndo::OnBufferDropped(TGRemovedRows& rows)
+{
+    Noting([&] {
+        Settle();
+        for (std::size_t i = 0; i < rows.GetRows().size(); ++i)
+        {
+            if (!IsMarked(*rows.GetRows()[i]))
+                continue;
+            std::unique_ptr<TGGridRow> row = rows.Take(i);
+            history.ForChanges(*this, [&](UndoChange& change) {
+                if (row != nullptr)
+                    static_cast<GridChange&>(change).Keep(row);
+            });
+        }
+    });
+}
+
+} // namespace QuorUiCtr

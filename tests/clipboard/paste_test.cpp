@@ -1,4 +1,5 @@
 // Where a table goes that is pasted, and that every cell goes the way of typing.
+#include "grid/TGUserAction.h"
 #include "tests/clipboard/ClipboardTest.h"
 
 using namespace QuorUiCtr;
@@ -183,15 +184,44 @@ TEST_F(Pasting, TellsOfTheChange_OnceOrNotAtAll)
     EXPECT_EQ(Changes(), 0);
 }
 
-TEST_F(Pasting, LaysOutOnce)
+// Counts what extensions are told of.
+struct CountingExtension : TGGridExtension
+{
+    int layouts = 0;
+    int insertions = 0;
+    int actions = 0;
+
+protected:
+    void OnLaidOut() override { ++layouts; }
+    void OnRowsInserted(TGGridTreeRow*, long, std::span<TGGridRow* const>) override { ++insertions; }
+    void OnActionBegin(TGActionKind kind) override { actions += kind == TGActionKind::Paste ? 1 : 0; }
+};
+
+TEST_F(Pasting, IsOneAction_WithOneLayout_AndOneWordOfTheRows)
+{
+    Make();
+    CountingExtension counting;
+    counting.AttachTo(grid);
+    cursor.MoveTo(2, 0);
+    counting.layouts = 0;
+    EXPECT_EQ(Paste(L"a\nb\nc\nd\ne\nf\ng"), "done 7 +6 rows");
+    EXPECT_EQ(counting.layouts, 1);
+    EXPECT_EQ(counting.insertions, 1);
+    EXPECT_EQ(counting.actions, 1);
+}
+
+TEST_F(Pasting, PaintsNothingMeanwhile)
 {
     Make();
     grid.recording = true;
-    cursor.MoveTo(2, 0);
     grid.UpdateWindow();
     grid.TakeLog();
-    Paste(L"a\nb\nc\nd\ne\nf\ng");
-    EXPECT_EQ(grid.TakeText().find("OnRefresh"), std::string::npos) << "nothing is painted amid the change";
+    grid.modifiedText = [this](TGGridCell&, CString&) {
+        grid.UpdateWindow();
+        return true;
+    };
+    Paste(L"a\tb\nc\td");
+    EXPECT_EQ(grid.TakeText().find("OnRefresh"), std::string::npos);
     grid.UpdateWindow();
     EXPECT_NE(grid.TakeText().find("OnRefresh"), std::string::npos);
 }

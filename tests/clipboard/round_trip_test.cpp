@@ -1,5 +1,6 @@
 // Random tables go through the clipboard in each format, and come back as they were.
 #include "tests/clipboard/ClipboardTest.h"
+#include "tests/support/Rounds.h"
 
 #include <cstdlib>
 #include <random>
@@ -15,7 +16,7 @@ namespace
 int TableNum()
 {
     const char* const wanted = std::getenv("QUOR_CLIPBOARD_TABLES");
-    return wanted != nullptr ? std::atoi(wanted) : 40;
+    return wanted != nullptr ? std::atoi(wanted) : Rounds(40);
 }
 
 class RandomTable

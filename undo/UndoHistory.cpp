@@ -454,9 +454,12 @@ bool UndoHistory::GoBy(bool back)
     return isDone;
 }
 
-// What had drifted away from the position does so again, as far as it fits.
+// What was shown at the position is shown again. What hooks have changed there they change again.
 void UndoHistory::DriftAgain()
 {
+    const auto isView = [](const auto& change) { return change->IsView(); };
+    if (!std::all_of(taken->away.begin(), taken->away.end(), isView))
+        return;
     Step again;
     mirror = &again;
     RevertAll(taken->away);

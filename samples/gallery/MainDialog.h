@@ -51,6 +51,7 @@ protected:
     afx_msg void OnOpenTable();
     afx_msg void OnSaveTable();
     afx_msg void OnQuit();
+    afx_msg void OnEditCommand(UINT id);
     afx_msg void OnClearLog();
     afx_msg void OnShowSource();
     afx_msg void OnLanguage(UINT command);
@@ -70,6 +71,9 @@ private:
     void LayOut();
     void ShowFocus();
     void FocusNextPane(bool backwards);
+    // What the page that is shown can do of the commands of the menu "Edit".
+    bool IsEditEnabled(UINT id) const;
+    void ShowEditEntries(CMenu& popup) const;
 
     CListBox pageList;
     LogPane log;

@@ -71,6 +71,7 @@ void MainDialog::OnInitMenuPopup(CMenu* popup, UINT index, BOOL isSystemMenu)
     CDialog::OnInitMenuPopup(popup, index, isSystemMenu);
     const bool canSave = pages[shownPage]->CanOpenFiles();
     popup->EnableMenuItem(ID_FILE_SAVE_TABLE, MF_BYCOMMAND | (canSave ? MF_ENABLED : MF_GRAYED));
+    ShowEditEntries(*popup);
 }
 
 void MainDialog::OnPageChosen()

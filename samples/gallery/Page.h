@@ -5,6 +5,12 @@
 
 class LogPane;
 
+namespace QuorUiCtr
+{
+class TGClipboard;
+class TGUndoStack;
+} // namespace QuorUiCtr
+
 // A page is a child dialog that shows one control and writes every notification that the control sends to its
 // parent into the log.
 class Page : public CDialog
@@ -43,6 +49,9 @@ public:
         CString count;
     };
     virtual Status GetStatus() { return {}; }
+    // What records the user's steps on the page, and what exchanges cells with other programs; null for none.
+    virtual QuorUiCtr::TGUndoStack* FindUndo() { return nullptr; }
+    virtual QuorUiCtr::TGClipboard* FindClipboard() { return nullptr; }
     // The resource with the source of the page's host code.
     virtual UINT GetSourceId() const = 0;
 

@@ -10,6 +10,8 @@
 
 using QuorUiCtr::TGAlign;
 using QuorUiCtr::TGCellFormat;
+using QuorUiCtr::TGClipboard;
+using QuorUiCtr::TGClipboardReport;
 using QuorUiCtr::TGColumnFormat;
 using QuorUiCtr::TGColumnWidths;
 using QuorUiCtr::TGEllipsis;
@@ -51,9 +53,10 @@ const ElementFormat RowFormats[] = {
     {L"Done", TGSortBy::Ordinal, {.checkBox = true}},
 };
 
-// Gases are light blue, liquids light yellow.
-void ColourState(const TGGridCell& cell, TGCellFormat& format)
+// Gases are light blue, liquids light yellow. Symbols are what elements are known by, and stay.
+void FormatElement(const TGGridCell& cell, TGCellFormat& format)
 {
+    format.readOnly = cell.GetCol().GetName() == L"Symbol";
     if (cell.GetText() == L"Gas")
         format.backColor = RGB(225, 240, 255);
     else if (cell.GetText() == L"Liquid")
@@ -101,9 +104,12 @@ UINT SheetPage::GetSourceId() const
 BOOL SheetPage::OnInitDialog()
 {
     TablePage::OnInitDialog();
+    undo.CreateIn(*this);
+    clipboard.SetOnReport([this](const TGClipboardReport& report) { ShowReport(report); });
     formats.SetFullLines(true);
     empty.SetText(Tr(L"No rows"));
     OnElements();
+    undo.GetStack().Watch(grid);
     return TRUE;
 }
 
@@ -116,6 +122,7 @@ void SheetPage::OnElements()
         return;
     }
     {
+        const QuorUiCtr::TGUndoPause pause(undo.GetStack());
         const QuorUiCtr::TGGridUpdate update(grid);
         grid.Clear();
         MakeColumns(grid, table);
@@ -130,9 +137,17 @@ void SheetPage::OnElements()
     }
     CString summary;
     summary.Format(Tr(L"%d elements"), static_cast<int>(table.rows.size()));
+    BeginAnew(summary);
+}
+
+// Other rows have no steps yet.
+void SheetPage::BeginAnew(const CString& summary)
+{
     SetBanner(summary);
     cursor.MoveTo(0, 0);
     grid.SetModify(false);
+    undo.GetStack().Clear();
+    undo.GetStack().SetSaved();
 }
 
 // What antiquity knew is known.
@@ -158,7 +173,7 @@ void SheetPage::FormatElements()
             }
     }
     formats.SetFormat(0, {.checkBox = true});
-    formats.SetRule(ColourState);
+    formats.SetRule(FormatElement);
 }
 
 // What is there when the user stops it stays.
@@ -169,14 +184,13 @@ void SheetPage::OnMillionRows()
     busy.Hide();
     CString summary;
     summary.Format(Tr(L"%ld rows"), grid.GetRowNum());
-    SetBanner(summary);
-    cursor.MoveTo(0, 0);
-    grid.SetModify(false);
+    BeginAnew(summary);
 }
 
 void SheetPage::MakeMillionRows()
 {
     constexpr long RowsBetweenSteps = 2000;
+    const QuorUiCtr::TGUndoPause pause(undo.GetStack());
     const QuorUiCtr::TGGridUpdate update(grid);
     grid.Clear();
     grid.SetColNum(0);
@@ -212,6 +226,35 @@ Page::Status SheetPage::GetStatus()
     return status;
 }
 
+// ---- Undo and clipboard
+
+// What was done, what was left and why; and where.
+void SheetPage::ShowReport(const TGClipboardReport& report)
+{
+    constexpr std::size_t MostPlaces = 5;
+    CString lines = report.GetText();
+    lines.Replace(L"\n", L"; ");
+    Log().Add(lines);
+    const auto places = report.GetPlaces();
+    for (std::size_t i = 0; i < (std::min)(places.size(), MostPlaces); ++i)
+    {
+        CString line;
+        line.Format(Tr(L"Row %ld, column %ld"), places[i].row + 1, places[i].col + 1);
+        Log().Add(L"    " + line);
+    }
+}
+
+// Cells are copied further down, over symbols, which stay, and a state is filled down.
+void SheetPage::ShowPastedCells()
+{
+    cursor.SelectRange({2, 1, 4, 4});
+    clipboard.Copy();
+    cursor.MoveTo(10, 1);
+    clipboard.Paste();
+    cursor.SelectRange({9, 9, 12, 9});
+    clipboard.FillDown();
+}
+
 bool SheetPage::ShowPictureView(size_t view, CString& nameSuffix)
 {
     grid.CancelEditCell();
@@ -220,5 +263,10 @@ bool SheetPage::ShowPictureView(size_t view, CString& nameSuffix)
         nameSuffix = L"-range";
         cursor.SelectRange({2, 1, 6, 4});
     }
-    return view < 2;
+    else if (view == 2)
+    {
+        nameSuffix = L"-pasted";
+        ShowPastedCells();
+    }
+    return view < 3;
 }

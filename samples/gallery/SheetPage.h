@@ -3,9 +3,11 @@
 
 #include "TableFile.h"
 #include "TablePage.h"
+#include "UndoPanel.h"
 
 #include "grid/extras/TGBusyOverlay.h"
 #include "grid/extras/TGCellCursor.h"
+#include "grid/extras/TGClipboard.h"
 #include "grid/extras/TGColumnFormats.h"
 #include "grid/extras/TGColumnWidths.h"
 #include "grid/extras/TGEmptyText.h"
@@ -21,12 +23,15 @@ public:
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"sheet"; }
     UINT GetSourceId() const override;
-    // The page, then a range of cells.
+    // The page, a range of cells, and then what was pasted and filled, with the steps to take it back.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
     // The current cell.
     Status GetStatus() override;
+    QuorUiCtr::TGUndoStack* FindUndo() override { return &undo.GetStack(); }
+    QuorUiCtr::TGClipboard* FindClipboard() override { return &clipboard; }
 
 protected:
+    int WidthForGrid(int width, int height) override { return undo.PlaceAtRight(width, height); }
     BOOL OnInitDialog() override;
 
     DECLARE_MESSAGE_MAP()
@@ -38,10 +43,14 @@ private:
     void AddKnownColumn();
     void FormatElements();
     void MakeMillionRows();
+    void BeginAnew(const CString& summary);
+    void ShowReport(const QuorUiCtr::TGClipboardReport& report);
+    void ShowPastedCells();
 
     // The extras go before the grid.
     QuorUiCtr::TGGrid grid;
     QuorUiCtr::TGCellCursor cursor{grid};
+    QuorUiCtr::TGClipboard clipboard{grid};
     QuorUiCtr::TGColumnFormats formats{grid};
     QuorUiCtr::TGColumnWidths widths{grid};
     QuorUiCtr::TGTextTips tips{grid};
@@ -49,4 +58,5 @@ private:
     QuorUiCtr::TGHeaderSort sort{grid};
     QuorUiCtr::TGEmptyText empty{grid, nullptr};
     QuorUiCtr::TGBusyOverlay busy{grid};
+    UndoPanel undo;
 };

@@ -85,7 +85,20 @@ BOOL TreeGridPage::OnInitDialog()
     SetDlgItemText(IDC_TREE_QUERY_NUMBER, L"156");
     SetDlgItemText(IDC_TREE_QUERY_LABEL, L"157");
     OnQuery();
+    undo.CreateIn(*this);
+    undo.GetStack().Watch(grid);
     return TRUE;
+}
+
+// The buttons need the whole width.
+int TreeGridPage::WidthForGrid(int width, int height)
+{
+    if (grid.GetSafeHwnd() == nullptr)
+        return width;
+    CRect place;
+    grid.GetWindowRect(place);
+    ScreenToClient(place);
+    return undo.PlaceAtRight(width, height, place.top);
 }
 
 bool TreeGridPage::ShowPictureView(size_t view, CString& nameSuffix)

@@ -3,6 +3,7 @@
 
 #include "CountryGrid.h"
 #include "TablePage.h"
+#include "UndoPanel.h"
 
 class TreeGridPage : public TablePage
 {
@@ -12,10 +13,12 @@ public:
     CString GetTitle() const override;
     CString GetPictureName() const override { return L"tree-grid"; }
     UINT GetSourceId() const override;
+    QuorUiCtr::TGUndoStack* FindUndo() override { return &undo.GetStack(); }
     // Unfolded to the third level, then folded, then with a copied item pasted beside itself.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 
 protected:
+    int WidthForGrid(int width, int height) override;
     BOOL OnInitDialog() override;
     BOOL PreTranslateMessage(MSG* message) override;
 
@@ -37,4 +40,5 @@ private:
     CString TextOf(int id) const;
 
     CountryGrid grid;
+    UndoPanel undo;
 };

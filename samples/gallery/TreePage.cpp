@@ -100,6 +100,8 @@ BOOL TreePage::OnInitDialog()
     else
         ShowCountries(table);
     OnUpdateButtons(0, 0);
+    undo.CreateIn(*this);
+    undo.GetStack().Watch(tree);
     return TRUE;
 }
 
@@ -154,7 +156,8 @@ void TreePage::LayOut(int width, int height)
     GetDlgItem(IDC_TREE_NEW_FOLDER)->GetWindowRect(tool);
     ScreenToClient(tool);
     const int top = tool.bottom + 6;
-    tree.MoveWindow(0, top, width, (std::max)(0, height - top));
+    const int treeWidth = undo.PlaceAtRight(width, height, top);
+    tree.MoveWindow(0, top, treeWidth, (std::max)(0, height - top));
 }
 
 void TreePage::OnNewFolder()
@@ -263,16 +266,28 @@ LRESULT TreePage::OnUpdateButtons(WPARAM, LPARAM)
 
 bool TreePage::ShowPictureView(size_t view, CString& nameSuffix)
 {
-    constexpr const wchar_t* Suffixes[] = {L"", L"-drag-item", L"-drag-empty-folder"};
+    constexpr const wchar_t* Suffixes[] = {L"", L"-drag-item", L"-drag-empty-folder", L"-undone"};
     tree.CompleteDrag(FALSE);
     if (view >= std::size(Suffixes))
         return false;
     nameSuffix = Suffixes[view];
     const HTREEITEM country = tree.GetChildItem(tree.GetChildItem(tree.GetRootItem()));
     const HTREEITEM dragged = tree.GetNextSiblingItem(tree.GetNextSiblingItem(country));
-    if (view > 0)
+    if (view == 3)
+        UndoMoves(dragged);
+    else if (view > 0)
         BeginDragTo(dragged, view == 1 ? country : FindChild(Tr(EmptyFolder), TVI_ROOT));
     return true;
+}
+
+// The item moves down twice and is deleted, and then it is back.
+void TreePage::UndoMoves(HTREEITEM item)
+{
+    tree.SelectItem(item);
+    tree.MoveItemDown();
+    tree.MoveItemDown();
+    tree.DeleteSelected();
+    undo.GetStack().Undo();
 }
 
 // Tells the tree what it is told when a user drags the item to the lower half of the target.

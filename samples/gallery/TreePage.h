@@ -3,6 +3,7 @@
 
 #include "Page.h"
 #include "TableFile.h"
+#include "UndoPanel.h"
 #include "treedrag/CTreeCtrlDrag.h"
 
 class TreePage : public Page
@@ -16,7 +17,9 @@ public:
     CWnd& MainControl() override { return tree; }
     bool EndEditing() override;
     Status GetStatus() override;
-    // Also the page in the middle of a drag: to a country, and to an empty folder.
+    QuorUiCtr::TGUndoStack* FindUndo() override { return &undo.GetStack(); }
+    // Also the page in the middle of a drag, to a country and to an empty folder, and after moves with a step
+    // undone.
     bool ShowPictureView(size_t view, CString& nameSuffix) override;
 
 protected:
@@ -48,9 +51,11 @@ private:
     // The item's text for the log.
     CString NameOf(HTREEITEM item) const;
     void AddToLog(const CString& message, HTREEITEM item, HTREEITEM place);
+    void UndoMoves(HTREEITEM item);
     void BeginDragTo(HTREEITEM item, HTREEITEM target);
 
     CImageList images;
     QuorUiCtr::CTreeCtrlDrag tree;
     CStatic banner;
+    UndoPanel undo;
 };

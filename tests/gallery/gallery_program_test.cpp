@@ -40,6 +40,18 @@ void PressKey(WORD key)
     ::SendInput(2, input, sizeof(INPUT));
 }
 
+void PressWithControl(WORD key)
+{
+    INPUT input[2] = {};
+    input[0].type = INPUT_KEYBOARD;
+    input[0].ki.wVk = VK_CONTROL;
+    input[1] = input[0];
+    input[1].ki.dwFlags = KEYEVENTF_KEYUP;
+    ::SendInput(1, &input[0], sizeof(INPUT));
+    PressKey(key);
+    ::SendInput(1, &input[1], sizeof(INPUT));
+}
+
 // The colours on screen of an area in the client coordinates of a window.
 std::set<COLORREF> ColoursOf(HWND window, RECT area)
 {
@@ -81,6 +93,17 @@ protected:
     }
 
     HWND Item(int id) const { return ::GetDlgItem(window, id); }
+
+    void ShowPage(const wchar_t* title)
+    {
+        const HWND list = Item(IDC_PAGES);
+        const LRESULT index =
+            ::SendMessageW(list, LB_FINDSTRINGEXACT, WPARAM(-1), reinterpret_cast<LPARAM>(title));
+        ASSERT_GE(index, 0);
+        ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(index), 0);
+        ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDC_PAGES, LBN_SELCHANGE),
+                       reinterpret_cast<LPARAM>(list));
+    }
 
     // Presses a key and waits until the focus has moved from where it was.
     bool MoveFocus(WORD key)
@@ -216,12 +239,7 @@ TEST_F(Gallery, Sheet_GoesFromCellToCell_AndMakesRowsUntilItIsStopped)
             return LOWORD(::SendMessageW(Item(IDC_STATUS), SB_GETTEXTLENGTHW, index, 0)) == wcslen(text);
         });
     };
-    const HWND list = Item(IDC_PAGES);
-    const LRESULT sheet =
-        ::SendMessageW(list, LB_FINDSTRINGEXACT, WPARAM(-1), reinterpret_cast<LPARAM>(L"Sheet"));
-    ASSERT_GE(sheet, 0);
-    ::SendMessageW(list, LB_SETCURSEL, static_cast<WPARAM>(sheet), 0);
-    ::SendMessageW(window, WM_COMMAND, MAKEWPARAM(IDC_PAGES, LBN_SELCHANGE), reinterpret_cast<LPARAM>(list));
+    ASSERT_NO_FATAL_FAILURE(ShowPage(L"Sheet"));
     ASSERT_TRUE(shows(2, L"118 rows, 12 columns"));
     EXPECT_TRUE(shows(0, L"Row 1, column 1"));
     ASSERT_TRUE(MoveFocus(VK_F6));
@@ -237,6 +255,48 @@ TEST_F(Gallery, Sheet_GoesFromCellToCell_AndMakesRowsUntilItIsStopped)
     ASSERT_TRUE(WaitUntil([&] { return FocusOf(window) == grid; }));
     ASSERT_TRUE(WaitUntil([&] { return std::stol(TextOf(::GetDlgItem(Page(), IDC_BANNER))) >= 1000; }));
     EXPECT_TRUE(shows(0, L"Row 1, column 1")) << "the cursor is in the new rows";
+}
+
+TEST_F(Gallery, Sheet_ListsTheStepsAndGoesBackInThem)
+{
+    ASSERT_NO_FATAL_FAILURE(ShowPage(L"Sheet"));
+    ASSERT_TRUE(MoveFocus(VK_F6));
+    HWND panel = nullptr;
+    for (HWND child = ::GetWindow(Page(), GW_CHILD); child != nullptr;
+         child = ::GetWindow(child, GW_HWNDNEXT))
+        if (::GetDlgItem(child, IDC_UNDO_STEPS) != nullptr)
+            panel = child;
+    const HWND steps = ::GetDlgItem(panel, IDC_UNDO_STEPS);
+    ASSERT_NE(steps, nullptr);
+    // The line that is selected, and its number.
+    const auto stands = [&](int line, const wchar_t* name) {
+        return WaitUntil([&] {
+            wchar_t text[100] = {};
+            const LRESULT selected = ::SendMessageW(steps, LB_GETCURSEL, 0, 0);
+            ::SendMessageW(steps, LB_GETTEXT, static_cast<WPARAM>(selected), reinterpret_cast<LPARAM>(text));
+            return selected == line && std::wstring(text) == name;
+        });
+    };
+    EXPECT_TRUE(stands(0, L"(at the beginning)"));
+    PressKey(VK_RIGHT);
+    PressKey('5');
+    PressKey(VK_RETURN);
+    EXPECT_TRUE(stands(1, L"Typing"));
+    PressKey(VK_UP);
+    PressWithControl('C');
+    PressKey(VK_DOWN);
+    PressWithControl('V');
+    EXPECT_TRUE(stands(2, L"Paste"));
+    PressWithControl('Z');
+    EXPECT_TRUE(stands(1, L"Typing"));
+    // A click on a line goes there.
+    ::SendMessageW(steps, LB_SETCURSEL, 0, 0);
+    ::SendMessageW(panel, WM_COMMAND, MAKEWPARAM(IDC_UNDO_STEPS, LBN_SELCHANGE),
+                   reinterpret_cast<LPARAM>(steps));
+    EXPECT_TRUE(stands(0, L"(at the beginning)"));
+    EXPECT_FALSE(::IsWindowEnabled(::GetDlgItem(panel, IDC_UNDO_UNDO)));
+    ::SendMessageW(panel, WM_COMMAND, IDC_UNDO_REDO, 0);
+    EXPECT_TRUE(stands(1, L"Typing"));
 }
 
 TEST_F(Gallery, BelowItsSmallestContents_Scrolls_AndShowsWhatHasTheFocus)

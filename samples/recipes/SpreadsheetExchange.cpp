@@ -4,13 +4,15 @@
 
 #include "FrameApp.h"
 #include "SeparatedText.h"
+#include "grid/extras/TGCellCursor.h"
+#include "grid/extras/TGClipboard.h"
+#include "undo/TGUndoStack.h"
 
 #include <cstdio>
-#include <cstring>
 
 using namespace QuorUiCtr;
 
-constexpr UINT OpenId = 101, SaveId = 102, CopyId = 103, PasteId = 104;
+constexpr UINT OpenId = 101, SaveId = 102;
 
 class ExchangeFrame : public CFrameWnd
 {
@@ -18,12 +20,19 @@ public:
     ExchangeFrame()
     {
         Create(nullptr, L"Spreadsheet exchange", WS_OVERLAPPEDWINDOW, CRect(40, 40, 460, 300));
+        CMenu edit;
+        edit.CreatePopupMenu();
+        edit.AppendMenu(MF_STRING, ID_EDIT_UNDO, L"&Undo\tCtrl+Z");
+        edit.AppendMenu(MF_STRING, ID_EDIT_REDO, L"&Redo\tCtrl+Y");
+        edit.AppendMenu(MF_SEPARATOR);
+        edit.AppendMenu(MF_STRING, ID_EDIT_CUT, L"Cu&t\tCtrl+X");
+        edit.AppendMenu(MF_STRING, ID_EDIT_COPY, L"&Copy\tCtrl+C");
+        edit.AppendMenu(MF_STRING, ID_EDIT_PASTE, L"&Paste\tCtrl+V");
         CMenu bar;
         bar.CreateMenu();
         bar.AppendMenu(MF_STRING, OpenId, L"&Open...");
         bar.AppendMenu(MF_STRING, SaveId, L"&Save...");
-        bar.AppendMenu(MF_STRING, CopyId, L"&Copy");
-        bar.AppendMenu(MF_STRING, PasteId, L"&Paste");
+        bar.AppendMenu(MF_POPUP, reinterpret_cast<UINT_PTR>(edit.Detach()), L"&Edit");
         SetMenu(&bar);
         bar.Detach(); // the window's now
         grid.Create(CRect(), WS_CHILD | WS_VISIBLE, this);
@@ -32,39 +41,20 @@ public:
         grid.AppendCol(L"Part", 200);
         grid.AppendCol(L"Stock", 100);
         AppendText(grid, L"Bearing 6204,12\n\"Seal \"\"A\"\", 20 mm\",40\n", L',');
+        undo.Watch(grid);
+        clipboard.SetOnReport([](const TGClipboardReport& report) {
+            if (!report.IsComplete())
+                AfxMessageBox(report.GetText());
+        });
         RecalcLayout();
     }
 
 protected:
-    // Tabs between the cells are what spreadsheets put on the clipboard and take from it.
-    afx_msg void OnCopy()
+    // Both know the standard commands: the menu is enabled, and names what is undone.
+    BOOL OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* info) override
     {
-        grid.EndEditCell();
-        CString text = ToText(grid, L'\t', grid.IsRowSelected());
-        text.Replace(L"\n", L"\r\n");
-        if (!OpenClipboard())
-            return;
-        ::EmptyClipboard();
-        const size_t size = (static_cast<size_t>(text.GetLength()) + 1) * sizeof(wchar_t);
-        if (HGLOBAL memory = ::GlobalAlloc(GMEM_MOVEABLE, size))
-        {
-            std::memcpy(::GlobalLock(memory), text.GetString(), size);
-            ::GlobalUnlock(memory);
-            ::SetClipboardData(CF_UNICODETEXT, memory); // the clipboard's from now on
-        }
-        ::CloseClipboard();
-    }
-    afx_msg void OnPaste()
-    {
-        grid.EndEditCell();
-        if (!OpenClipboard())
-            return;
-        if (HGLOBAL memory = ::GetClipboardData(CF_UNICODETEXT))
-        {
-            AppendText(grid, static_cast<const wchar_t*>(::GlobalLock(memory)), L'\t');
-            ::GlobalUnlock(memory);
-        }
-        ::CloseClipboard();
+        return undo.OnCmdMsg(id, code, extra, info) || clipboard.OnCmdMsg(id, code, extra, info) ||
+               CFrameWnd::OnCmdMsg(id, code, extra, info);
     }
     // The C library knows UTF-8: it writes its mark, by which spreadsheets know it, too, and reads past it.
     afx_msg void OnFile(UINT id)
@@ -88,7 +78,9 @@ protected:
             done = false;
         if (done && load)
         {
-            grid.Clear();
+            const TGUndoTransaction step(undo, L"Open");
+            while (grid.GetRowNum() > 0)
+                grid.DelRow(grid.GetRowNum() - 1);
             AppendText(grid, text, L',');
         }
         if (!done)
@@ -99,12 +91,13 @@ protected:
 
 private:
     TGGrid grid;
+    TGCellCursor cursor{grid};
+    TGClipboard clipboard{grid};
+    TGUndoStack undo;
 };
 
 BEGIN_MESSAGE_MAP(ExchangeFrame, CFrameWnd)
     ON_COMMAND_RANGE(OpenId, SaveId, &ExchangeFrame::OnFile)
-    ON_COMMAND(CopyId, &ExchangeFrame::OnCopy)
-    ON_COMMAND(PasteId, &ExchangeFrame::OnPaste)
     ON_WM_SETFOCUS()
 END_MESSAGE_MAP()
 

@@ -28,6 +28,8 @@ void RunCommands(Report& report);
 void RunTreeMove(Report& report);
 // Copying, pasting and filling cells.
 void RunClipboard(Report& report);
+// Undoing and redoing pasted cells and deleted rows.
+void RunUndo(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
 // Trees of groups and items, compared with the tree view.

@@ -63,6 +63,35 @@ TEST_F(HostileHooks, AColumnThatGoesOrComesIn)
     EXPECT_EQ(AllTexts(grid), "a|b|0,2 / c|d|1,2 / |2,1|2,2");
 }
 
+// Takes over what leaves, so that it lives on elsewhere.
+struct TakingExtension : TGGridExtension
+{
+    ~TakingExtension() override { Detach(); }
+    std::unique_ptr<TGGridRow> row;
+    std::unique_ptr<TGGridCol> col;
+
+protected:
+    void OnRowsRemoved(TGRemovedRows& rows) override { row = rows.Take(0); }
+    void OnColRemoved(long, std::unique_ptr<TGGridCol>& removed) override { col = std::move(removed); }
+    void OnDetach(TGGrid&) override
+    {
+        row.reset();
+        col.reset();
+    }
+};
+
+TEST_F(HostileHooks, WhatAnotherExtensionTakesOver_IsLeftOut)
+{
+    Make();
+    TakingExtension taking;
+    taking.AttachTo(grid);
+    EXPECT_EQ(PasteWhile([this] { grid.DelRow(1); }), "done 2 left 2: 1,0 Gone 1,1 Gone");
+    ASSERT_NE(taking.row, nullptr);
+    EXPECT_EQ((*taking.row)[0].GetText(), L"1,0");
+    EXPECT_EQ(PasteWhile([this] { grid.DelCol(0); }), "done 3 left 1: 1,0 Gone");
+    EXPECT_EQ(AllTexts(grid), "b|0,2 / d|2,2");
+}
+
 TEST_F(HostileHooks, AllRowsThatGo)
 {
     Make();

@@ -2,6 +2,7 @@
 #include "rules/CellBlocks.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace QuorUiCtr
 {

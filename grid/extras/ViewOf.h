@@ -3,6 +3,7 @@
 
 #include <afxwin.h>
 
+#include <cstddef>
 #include <string_view>
 
 namespace QuorUiCtr

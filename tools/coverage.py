@@ -138,10 +138,13 @@ def report(files):
     return below
 
 
-def write_docs(files):
+def write_docs(files, below):
     rows = [[name, lines, f"{percent(run, lines):.1f} %", branches, f"{percent(taken, branches):.1f} %"]
             for name, (run, lines, taken, branches) in sorted(sums_of(files).items())]
-    figures.write("coverage", figures.table(["folder", "lines", "run", "branches", "taken"], rows))
+    text = figures.table(["folder", "lines", "run", "branches", "taken"], rows)
+    if below:
+        text += f"\n\nBelow its limits: {', '.join(below)}."
+    figures.write("coverage", text)
 
 
 def report_missing(files):
@@ -163,7 +166,7 @@ def main():
         report_missing(files)
     below = report(files)
     if options.write_docs:
-        write_docs(files)
+        write_docs(files, below)
     if below:
         sys.exit(f"coverage: below its limit: {', '.join(below)}")
 

@@ -39,7 +39,7 @@ LRESULT TestList::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const bool destroysItself = destroysItselfWhenScrolled && scrolls;
     const LRESULT result = CGridListCtrl::WindowProc(message, wParam, lParam);
     if (scrolls && onScrolled)
-        onScrolled();
+        onScrolled(message);
     if (destroysItself)
         DestroyWindow();
     return result;

@@ -35,8 +35,8 @@ public:
 
     // Stands for an owner that destroys the list when it hears of scrolling.
     bool destroysItselfWhenScrolled = false;
-    // Stands for one that destroys something else then.
-    std::function<void()> onScrolled;
+    // Stands for one that destroys something else then; gets the message that has scrolled.
+    std::function<void(UINT)> onScrolled;
 
 protected:
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;

@@ -59,6 +59,34 @@ protected:
     int TextWidth(const CString& text) { return TextSize(text).cx; }
 };
 
+// Writes down what its editors tell of themselves.
+class HearingList : public TestList
+{
+public:
+    std::vector<UINT> heard;
+
+protected:
+    BOOL OnCommand(WPARAM wParam, LPARAM lParam) override
+    {
+        heard.push_back(HIWORD(wParam));
+        return TestList::OnCommand(wParam, lParam);
+    }
+};
+
+TEST(InPlaceEditFocus, IsLostAsThatOfAnyEdit)
+{
+    HostWindow host;
+    HearingList list;
+    ASSERT_TRUE(list.Create(WS_CHILD | WS_VISIBLE | LVS_REPORT, CRect(0, 0, 300, 200), &host, 7));
+    TestEditor editor(0, 0, L"x");
+    ASSERT_TRUE(editor.Create(WS_CHILD | WS_VISIBLE, CRect(0, 0, 90, 20), &list, 5));
+    ASSERT_EQ(::GetFocus(), editor.m_hWnd);
+    list.heard.clear();
+    host.SetFocus();
+    EXPECT_EQ(list.heard, std::vector<UINT>{EN_KILLFOCUS});
+    editor.DestroyWindow();
+}
+
 TEST_F(InPlaceEdit, NewEditor_ShowsTheSelectedTextInTheFontOfTheList)
 {
     CFont font;

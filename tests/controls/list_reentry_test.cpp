@@ -196,12 +196,20 @@ TEST_F(ListReentry, ListDestroyedWhileItMakesRoomForAnEditor_RefusesIt)
 
 TEST_F(ListReentry, ControlDestroyedWhileRoomIsMadeForIt_IsRefused)
 {
-    CStatic control;
-    control.Create(L"", WS_CHILD, CRect(1, 2, 3, 4), &list, 77);
-    list.onScrolled = [&] { control.DestroyWindow(); };
-    EXPECT_EQ(list.PositionControl(&control, 50, 1), 0);
-    EXPECT_EQ(control.m_hWnd, nullptr);
-    list.onScrolled = nullptr;
+    list.SetColumnWidth(0, 900);
+    for (const UINT scroll : {LVM_ENSUREVISIBLE, LVM_SCROLL})
+    {
+        CStatic control;
+        control.Create(L"", WS_CHILD, CRect(1, 2, 3, 4), &list, 77);
+        list.onScrolled = [&](UINT message) {
+            if (message == scroll)
+                control.DestroyWindow();
+        };
+        EXPECT_EQ(list.PositionControl(&control, 50, 1), 0);
+        EXPECT_EQ(control.m_hWnd, nullptr);
+        list.onScrolled = nullptr;
+        list.Scroll(CSize(-2000, -2000));
+    }
 }
 
 TEST_F(ListReentry, ManyEdits_LeaveNoHandles)

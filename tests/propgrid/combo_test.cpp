@@ -159,6 +159,8 @@ TEST_F(Combos, TheCurrentOptionIsTheOneThatEqualsTheValue)
     EXPECT_EQ(grid.GetOptionItemCurSel(L"Item"), 1);
     grid.SetItemValue(L"Item", CString(L"CM"));
     EXPECT_EQ(grid.GetOptionItemCurSel(L"Item"), -1) << "case counts";
+    grid.SetItemValue(L"Item", CString(L"mm"));
+    EXPECT_EQ(grid.GetOptionItemCurSel(L"Item"), 0);
     grid.SetItemValue(L"Item", CString(L"inch"));
     EXPECT_EQ(grid.GetOptionItemCurSel(L"Item"), 2);
     grid.SetItemValue(L"Item", CString(L"mile"));

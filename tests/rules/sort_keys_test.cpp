@@ -128,6 +128,8 @@ TEST(ReadMoment, PartsStandAsTheOrderSays_AndAYearInFrontIsOne)
                        L"5\x65E5"),
               moment);
     EXPECT_EQ(MomentOf(L"3/5/99"), MomentOf(L"1999-03-05"));
+    EXPECT_EQ(MomentOf(L"3/5/50"), MomentOf(L"1950-03-05"));
+    EXPECT_EQ(MomentOf(L"3/5/49"), MomentOf(L"2049-03-05"));
 }
 
 TEST(ReadMoment, TimeOfTheDay)

@@ -159,7 +159,7 @@ CellTable RandomTable(std::mt19937& random, const TableKind& kind)
 int RandomTableNum()
 {
     const char* const asked = std::getenv("QUOR_RANDOM_TABLES");
-    return asked != nullptr ? std::atoi(asked) : 10000;
+    return asked != nullptr ? std::atoi(asked) : HasSlowMemory ? 1500 : 10000;
 }
 
 } // namespace quor::test

@@ -33,7 +33,14 @@ struct TableKind
 // Tables of hostile texts: separators, quotes, breaks, blanks, markup, characters of all planes.
 QuorUiCtr::CellTable RandomTable(std::mt19937& random, const TableKind& kind);
 
-// How many random tables a test makes: QUOR_RANDOM_TABLES, else 10,000.
+// With the guard allocator each text takes pages of its own: what is to be many is fewer there.
+#ifdef NDEBUG
+constexpr bool HasSlowMemory = false;
+#else
+constexpr bool HasSlowMemory = sizeof(wchar_t) == 2;
+#endif
+
+// How many random tables a test makes: QUOR_RANDOM_TABLES, else 10,000; 1,500 in the checked variant.
 int RandomTableNum();
 
 } // namespace quor::test

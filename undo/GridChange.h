@@ -210,7 +210,8 @@ class GridFold : public GridChange
 public:
     GridFold(GridUndo& changedBy, std::span<TGGridTreeRow* const> changed);
 
-    bool Fits() const override;
+    // The same row may be there several times.
+    bool Fits() const override { return true; }
     bool Revert() override;
     std::size_t GetBytes() const override;
     bool Merge(UndoChange& next) override;

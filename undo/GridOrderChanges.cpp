@@ -119,19 +119,14 @@ GridFold::GridFold(GridUndo& changedBy, std::span<TGGridTreeRow* const> changed)
     }
 }
 
-bool GridFold::Fits() const
-{
-    return std::all_of(rows.begin(), rows.end(), [this](const Row& known) {
-        return Undo().IsInGrid(*known.row) && known.row->IsFold() == known.folded;
-    });
-}
-
 bool GridFold::Revert()
 {
     while (!rows.empty())
     {
         const GridUndo::Reverting guard(Undo());
         TGGridTreeRow* const row = rows.back().row;
+        if (!Undo().IsInGrid(*row) || row->IsFold() != rows.back().folded)
+            return false;
         Undo().FoldRow(*row, !rows.back().folded);
         rows.pop_back();
         // Of a row that has lost its children since nothing is told.

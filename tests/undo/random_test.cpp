@@ -1,6 +1,5 @@
 // A random user changes several controls; undoing everything gives the first state, redoing everything the
 // last.
-#include "tests/support/Rounds.h"
 #include "tests/undo/GridSubject.h"
 #include "tests/undo/UndoWorld.h"
 
@@ -17,10 +16,17 @@ namespace
 
 constexpr int StepsPerRound = 400;
 
+// In the checked variant a step takes a hundred times as long.
+#ifdef _DEBUG
+constexpr long UsualSteps = 2000;
+#else
+constexpr long UsualSteps = 50000;
+#endif
+
 long WantedSteps()
 {
     const char* const wanted = std::getenv("QUOR_UNDO_STEPS");
-    return wanted != nullptr ? std::atol(wanted) : 50000;
+    return wanted != nullptr ? std::atol(wanted) : UsualSteps;
 }
 
 // What hooks change after the last step that is undone stays until the next one.

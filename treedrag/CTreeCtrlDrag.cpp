@@ -62,6 +62,13 @@ LRESULT CTreeCtrlDrag::TellParent(UINT message, HTREEITEM item, HTREEITEM place)
     return parent->SendMessage(message, reinterpret_cast<WPARAM>(item), reinterpret_cast<LPARAM>(place));
 }
 
+LRESULT CTreeCtrlDrag::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
+{
+    if (actionWatcher != nullptr)
+        return actionWatcher->OnMessage(message, wParam, lParam);
+    return CTreeCtrl::WindowProc(message, wParam, lParam);
+}
+
 BOOL CTreeCtrlDrag::OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result)
 {
     if (message == WM_NOTIFY && reinterpret_cast<const NMHDR*>(lParam)->code == TVN_DELETEITEMW)

@@ -177,6 +177,8 @@ protected:
 
     // While a label is edited, Enter, Esc and Ctrl+X go to the edit control; F2 begins to edit.
     BOOL PreTranslateMessage(MSG* message) override;
+    // Lets a watcher see what happens to the window; goes on as usual without one.
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
     // Notes deleted items, then goes on as usual.
     BOOL OnChildNotify(UINT message, WPARAM wParam, LPARAM lParam, LRESULT* result) override;
 

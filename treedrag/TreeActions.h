@@ -18,8 +18,8 @@ enum class TreeAction
     Delete
 };
 
-// What a watcher of a tree is told that the messages of the window do not say: which of them belong together.
-// Not for hosts. It may do anything but destroy the tree.
+// What a watcher of a tree is told: the messages of its window, and what these do not say, which of them
+// belong together. Not for hosts. It may do anything but destroy the tree.
 class TreeActionWatcher
 {
 public:
@@ -51,6 +51,8 @@ public:
     virtual bool OnKey(const MSG& message) = 0;
     // An item is being deleted, by whomever.
     virtual void OnItemGone(HTREEITEM item) = 0;
+    // A message has arrived at the window. The watcher passes it on, and returns the result.
+    virtual LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) = 0;
     // A notification of the platform's tree, before the tree or its owner sees it.
     virtual void OnNotify(const NMHDR& header) = 0;
 
@@ -63,6 +65,11 @@ protected:
     static void SetWatcher(CTreeCtrlDrag& tree, TreeActionWatcher* watcher) { tree.actionWatcher = watcher; }
     // Where the tree keeps its newest TreeWatch.
     static TreeWatch*& WatchesOf(CTreeCtrlDrag& tree) { return tree.newestWatch; }
+    // Passes a message on to the tree itself, which may be gone afterwards.
+    static LRESULT PassOn(CTreeCtrlDrag& tree, UINT message, WPARAM wParam, LPARAM lParam)
+    {
+        return tree.CTreeCtrl::WindowProc(message, wParam, lParam);
+    }
     // Sends a message to the owner.
     static void Tell(CTreeCtrlDrag& tree, UINT message, HTREEITEM item, HTREEITEM place)
     {

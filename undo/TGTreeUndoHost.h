@@ -31,8 +31,9 @@ class QUOR_EXT_CLASS TGTreeUndoHost
 public:
     virtual ~TGTreeUndoHost();
 
-    // An item that was deleted, or has moved, has a new handle; `before` is nobody's, or that of another item
-    // by now. Told of every item, before TDM_ITEM_INSERTED. Default: nothing.
+    // An item that was deleted, or has moved, is there again, with a new handle. `before`, its old one, is
+    // nobody's, or that of another item by now, or the same again. Told of every item of a subtree, before
+    // TDM_ITEM_INSERTED. Default: nothing.
     virtual void OnItemRemade(CTreeCtrlDrag& tree, HTREEITEM before, HTREEITEM now);
     // Images, states, check mark or item data of an item are others. Default: nothing.
     virtual void OnItemChanged(CTreeCtrlDrag& tree, HTREEITEM item);

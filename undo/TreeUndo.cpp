@@ -6,8 +6,6 @@
 #include "undo/TGTreeUndoHost.h"
 #include "undo/UndoHistory.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <set>
 
@@ -50,9 +48,6 @@ std::shared_ptr<TreeUndo> TreeUndo::Watch(UndoHistory& history, CTreeCtrlDrag& t
     if (tree.GetSafeHwnd() == nullptr || WatcherOf(tree) != nullptr)
         return nullptr;
     std::shared_ptr<TreeUndo> watch(new TreeUndo(history, tree, host));
-    if (!::SetWindowSubclass(tree.m_hWnd, WatchProc, reinterpret_cast<UINT_PTR>(watch.get()),
-                             reinterpret_cast<DWORD_PTR>(watch.get())))
-        return nullptr;
     SetWatcher(tree, watch.get());
     return watch;
 }
@@ -66,7 +61,6 @@ void TreeUndo::Leave()
 {
     if (tree == nullptr)
         return;
-    ::RemoveWindowSubclass(window, WatchProc, reinterpret_cast<UINT_PTR>(this));
     SetWatcher(*tree, nullptr);
     tree = nullptr;
     ids.Clear();
@@ -228,7 +222,7 @@ void TreeUndo::Tell(const Told& told)
     switch (told.word)
     {
     case Word::Remade:
-        if (host != nullptr && told.before != item)
+        if (host != nullptr)
             host->OnItemRemade(*tree, told.before, item);
         break;
     case Word::Inserted: {

@@ -88,6 +88,13 @@ public:
     void Leave() override;
 
 private:
+    // Parts of an item that its copy does not have.
+    struct Lost
+    {
+        HTREEITEM copy;
+        UINT parts;
+        std::unique_ptr<TreeItemReader> original;
+    };
     // A move that is going on.
     struct Move
     {
@@ -98,6 +105,7 @@ private:
         unsigned recordedThen = 0;
         // The items of the original that have numbers, with their copies.
         std::vector<std::pair<HTREEITEM, HTREEITEM>> copied = {};
+        std::vector<Lost> lost = {};
     };
     struct Told
     {
@@ -125,9 +133,8 @@ private:
 
     // ---- Messages
 
-    static LRESULT CALLBACK WatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR id,
-                                      DWORD_PTR data);
-    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam);
+    LRESULT OnMessage(UINT message, WPARAM wParam, LPARAM lParam) override;
+    LRESULT OnOthersMessage(UINT message, WPARAM wParam, LPARAM lParam);
     // On to the tree; as one of those that insert, delete or sort; as one that is not recorded.
     LRESULT Pass(UINT message, WPARAM wParam, LPARAM lParam);
     LRESULT PassStructural(UINT message, WPARAM wParam, LPARAM lParam);
@@ -147,6 +154,8 @@ private:
     void Record(std::unique_ptr<TreeChange> change);
     void RecordChange(HTREEITEM item, UINT parts, const TreeItemReader& before);
     void RecordExpansion(HTREEITEM item, bool wasOpen);
+    // Those of the parts that are not the same.
+    static UINT PartsUnlike(const TreeItemReader& before, const TreeItemReader& after, UINT parts);
     bool IsShared(HTREEITEM item);
     bool IsInside(HTREEITEM item, HTREEITEM ancestor);
     void EndUnclear();
@@ -182,6 +191,7 @@ private:
     TreeId copyParent = RootTreeId;
     TreeParentLooks copyLooks;
     std::vector<std::pair<HTREEITEM, HTREEITEM>> copied;
+    std::vector<Lost> lost;
     // The original of a move, which the copy replaces.
     HTREEITEM replaced = nullptr;
     // Changes of data recorded so far.

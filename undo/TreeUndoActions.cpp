@@ -83,6 +83,7 @@ void TreeUndo::OnCopyBegin(HTREEITEM, HTREEITEM parent)
     copyParent = ids.IdOf(parent);
     copyLooks = LooksOf(copyParent);
     copied.clear();
+    lost.clear();
     if (structural > 0)
         interfered = true;
     own = true;
@@ -90,8 +91,19 @@ void TreeUndo::OnCopyBegin(HTREEITEM, HTREEITEM parent)
 
 void TreeUndo::OnCopied(HTREEITEM source, HTREEITEM copy)
 {
+    if (moves.empty())
+        return;
+    constexpr UINT parts = TVIF_TEXT | TreeLookParts;
+    auto original = std::make_unique<TreeItemReader>(*this);
+    TreeItemReader its(*this);
+    const bool isRead = original->Read(source, parts) && its.Read(copy, parts);
+    const UINT unlike = isRead ? PartsUnlike(*original, its, parts) : 0;
+    if (unlike != 0)
+        ids.IdOf(source);
     if (ids.FindId(source) != NoTreeId)
         copied.emplace_back(source, copy);
+    if (unlike != 0)
+        lost.push_back({copy, unlike, std::move(original)});
 }
 
 void TreeUndo::OnCopyEnd(HTREEITEM copy)
@@ -112,6 +124,7 @@ void TreeUndo::OnCopyEnd(HTREEITEM copy)
         Move& move = moves.back();
         move.copy = copy;
         move.copied = std::exchange(copied, {});
+        move.lost = std::exchange(lost, {});
         if (IsRecording())
             move.insertion = insertion.get();
         insertion->isPending = IsRecording();
@@ -125,7 +138,7 @@ void TreeUndo::OnMoved(HTREEITEM original, HTREEITEM copy)
 {
     if (moves.empty() || moves.back().copy != copy)
         return;
-    const Move& move = moves.back();
+    Move& move = moves.back();
     TreePlacing* const insertion = move.insertion;
     const bool isAlone =
         IsRecording() ? insertion != nullptr && move.recordedThen == recorded : move.recordedThen == recorded;
@@ -143,8 +156,10 @@ void TreeUndo::OnMoved(HTREEITEM original, HTREEITEM copy)
         ids.Touch(from.parent, TreeAspect::Children);
     ids.Bind(item, copy);
     for (const auto& [source, its] : move.copied)
-        if (const TreeId id = ids.FindId(source); id != NoTreeId && id != RootTreeId)
+        if (const TreeId id = ids.FindId(source); id != NoTreeId)
             ids.Bind(id, its);
+    for (const Lost& part : move.lost)
+        RecordChange(part.copy, part.parts, *part.original);
     replaced = original;
 }
 

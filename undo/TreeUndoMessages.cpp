@@ -4,8 +4,6 @@
 #include "grid/model/ScopedValue.h"
 #include "undo/UndoHistory.h"
 
-#include <commctrl.h>
-
 #include <algorithm>
 #include <cwchar>
 
@@ -51,22 +49,19 @@ private:
 
 } // namespace
 
-LRESULT CALLBACK TreeUndo::WatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
-                                     DWORD_PTR data)
-{
-    // The watch may end while the message is carried out.
-    const auto self = reinterpret_cast<TreeUndo*>(data)->shared_from_this();
-    if (message == WM_DESTROY && self->tree != nullptr)
-        self->history.Leave(*self->tree);
-    if (self->tree == nullptr)
-        return ::DefSubclassProc(window, message, wParam, lParam);
-    return self->OnMessage(message, wParam, lParam);
-}
-
 LRESULT TreeUndo::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    // The watch may end while the message is carried out.
+    const auto self = shared_from_this();
     if (own)
         return PassOwn(message, wParam, lParam);
+    if (message == WM_DESTROY)
+        history.Leave(watched);
+    return tree == nullptr ? Pass(message, wParam, lParam) : OnOthersMessage(message, wParam, lParam);
+}
+
+LRESULT TreeUndo::OnOthersMessage(UINT message, WPARAM wParam, LPARAM lParam)
+{
     if (structural > 0 && IsStructural(message, wParam))
     {
         interfered = true;
@@ -105,7 +100,7 @@ LRESULT TreeUndo::OnMessage(UINT message, WPARAM wParam, LPARAM lParam)
 
 LRESULT TreeUndo::Pass(UINT message, WPARAM wParam, LPARAM lParam)
 {
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    return PassOn(watched, message, wParam, lParam);
 }
 
 LRESULT TreeUndo::PassStructural(UINT message, WPARAM wParam, LPARAM lParam)
@@ -246,7 +241,9 @@ LRESULT TreeUndo::RemoveAll(const std::vector<HTREEITEM>& items, UINT message, W
         EndUnclear();
         return result;
     }
-    if (result == 0 || tree == nullptr)
+    // A collapse that deletes does not always say that it has.
+    const bool isGone = result != 0 || (isRecording && ids.ItemOf(change->tops.front()) == nullptr);
+    if (!isGone || tree == nullptr)
         return result;
     change->isShared = isShared;
     change->Mark(change->parent, TreeAspect::Children);
@@ -286,15 +283,19 @@ LRESULT TreeUndo::OnSet(UINT message, WPARAM wParam, LPARAM lParam)
     TreeItemReader after(*this);
     if (tree == nullptr || ids.ItemOf(id) != item || !after.Read(item, parts))
         return result;
-    UINT unlike = after.Looks().PartsUnlike(before.Looks(), parts);
-    if ((parts & TVIF_TEXT) != 0 &&
-        (after.IsTextAsked() != before.IsTextAsked() || std::wcscmp(after.Text(), before.Text()) != 0))
-        unlike |= TVIF_TEXT;
-    if (unlike != 0)
+    if (const UINT unlike = PartsUnlike(before, after, parts))
         RecordChange(item, unlike, before);
     if ((parts & TVIF_STATE) != 0 && ((after.Looks().state ^ before.Looks().state) & TVIS_EXPANDED) != 0)
         RecordExpansion(item, (before.Looks().state & TVIS_EXPANDED) != 0);
     return result;
+}
+
+UINT TreeUndo::PartsUnlike(const TreeItemReader& before, const TreeItemReader& after, UINT parts)
+{
+    const UINT unlike = after.Looks().PartsUnlike(before.Looks(), parts);
+    const bool isTextUnlike =
+        after.IsTextAsked() != before.IsTextAsked() || std::wcscmp(after.Text(), before.Text()) != 0;
+    return isTextUnlike ? unlike | (parts & TVIF_TEXT) : unlike;
 }
 
 void TreeUndo::RecordChange(HTREEITEM item, UINT parts, const TreeItemReader& before)

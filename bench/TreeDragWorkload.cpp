@@ -1,8 +1,9 @@
-// Workload: moving a folder of a drag tree with everything in it.
+// Workloads: moving a folder of a drag tree with everything in it, and taking its deletion back.
 #include "Subjects.h"
 #include "Workloads.h"
 
 #include "treedrag/CTreeCtrlDrag.h"
+#include "undo/TGUndoStack.h"
 
 namespace bench
 {
@@ -64,7 +65,35 @@ void MoveFolder(Report& report, Host& host, long count, bool isExpanded)
     report.Add({name + ", us per item", count, ours * perItem, "insert and delete", peer * perItem});
 }
 
+// Against what an undo made of items kept elsewhere would do: inserting them, and before that deleting them.
+void UndoDeletion(Report& report, Host& host, long count, bool isExpanded)
+{
+    QuorUiCtr::CTreeCtrlDrag tree;
+    tree.Create(TreeStyle, CRect(0, 0, ViewWidth, ViewHeight), &host, 1);
+    FillTree(tree, count, isExpanded);
+    QuorUiCtr::TGUndoStack stack;
+    stack.Watch(tree);
+    const auto remove = [&] { tree.DeleteItem(tree.GetRootItem()); };
+    const auto undo = [&] { stack.Undo(); };
+    CTreeCtrl plain;
+    plain.Create(TreeStyle, CRect(0, 0, ViewWidth, ViewHeight), &host, 2);
+    FillTree(plain, count, false);
+    const std::vector<double> times =
+        ShortestInTurns({{undo, remove}, {remove, {}}, {[&] { InsertAndDelete(plain, count); }, undo}});
+    const std::string kind = isExpanded ? "an expanded folder" : "a collapsed folder";
+    report.Add({"undo the deletion of " + kind, count, times[0], "insert and delete", times[2]});
+    report.Add({"delete " + kind + " with undo", count, times[1], "insert and delete", times[2]});
+}
+
 } // namespace
+
+void RunTreeUndo(Report& report)
+{
+    Host host;
+    for (const bool isExpanded : {false, true})
+        for (const long count : {1000L, 10000L})
+            UndoDeletion(report, host, count, isExpanded);
+}
 
 void RunTreeMove(Report& report)
 {

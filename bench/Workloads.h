@@ -30,6 +30,8 @@ void RunTreeMove(Report& report);
 void RunClipboard(Report& report);
 // Undoing and redoing pasted cells and deleted rows.
 void RunUndo(Report& report);
+// Deleting such a folder with an undo stack, and taking it back.
+void RunTreeUndo(Report& report);
 // Memory per cell.
 void RunMemory(Report& report);
 // Trees of groups and items, compared with the tree view.

@@ -27,7 +27,7 @@ constexpr Workload Workloads[] = {
     {"populate", bench::RunPopulate}, {"propgrid", bench::RunPropGrid}, {"repaint", bench::RunRepaint},
     {"scroll", bench::RunScroll},     {"select", bench::RunSelection},  {"treegrid", bench::RunTreeGrid},
     {"treemove", bench::RunTreeMove}, {"list", bench::RunList},         {"clipboard", bench::RunClipboard},
-    {"undo", bench::RunUndo},
+    {"undo", bench::RunUndo},         {"treeundo", bench::RunTreeUndo},
 };
 
 // Short ones, whose outcome does not depend on the machine.

@@ -134,6 +134,8 @@ BOOL TreeOwner::OnCmdMsg(UINT id, int code, void* extra, AFX_CMDHANDLERINFO* inf
 
 LRESULT TreeOwner::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
 {
+    if (message == WM_NOTIFY)
+        AnswerTree(*reinterpret_cast<NMHDR*>(lParam));
     if (message < TDM_ITEM_INSERTED || message > TDM_DROP_QUERY || tree == nullptr)
         return HostWindow::WindowProc(message, wParam, lParam);
     const OwnerMessage received{message, reinterpret_cast<HTREEITEM>(wParam),
@@ -141,6 +143,21 @@ LRESULT TreeOwner::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     Note(received);
     const auto answer = answers.find(message);
     return answer == answers.end() ? 0 : answer->second(received);
+}
+
+void TreeOwner::AnswerTree(NMHDR& header)
+{
+    // A copy, because it may put another one in its place.
+    const std::function<void()> onDeleted = header.code == TVN_DELETEITEMW ? onDeletedItem : nullptr;
+    if (onDeleted != nullptr)
+        onDeleted();
+    if (header.code != TVN_GETDISPINFOW)
+        return;
+    TVITEMW& item = reinterpret_cast<NMTVDISPINFOW&>(header).item;
+    if ((item.mask & TVIF_TEXT) != 0)
+        ::lstrcpynW(item.pszText, asked.c_str(), item.cchTextMax);
+    if ((item.mask & TVIF_IMAGE) != 0)
+        item.iImage = 1;
 }
 
 void TreeOwner::Note(const OwnerMessage& message)

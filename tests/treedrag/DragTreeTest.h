@@ -85,6 +85,11 @@ public:
 
     CTreeCtrl* tree = nullptr;
 
+    // Runs when the platform says that an item is being deleted.
+    std::function<void()> onDeletedItem;
+    // The text of items that ask for it.
+    std::wstring asked;
+
     // The codes of the notifications for which the parent's message map was asked.
     std::set<UINT> routedNotifications;
 
@@ -94,6 +99,7 @@ protected:
 
 private:
     void Note(const OwnerMessage& message);
+    void AnswerTree(NMHDR& header);
     std::string NameOf(HTREEITEM item) const;
 
     std::vector<std::string> m_lines;

@@ -24,6 +24,9 @@ class CTreeCtrlDrag;
 // original beside it any more, and a move down is told once.
 // TDM_ITEM_RENAMED, when the step is done, for an item whose text is another.
 //
+// The first comes amid the step, which ends, and the history with it, when the owner changes there what the
+// step is about; changes in all others are taken back before the next step is, as everywhere.
+//
 // TDM_DROP_QUERY is not asked again; TGUndoStack::OnUndoing is. Everything else is told here, from within
 // TGUndoStack::Undo and Redo unless said otherwise. A host may do there what it may do in the messages.
 class QUOR_EXT_CLASS TGTreeUndoHost

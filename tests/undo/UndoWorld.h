@@ -60,5 +60,7 @@ struct UndoWorld
 
 // Adds subjects to a world that is to be watched; each kind of control has one.
 void AddGrids(UndoWorld& world);
+// The last one.
+void AddTree(UndoWorld& world);
 
 } // namespace quor::test

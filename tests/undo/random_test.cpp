@@ -29,6 +29,15 @@ long WantedSteps()
     return wanted != nullptr ? std::atol(wanted) : UsualSteps;
 }
 
+// The tree takes most of the time of a step: it has one in so many.
+UndoSubject& Any(UndoWorld& world, fuzz::Random& random)
+{
+    static const char* const wanted = std::getenv("QUOR_UNDO_TREES");
+    static const long treesOneIn = wanted != nullptr ? std::atol(wanted) : 25;
+    const long grids = static_cast<long>(world.subjects.size()) - 1;
+    return *world.subjects[static_cast<size_t>(random.OneIn(treesOneIn) ? grids : random.Below(grids))];
+}
+
 // What hooks change after the last step that is undone stays until the next one.
 void GoAll(UndoWorld& world, bool back, fuzz::Random* mutating)
 {
@@ -47,6 +56,7 @@ void RunRound(std::uint64_t seed, bool mutates)
     fuzz::Random hooks(seed + 1);
     UndoWorld world;
     AddGrids(world);
+    AddTree(world);
     for (const auto& subject : world.subjects)
         subject->Watch(world.stack);
     world.stack.SetLimits(0, 0);
@@ -57,7 +67,7 @@ void RunRound(std::uint64_t seed, bool mutates)
     while (world.stack.GetUndoNum() == 0)
     {
         first = world.Snapshot();
-        random.Pick(world.subjects)->Step(random);
+        Any(world, random).Step(random);
     }
     for (int i = 0; i < StepsPerRound; ++i)
     {
@@ -67,7 +77,7 @@ void RunRound(std::uint64_t seed, bool mutates)
         else if (random.OneIn(8))
             world.stack.Redo();
         else
-            random.Pick(world.subjects)->Step(random);
+            Any(world, random).Step(random);
     }
     world.SetMutating(nullptr);
     ASSERT_EQ(world.stack.ended, 0) << "seed " << seed;

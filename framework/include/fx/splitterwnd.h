@@ -167,6 +167,7 @@ private:
     void MoveRowBar(int row, int y);
     void MoveColumnBar(int col, int x);
     BOOL AddPanes(int row, int col);
+    void DeleteScrollBar(int id);
     void RenumberPane(int fromId, int toId);
     void ActivateOutside(int row, int col);
     CCreateContext ContextOfActivePane();

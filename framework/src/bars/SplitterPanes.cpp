@@ -61,6 +61,7 @@ BOOL CSplitterWnd::AddPanes(int row, int col)
             continue;
         for (int made = 0; made < index; ++made)
             DeleteView(row >= 0 ? row : made, row >= 0 ? made : col);
+        DeleteScrollBar(row >= 0 ? AFX_IDW_VSCROLL_FIRST + row : AFX_IDW_HSCROLL_FIRST + col);
         return FALSE;
     }
     return TRUE;
@@ -89,6 +90,12 @@ void CSplitterWnd::ActivateOutside(int row, int col)
         SetActivePane(activeRow, (activeColumn + 1) % m_nCols);
 }
 
+void CSplitterWnd::DeleteScrollBar(int id)
+{
+    if (CWnd* const bar = ScrollBarOf(id))
+        bar->DestroyWindow();
+}
+
 void CSplitterWnd::RenumberPane(int fromId, int toId)
 {
     if (CWnd* const window = GetDlgItem(fromId))
@@ -105,8 +112,7 @@ void CSplitterWnd::DeleteRow(int rowDelete)
         for (int row = rowDelete + 1; row < m_nRows; ++row)
             RenumberPane(IdFromRowCol(row, col), IdFromRowCol(row - 1, col));
     }
-    if (CWnd* const bar = ScrollBarOf(AFX_IDW_VSCROLL_FIRST + rowDelete))
-        bar->DestroyWindow();
+    DeleteScrollBar(AFX_IDW_VSCROLL_FIRST + rowDelete);
     for (int row = rowDelete + 1; row < m_nRows; ++row)
         RenumberPane(AFX_IDW_VSCROLL_FIRST + row, AFX_IDW_VSCROLL_FIRST + row - 1);
     --m_nRows;
@@ -123,8 +129,7 @@ void CSplitterWnd::DeleteColumn(int colDelete)
         for (int col = colDelete + 1; col < m_nCols; ++col)
             RenumberPane(IdFromRowCol(row, col), IdFromRowCol(row, col - 1));
     }
-    if (CWnd* const bar = ScrollBarOf(AFX_IDW_HSCROLL_FIRST + colDelete))
-        bar->DestroyWindow();
+    DeleteScrollBar(AFX_IDW_HSCROLL_FIRST + colDelete);
     for (int col = colDelete + 1; col < m_nCols; ++col)
         RenumberPane(AFX_IDW_HSCROLL_FIRST + col, AFX_IDW_HSCROLL_FIRST + col - 1);
     --m_nCols;

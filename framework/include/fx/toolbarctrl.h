@@ -142,7 +142,8 @@ public:
     // strings, each ended by a zero and the list by another. Both return the index of the first new string.
     int AddString(UINT nStringID);
     int AddStrings(LPCTSTR lpszStrings) { return quorfx::Send<int>(m_hWnd, TB_ADDSTRING, 0, lpszStrings); }
-    // The string of that index; the length, -1 if there is none.
+    // The string of that index; the length, -1 if there is none. cchMaxLen is the room in bytes, as the
+    // message wants it.
     int GetString(int nString, LPTSTR lpstrString, int cchMaxLen) const
     {
         return quorfx::Send<int>(m_hWnd, TB_GETSTRING, MAKEWPARAM(cchMaxLen, nString), lpstrString);

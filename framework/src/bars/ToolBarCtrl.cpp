@@ -68,7 +68,9 @@ int CToolBarCtrl::GetString(int nString, CString& str) const
     const int length = GetString(nString, nullptr, 0);
     if (length < 0)
         return length;
-    const int copied = GetString(nString, str.GetBuffer(length), length + 1);
+    // The room is told in bytes.
+    const int bytes = (length + 1) * static_cast<int>(sizeof(TCHAR));
+    const int copied = GetString(nString, str.GetBuffer(length), bytes);
     str.ReleaseBuffer(copied >= 0 ? length : 0);
     return copied;
 }

@@ -1,4 +1,5 @@
 // CFileDialog: templates, names that were chosen, and what dialogs of the old style tell by messages.
+#include "tests/framework/BadArguments.h"
 #include "tests/support/HostWindow.h"
 
 #include <afxdlgs.h>
@@ -85,7 +86,7 @@ TEST(FileDialogDefaults, NamesWithoutAnExtensionOrAFolder)
     EXPECT_STREQ(dialog.GetPathName(), L"name.txt");
     EXPECT_STREQ(dialog.GetFileName(), L"name.txt");
     POSITION position = nullptr;
-    EXPECT_THROW(dialog.GetNextPathName(position), CInvalidArgException*);
+    EXPECT_TRUE(RefusesArguments([&] { dialog.GetNextPathName(position); }));
 }
 
 } // namespace

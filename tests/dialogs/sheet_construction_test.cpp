@@ -1,5 +1,6 @@
 // Property sheets and pages: every way to construct them, pictures and headers of wizards, titles, defaults.
 #include "tests/dialogs/TestSheet.h"
+#include "tests/framework/BadArguments.h"
 #include "tests/support/HostWindow.h"
 
 namespace
@@ -191,11 +192,11 @@ TEST_F(SheetConstruction, PagesThatAreNotThereAreRefused)
     EXPECT_FALSE(sheet.SetActivePage(&m_two));
     EXPECT_FALSE(sheet.SetActivePage(-1));
     EXPECT_FALSE(sheet.SetActivePage(1));
-    EXPECT_THROW(sheet.GetPage(1), CInvalidArgException*);
-    EXPECT_THROW(sheet.GetPage(-1), CInvalidArgException*);
-    EXPECT_THROW(sheet.RemovePage(1), CInvalidArgException*);
-    EXPECT_THROW(sheet.RemovePage(&m_two), CInvalidArgException*);
-    EXPECT_THROW(sheet.AddPage(nullptr), CInvalidArgException*);
+    EXPECT_TRUE(RefusesArguments([&] { sheet.GetPage(1); }));
+    EXPECT_TRUE(RefusesArguments([&] { sheet.GetPage(-1); }));
+    EXPECT_TRUE(RefusesArguments([&] { sheet.RemovePage(1); }));
+    EXPECT_TRUE(RefusesArguments([&] { sheet.RemovePage(&m_two); }));
+    EXPECT_TRUE(RefusesArguments([&] { sheet.AddPage(nullptr); }));
     EXPECT_EQ(sheet.GetPageCount(), 1);
     EXPECT_EQ(sheet.GetActivePage(), &m_one);
     sheet.RemovePage(&m_one);

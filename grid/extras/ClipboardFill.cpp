@@ -2,7 +2,7 @@
 #include "grid/extras/ClipboardOperation.h"
 #include "grid/extras/ViewOf.h"
 #include "grid/TGGridUpdate.h"
-#include "rules/NumberSeries.h"
+#include "rules/TextSeries.h"
 
 #include <algorithm>
 
@@ -99,8 +99,14 @@ TGClipboardReport TGClipboard::FillSeries(Direction direction, std::optional<dou
     const bool down = direction == Direction::Down;
     const auto given = step ? ReadDecimal(ViewOf(DecimalText(*step))) : std::nullopt;
     return Perform(TGClipboardAction::Fill, [&](Operation& operation) {
+        // A step of too many digits, or of none.
+        if (step && !given)
+        {
+            operation.report.Refuse(TGClipboardRefusal::NoNumbers);
+            return;
+        }
         ForSelected(operation, [&](const CellBlock& block) {
-            std::vector<std::optional<NumberSeries>> series;
+            std::vector<std::optional<TextSeries>> series;
             for (long i = 0; operation.IsAlive() && i < (down ? block.Width() : block.Height()); ++i)
                 series.push_back(SeriesOf(operation, block, direction, i, given));
             if (std::none_of(series.begin(), series.end(), [](const auto& one) { return one.has_value(); }))
@@ -117,9 +123,9 @@ TGClipboardReport TGClipboard::FillSeries(Direction direction, std::optional<dou
 }
 
 // The series of the column or row at a place of the block.
-std::optional<NumberSeries> TGClipboard::SeriesOf(const Operation& operation, const CellBlock& block,
-                                                  Direction direction, long place,
-                                                  const std::optional<DecimalNumber>& step)
+std::optional<TextSeries> TGClipboard::SeriesOf(const Operation& operation, const CellBlock& block,
+                                                Direction direction, long place,
+                                                const std::optional<DecimalNumber>& step)
 {
     const bool down = direction == Direction::Down;
     const auto textAt = [&](long i) {
@@ -128,14 +134,11 @@ std::optional<NumberSeries> TGClipboard::SeriesOf(const Operation& operation, co
     };
     const CString first = textAt(0);
     if (step)
-    {
-        const auto start = ReadDecimal(ViewOf(first));
-        return start ? NumberSeries::By(*start, *step) : std::nullopt;
-    }
+        return TextSeries::By(ViewOf(first), *step);
     const CString second = (down ? block.Height() : block.Width()) > 1 ? textAt(1) : CString();
     if (second.IsEmpty())
-        return NumberSeries::Of(ViewOf(first), std::nullopt);
-    return NumberSeries::Of(ViewOf(first), ViewOf(second));
+        return TextSeries::Of(ViewOf(first), std::nullopt);
+    return TextSeries::Of(ViewOf(first), ViewOf(second));
 }
 
 // ---- Emptying and cutting

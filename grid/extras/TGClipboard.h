@@ -17,7 +17,7 @@ class ClipboardWindow;
 struct CellBlock;
 struct CellPart;
 struct DecimalNumber;
-class NumberSeries;
+class TextSeries;
 
 // An extra that copies the selected cells of a grid to the clipboard and pastes what it finds there. What is
 // selected are the rows or columns that are selected in the grid, else the ranges of an extension that has
@@ -124,8 +124,9 @@ public:
     // Puts a text into all selected cells; null counts as empty.
     TGClipboardReport FillWith(const wchar_t* text);
     // Goes on with the number in the first cell of each column or row of the ranges, by `step`, else by the
-    // distance to the number in the second cell, else by one. Numbers have a decimal point and at most 15
-    // digits.
+    // distance to the number in the second cell, else by one: "1.50", "2.00"; also "Item 9", "Item 10".
+    // Numbers have a point in front of their decimals, or a comma that nothing else can be, and at most 15
+    // digits; they are written as the first one is.
     TGClipboardReport FillSeries(Direction direction, std::optional<double> step = std::nullopt);
     // Empties the selected cells that are not empty.
     TGClipboardReport Empty();
@@ -190,9 +191,9 @@ private:
     template <class Work> void ForSelected(Operation& operation, Work work);
     template <class TextAt> void FillBlock(Operation& operation, const CellBlock& block, TextAt textAt);
     TGClipboardReport FillFrom(Direction direction);
-    static std::optional<NumberSeries> SeriesOf(const Operation& operation, const CellBlock& block,
-                                                Direction direction, long place,
-                                                const std::optional<DecimalNumber>& step);
+    static std::optional<TextSeries> SeriesOf(const Operation& operation, const CellBlock& block,
+                                              Direction direction, long place,
+                                              const std::optional<DecimalNumber>& step);
     void EmptySelected(Operation& operation);
     void DeleteSelected(Operation& operation);
 

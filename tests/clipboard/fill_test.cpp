@@ -66,11 +66,17 @@ TEST_F(Filling, Series_GoOnInEachColumn)
     Select(0, 0, 3, 0);
     EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down, -0.5)), "done 3");
     EXPECT_EQ(AllTexts(grid), "1|1.5|text / 0.5|1.25|1,2 / 0.0|1.00|2,2 / -0.5|0.75|3,2");
+    EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down, 1e300)), "refused: no numbers, done 0");
     Select(0, 0, 0, 2);
     EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Right)), "done 2");
     EXPECT_EQ(Cells(grid, grid.GetRow(0)), "1|1.5|2.0");
-    Select(2, 2, 3, 2);
+    Select(0, 2, 3, 2);
+    grid.GetCell(0, 2).SetText(L"text");
     EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down)), "refused: no numbers, done 0");
+    grid.GetCell(0, 2).SetText(L"Item 9");
+    grid.GetCell(1, 2).SetText(L"");
+    EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down)), "done 3");
+    EXPECT_EQ(grid.GetCell(3, 2).GetText(), L"Item 12");
 }
 
 TEST_F(Filling, AsksTheHooksOfTyping_AndTellsOnce)

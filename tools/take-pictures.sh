@@ -16,7 +16,8 @@ work=$quor_build/pictures
 
 # The pages of the gallery that the documents show.
 declare -A pages=([grid]=grid-list-open [tree-rows]=tree-rows-edit [tree-grid]=tree-grid-pasted [tree-drag]=tree-drag-item
-    [properties]=properties-unfolded [list]=list-lines [sheet]=sheet-range)
+    [properties]=properties-unfolded [list]=list-lines [sheet]=sheet-range [clipboard]=sheet-pasted
+    [undo]=tree-undone)
 
 # The parts of the overview, from the left to the right and down: the page, where its control shows most, what it is.
 overview=(

@@ -281,6 +281,9 @@ void TreeUndo::EndRevert(const UndoView* view)
     if (tree == nullptr)
         return;
     const auto self = shared_from_this();
+    // Not every version of the platform's tree can draw again when the first item in view went meanwhile.
+    if (Next(nullptr, TVGN_FIRSTVISIBLE) == nullptr && Next(nullptr, TVGN_ROOT) != nullptr)
+        AskTree(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(Next(nullptr, TVGN_ROOT)));
     tree->SetRedraw(TRUE);
     tree->Invalidate();
     if (const auto* shown = static_cast<const TreeView*>(view))

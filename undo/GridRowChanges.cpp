@@ -32,7 +32,7 @@ bool GridRowsIn::Revert()
 
 std::size_t GridRowsIn::GetBytes() const
 {
-    return sizeof(*this) + rows.capacity() * sizeof(rows[0]);
+    return sizeof(*this) + rows.capacity() * sizeof(void*);
 }
 
 bool GridRowsIn::Merge(UndoChange& next)
@@ -183,7 +183,7 @@ std::size_t GridRowsOut::GetBytes() const
     const TGGrid* const grid = Undo().GetGrid();
     const std::size_t cells = grid != nullptr ? static_cast<std::size_t>(grid->GetColNum()) : 0;
     const std::size_t kept = rows.size() - notOwned.size();
-    return sizeof(*this) + rows.capacity() * sizeof(rows[0]) +
+    return sizeof(*this) + rows.capacity() * sizeof(void*) +
            kept * (sizeof(TGGridTreeRow) + cells * sizeof(TGGridCell));
 }
 

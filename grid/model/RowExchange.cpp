@@ -96,6 +96,7 @@ void TGGridExtension::PutRows(TGGridTreeRow* parent, long position,
     ASSERT(extendedGrid != nullptr);
     TGGrid& grid = *extendedGrid;
     std::vector<TGGridRow*> added;
+    added.reserve(rows.size());
     for (const auto& row : rows)
         added.push_back(row.get());
     TGGrid::Structure(grid).PutRows(parent, position, added);

@@ -4,6 +4,7 @@
 #include "rules/Digits.h"
 
 #include <algorithm>
+#include <cstddef>
 
 namespace QuorUiCtr
 {

@@ -52,6 +52,10 @@ UndoName NameOfAction(TGActionKind kind)
 
 } // namespace
 
+GridUndo::GridUndo(UndoHistory& recordedIn) : history(recordedIn) {}
+
+GridUndo::~GridUndo() = default;
+
 // ---- Reverting
 
 GridUndo::Reverting::Reverting(GridUndo& revertingUndo, const TGGridCell* cell) : undo(revertingUndo)

@@ -23,7 +23,8 @@ class GridUndo : public TGGridExtension, public UndoRecorder
 public:
     using LentRows = std::unordered_map<const TGGridRow*, std::unique_ptr<TGGridRow>>;
 
-    explicit GridUndo(UndoHistory& recordedIn) : history(recordedIn) {}
+    explicit GridUndo(UndoHistory& recordedIn);
+    ~GridUndo() override;
 
     // ---- For the changes
 

@@ -309,6 +309,7 @@ bool TreeSorting::Revert()
         return false;
     const std::vector<HTREEITEM> children = tree.ChildrenOf(parentItem);
     std::vector<TreeId> orderNow;
+    orderNow.reserve(children.size());
     for (const HTREEITEM child : children)
         orderNow.push_back(tree.Ids().IdOf(child));
     if (orderNow.size() != order.size())

@@ -139,11 +139,11 @@ def report(files):
 
 
 def write_docs(files, below):
-    rows = [[name, lines, f"{percent(run, lines):.1f} %", branches, f"{percent(taken, branches):.1f} %"]
+    rows = [[figures.folder(name), lines, f"{percent(run, lines):.1f} %", branches, f"{percent(taken, branches):.1f} %"]
             for name, (run, lines, taken, branches) in sorted(sums_of(files).items())]
     text = figures.table(["folder", "lines", "run", "branches", "taken"], rows)
     if below:
-        text += f"\n\nBelow its limits: {', '.join(below)}."
+        text += f"\n\nBelow its limits: {', '.join(map(figures.folder, below))}."
     figures.write("coverage", text)
 
 

@@ -12,6 +12,12 @@ def table(head, rows):
     return "\n".join("| " + " | ".join(str(cell) for cell in line) + " |" for line in lines)
 
 
+def folder(name):
+    """A folder as a table names it; "(all)" with those below it, "all" is none."""
+    path, _, rest = name.partition(" ")
+    return name if name == "all" else f"`{path}` {rest}".strip()
+
+
 def write(name, text):
     """Replaces what stands between <!-- name ... --> and <!-- end of name -->."""
     page = PAGE.read_text(encoding="utf-8")

@@ -78,7 +78,8 @@ def report(changes, results):
 
 def write_docs(changes, results):
     counts, survivors = counted(changes, results)
-    text = figures.table(["folder", "score", *OUTCOMES], rows_of(counts))
+    rows = [[figures.folder(name), *cells] for name, *cells in rows_of(counts)]
+    text = figures.table(["folder", "score", *OUTCOMES], rows)
     if survivors:
         text += "\n\nNo test notices " + ", ".join(f"`{change.id}`" for change in survivors) + "."
         partly = sum(results.outcome(change.id)[1].startswith(("not all", "without")) for change in survivors)

@@ -141,14 +141,6 @@ TEST_F(CalendarTimes, WithoutATimeTheControlIsToldToGoBackToTheSystems)
     EXPECT_EQ(calendar.told, std::vector<LPARAM>{0});
 }
 
-TEST_F(CalendarTimes, OneThatIsNotThereHasNothing)
-{
-    COleDateTime first, last;
-    EXPECT_FALSE(m_calendar.GetSelRange(first, last));
-    EXPECT_FALSE(m_calendar.SizeMinReq());
-    EXPECT_FALSE(m_calendar.GetCurSel(first));
-}
-
 // Exchanges what the test says.
 class ExchangeDialog : public CDialog
 {

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <cstddef>
+#include <cstring>
 #include <memory>
 #include <vector>
 
@@ -18,14 +20,21 @@ TEST(GdiCreation, APenOfABrushHasItsOwnDashes)
     LOGBRUSH brush = {BS_SOLID, Red, 0};
     const DWORD dashes[] = {3, 5};
     CPen pen(PS_GEOMETRIC | PS_USERSTYLE, 4, &brush, 2, dashes);
-    std::vector<BYTE> bytes(static_cast<size_t>(pen.GetObject(0, nullptr)));
-    auto* const described = reinterpret_cast<EXTLOGPEN*>(bytes.data());
-    ASSERT_GT(pen.GetObject(static_cast<int>(bytes.size()), described), 0);
+    const int size = pen.GetObject(0, nullptr);
+    // Aligned as the structure is.
+    std::vector<EXTLOGPEN> room(static_cast<size_t>(size) / sizeof(EXTLOGPEN) + 1);
+    EXTLOGPEN* const described = room.data();
+    ASSERT_GT(pen.GetObject(size, described), 0);
     EXPECT_EQ(described->elpPenStyle, static_cast<DWORD>(PS_GEOMETRIC | PS_USERSTYLE));
     EXPECT_EQ(described->elpWidth, 4u);
     EXPECT_EQ(described->elpColor, Red);
     EXPECT_EQ(described->elpNumEntries, 2u);
-    EXPECT_EQ(described->elpStyleEntry[1], 5u);
+    // The field is declared with one entry and has as many as there are.
+    DWORD second = 0;
+    std::memcpy(&second,
+                reinterpret_cast<const BYTE*>(described) + offsetof(EXTLOGPEN, elpStyleEntry) + sizeof(DWORD),
+                sizeof(DWORD));
+    EXPECT_EQ(second, 5u);
     EXPECT_EQ(::GetObjectType(pen), static_cast<DWORD>(OBJ_EXTPEN));
 }
 

@@ -33,8 +33,11 @@ public:
     Rows TakeAll();
     // The way back.
     void PutBack(Rows taken);
-    // Deletes what extensions do not take over of the last rows of the buffer.
-    void DropFrom(long first);
+    // The rows in the buffer, whose they stay.
+    std::vector<TGGridRow*> Content() const;
+    // Deletes what extensions do not take over of the last rows of the buffer, from the index on; no memory
+    // is needed in a grid without extensions.
+    void Drop(std::vector<TGGridRow*> dropped, long first);
 
 private:
     std::unique_ptr<TGGridRow> CopyOfRow(TGGridRow& row);
@@ -67,15 +70,20 @@ void TGGrid::RowBuffer::CopySelection()
             copies.push_back(CopyOfRow(*row));
             added.push_back(copies.back().get());
         }
+    std::vector<TGGridRow*> old = Content();
     grid.rowPaste.SpliceInsert(0, added);
     for (std::unique_ptr<TGGridRow>& copy : copies)
         static_cast<void>(copy.release());
-    DropFrom(static_cast<long>(added.size()));
+    Drop(std::move(old), static_cast<long>(added.size()));
 }
 
-void TGGrid::RowBuffer::DropFrom(long first)
+std::vector<TGGridRow*> TGGrid::RowBuffer::Content() const
 {
-    std::vector<TGGridRow*> dropped(grid.rowPaste.IteratorAt(first), grid.rowPaste.end());
+    return {grid.rowPaste.begin(), grid.rowPaste.end()};
+}
+
+void TGGrid::RowBuffer::Drop(std::vector<TGGridRow*> dropped, long first)
+{
     grid.rowPaste.Release(first, static_cast<long>(dropped.size()));
     if (grid.extensions != nullptr && !dropped.empty())
     {
@@ -120,7 +128,7 @@ bool TGGrid::DoClip()
 
 void TGGrid::ClipSelect()
 {
-    RowBuffer(*this).DropFrom(0);
+    RowBuffer(*this).Drop(RowBuffer(*this).Content(), 0);
     RowBuffer(*this).CutSelection();
 }
 

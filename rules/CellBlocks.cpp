@@ -22,14 +22,14 @@ IndexRuns Merged(IndexRuns runs)
     return merged;
 }
 
-bool Overlap(const CellBlock& one, const CellBlock& other)
+bool Overlap(const CellArea& one, const CellArea& other)
 {
     return one.top <= other.bottom && other.top <= one.bottom && one.left <= other.right &&
            other.left <= one.right;
 }
 
 // The blocks are in the order of their tops.
-bool AnyOverlap(const std::vector<CellBlock>& blocks)
+bool AnyOverlap(const std::vector<CellArea>& blocks)
 {
     for (auto block = blocks.begin(); block != blocks.end(); ++block)
         for (auto next = block + 1; next != blocks.end() && next->top <= block->bottom; ++next)
@@ -45,34 +45,34 @@ bool IsMultiple(long whole, long part)
 
 } // namespace
 
-std::vector<CellPart> JoinRanges(std::vector<CellBlock> ranges)
+std::vector<CellPart> JoinRanges(std::vector<CellArea> ranges)
 {
-    std::erase_if(ranges, [](const CellBlock& range) { return range.IsEmpty(); });
+    std::erase_if(ranges, [](const CellArea& range) { return range.IsEmpty(); });
     if (ranges.empty())
         return {};
-    std::sort(ranges.begin(), ranges.end(), [](const CellBlock& one, const CellBlock& other) {
+    std::sort(ranges.begin(), ranges.end(), [](const CellArea& one, const CellArea& other) {
         return std::pair(one.top, one.left) < std::pair(other.top, other.left);
     });
     const auto allAlike = [&](auto alike) {
         return std::all_of(ranges.begin(), ranges.end(),
-                           [&](const CellBlock& range) { return alike(range, ranges.front()); });
+                           [&](const CellArea& range) { return alike(range, ranges.front()); });
     };
     IndexRuns rows;
     IndexRuns cols;
-    for (const CellBlock& range : ranges)
+    for (const CellArea& range : ranges)
     {
         rows.emplace_back(range.top, range.bottom);
         cols.emplace_back(range.left, range.right);
     }
-    const bool sameCols = allAlike([](const CellBlock& one, const CellBlock& other) {
+    const bool sameCols = allAlike([](const CellArea& one, const CellArea& other) {
         return one.left == other.left && one.right == other.right;
     });
-    const bool sameRows = allAlike([](const CellBlock& one, const CellBlock& other) {
+    const bool sameRows = allAlike([](const CellArea& one, const CellArea& other) {
         return one.top == other.top && one.bottom == other.bottom;
     });
     if (sameCols || sameRows)
         return {{Merged(rows), Merged(cols)}};
-    const bool sameSize = allAlike([](const CellBlock& one, const CellBlock& other) {
+    const bool sameSize = allAlike([](const CellArea& one, const CellArea& other) {
         return one.Height() == other.Height() && one.Width() == other.Width();
     });
     if (!sameSize || AnyOverlap(ranges))
@@ -91,10 +91,10 @@ long long CountOf(const IndexRuns& runs)
     return count;
 }
 
-std::vector<CellBlock> PasteBlocks(long height, long width, const std::vector<CellBlock>& ranges)
+std::vector<CellArea> PasteBlocks(long height, long width, const std::vector<CellArea>& ranges)
 {
-    std::vector<CellBlock> blocks;
-    for (const CellBlock& range : ranges)
+    std::vector<CellArea> blocks;
+    for (const CellArea& range : ranges)
     {
         const bool fillsRows = IsMultiple(range.Height(), height);
         const bool fillsCols = IsMultiple(range.Width(), width);

@@ -25,17 +25,17 @@ CString DecimalText(double number)
 // Each range in turn becomes the rows and columns at hand, unless hooks have ended the operation before.
 template <class Work> void TGClipboard::ForSelected(Operation& operation, Work work)
 {
-    std::vector<CellBlock> blocks;
+    std::vector<CellArea> blocks;
     if (!operation.EndEdit() || !operation.TakeSelectedCells(blocks))
         return;
     const TGGridUpdate update(operation.Grid());
-    for (const CellBlock& block : blocks)
+    for (const CellArea& block : blocks)
         work(block);
 }
 
 // A text for each cell of the block, by its row and column in it; nothing leaves the cell alone.
 template <class TextAt>
-void TGClipboard::FillBlock(Operation& operation, const CellBlock& block, TextAt textAt)
+void TGClipboard::FillBlock(Operation& operation, const CellArea& block, TextAt textAt)
 {
     operation.Hold(block);
     for (long row = 0; row < block.Height(); ++row)
@@ -49,7 +49,7 @@ TGClipboardReport TGClipboard::FillWith(const wchar_t* text)
 {
     const CString filled(text);
     return Perform(TGClipboardAction::Fill, [&](Operation& operation) {
-        ForSelected(operation, [&](const CellBlock& block) {
+        ForSelected(operation, [&](const CellArea& block) {
             FillBlock(operation, block, [&](long, long) { return std::optional(filled); });
         });
     });
@@ -73,7 +73,7 @@ TGClipboardReport TGClipboard::FillFrom(Direction direction)
 {
     const bool down = direction == Direction::Down;
     return Perform(TGClipboardAction::Fill, [&](Operation& operation) {
-        ForSelected(operation, [&](CellBlock block) {
+        ForSelected(operation, [&](CellArea block) {
             if (!operation.IsAlive())
                 return;
             const bool isLine = (down ? block.Height() : block.Width()) == 1;
@@ -105,7 +105,7 @@ TGClipboardReport TGClipboard::FillSeries(Direction direction, std::optional<dou
             operation.report.Refuse(TGClipboardRefusal::NoNumbers);
             return;
         }
-        ForSelected(operation, [&](const CellBlock& block) {
+        ForSelected(operation, [&](const CellArea& block) {
             std::vector<std::optional<TextSeries>> series;
             for (long i = 0; operation.IsAlive() && i < (down ? block.Width() : block.Height()); ++i)
                 series.push_back(SeriesOf(operation, block, direction, i, given));
@@ -123,7 +123,7 @@ TGClipboardReport TGClipboard::FillSeries(Direction direction, std::optional<dou
 }
 
 // The series of the column or row at a place of the block.
-std::optional<TextSeries> TGClipboard::SeriesOf(const Operation& operation, const CellBlock& block,
+std::optional<TextSeries> TGClipboard::SeriesOf(const Operation& operation, const CellArea& block,
                                                 Direction direction, long place,
                                                 const std::optional<DecimalNumber>& step)
 {
@@ -150,7 +150,7 @@ TGClipboardReport TGClipboard::Empty()
 
 void TGClipboard::EmptySelected(Operation& operation)
 {
-    ForSelected(operation, [&](const CellBlock& block) {
+    ForSelected(operation, [&](const CellArea& block) {
         FillBlock(operation, block, [&](long row, long col) -> std::optional<CString> {
             const TGGridCell* const cell =
                 operation.HeldCell(static_cast<std::size_t>(row), static_cast<std::size_t>(col));

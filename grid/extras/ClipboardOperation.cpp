@@ -83,25 +83,25 @@ void TGClipboard::Operation::ForgetCol(const TGGridCol& col)
 
 // ---- What it is about
 
-std::vector<CellBlock> TGClipboard::Operation::SelectedBlocks() const
+std::vector<CellArea> TGClipboard::Operation::SelectedBlocks() const
 {
-    std::vector<CellBlock> blocks;
+    std::vector<CellArea> blocks;
     for (const TGCellRange& range : clipboard->GetSelectedCells())
         blocks.push_back({range.top, range.left, range.bottom, range.right});
     return blocks;
 }
 
-bool TGClipboard::Operation::TakeSelectedCells(std::vector<CellBlock>& blocks)
+bool TGClipboard::Operation::TakeSelectedCells(std::vector<CellArea>& blocks)
 {
     blocks = SelectedBlocks();
     long long cells = 0;
-    for (CellBlock& block : blocks)
+    for (CellArea& block : blocks)
     {
         block.bottom = (std::min)(block.bottom, grid.GetRowNum() - 1);
         block.right = (std::min)(block.right, grid.GetColNum() - 1);
         cells += block.IsEmpty() ? 0 : static_cast<long long>(block.Height()) * block.Width();
     }
-    std::erase_if(blocks, [](const CellBlock& block) { return block.IsEmpty(); });
+    std::erase_if(blocks, [](const CellArea& block) { return block.IsEmpty(); });
     if (blocks.empty())
         report.Refuse(TGClipboardRefusal::NothingSelected);
     return !blocks.empty() && Allows(cells);
@@ -122,7 +122,7 @@ bool TGClipboard::Operation::EndEdit()
     return IsAlive();
 }
 
-void TGClipboard::Operation::Hold(const CellBlock& block)
+void TGClipboard::Operation::Hold(const CellArea& block)
 {
     rows.Clear();
     cols.clear();
@@ -150,7 +150,7 @@ CString TGClipboard::Operation::TextAt(long row, long col) const
     return cell != nullptr ? cell->GetText() : CString();
 }
 
-void TGClipboard::Operation::Select(const CellBlock& block)
+void TGClipboard::Operation::Select(const CellArea& block)
 {
     if (!IsAlive() || !grid.IsValidRow(block.top) || !grid.IsValidCol(block.left))
         return;

@@ -48,15 +48,15 @@ public:
     TGGrid& Grid() const { return grid; }
 
     // What is selected, as blocks that may end on the new-row line.
-    std::vector<CellBlock> SelectedBlocks() const;
+    std::vector<CellArea> SelectedBlocks() const;
     // The same without the new-row line, which is refused when there are no cells or more than are allowed.
-    bool TakeSelectedCells(std::vector<CellBlock>& blocks);
+    bool TakeSelectedCells(std::vector<CellArea>& blocks);
     // Whether so many cells may be worked on; refuses else.
     bool Allows(long long cells);
     // Commits an open edit; false when that has ended the operation.
     bool EndEdit();
     // The rows and columns of a block that there are become those that are worked on.
-    void Hold(const CellBlock& block);
+    void Hold(const CellArea& block);
     // Types into a cell of the held rows and columns, and counts what becomes of it. The indices are those to
     // report.
     void Type(std::size_t rowSlot, std::size_t colSlot, CString text, long row, long col);
@@ -65,7 +65,7 @@ public:
     // The text of any cell by its indices.
     CString TextAt(long row, long col) const;
     // Makes the cells that there are of a block the selection.
-    void Select(const CellBlock& block);
+    void Select(const CellArea& block);
     // Tells OnDataChanged when anything was changed that was not told of.
     void Finish();
 

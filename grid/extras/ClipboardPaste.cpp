@@ -18,7 +18,7 @@ class TGClipboard::Writer
 public:
     Writer(Operation& running, const CellTable& pasted) : operation(running), table(pasted) {}
 
-    void Write(const CellBlock& target);
+    void Write(const CellArea& target);
 
 private:
     void WriteLine(long line);
@@ -28,12 +28,12 @@ private:
 
     Operation& operation;
     const CellTable& table;
-    CellBlock block;
+    CellArea block;
     // Why no more rows come in.
     std::optional<TGCellLeft> end;
 };
 
-void TGClipboard::Writer::Write(const CellBlock& target)
+void TGClipboard::Writer::Write(const CellArea& target)
 {
     block = target;
     operation.Hold(block);
@@ -180,23 +180,23 @@ void TGClipboard::PasteTable(Operation& operation, const CellTable& table, Paste
 void TGClipboard::PasteCells(Operation& operation, const CellTable& table)
 {
     TGGrid& grid = operation.Grid();
-    std::vector<CellBlock> selected = operation.SelectedBlocks();
+    std::vector<CellArea> selected = operation.SelectedBlocks();
     if (selected.empty())
         selected.push_back({grid.GetRowNum(), 0, grid.GetRowNum(), 0});
-    for (CellBlock& block : selected)
+    for (CellArea& block : selected)
         block.bottom = (std::max)(block.top, block.bottom);
-    const std::vector<CellBlock> blocks =
+    const std::vector<CellArea> blocks =
         PasteBlocks(static_cast<long>(table.GetRowNum()), static_cast<long>(table.GetColNum()), selected);
     if (blocks.empty())
         operation.report.Refuse(TGClipboardRefusal::DifferentShapes);
     long long cells = 0;
-    for (const CellBlock& block : blocks)
+    for (const CellArea& block : blocks)
         cells += static_cast<long long>(block.Height()) * block.Width();
     if (blocks.empty() || !operation.Allows(cells))
         return;
     const TGGridUpdate update(grid);
     Writer writer(operation, table);
-    for (const CellBlock& block : blocks)
+    for (const CellArea& block : blocks)
         writer.Write(block);
     if (blocks.size() == 1 && blocks != selected)
         operation.Select(blocks.front());

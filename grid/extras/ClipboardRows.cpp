@@ -56,7 +56,7 @@ private:
 bool TGClipboard::TreeWriter::FindPlace(bool asChildren)
 {
     TGGrid& grid = operation.Grid();
-    const std::vector<CellBlock> selected = operation.SelectedBlocks();
+    const std::vector<CellArea> selected = operation.SelectedBlocks();
     const long row = !selected.empty() ? selected.front().top : grid.GetRowNum();
     operation.Hold({0, 0, -1, grid.GetColNum() - 1});
     TGGridRow* const current = operation.Extension().FindRow(row);

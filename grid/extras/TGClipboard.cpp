@@ -105,7 +105,7 @@ TGClipboardReport TGClipboard::CopyAll()
 bool TGClipboard::CopySelected(Operation& operation, bool all)
 {
     TGGrid& grid = operation.Grid();
-    std::vector<CellBlock> blocks;
+    std::vector<CellArea> blocks;
     if (all)
         blocks.push_back({0, 0, grid.GetRowNum() - 1, grid.GetColNum() - 1});
     else if (!operation.TakeSelectedCells(blocks))

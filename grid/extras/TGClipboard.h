@@ -14,7 +14,7 @@ namespace QuorUiCtr
 
 class CellTable;
 class ClipboardWindow;
-struct CellBlock;
+struct CellArea;
 struct CellPart;
 struct DecimalNumber;
 class TextSeries;
@@ -59,6 +59,7 @@ public:
         // New rows behind the last child of the current row.
         ChildRows
     };
+    // Where a series goes from its first cells.
     enum class Direction
     {
         Down,
@@ -189,9 +190,9 @@ private:
 
     // Filling.
     template <class Work> void ForSelected(Operation& operation, Work work);
-    template <class TextAt> void FillBlock(Operation& operation, const CellBlock& block, TextAt textAt);
+    template <class TextAt> void FillBlock(Operation& operation, const CellArea& block, TextAt textAt);
     TGClipboardReport FillFrom(Direction direction);
-    static std::optional<TextSeries> SeriesOf(const Operation& operation, const CellBlock& block,
+    static std::optional<TextSeries> SeriesOf(const Operation& operation, const CellArea& block,
                                               Direction direction, long place,
                                               const std::optional<DecimalNumber>& step);
     void EmptySelected(Operation& operation);

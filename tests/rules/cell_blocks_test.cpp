@@ -11,7 +11,7 @@ namespace
 {
 
 using Parts = std::vector<CellPart>;
-using Blocks = std::vector<CellBlock>;
+using Blocks = std::vector<CellArea>;
 
 TEST(JoinRanges, OneRange_IsItself)
 {

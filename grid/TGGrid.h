@@ -755,6 +755,9 @@ private:
     // The cell or row is being deleted: nothing refers to it from now on.
     void ForgetCell(const TGGridCell* cell);
     void ForgetRow(const TGGridRow* row);
+    // Rows of the grid are an extension's now, with their offspring: for what is on the stack they are as
+    // good as deleted.
+    void ForgetTaken(std::span<TGGridRow* const> taken);
 
     // The serial number of the column that was made last.
     unsigned lastColSerial = 0;

@@ -195,6 +195,12 @@ void GridExtensions::TellRemoved(TGGridTreeRow* parent, long position, std::vect
         return;
     TGRemovedRows removed(parent, position, std::move(rows), buffered);
     Tell(&TGGridExtension::OnRowsRemoved, removed);
+    std::vector<TGGridRow*> taken;
+    for (std::size_t i = 0; i < removed.owned.size(); ++i)
+        if (removed.owned[i] == nullptr)
+            taken.push_back(removed.rows[i]);
+    if (!taken.empty())
+        grid.ForgetTaken(taken);
 }
 
 void GridExtensions::TellBufferDropped(std::vector<TGGridRow*> rows)

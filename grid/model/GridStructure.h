@@ -142,6 +142,9 @@ public:
     // Sorts the rows and all children; tree rows fold meanwhile, which runs hooks.
     void SortRows(bool ascending);
 
+    // The parent of a tree row; null for a root row, a plain row and no row.
+    static TGGridTreeRow* ParentOf(TGGridRow* row);
+
 private:
     // Sort one level of rows, in the order that an extension wants if one does, and note the new order.
     struct SortNotice
@@ -167,8 +170,6 @@ private:
     };
     // Sorts rows, those that are null to the end.
     Order SortByKeys(std::vector<TGGridRow*>& order, bool ascending);
-    // The parent of a tree row; null for a root row, a plain row and no row.
-    static TGGridTreeRow* ParentOf(TGGridRow* row);
     void RemoveHiddenRows(const TGGridTreeRow::IndexRange& stored);
     // Moves the columns from `first` to before `last` by `distance` pixels.
     void MoveColEdges(long first, long last, long distance);

@@ -1,8 +1,11 @@
 // References to rows that hooks may delete.
 #include "grid/model/RowWatch.h"
 
+#include "grid/edit/CellWatch.h"
 #include "grid/model/GridExtensions.h"
-#include "grid/TGGrid.h"
+#include "grid/model/GridStructure.h"
+
+#include <algorithm>
 
 namespace QuorUiCtr
 {
@@ -19,6 +22,24 @@ void TGGrid::ForgetRow(const TGGridRow* row)
     });
     if (extensions != nullptr)
         extensions->Tell(GridExtensions::RowDeleted, row);
+}
+
+// Without this, code that a hook has interrupted would go on with rows that stand in no grid any more.
+void TGGrid::ForgetTaken(std::span<TGGridRow* const> taken)
+{
+    const auto isTaken = [taken](const TGGridRow* row) {
+        while (row != nullptr && std::find(taken.begin(), taken.end(), row) == taken.end())
+            row = Structure::ParentOf(const_cast<TGGridRow*>(row));
+        return row != nullptr;
+    };
+    RowWatch::TellAll(rowWatches, [&](RowWatch& watch) {
+        if (isTaken(watch.row))
+            watch.row = nullptr;
+    });
+    CellWatch::TellAll(cellWatches, [&](CellWatch& watch) {
+        if (watch.cell != nullptr && isTaken(&watch.cell->GetRow()))
+            watch.cell = nullptr;
+    });
 }
 
 } // namespace QuorUiCtr

@@ -590,5 +590,31 @@ TEST(TreeGridSteps, ACutTree_ComesBackAsTheSameRows_WithItsData)
     EXPECT_EQ(SnapshotOf(grid), after);
 }
 
+// The stack keeps the parent, and its child is no business of the call that a hook has interrupted.
+TEST(TreeGridSteps, AChildThatIsBeingDeleted_GoesWithAParentThatAHookDeletes)
+{
+    ModelGrid grid(true);
+    AddCols(grid, 1);
+    AddRows(grid, "ab");
+    AddChild(grid.GetTreeRow(0), L"x").SetExtendData(new NumberedData);
+    grid.GetTreeRow(0).UnFold();
+    TGUndoStack stack;
+    stack.Watch(grid);
+    const std::string before = SnapshotOf(grid);
+    grid.SelectRow(1, true);
+    grid.onCurChanged = [&] {
+        grid.onCurChanged = nullptr;
+        grid.DelRowEx(0);
+    };
+    {
+        const TGUserAction action(grid, TGActionKind::DeleteRows);
+        grid.DelRowEx(1);
+    }
+    EXPECT_EQ(grid.GetRowNum(), 1);
+    while (stack.CanUndo())
+        EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(SnapshotOf(grid), before);
+}
+
 } // namespace
 } // namespace quor::test

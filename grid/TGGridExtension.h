@@ -111,7 +111,9 @@ private:
 // The order of rows that stand side by side: those of the first level (null) or the children of a row.
 struct TGRowOrder
 {
+    // Null for the first level.
     TGGridTreeRow* parent;
+    // All of its rows, as they are to stand; those of a grid, which owns them.
     std::vector<TGGridRow*> rows;
 };
 

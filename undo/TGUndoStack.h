@@ -161,6 +161,7 @@ private:
 class QUOR_EXT_CLASS TGUndoPause
 {
 public:
+    // The stack must outlive the scope; pauses nest.
     explicit TGUndoPause(TGUndoStack& pausedStack);
     ~TGUndoPause();
     TGUndoPause(const TGUndoPause&) = delete;

@@ -69,6 +69,7 @@ enum class TGCellLeft
 class QUOR_EXT_CLASS TGClipboardReport
 {
 public:
+    // A cell that was left, and why.
     struct Place
     {
         // Zero-based indices as they were meant; beyond the edge they are those that there are not. -1: a row
@@ -80,9 +81,12 @@ public:
     // How many places are kept; the counts go on.
     static constexpr std::size_t MaxPlaces = 1000;
 
+    // Empty, of a command that has just begun.
     explicit TGClipboardReport(TGClipboardAction reported) : action(reported) {}
 
+    // What the user wanted.
     TGClipboardAction GetAction() const { return action; }
+    // None when the command came to its end.
     TGClipboardRefusal GetRefusal() const { return refusal; }
     // All was done, and no cell was left.
     bool IsComplete() const { return refusal == TGClipboardRefusal::None && GetLeft() == 0; }

@@ -117,8 +117,10 @@ def main():
     programs = list(recipe_titles(root))
     for block in hosts:
         name = 'host_' + re.sub(r'\W', '_', os.path.splitext(os.path.basename(block.path))[0])
-        if name in dict(programs):
-            raise Fault('%s: one host a document' % block.place)
+        # A document may have more than one.
+        number = sum(known == name or known.startswith(name + '_host') for known, _ in programs)
+        if number:
+            name += '_host%d' % (number + 1)
         programs.append((name, block.kind[len('host '):]))
         write(os.path.join(work, name + '.cpp'), '#line %d "%s"\n%s' % (block.line, block.path, block.code))
     write(os.path.join(work, 'fragments.cpp'), fragments_source(headers, fragments))

@@ -18,7 +18,7 @@ constexpr int StepsPerRound = 400;
 
 // In the checked variant a step takes a hundred times as long.
 #ifdef _DEBUG
-constexpr long UsualSteps = 2000;
+constexpr long UsualSteps = 10000;
 #else
 constexpr long UsualSteps = 50000;
 #endif

@@ -117,11 +117,12 @@ TEST_P(DefaultHandler, PassesTheMessageOnAsItCame)
     char structure[256] = {};
     const LPARAM lParam = reinterpret_cast<LPARAM>(&structure);
     window.m_notes = true;
-    const LRESULT result = window.SendMessage(GetParam().message, 0, lParam);
+    const WPARAM wParam = 5;
+    const LRESULT result = window.SendMessage(GetParam().message, wParam, lParam);
     window.m_notes = false;
     ASSERT_EQ(window.m_passed.size(), 1u);
     EXPECT_EQ(window.m_passed[0].message, GetParam().message);
-    EXPECT_EQ(window.m_passed[0].wParam, 0u);
+    EXPECT_EQ(window.m_passed[0].wParam, wParam);
     EXPECT_EQ(window.m_passed[0].lParam, lParam);
     EXPECT_EQ(result, GetParam().result);
 }

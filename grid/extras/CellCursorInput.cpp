@@ -2,6 +2,7 @@
 // the editor.
 #include "grid/extras/TGCellCursor.h"
 
+#include "grid/extras/MousePoint.h"
 #include "grid/model/ScopedValue.h"
 #include "grid/TGGrid.h"
 #include "grid/TGUserAction.h"
@@ -17,11 +18,6 @@ namespace
 constexpr int CornerId = 102;
 // Milliseconds from one step to the next while a drag waits outside of the view.
 constexpr UINT ScrollTime = 50;
-
-CPoint PointOf(LPARAM lParam)
-{
-    return CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
-}
 
 bool IsKeyDown(UINT message)
 {
@@ -68,12 +64,12 @@ bool TGCellCursor::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM l
         result = DialogCode(reinterpret_cast<const MSG*>(lParam));
         return true;
     case WM_LBUTTONDOWN:
-        return PressAt(PointOf(lParam), (wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0);
+        return PressAt(MousePoint(lParam), (wParam & MK_SHIFT) != 0, (wParam & MK_CONTROL) != 0);
     case WM_LBUTTONDBLCLK:
-        return PressTwiceAt(PointOf(lParam));
+        return PressTwiceAt(MousePoint(lParam));
     case WM_MOUSEMOVE:
         if (dragging)
-            DragTo(PointOf(lParam));
+            DragTo(MousePoint(lParam));
         return false;
     case WM_TIMER:
         return wParam == DragTimer() && DragOn();
@@ -85,7 +81,7 @@ bool TGCellCursor::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM l
         dragging = false;
         return false;
     case WM_RBUTTONDOWN:
-        PressRightAt(PointOf(lParam));
+        PressRightAt(MousePoint(lParam));
         return false;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:

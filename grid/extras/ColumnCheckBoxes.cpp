@@ -1,6 +1,7 @@
 // The check boxes of formatted columns: where they stand, and what the mouse and Space do to them.
 #include "grid/extras/TGColumnFormats.h"
 
+#include "grid/extras/MousePoint.h"
 #include "grid/TGGrid.h"
 #include "grid/TGUserAction.h"
 #include "rules/ValueTexts.h"
@@ -15,11 +16,6 @@ namespace
 {
 
 constexpr long LargestBox = 13;
-
-CPoint MousePoint(LPARAM lParam)
-{
-    return CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
-}
 
 bool IsBlank(const CString& text)
 {

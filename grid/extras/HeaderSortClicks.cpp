@@ -1,6 +1,7 @@
 // Sorting by header clicks: what is a click and what a drag, and the arrows in the captions.
 #include "grid/extras/TGHeaderSort.h"
 
+#include "grid/extras/MousePoint.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 
@@ -11,11 +12,6 @@ namespace QuorUiCtr
 {
 namespace
 {
-
-CPoint ClickPoint(LPARAM lParam)
-{
-    return CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
-}
 
 LPARAM PackedPoint(CPoint point)
 {
@@ -61,11 +57,11 @@ bool TGHeaderSort::AnswerHeader(CWnd& header, UINT message, WPARAM wParam, LPARA
     {
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        return Press(header, ClickPoint(lParam), wParam);
+        return Press(header, MousePoint(lParam), wParam);
     case WM_LBUTTONUP:
-        return Release(header, ClickPoint(lParam));
+        return Release(header, MousePoint(lParam));
     case WM_MOUSEMOVE:
-        return (wParam & MK_LBUTTON) != 0 && BeginDrag(header, ClickPoint(lParam));
+        return (wParam & MK_LBUTTON) != 0 && BeginDrag(header, MousePoint(lParam));
     case WM_CAPTURECHANGED:
         pressed = nullptr;
         return false;

@@ -1,6 +1,7 @@
 // Measures columns, and steers the drag of an edge that the column header makes.
 #include "grid/extras/TGColumnWidths.h"
 
+#include "grid/extras/MousePoint.h"
 #include "grid/TGCellCtrlIds.h"
 #include "grid/TGGrid.h"
 #include "grid/TGUserAction.h"
@@ -22,11 +23,6 @@ constexpr long WidestFit = 65535;
 
 // What is free between a text and the next column.
 constexpr long Air = 3;
-
-CPoint HeaderPoint(LPARAM lParam)
-{
-    return CPoint(static_cast<short>(LOWORD(lParam)), static_cast<short>(HIWORD(lParam)));
-}
 
 } // namespace
 
@@ -189,13 +185,13 @@ bool TGColumnWidths::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM
     case WM_SETCURSOR:
         return ShowEdgeCursor(window, result);
     case WM_LBUTTONDOWN:
-        return Catch(window, wParam, HeaderPoint(lParam), result);
+        return Catch(window, wParam, MousePoint(lParam), result);
     case WM_LBUTTONDBLCLK:
-        return PressTwice(window, HeaderPoint(lParam));
+        return PressTwice(window, MousePoint(lParam));
     case WM_MOUSEMOVE:
-        return caughtAt != 0 && PassOn(window, message, wParam, HeaderPoint(lParam), result);
+        return caughtAt != 0 && PassOn(window, message, wParam, MousePoint(lParam), result);
     case WM_LBUTTONUP:
-        return caughtAt != 0 && PassOn(window, message, wParam, HeaderPoint(lParam), result);
+        return caughtAt != 0 && PassOn(window, message, wParam, MousePoint(lParam), result);
     case WM_CAPTURECHANGED:
         caughtAt = 0;
         return false;

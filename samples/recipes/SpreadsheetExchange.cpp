@@ -6,6 +6,7 @@
 #include "SeparatedText.h"
 #include "grid/extras/TGCellCursor.h"
 #include "grid/extras/TGClipboard.h"
+#include "module/QuorTexts.h"
 #include "undo/TGUndoStack.h"
 
 #include <cstdio>
@@ -19,6 +20,7 @@ class ExchangeFrame : public CFrameWnd
 public:
     ExchangeFrame()
     {
+        QuorTexts::SetLanguage(QuorLanguage::English); // of the steps' names and the reports
         Create(nullptr, L"Spreadsheet exchange", WS_OVERLAPPEDWINDOW, CRect(40, 40, 460, 300));
         CMenu edit;
         edit.CreatePopupMenu();

@@ -275,6 +275,12 @@ protected:
     // The row buffer is about to be filled anew, and these rows of it deleted. They can be taken over.
     virtual void OnBufferDropped(TGRemovedRows& rows);
 
+    // ---- The selection of before
+    // Ranges as OnSelectedCells has told them, of which some may end beyond what there is now, and the
+    // current cell, in a corner of the last one, are to be selected again. True: they are. Default:
+    // OnSelectCells with the last range.
+    virtual bool OnRestoreCells(std::span<const TGCellRange> ranges, long row, long col);
+
     // ---- What extensions need of the grid
 
     // Numbers of menu entries below are the grid's.
@@ -330,6 +336,8 @@ protected:
     std::vector<TGCellRange> GetSelectedBands() const;
     // Makes a block the selection of the extension that has one. False without one.
     bool SelectCells(const TGCellRange& range) const;
+    // Makes ranges the selection of the extension that has one, with the current cell. False without one.
+    bool RestoreCells(std::span<const TGCellRange> ranges, long row, long col) const;
     // The window of the open editor, null when there is none.
     CWnd* GetEditorWindow() const;
     // Stores a text as if it had been typed: nothing for a read-only cell; asks OnEdit, OnBeforeEdit and

@@ -176,6 +176,9 @@ public:
     std::vector<TGCellRange> bands;
     bool isRows = false;
     std::vector<TGCellRange> cells;
+    // The current cell, in the last one.
+    long row = -1;
+    long col = -1;
     CPoint corner;
     bool hasCorner = false;
 
@@ -201,6 +204,7 @@ std::shared_ptr<UndoView> GridUndo::KeepView()
     view->isRows = GetGrid()->IsRowSelected();
     if (view->bands.empty())
         view->cells = GetSelectedCells();
+    FindCurrentCell(view->row, view->col);
     view->hasCorner = GetGrid()->GetSafeHwnd() != nullptr && !GetGrid()->IsUpdating();
     if (view->hasCorner)
         view->corner = GetView().TopLeft();
@@ -226,7 +230,7 @@ void GridUndo::EndRevert(const UndoView* shown)
     GetGrid()->Invalidate(0);
     SelectExactly(view->Indices(true, GetGrid()->GetRowNum()), view->Indices(false, GetGrid()->GetColNum()));
     if (GetGrid() != nullptr && view->bands.empty() && !view->cells.empty())
-        SelectCells(view->cells.back());
+        RestoreCells(view->cells, view->row, view->col);
     if (GetGrid() == nullptr)
         return;
     updating = false;

@@ -143,6 +143,13 @@ bool TGCellCursor::MoveTo(long row, long col, bool extend)
     return true;
 }
 
+void TGCellCursor::AddRange(const TGCellRange& range)
+{
+    const auto inside = [](long index, long last) { return std::clamp(index, 0L, (std::max)(last, 0L)); };
+    ranges.push_back({CornerAt(inside(range.top, LastRow(true)), inside(range.left, LastCol())),
+                      CornerAt(inside(range.bottom, LastRow(true)), inside(range.right, LastCol()))});
+}
+
 bool TGCellCursor::SelectRange(const TGCellRange& range, bool add)
 {
     if (GetGrid() == nullptr || !EnsureCell())
@@ -150,9 +157,7 @@ bool TGCellCursor::SelectRange(const TGCellRange& range, bool add)
     InvalidateRanges();
     if (!add)
         ranges.clear();
-    const auto inside = [](long index, long last) { return std::clamp(index, 0L, (std::max)(last, 0L)); };
-    ranges.push_back({CornerAt(inside(range.top, LastRow(true)), inside(range.left, LastCol())),
-                      CornerAt(inside(range.bottom, LastRow(true)), inside(range.right, LastCol()))});
+    AddRange(range);
     Moved();
     return true;
 }
@@ -189,6 +194,20 @@ bool TGCellCursor::OnSelectedCells(std::vector<TGCellRange>& found) const
 bool TGCellCursor::OnSelectCells(const TGCellRange& range)
 {
     return SelectRange({range.bottom, range.right, range.top, range.left});
+}
+
+bool TGCellCursor::OnRestoreCells(std::span<const TGCellRange> restored, long row, long col)
+{
+    if (restored.empty() || !EnsureCell())
+        return false;
+    InvalidateRanges();
+    ranges.clear();
+    for (const TGCellRange& range : restored.first(restored.size() - 1))
+        AddRange(range);
+    const TGCellRange& last = restored.back();
+    AddRange({row == last.top ? last.bottom : last.top, col == last.left ? last.right : last.left, row, col});
+    Moved();
+    return true;
 }
 
 bool TGCellCursor::IsInRanges(long row, long col) const

@@ -109,6 +109,7 @@ protected:
     bool OnCurrentCell(long& row, long& col) const override;
     bool OnSelectedCells(std::vector<TGCellRange>& found) const override;
     bool OnSelectCells(const TGCellRange& range) override;
+    bool OnRestoreCells(std::span<const TGCellRange> restored, long row, long col) override;
 
 private:
     // A cell that goes along with its row and column. Without a row it stands on the new-row line or nowhere.
@@ -138,6 +139,8 @@ private:
     void Settle(Corner& corner) const;
     void SettleAll();
     bool EnsureCell();
+    // From the corner that stays to the current cell.
+    void AddRange(const TGCellRange& range);
     long LastRow(bool withNewRow) const;
     long LastCol() const;
 

@@ -5,9 +5,9 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/TGCellCtrl.h"
 #include "grid/TGGrid.h"
+#include "grid/TGUserAction.h"
 
 #include <utility>
-#include "grid/TGUserAction.h"
 
 namespace QuorUiCtr
 {
@@ -47,6 +47,12 @@ bool TGGridExtension::SelectCells(const TGCellRange& range) const
 {
     ASSERT(extendedGrid != nullptr);
     return extendedGrid->extensions->SelectCells(range);
+}
+
+bool TGGridExtension::RestoreCells(std::span<const TGCellRange> ranges, long row, long col) const
+{
+    ASSERT(extendedGrid != nullptr);
+    return extendedGrid->extensions->RestoreCells(ranges, row, col);
 }
 
 // ---- Editing

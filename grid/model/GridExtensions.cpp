@@ -128,6 +128,11 @@ bool GridExtensions::SelectCells(const TGCellRange& range)
     return Each([&](TGGridExtension& extension) { return extension.OnSelectCells(range); });
 }
 
+bool GridExtensions::RestoreCells(std::span<const TGCellRange> ranges, long row, long col)
+{
+    return Each([&](TGGridExtension& extension) { return extension.OnRestoreCells(ranges, row, col); });
+}
+
 // ---- Tips and order
 
 bool GridExtensions::AskTip(TGGridPlace place, long row, long col, CString& text)

@@ -32,6 +32,7 @@ public:
     bool FindCurrentCell(long& row, long& col);
     bool FindSelectedCells(std::vector<TGCellRange>& ranges);
     bool SelectCells(const TGCellRange& range);
+    bool RestoreCells(std::span<const TGCellRange> ranges, long row, long col);
     // Puts rows into the order that an extension wants and returns where each has stood; nothing when none
     // wants one.
     std::optional<std::vector<long>> AskOrder(TGGridTreeRow* parent, std::vector<TGGridRow*>& rows,

@@ -107,6 +107,11 @@ bool TGGridExtension::OnSelectCells(const TGCellRange&)
     return false;
 }
 
+bool TGGridExtension::OnRestoreCells(std::span<const TGCellRange> ranges, long, long)
+{
+    return !ranges.empty() && OnSelectCells(ranges.back());
+}
+
 void TGGridExtension::OnRowDeleted(const TGGridRow*) {}
 void TGGridExtension::OnActionBegin(TGActionKind) {}
 void TGGridExtension::OnActionEnd(TGActionKind) {}

@@ -399,6 +399,8 @@ protected:
     // The cell's own style word.
     static int GetStyle(const TGGridCell& cell);
     static void SetStyle(TGGridCell& cell, int style);
+    // Stores a text that may have any characters; nothing is repainted.
+    static void StoreText(TGGridCell& cell, CString text);
     // Moves the host data of one row to another.
     static void MoveHostData(TGGridRow& from, TGGridRow& to);
     // Gives a row that stands in no grid the cells for the columns of now.

@@ -38,8 +38,8 @@ public:
     using GridChange::GridChange;
 
     void Add(TGGridCell& cell, const CString& oldText);
-    // The only cell, null when there are several.
-    bool IsOnly(const TGGridCell& cell) const;
+    // All texts are those of one cell, the one of this row and the column with this number.
+    bool IsOnly(const TGGridRow& row, unsigned serial) const;
 
     bool Fits() const override { return true; }
     bool Revert() override;
@@ -61,7 +61,7 @@ private:
         std::uint64_t expected;
         // Of `cols`.
         unsigned col;
-        // Where the old text begins; a null ends it.
+        // Where the old text begins; it ends where the next one begins.
         unsigned text;
     };
     bool RevertText(const Entry& entry);
@@ -263,7 +263,8 @@ private:
     struct Entry
     {
         std::size_t row;
-        std::size_t text;
+        // Where the text ends; it begins where the one before ends.
+        std::size_t textEnd;
         int style;
     };
     struct Beside

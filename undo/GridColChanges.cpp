@@ -1,8 +1,10 @@
 // Columns come in, leave with their texts, move and get other widths.
 #include "undo/GridChange.h"
 
+#include "grid/extras/ViewOf.h"
+
 #include <algorithm>
-#include <cwchar>
+#include <string_view>
 
 namespace QuorUiCtr
 {
@@ -68,9 +70,9 @@ void GridColOut::ReadCell(TGGridRow& row)
     const std::size_t place = number++;
     if (cell == nullptr || (cell->GetText().IsEmpty() && GridUndo::GetStyle(*cell) == 0))
         return;
+    const std::wstring_view text = ViewOf(cell->GetText());
+    texts.insert(texts.end(), text.begin(), text.end());
     entries.push_back({place, texts.size(), GridUndo::GetStyle(*cell)});
-    const wchar_t* const text = cell->GetText();
-    texts.insert(texts.end(), text, text + std::wcslen(text) + 1);
 }
 
 // Rows that other changes own have the cells of their time.
@@ -119,15 +121,17 @@ bool GridColOut::Revert()
     if (undo.GetGrid() == nullptr || !guard.IsTold())
         return false;
     std::size_t i = 0;
+    std::size_t text = 0;
     auto next = entries.begin();
     ForRows([&](TGGridRow& row) {
         if (next == entries.end() || next->row != i++)
             return;
         if (TGGridCell* cell = GridUndo::CellOf(row, position))
         {
-            cell->GetText() = texts.data() + next->text;
+            cell->GetText() = TextOf({texts.data() + text, next->textEnd - text});
             GridUndo::SetStyle(*cell, next->style);
         }
+        text = next->textEnd;
         ++next;
     });
     for (const Beside& other : beside)

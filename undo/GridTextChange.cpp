@@ -1,8 +1,10 @@
 // Texts of cells, kept side by side.
 #include "undo/GridChange.h"
 
+#include "grid/extras/ViewOf.h"
+
 #include <algorithm>
-#include <cwchar>
+#include <string_view>
 
 namespace QuorUiCtr
 {
@@ -10,14 +12,14 @@ namespace
 {
 
 // Texts that differ have different numbers but for one pair in 2^64.
-std::uint64_t NumberOfText(const wchar_t* text)
+std::uint64_t NumberOfText(std::wstring_view text)
 {
     constexpr std::uint64_t Start = 0xCBF29CE484222325U;
     constexpr std::uint64_t Spread = 0x9E3779B97F4A7C15U;
     std::uint64_t number = Start;
-    for (; *text != 0; ++text)
+    for (const wchar_t unit : text)
     {
-        number = (number ^ *text) * Spread;
+        number = (number ^ unit) * Spread;
         number ^= number >> 29;
     }
     return number;
@@ -41,13 +43,17 @@ bool GridChange::Keep(std::unique_ptr<TGGridRow>&)
 
 // ---- Texts
 
+// Cells are mostly changed along rows or columns: it is the column of the last one, or the next one.
 unsigned GridTextChange::ColOf(const TGGridCol& col)
 {
     const unsigned serial = GridUndo::GetSerial(col);
-    const auto found =
-        std::find_if(cols.rbegin(), cols.rend(), [&](const Col& known) { return known.serial == serial; });
-    if (found != cols.rend() && found->index == col.GetIndex())
-        return static_cast<unsigned>(cols.rend() - found - 1);
+    const std::size_t last = entries.empty() ? 0 : entries.back().col;
+    for (std::size_t i = 0; i < cols.size(); ++i)
+    {
+        const std::size_t place = (last + i) % cols.size();
+        if (cols[place].serial == serial && cols[place].index == col.GetIndex())
+            return static_cast<unsigned>(place);
+    }
     cols.push_back({col.GetIndex(), serial});
     return static_cast<unsigned>(cols.size() - 1);
 }
@@ -57,14 +63,15 @@ void GridTextChange::Add(TGGridCell& cell, const CString& oldText)
     GridUndo::Mark(cell.GetRow());
     const unsigned col = ColOf(cell.GetCol());
     const auto text = static_cast<unsigned>(texts.size());
-    texts.insert(texts.end(), oldText.GetString(), oldText.GetString() + std::wcslen(oldText) + 1);
-    entries.push_back({&cell.GetRow(), NumberOfText(cell.GetText()), col, text});
+    const std::wstring_view old = ViewOf(oldText);
+    texts.insert(texts.end(), old.begin(), old.end());
+    entries.push_back({&cell.GetRow(), NumberOfText(ViewOf(cell.GetText())), col, text});
 }
 
-bool GridTextChange::IsOnly(const TGGridCell& cell) const
+bool GridTextChange::IsOnly(const TGGridRow& row, unsigned serial) const
 {
     return std::all_of(entries.begin(), entries.end(), [&](const Entry& entry) {
-        return entry.row == &cell.GetRow() && cols[entry.col].serial == GridUndo::GetSerial(cell.GetCol());
+        return entry.row == &row && cols[entry.col].serial == serial;
     });
 }
 
@@ -76,11 +83,12 @@ bool GridTextChange::Revert()
         if (!RevertText(entry))
             return false;
         entries.pop_back();
+        texts.resize(entry.text);
     }
     return true;
 }
 
-// A text that an extension has brought back already is right.
+// The last entry. A text that an extension has brought back already is right.
 bool GridTextChange::RevertText(const Entry& entry)
 {
     GridUndo& undo = Undo();
@@ -91,11 +99,12 @@ bool GridTextChange::RevertText(const Entry& entry)
     TGGridCell* const cell = GridUndo::CellOf(*entry.row, place.index);
     if (cell == nullptr)
         return false;
-    const wchar_t* const oldText = texts.data() + entry.text;
-    if (NumberOfText(cell->GetText()) != entry.expected)
-        return std::wcscmp(cell->GetText(), oldText) == 0;
+    const std::wstring_view oldText(texts.data() + entry.text, texts.size() - entry.text);
+    const std::wstring_view present = ViewOf(cell->GetText());
+    if (NumberOfText(present) != entry.expected)
+        return present == oldText;
     const GridUndo::Reverting guard(undo, cell);
-    cell->SetText(oldText);
+    GridUndo::StoreText(*cell, TextOf(oldText));
     return undo.GetGrid() != nullptr;
 }
 

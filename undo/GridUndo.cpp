@@ -1,6 +1,7 @@
 // What a grid tells is recorded; the view around a step is kept and shown.
 #include "undo/GridUndo.h"
 
+#include "grid/extras/ViewOf.h"
 #include "grid/TGTreeGrid.h"
 #include "undo/GridChange.h"
 
@@ -307,13 +308,15 @@ void GridUndo::OnActionEnd(TGActionKind ended)
     Noting([&] {
         const bool isTyping = ended == TGActionKind::Type;
         const auto* const texts = isTyping ? Last<GridTextChange>(false) : nullptr;
-        const bool joins = texts != nullptr && openCell != nullptr && texts->IsOnly(*openCell) &&
+        const bool joins = texts != nullptr && openRow != nullptr && texts->IsOnly(*openRow, openCol) &&
                            openPosition == history.Position();
         long row = -1;
         long col = -1;
         const bool isOpen = GetGrid() != nullptr && isTyping && GetGrid()->GetCurCell(row, col);
-        const TGGridCell* const cell = isOpen ? FindCell(row, col) : nullptr;
-        openCell = texts != nullptr && cell != nullptr && texts->IsOnly(*cell) ? cell : nullptr;
+        openRow = isOpen ? FindRow(row) : nullptr;
+        openCol = isOpen ? SerialAt(col) : 0;
+        if (texts == nullptr || openRow == nullptr || !texts->IsOnly(*openRow, openCol))
+            openRow = nullptr;
         history.EndStep(joins);
         openPosition = history.Position();
     });
@@ -364,7 +367,7 @@ void GridUndo::Put(std::unique_ptr<GridChange> change)
 
 void GridUndo::OnTextChanged(TGGridCell& cell, const CString& oldText)
 {
-    if (!IsRecording() || oldText == cell.GetText())
+    if (!IsRecording() || ViewOf(oldText) == ViewOf(cell.GetText()))
         return;
     Noting([&] {
         Settle();
@@ -498,6 +501,8 @@ void GridUndo::OnColResized(TGGridCol& col, long oldWidth)
 // Of a row that goes with the step that owns it nobody knows, unless it has been in the row buffer.
 void GridUndo::OnRowDeleted(const TGGridRow* row)
 {
+    if (row == openRow)
+        openRow = nullptr;
     if (!IsMarked(*row) || (history.IsDropping() && travellers.count(const_cast<TGGridRow*>(row)) == 0))
         return;
     try

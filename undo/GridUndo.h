@@ -43,6 +43,7 @@ public:
     using TGGridExtension::OrderRows;
     using TGGridExtension::PutRows;
     using TGGridExtension::SetStyle;
+    using TGGridExtension::StoreText;
     using TGGridExtension::TakeCol;
     using TGGridExtension::TakeRows;
 
@@ -151,8 +152,10 @@ private:
     // There was no memory to note one.
     bool lost = false;
 
-    // The cell whose editor stayed open after a text of it was stored, and the position of the history then.
-    const TGGridCell* openCell = nullptr;
+    // The row and the column's number of the cell whose editor stayed open after a text of it was stored, and
+    // the position of the history then.
+    const TGGridRow* openRow = nullptr;
+    unsigned openCol = 0;
     unsigned openPosition = 0;
 };
 

@@ -306,6 +306,11 @@ void TGGridExtension::SetStyle(TGGridCell& cell, int style)
     cell.style = style;
 }
 
+void TGGridExtension::StoreText(TGGridCell& cell, CString text)
+{
+    cell.StoreText(std::move(text));
+}
+
 void TGGridExtension::MoveHostData(TGGridRow& from, TGGridRow& to)
 {
     to.SetExtendData(from.ReleaseExtendData());

@@ -212,10 +212,15 @@ std::shared_ptr<UndoView> GridUndo::KeepView()
     return view;
 }
 
+// The end of an edit that was begun since runs hooks, which may detach this object or others.
 void GridUndo::BeginRevert()
 {
+    if (GetGrid() == nullptr)
+        return;
     viewBefore = KeepView();
     GetGrid()->CancelEditCell();
+    if (GetGrid() == nullptr)
+        return;
     GetGrid()->BeginUpdate();
     updating = true;
     DropSelection();
@@ -244,8 +249,15 @@ void GridUndo::EndRevert(const UndoView* shown)
 
 // ---- The control
 
+// Where a drag would end is another place then.
 void GridUndo::EndEdit()
 {
+    if (GetGrid() == nullptr)
+        return;
+    const HWND window = GetGrid()->GetSafeHwnd();
+    if (const HWND captured = ::GetCapture();
+        captured != nullptr && (captured == window || ::IsChild(window, captured)))
+        ::ReleaseCapture();
     if (GetGrid() != nullptr)
         GetGrid()->EndEditCell();
 }

@@ -99,7 +99,8 @@ public:
     // TGTreeGrid::SetModified). Undoing and redoing back to here clears the flags again, going away sets
     // those of the controls concerned.
     void SetSaved();
-    // The history stands where SetSaved was called; at first, when no control was modified as it came.
+    // The history stands where SetSaved was called, or where it began. A control that comes modified ends
+    // that: nothing is saved until SetSaved is called again.
     bool IsSaved() const;
 
     // ---- For commands
@@ -114,7 +115,8 @@ protected:
     // A step is about to be taken back or made again; false refuses. Default: true.
     virtual bool OnUndoing(const CString& name);
     virtual bool OnRedoing(const CString& name);
-    // It is done, and the flags are set. Default: nothing.
+    // It is done, and the flags are set. What is changed here is no step, as what hooks change. Default:
+    // nothing.
     virtual void OnUndone(const CString& name);
     virtual void OnRedone(const CString& name);
     // Steps were dropped because a control has been changed past them. Default: nothing.
@@ -147,7 +149,8 @@ private:
 class QUOR_EXT_CLASS TGUndoTransaction
 {
 public:
-    // The name as users see it. Within another step, of a user or a transaction, it belongs to that one.
+    // The name as users see it. Within another step, of a user or a transaction, it belongs to that one. The
+    // stack must outlive the scope.
     TGUndoTransaction(TGUndoStack& groupedStack, const wchar_t* name);
     ~TGUndoTransaction();
     TGUndoTransaction(const TGUndoTransaction&) = delete;

@@ -90,7 +90,7 @@ bool UndoHistory::Leave(const CWnd& control)
 
 void UndoHistory::Add(std::shared_ptr<UndoRecorder> recorder)
 {
-    if (recorder->IsModified() && IsSaved())
+    if (recorder->IsModified())
         saved = NoPosition;
     recorders.push_back(std::move(recorder));
 }

@@ -50,7 +50,10 @@ bool UndoHistory::Go(bool back)
         return false;
     if (!GoBy(back))
         return false;
-    listener.TellStep(back, name);
+    {
+        const ScopedValue drifting(settling, true);
+        listener.TellStep(back, name);
+    }
     listener.TellHistory();
     return true;
 }

@@ -1,0 +1,340 @@
+// Undo where things come in an odd order: hooks of the stack that change and end, several grids, rows that go
+// for good, drags and selections of several ranges.
+#include "grid/extras/TGCellCursor.h"
+#include "grid/TGCellEdit.h"
+#include "tests/grid/EditGrid.h"
+#include "tests/support/Input.h"
+#include "tests/undo/GridSteps.h"
+
+#include <string_view>
+
+using namespace QuorUiCtr;
+
+namespace quor::test
+{
+namespace
+{
+
+// A stack whose hooks a test scripts.
+class ActingStack : public TGUndoStack
+{
+public:
+    std::function<void()> undoing;
+    std::function<void()> undone;
+
+protected:
+    bool OnUndoing(const CString&) override
+    {
+        if (undoing)
+            undoing();
+        return true;
+    }
+    void OnUndone(const CString&) override
+    {
+        if (undone)
+            undone();
+    }
+};
+
+class OddOrders : public EditTest
+{
+protected:
+    OddOrders()
+    {
+        EditTest::Make(grid, 4, 3);
+        grid.recording = false;
+    }
+    // A second grid, on top of the first one.
+    void MakeOther()
+    {
+        EditTest::Make(other, 2, 2);
+        other.recording = false;
+    }
+    static void Type(TGGrid& typed, long row, long col, const wchar_t* text)
+    {
+        const TGUserAction action(typed, TGActionKind::Type);
+        typed.GetCell(row, col).SetText(text);
+    }
+
+    ActingStack stack;
+    EditGrid grid;
+    EditGrid other;
+};
+
+// ---- Hooks of the stack
+
+TEST_F(OddOrders, WhatOnUndoneChanges_IsNoStep)
+{
+    stack.Watch(grid);
+    Type(grid, 0, 0, L"1");
+    stack.undone = [this] { grid.GetCell(1, 1).SetText(L"hook"); };
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(stack.GetUndoNum(), 0);
+    EXPECT_EQ(stack.GetRedoNum(), 1);
+    EXPECT_TRUE(stack.Redo());
+    EXPECT_EQ(TextOf(grid, 0, 0), L"1");
+    EXPECT_EQ(TextOf(grid, 1, 1), L"1,1");
+}
+
+// An editor that does something when it loses the focus.
+struct LeftEdit : TGCellEdit
+{
+    using TGCellEdit::TGCellEdit;
+    std::function<void()> act;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_KILLFOCUS)
+            act();
+        return TGCellEdit::WindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(OddOrders, AControlThatLeavesWhenAnotherIsAboutToBeReverted_IsLeftOut)
+{
+    MakeOther();
+    ASSERT_TRUE(Activate(host));
+    stack.Watch(grid);
+    stack.Watch(other);
+    {
+        const TGUndoTransaction both(stack, L"both");
+        grid.GetCell(0, 0).SetText(L"1");
+        other.GetCell(0, 0).SetText(L"2");
+    }
+    int gone = 0;
+    grid.makeEditor = [&](TGGridCell& cell) -> TGCellCtrl* {
+        auto* const made = new LeftEdit(cell);
+        made->act = [&] { gone += stack.Unwatch(other) ? 1 : 0; };
+        return made;
+    };
+    // The edit that the question has opened is cancelled.
+    stack.undoing = [this] { grid.BeginEditCell(1, 1); };
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(gone, 1);
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+    EXPECT_EQ(TextOf(other, 0, 0), L"2");
+}
+
+TEST_F(OddOrders, Undo_FromWithinAHookOfAnAction_IsRefused)
+{
+    MakeOther();
+    stack.Watch(grid);
+    stack.Watch(other);
+    Type(other, 0, 0, L"before");
+    int refused = 0;
+    grid.dataChanged = [&] { refused += stack.Undo() ? 0 : 1; };
+    grid.SelectRow(1, true);
+    grid.DoDelete();
+    EXPECT_EQ(refused, 1);
+    EXPECT_EQ(TextOf(other, 0, 0), L"before");
+    grid.dataChanged = nullptr;
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(grid.GetRowNum(), 4);
+}
+
+// ---- Rows that go for good
+
+TEST_F(OddOrders, ACellThatHasGoneSinceItsEdit_IsNotJoined)
+{
+    stack.Watch(grid);
+    grid.GetCol(1).SetComboEdit(true);
+    grid.comboStrings = [](TGGridCell&, CComboBox& combo) { combo.AddString(L"one"); };
+    grid.BeginEditCell(0, 1);
+    auto* const combo = static_cast<CComboBox*>(grid.EditorWindow());
+    combo->SetCurSel(0);
+    grid.SendMessage(WM_COMMAND, MAKEWPARAM(combo->GetDlgCtrlID(), CBN_SELCHANGE),
+                     reinterpret_cast<LPARAM>(combo->m_hWnd));
+    ASSERT_EQ(stack.GetUndoNum(), 1);
+    {
+        const TGUndoPause pause(stack);
+        grid.CancelEditCell();
+        const TGGridRow* const gone = &grid.GetRow(0);
+        grid.DelRow(0);
+        // Another row, soon at the same address.
+        grid.InsertRow(0, nullptr);
+        for (int i = 0; &grid.GetRow(0) != gone && i < 1000; ++i)
+            grid.InsertRow(0, nullptr);
+    }
+    Type(grid, 0, 1, L"typed");
+    EXPECT_EQ(stack.GetUndoNum(), 2);
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(TextOf(grid, 0, 1), L"");
+}
+
+// ---- The saved point
+
+TEST_F(OddOrders, AControlThatCameModified_IsNotCalledSaved)
+{
+    stack.Watch(grid);
+    MakeOther();
+    Type(grid, 0, 0, L"1");
+    other.SetModify(true);
+    stack.Watch(other);
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_TRUE(other.IsModified());
+    EXPECT_FALSE(stack.IsSaved());
+}
+
+TEST_F(OddOrders, ASavedPointWhoseStepWasDropped_IsNotReached)
+{
+    stack.Watch(grid);
+    stack.SetLimits(2, 0);
+    Type(grid, 0, 0, L"1");
+    stack.SetSaved();
+    for (const wchar_t* text : {L"2", L"3", L"4"})
+        Type(grid, 0, 0, text);
+    while (stack.Undo())
+        EXPECT_FALSE(stack.IsSaved());
+    EXPECT_EQ(TextOf(grid, 0, 0), L"2");
+    EXPECT_TRUE(grid.IsModified());
+}
+
+TEST_F(OddOrders, ASavedPointBelowTheFirstStep_IsReached)
+{
+    stack.Watch(grid);
+    stack.SetLimits(2, 0);
+    Type(grid, 0, 0, L"1");
+    stack.SetSaved();
+    for (const wchar_t* text : {L"2", L"3"})
+        Type(grid, 0, 0, text);
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_TRUE(stack.IsSaved());
+    EXPECT_FALSE(grid.IsModified());
+}
+
+TEST_F(OddOrders, AStepBeyondTheLimit_TakesTheHistoryAlong_AndNothingElse)
+{
+    stack.Watch(grid);
+    Type(grid, 0, 0, L"1");
+    stack.SetLimits(0, 100'000);
+    Type(grid, 0, 1, CString(L'x', 1'000'000));
+    Type(grid, 0, 1, L"short");
+    EXPECT_EQ(stack.GetUndoNum(), 0);
+    EXPECT_LT(stack.GetBytes(), 100'000U);
+    EXPECT_FALSE(stack.Undo());
+    EXPECT_EQ(TextOf(grid, 0, 1), L"short");
+    Type(grid, 0, 2, L"small");
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(TextOf(grid, 0, 2), L"0,2");
+}
+
+// ---- Texts with any characters
+
+CString WithNul()
+{
+    return CString(L"one\0two", 7);
+}
+
+bool IsWithNul(const CString& text)
+{
+    return std::wstring_view(text.GetString(), static_cast<std::size_t>(text.GetLength())) ==
+           std::wstring_view(L"one\0two", 7);
+}
+
+// Types as extensions do.
+struct Typist : TGGridExtension
+{
+    explicit Typist(TGGrid& typed) { AttachTo(typed); }
+    ~Typist() override { Detach(); }
+    void Type(TGGridCell& cell, const CString& text) const { TryTypeInto(cell, text); }
+};
+
+TEST_F(OddOrders, ATextWithANul_ComesBackWhole)
+{
+    stack.Watch(grid);
+    const Typist typist(grid);
+    typist.Type(grid.GetCell(0, 0), WithNul());
+    typist.Type(grid.GetCell(0, 0), CString(L"one\0other", 9));
+    EXPECT_EQ(stack.GetUndoNum(), 2) << "what differs behind the NUL is a change";
+    typist.Type(grid.GetCell(0, 0), L"plain");
+    stack.Undo();
+    EXPECT_EQ(grid.GetCell(0, 0).GetText().GetLength(), 9);
+    stack.Undo();
+    EXPECT_TRUE(IsWithNul(grid.GetCell(0, 0).GetText()));
+    stack.Undo();
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+    stack.Redo();
+    EXPECT_TRUE(IsWithNul(grid.GetCell(0, 0).GetText()));
+}
+
+TEST_F(OddOrders, ATextWithANul_ComesBackWithItsColumn)
+{
+    stack.Watch(grid);
+    grid.GetCell(1, 1).GetText() = WithNul();
+    grid.DelCol(1);
+    stack.Undo();
+    EXPECT_TRUE(IsWithNul(grid.GetCell(1, 1).GetText()));
+    EXPECT_EQ(TextOf(grid, 2, 1), L"2,1");
+}
+
+// ---- What is shown
+
+class OddViews : public OddOrders
+{
+protected:
+    OddViews()
+    {
+        cursor.AttachTo(grid);
+        stack.Watch(grid);
+        Activate(host);
+        grid.SetFocus();
+        PumpPending();
+    }
+    std::string Ranges() const
+    {
+        std::string text;
+        for (const TGCellRange& range : cursor.GetRanges())
+            text += std::to_string(range.top) + "," + std::to_string(range.left) + "-" +
+                    std::to_string(range.bottom) + "," + std::to_string(range.right) + " ";
+        return text + "at " + std::to_string(cursor.GetRow()) + "," + std::to_string(cursor.GetCol());
+    }
+
+    TGCellCursor cursor;
+};
+
+TEST_F(OddViews, SeveralRangesComeBack_WithTheCurrentCell)
+{
+    cursor.SelectRange({0, 0, 0, 1});
+    cursor.SelectRange({1, 1, 3, 2}, true);
+    const std::string before = Ranges();
+    ASSERT_EQ(before, "0,0-0,1 1,1-3,2 at 3,2");
+    cursor.EmptyRanges();
+    cursor.MoveTo(0, 2);
+    stack.Undo();
+    EXPECT_EQ(Ranges(), before);
+    cursor.MoveTo(0, 2);
+    stack.Redo();
+    EXPECT_EQ(Ranges(), before);
+}
+
+// ---- Drags
+
+class OddDrags : public OddOrders
+{
+protected:
+    OddDrags()
+    {
+        stack.Watch(grid);
+        Activate(host);
+        PumpPending();
+    }
+};
+
+TEST_F(OddDrags, UndoWhileAColumnIsResized_EndsTheDrag)
+{
+    grid.InsertCol(0, L"new", 60);
+    const HWND header = grid.GetDlgItem(103)->m_hWnd;
+    SendMouse(header, WM_LBUTTONDOWN, CPoint(59, 10), MK_LBUTTON);
+    SendMouse(header, WM_MOUSEMOVE, CPoint(90, 10), MK_LBUTTON);
+    ASSERT_EQ(::GetCapture(), header);
+    EXPECT_TRUE(stack.Undo());
+    SendMouse(header, WM_LBUTTONUP, CPoint(90, 10));
+    EXPECT_EQ(grid.GetCol(0).GetWidth(), 100);
+    EXPECT_EQ(stack.GetUndoNum(), 0);
+    EXPECT_EQ(stack.GetRedoNum(), 1);
+}
+
+} // namespace
+} // namespace quor::test

@@ -4,8 +4,11 @@
 #include "rules/Digits.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <cstddef>
 #include <cstdlib>
+#include <iterator>
 
 namespace QuorUiCtr
 {
@@ -56,6 +59,33 @@ std::optional<DecimalNumber> ReadDecimal(std::wstring_view text)
     if (negative)
         number.digits = -number.digits;
     return number;
+}
+
+// By text, which alone says where a decimal number was meant; not by one of the locale.
+std::optional<DecimalNumber> DecimalOf(double number)
+{
+    if (!std::isfinite(number))
+        return std::nullopt;
+    char text[32];
+    const char* const end =
+        std::to_chars(text, std::end(text), number, std::chars_format::scientific, MostDigits - 1).ptr;
+    const char* const exponentAt = std::find<const char*>(text, end, 'e') + 1;
+    int exponent = 0;
+    std::from_chars(exponentAt + (*exponentAt == '+' ? 1 : 0), end, exponent);
+    DecimalNumber decimal;
+    for (const char* at = text; *at != 'e'; ++at)
+        if (*at >= '0' && *at <= '9')
+            decimal.digits = decimal.digits * 10 + (*at - '0');
+    decimal.decimals = MostDigits - 1 - exponent;
+    for (; decimal.digits % 10 == 0 && decimal.digits != 0 && decimal.decimals > 0; --decimal.decimals)
+        decimal.digits /= 10;
+    if (decimal.digits == 0)
+        return DecimalNumber();
+    if (decimal.decimals < 0 || decimal.decimals > MostDigits)
+        return std::nullopt;
+    if (number < 0)
+        decimal.digits = -decimal.digits;
+    return decimal;
 }
 
 std::wstring WriteDecimal(const DecimalNumber& number)

@@ -18,6 +18,9 @@ struct DecimalNumber
 // Reads "12", "-1.50" or "+3", blanks around it left out. Nothing for other texts, also for one with an
 // exponent, and for numbers of more than 15 digits.
 std::optional<DecimalNumber> ReadDecimal(std::wstring_view text);
+// The number with the fewest decimals that is `number` to 15 digits: 0.1 is one tenth. Nothing for one that
+// is not finite, too large, or of more than 15 decimals.
+std::optional<DecimalNumber> DecimalOf(double number);
 // With as many decimals as it has: "-1.50".
 std::wstring WriteDecimal(const DecimalNumber& number);
 

@@ -8,17 +8,6 @@
 
 namespace QuorUiCtr
 {
-namespace
-{
-
-CString DecimalText(double number)
-{
-    CString text;
-    text.Format(L"%.15g", number);
-    return text;
-}
-
-} // namespace
 
 // ---- The same for every range
 
@@ -97,7 +86,7 @@ TGClipboardReport TGClipboard::FillFrom(Direction direction)
 TGClipboardReport TGClipboard::FillSeries(Direction direction, std::optional<double> step)
 {
     const bool down = direction == Direction::Down;
-    const auto given = step ? ReadDecimal(ViewOf(DecimalText(*step))) : std::nullopt;
+    const auto given = step ? DecimalOf(*step) : std::nullopt;
     return Perform(TGClipboardAction::Fill, [&](Operation& operation) {
         // A step of too many digits, or of none.
         if (step && !given)

@@ -1,6 +1,8 @@
 // Filling, emptying and cutting cells.
 #include "tests/clipboard/ClipboardTest.h"
 
+#include <clocale>
+
 using namespace QuorUiCtr;
 
 namespace quor::test
@@ -77,6 +79,31 @@ TEST_F(Filling, Series_GoOnInEachColumn)
     grid.GetCell(1, 2).SetText(L"");
     EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down)), "done 3");
     EXPECT_EQ(grid.GetCell(3, 2).GetText(), L"Item 12");
+}
+
+// A comma for the numbers of the C runtime, as after setlocale in German.
+class GermanNumbers
+{
+public:
+    GermanNumbers() : isSet(std::setlocale(LC_NUMERIC, "German") != nullptr) {}
+    ~GermanNumbers() { std::setlocale(LC_NUMERIC, "C"); }
+    GermanNumbers(const GermanNumbers&) = delete;
+    GermanNumbers& operator=(const GermanNumbers&) = delete;
+
+    const bool isSet;
+};
+
+TEST_F(Filling, Series_HaveTheStepThatIsGiven_InEveryLocale)
+{
+    Make(3, 1);
+    grid.GetCell(0, 0).SetText(L"1");
+    Select(0, 0, 2, 0);
+    const GermanNumbers german;
+    ASSERT_TRUE(german.isSet);
+    EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down, 0.1)), "done 2");
+    EXPECT_EQ(AllTexts(grid), "1 / 1.1 / 1.2");
+    EXPECT_EQ(Text(clipboard.FillSeries(TGClipboard::Direction::Down, 0.00002)), "done 2");
+    EXPECT_EQ(AllTexts(grid), "1 / 1.00002 / 1.00004");
 }
 
 TEST_F(Filling, AsksTheHooksOfTyping_AndTellsOnce)

@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <limits>
+
 using namespace QuorUiCtr;
 
 namespace quor::test
@@ -33,6 +35,28 @@ TEST(Series, KeepTheDecimals_AndInventNone)
     EXPECT_EQ(Three(L"0.1", L"0.2"), L"0.1 0.2 0.3");
     EXPECT_EQ(Three(L"0.05", L"0"), L"0.05 0.00 -0.05");
     EXPECT_EQ(Three(L".5"), L"0.5 1.5 2.5");
+}
+
+TEST(Series, DecimalOfADouble_IsWhatWasMeant)
+{
+    const auto text = [](double number) {
+        const auto decimal = DecimalOf(number);
+        return decimal ? WriteDecimal(*decimal) : std::wstring(L"-");
+    };
+    EXPECT_EQ(text(0.1), L"0.1");
+    EXPECT_EQ(text(0.1 + 0.2), L"0.3");
+    EXPECT_EQ(text(-2.5), L"-2.5");
+    EXPECT_EQ(text(0), L"0");
+    EXPECT_EQ(text(-0.0), L"0");
+    EXPECT_EQ(text(1200), L"1200");
+    EXPECT_EQ(text(1e14), L"100000000000000");
+    EXPECT_EQ(text(123456789012345), L"123456789012345");
+    EXPECT_EQ(text(1e15), L"-");
+    EXPECT_EQ(text(0.00002), L"0.00002");
+    EXPECT_EQ(text(1e-15), L"0.000000000000001");
+    for (const double none : {1e-16, 1e300, 1e-300, std::numeric_limits<double>::infinity(),
+                              std::numeric_limits<double>::quiet_NaN()})
+        EXPECT_EQ(text(none), L"-");
 }
 
 TEST(Series, OtherTexts_AreNone)

@@ -63,9 +63,10 @@ bool ClipboardWindow::Offer(std::span<const UINT> formats, Render render, std::f
 {
     if (!MakeWindow())
         return false;
-    const OpenedClipboard clipboard(m_hWnd, patience);
-    // Ends an earlier offer of this window, too.
-    if (!clipboard.IsOpen() || !::EmptyClipboard())
+    const HWND own = m_hWnd;
+    const OpenedClipboard clipboard(own, patience);
+    // Ends an earlier offer of this window, too, or tells another one, which may delete this one.
+    if (!clipboard.IsOpen() || !::EmptyClipboard() || !::IsWindow(own))
         return false;
     owed.assign(formats.begin(), formats.end());
     renderFormat = std::move(render);

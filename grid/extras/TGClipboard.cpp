@@ -46,21 +46,21 @@ bool TGClipboard::IsCalledFirst() const
 
 void TGClipboard::OnDetach(TGGrid&)
 {
-    if (copied != nullptr)
-        copied->Freeze();
+    for (const auto& cells : copies)
+        cells->Freeze();
 }
 
 void TGClipboard::OnTextChanged(TGGridCell& cell, const CString& oldText)
 {
-    if (copied != nullptr)
-        copied->NoteText(cell, oldText);
+    for (const auto& cells : copies)
+        cells->NoteText(cell, oldText);
 }
 
 // The texts of the rows can be read still.
 void TGClipboard::OnRowsRemoved(TGRemovedRows& removed)
 {
-    if (copied != nullptr)
-        copied->Freeze();
+    for (const auto& cells : copies)
+        cells->Freeze();
     if (running != nullptr)
         for (TGGridRow* row : removed.GetRows())
             running->ForgetTree(*row);
@@ -68,16 +68,16 @@ void TGClipboard::OnRowsRemoved(TGRemovedRows& removed)
 
 void TGClipboard::OnColRemoving(TGGridCol& col)
 {
-    if (copied != nullptr)
-        copied->Freeze();
+    for (const auto& cells : copies)
+        cells->Freeze();
     if (running != nullptr)
         running->ForgetCol(col);
 }
 
 void TGClipboard::OnRowDeleted(const TGGridRow* row)
 {
-    if (copied != nullptr)
-        copied->NoteDeleted(row);
+    for (const auto& cells : copies)
+        cells->NoteDeleted(row);
     if (running != nullptr)
         running->rows.Forget(row);
 }
@@ -123,11 +123,16 @@ bool TGClipboard::CopySelected(Operation& operation, bool all)
     cells->Close();
     if (!operation.Allows(static_cast<long long>(cells->GetCellNum())))
         return false;
-    return Offer(operation, std::move(cells));
+    return Offer(operation, cells);
 }
 
-// Emptying the clipboard ends the offer of an earlier copy, so that the new one is noted behind it.
-bool TGClipboard::Offer(Operation& operation, std::shared_ptr<Copied> cells)
+void TGClipboard::Drop(const Copied* cells)
+{
+    std::erase_if(copies, [cells](const auto& copy) { return copy.get() == cells; });
+}
+
+// While the clipboard is waited for and emptied, others may do anything.
+bool TGClipboard::Offer(Operation& operation, const std::shared_ptr<Copied>& cells)
 {
     if (window == nullptr)
         window = std::make_unique<ClipboardWindow>();
@@ -135,22 +140,23 @@ bool TGClipboard::Offer(Operation& operation, std::shared_ptr<Copied> cells)
         return RenderFormat(
             format, [&](CellSink& sink) { cells->WriteTo(sink, withCaptions || IsOwnFormat(format)); });
     };
-    const auto ended = [this, known = cells.get()] {
-        if (copied.get() == known)
-            copied.reset();
-    };
-    const long number = static_cast<long>(cells->GetCellNum());
+    const auto ended = [this, known = cells.get()] { Drop(known); };
+    copies.push_back(cells);
     const bool offered = window->Offer(ClipboardFormats(), render, ended, patience);
-    if (!operation.IsAlive())
+    if (operation.clipboard == nullptr)
+    {
+        operation.report.Refuse(TGClipboardRefusal::NotAllowed);
         return false;
+    }
     if (!offered)
     {
+        Drop(cells.get());
         operation.report.Refuse(TGClipboardRefusal::ClipboardBusy);
         return false;
     }
-    copied = std::move(cells);
-    operation.report.done = number;
-    return true;
+    copies.assign(1, cells);
+    operation.report.done = static_cast<long>(cells->GetCellNum());
+    return operation.IsAlive();
 }
 
 } // namespace QuorUiCtr

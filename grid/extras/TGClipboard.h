@@ -8,6 +8,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <vector>
 
 namespace QuorUiCtr
 {
@@ -181,7 +182,8 @@ private:
 
     // Copying: whether it is on the clipboard then.
     bool CopySelected(Operation& operation, bool all);
-    bool Offer(Operation& operation, std::shared_ptr<Copied> cells);
+    bool Offer(Operation& operation, const std::shared_ptr<Copied>& cells);
+    void Drop(const Copied* cells);
 
     // Pasting.
     void PasteTable(Operation& operation, const CellTable& table, PasteWay way);
@@ -209,7 +211,8 @@ private:
     DWORD patience = 1000;
     std::function<void(const TGClipboardReport&)> onReport;
 
-    std::shared_ptr<Copied> copied;
+    // What is still to be rendered: the last copy, and while another one waits for the clipboard, that, too.
+    std::vector<std::shared_ptr<Copied>> copies;
     Operation* running = nullptr;
     std::unique_ptr<ClipboardWindow> window;
 };

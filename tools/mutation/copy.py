@@ -37,6 +37,7 @@ class Copy:
         self.numbers, self.ways = known.get("numbers", {}), known.get("ways", {})
         self.recording = set()  # the source of each program that gets the recorder
         self.switched = set()  # the changes that are built in
+        self.alone = None  # the file that has a change of its own, without switches
 
     @property
     def is_native(self):
@@ -156,6 +157,10 @@ class Copy:
 
     def build_alone(self, change, programs):
         """Builds the programs with this one change and no switches in its file; whether the compiler takes it."""
+        # What the one before it has changed may be what the compiler refuses.
+        if self.alone is not None:
+            self.write(self.alone, (ROOT / self.alone).read_bytes())
+        self.alone = change.file
         text = (ROOT / change.file).read_text(encoding="utf-8")
         self.write(change.file, plan.changed_text(change, text).encode())
         return self.compile(programs)

@@ -5,5 +5,6 @@
 #define IDD_SECOND_PAGE 202
 #define IDC_NAME 301
 #define IDC_NUMBER 302
+#define IDS_NUMBER_ONE 1
 #define IDS_SHEET 401
 #define IDS_FIRST_PAGE 402

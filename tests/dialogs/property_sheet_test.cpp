@@ -224,6 +224,7 @@ TEST_F(SheetWithTabs, PagesComeAndGo)
         EXPECT_EQ(&three, m_sheet.GetPage(2));
         m_sheet.RemovePage(&m_two);
         EXPECT_EQ(2, m_sheet.GetTabControl()->GetItemCount());
+        EXPECT_EQ(0, m_sheet.GetPageIndex(&m_one));
         EXPECT_EQ(1, m_sheet.GetPageIndex(&three));
         EXPECT_TRUE(m_sheet.SetActivePage(&three));
         EXPECT_NE(nullptr, three.m_hWnd);
@@ -233,6 +234,7 @@ TEST_F(SheetWithTabs, PagesComeAndGo)
     EXPECT_EQ(2, m_sheet.GetPageCount());
     m_sheet.RemovePage(1);
     EXPECT_EQ(1, m_sheet.GetPageCount());
+    EXPECT_EQ(&m_one, m_sheet.GetPage(0));
 }
 
 TEST_F(SheetWithTabs, PagesAskTheirSiblings)
@@ -317,7 +319,14 @@ TEST_F(SheetWithTabs, ModelessHasNoButtonsAndLeavesTheOwnerEnabled)
     EXPECT_TRUE(m_host.IsWindowEnabled());
     EXPECT_TRUE(m_sheet.IsWindowVisible());
     for (const int id : {IDOK, IDCANCEL, static_cast<int>(ID_APPLY_NOW)})
-        EXPECT_FALSE(::IsWindowVisible(::GetDlgItem(m_sheet.m_hWnd, id))) << id;
+    {
+        const HWND button = ::GetDlgItem(m_sheet.m_hWnd, id);
+        EXPECT_FALSE(::IsWindowVisible(button)) << id;
+        CRect place, sheet;
+        ::GetWindowRect(button, &place);
+        m_sheet.GetWindowRect(&sheet);
+        EXPECT_GE(place.top, sheet.bottom) << "the sheet ends where the buttons would be";
+    }
     EXPECT_TRUE(::IsWindowVisible(m_one.m_hWnd));
     EXPECT_TRUE(m_sheet.SetActivePage(1));
     EXPECT_EQ("one:init one:active one:kill two:init two:active ", TakeLog());

@@ -51,6 +51,7 @@ TEST(PageConstruction, InTwoSteps)
     pages[1].Construct(L"A PAGE", IDS_FIRST_PAGE);
     EXPECT_STREQ(pages[1].m_psp.pszTemplate, L"A PAGE");
     EXPECT_STREQ(pages[1].m_psp.pszTitle, L"Renamed");
+    EXPECT_FALSE(pages[1].m_psp.dwFlags & (PSP_USEHEADERTITLE | PSP_USEHEADERSUBTITLE));
     pages[2].Construct(static_cast<UINT>(IDD_FIRST_PAGE), 0, IDS_SHEET);
     EXPECT_EQ(pages[2].m_psp.pszTemplate, MAKEINTRESOURCE(IDD_FIRST_PAGE));
     EXPECT_STREQ(pages[2].m_psp.pszHeaderTitle, L"Settings");

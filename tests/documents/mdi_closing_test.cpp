@@ -129,7 +129,7 @@ TEST_F(MdiDocuments, DestroyingTheFrame_TakesTheChildrenAlong)
     EXPECT_EQ(LetterDocument::live, 0);
 }
 
-// Chooses an entry of the dialog that ID_FILE_NEW shows.
+// Chooses an entry of the dialog that ID_FILE_NEW shows; -1 leaves the choice as it is.
 class KindChooser
 {
 public:
@@ -159,7 +159,8 @@ private:
             ::SendMessage(list, LB_GETTEXT, static_cast<WPARAM>(i), reinterpret_cast<LPARAM>(text));
             current->entries += Text(text) + "|";
         }
-        ::SendMessage(list, LB_SETCURSEL, static_cast<WPARAM>(current->m_index), 0);
+        if (current->m_index >= 0)
+            ::SendMessage(list, LB_SETCURSEL, static_cast<WPARAM>(current->m_index), 0);
         ::PostMessage(dialog, WM_COMMAND, static_cast<WPARAM>(current->m_button), 0);
     }
 
@@ -185,6 +186,15 @@ TEST_F(MdiDocuments, FileNew_AsksForTheKind)
     KindChooser chooser(0, IDCANCEL);
     m_app.OnFileNew();
     EXPECT_EQ(LetterDocument::live, 1);
+}
+
+TEST_F(MdiDocuments, FileNew_BeginsWithTheFirstKind)
+{
+    KindChooser chooser(-1, IDOK);
+    m_app.OnFileNew();
+    EXPECT_EQ(chooser.entries, "A letter|A note|");
+    ASSERT_NE(m_frame->MDIGetActive(), nullptr);
+    EXPECT_EQ(Title(m_frame->MDIGetActive()->m_hWnd), "Letter1");
 }
 
 TEST_F(MdiDocuments, ShellCommand_OpensOrMakesDocuments)

@@ -30,6 +30,39 @@ TEST_F(MdiDocuments, TheClientWindow_FillsTheFrame)
     }
 }
 
+TEST_F(MdiDocuments, AChild_HasThePlaceItIsGiven)
+{
+    CMDIChildWnd* const child = new CMDIChildWnd;
+    const CRect place(30, 20, 230, 170);
+    ASSERT_TRUE(child->Create(NULL, L"Placed", WS_CHILD | WS_VISIBLE | WS_OVERLAPPEDWINDOW, place, m_frame));
+    CRect rect;
+    child->GetWindowRect(&rect);
+    m_frame->GetDlgItem(AFX_IDW_PANE_FIRST)->ScreenToClient(&rect);
+    EXPECT_EQ(rect, place);
+    child->DestroyWindow();
+}
+
+TEST_F(MdiDocuments, TheClientWindow_IsEmptyUntilTheFrameIsLaidOut)
+{
+    class EmptyFrame : public CMDIFrameWnd
+    {
+    public:
+        CRect client = CRect(1, 1, 2, 2);
+
+    protected:
+        BOOL OnCreateClient(LPCREATESTRUCT create, CCreateContext* context) override
+        {
+            const BOOL created = CMDIFrameWnd::OnCreateClient(create, context);
+            GetDlgItem(AFX_IDW_PANE_FIRST)->GetWindowRect(&client);
+            return created;
+        }
+    };
+    EmptyFrame* const frame = new EmptyFrame;
+    ASSERT_TRUE(frame->Create(NULL, L"Frame"));
+    EXPECT_EQ(frame->client.Size(), CSize(0, 0));
+    frame->DestroyWindow();
+}
+
 TEST_F(MdiDocuments, ANewDocument_ComesInAnActiveChild)
 {
     LetterDocument* document = NewLetter();

@@ -312,6 +312,22 @@ TEST_F(DynamicSplitter, SplitRow_RefusesPanesThatWouldBeTooSmall)
     EXPECT_EQ(splitter.GetRowCount(), 1);
 }
 
+TEST_F(DynamicSplitter, TheBarsOfRowsAndColumnsLieBesideThem)
+{
+    ASSERT_TRUE(splitter.SplitRow(100));
+    ASSERT_TRUE(splitter.SplitColumn(200));
+    for (int line = 0; line < 2; ++line)
+    {
+        // Before the first one there is the box that splits, unless there are as many lines as there may be.
+        const CRect vertical = RectIn(*Bar(AFX_IDW_VSCROLL_FIRST + line), splitter);
+        EXPECT_EQ(vertical.top, Pane(line, 0).top - 2) << line;
+        EXPECT_EQ(vertical.bottom, Pane(line, 0).bottom + 2) << line;
+        const CRect horizontal = RectIn(*Bar(AFX_IDW_HSCROLL_FIRST + line), splitter);
+        EXPECT_EQ(horizontal.left, Pane(0, line).left - 2) << line;
+        EXPECT_EQ(horizontal.right, Pane(0, line).right + 2) << line;
+    }
+}
+
 TEST_F(DynamicSplitter, DeleteRow_MovesTheOtherPanesUp)
 {
     ASSERT_TRUE(splitter.SplitRow(100));
@@ -416,6 +432,40 @@ TEST_F(DynamicSplitter, KeyboardSplit_FollowsTheArrowKeys)
     splitter.SendMessage(WM_KEYDOWN, VK_RETURN);
     EXPECT_FALSE(splitter.IsTracking());
     EXPECT_EQ(Pane(0, 0).Size(), before + CSize(-16, 16));
+}
+
+// As many columns as there may be, in two rows with a bar each.
+class WideSplitter : public SplitterTest
+{
+protected:
+    static constexpr int Columns = 16;
+
+    BOOL Fill() override
+    {
+        if (!splitter.CreateStatic(frame, 2, Columns, WS_CHILD | WS_VISIBLE | WS_VSCROLL))
+            return FALSE;
+        CCreateContext context;
+        for (int row = 0; row < 2; ++row)
+            for (int col = 0; col < Columns; ++col)
+                if (!splitter.CreateView(row, col, RUNTIME_CLASS(LargeView), CSize(5, 100), &context))
+                    return FALSE;
+        return TRUE;
+    }
+
+    int Position(int row, int col) const
+    {
+        return static_cast<CScrollView*>(splitter.GetPane(row, col))->GetScrollPosition().y;
+    }
+};
+
+TEST_F(WideSplitter, DoScrollBy_ScrollsItsOwnRowOnly)
+{
+    EXPECT_TRUE(splitter.DoScrollBy(static_cast<CView*>(splitter.GetPane(0, 3)), CSize(0, 7)));
+    for (int col = 0; col < Columns; ++col)
+    {
+        EXPECT_EQ(Position(0, col), 7) << col;
+        EXPECT_EQ(Position(1, col), 0) << col;
+    }
 }
 
 } // namespace

@@ -272,6 +272,82 @@ TEST_F(PropertyGridRest, ColoursAreReadAsTheyWereSet)
     EXPECT_EQ(picture.At(list.right - 3, list.bottom - 3), RGB(1, 0, 0));
 }
 
+// A white picture in memory to draw into.
+class Paper : public CDC
+{
+public:
+    Paper() : m_screen(NULL)
+    {
+        CreateCompatibleDC(NULL);
+        m_picture.CreateCompatibleBitmap(&m_screen, Width, Height);
+        m_before = SelectObject(&m_picture);
+        FillSolidRect(0, 0, Width, Height, RGB(255, 255, 255));
+    }
+    ~Paper() override { SelectObject(m_before); }
+
+    static constexpr int Width = 150;
+    static constexpr int Height = 40;
+
+    bool operator==(const Paper& other) const
+    {
+        for (int x = 0; x < Width; ++x)
+            for (int y = 0; y < Height; ++y)
+                if (GetPixel(x, y) != other.GetPixel(x, y))
+                    return false;
+        return true;
+    }
+
+private:
+    CClientDC m_screen;
+    CBitmap m_picture;
+    CBitmap* m_before;
+};
+
+TEST_F(PropertyGridRest, ADescriptionBeginsWithTheNameInBold)
+{
+    Property* const property = Add(texts, new Property(L"A name", _variant_t(1L)));
+    const CRect whole(0, 0, Paper::Width, Paper::Height);
+    Paper drawn, bold, plain;
+    property->OnDrawDescription(&drawn, whole);
+    CFont* const before = bold.SelectObject(&grid.GetBoldFont());
+    bold.DrawText(L"A name", CRect(whole), DT_SINGLELINE);
+    bold.SelectObject(before);
+    plain.DrawText(L"A name", CRect(whole), DT_SINGLELINE);
+    EXPECT_TRUE(drawn == bold);
+    EXPECT_FALSE(drawn == plain);
+}
+
+TEST_F(PropertyGridRest, ABoxHasAMinusAndWhenFoldedAPlus)
+{
+    Property group(L"Group");
+    const COLORREF ink = ::GetSysColor(COLOR_WINDOWTEXT);
+    const COLORREF back = ::GetSysColor(COLOR_WINDOW);
+    for (const BOOL expanded : {TRUE, FALSE})
+    {
+        group.Expand(expanded);
+        Paper paper;
+        group.OnDrawExpandBox(&paper, CRect(0, 0, 9, 9));
+        for (int along = 1; along < 8; ++along)
+        {
+            const bool isArm = along >= 2 && along <= 6;
+            EXPECT_EQ(paper.GetPixel(along, 4), isArm ? ink : back) << along;
+            EXPECT_EQ(paper.GetPixel(4, along), (isArm && !expanded) || along == 4 ? ink : back) << along;
+        }
+    }
+}
+
+TEST_F(PropertyGridRest, TheLineOfADragIsSeenAtOnce)
+{
+    const CPoint divider(grid.GetListRect().left + grid.GetLeftColumnWidth(), grid.GetListRect().top + 10);
+    grid.UpdateWindow();
+    ASSERT_FALSE(grid.GetUpdateRect(NULL));
+    grid.SendMessage(WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(divider.x, divider.y));
+    CRect due;
+    EXPECT_TRUE(grid.GetUpdateRect(&due));
+    EXPECT_TRUE(due.PtInRect(divider));
+    grid.SendMessage(WM_CANCELMODE);
+}
+
 TEST_F(PropertyGridRest, GroupsMayHaveTheWholeWidthForTheirNames)
 {
     CMFCPropertyGridProperty* const group =

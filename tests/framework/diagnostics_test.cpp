@@ -1,7 +1,12 @@
 // Assertions end the process with their exit code; the validity checks tell good addresses from bad ones.
+#include "tests/framework/DebugOutput.h"
+
 #include <afxwin.h>
 
 #include <gtest/gtest.h>
+
+#include <cstdio>
+#include <cstring>
 
 namespace
 {
@@ -72,13 +77,31 @@ TEST(Diagnostics, ValidStrings_EndBeforeTheirPageDoes)
     VirtualFree(page, 0, MEM_RELEASE);
 }
 
-TEST(Diagnostics, TracesAndDumps_TakeEveryKindOfArgument)
+TEST(Diagnostics, Traces_AreFormattedForTheDebugger)
 {
-    const CString text(L"text");
-    EXPECT_NO_FATAL_FAILURE(AfxTrace(L"%s %d\n", text, 5));
-    EXPECT_NO_FATAL_FAILURE(AfxTrace("%s %g\n", CStringA("narrow"), 2.5));
+    quor::test::DebugOutput output;
+    AfxTrace(L"%s %d\n", CString(L"text"), 5);
+    EXPECT_EQ(output.Take(), "text 5\n");
+    AfxTrace("%s %g\n", CStringA("narrow"), 2.5);
+    EXPECT_EQ(output.Take(), "narrow 2.5\n");
+    AfxTrace(L"%c", L'x');
+    AfxTrace("%c", 'y');
+    EXPECT_EQ(output.Take(), "xy");
+}
+
+TEST(Diagnostics, Dumps_TakeEveryKindOfArgument)
+{
+    quor::test::DebugOutput output;
+    afxDump << L"wide " << "narrow " << 5 << 6u << 7L << 2.5;
+    EXPECT_EQ(output.Take(), "wide narrow 5672.5");
+    afxDump << static_cast<const void*>(&output);
+    char address[32] = "";
+    std::snprintf(address, sizeof(address), "$%p", static_cast<const void*>(&output));
+    EXPECT_EQ(_stricmp(output.Take().c_str(), address), 0);
     CPen pen;
-    afxDump << L"wide " << "narrow " << 5 << 6u << 7L << 2.5 << &pen << static_cast<CObject*>(nullptr)
-            << "\n";
+    afxDump << &pen;
+    EXPECT_NE(output.Take(), "");
+    afxDump << static_cast<CObject*>(nullptr) << "\n";
+    EXPECT_EQ(output.Take(), "NULL\n");
     EXPECT_EQ(0, afxDump.GetDepth());
 }

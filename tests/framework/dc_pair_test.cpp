@@ -166,6 +166,8 @@ TEST(DCPair, OneWithoutContextsChangesNothing)
 {
     CDC dc;
     EXPECT_EQ(dc.SetBkColor(RGB(1, 2, 3)), CLR_INVALID);
+    EXPECT_EQ(dc.SetROP2(R2_XORPEN), 0);
+    EXPECT_EQ(dc.SetBkMode(TRANSPARENT), 0);
     EXPECT_EQ(dc.SetTextAlign(TA_RIGHT), static_cast<UINT>(GDI_ERROR));
     EXPECT_EQ(dc.SelectClipRgn(nullptr), ERROR);
     EXPECT_TRUE(dc.MoveTo(1, 1) == CPoint(0, 0));

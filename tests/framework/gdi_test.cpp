@@ -165,6 +165,16 @@ TEST(GdiObject, Descriptions_CanBeReadBack)
     ::ReleaseDC(nullptr, screen);
     EXPECT_STREQ(L"Tahoma", logFont.lfFaceName);
 
+    // Where the coordinates begin does not change heights.
+    CDC moved;
+    moved.CreateCompatibleDC(nullptr);
+    moved.SetViewportOrg(10, 37);
+    CFont other;
+    LOGFONT otherFont = {};
+    EXPECT_TRUE(other.CreatePointFont(120, L"Tahoma", &moved));
+    EXPECT_NE(0, other.GetLogFont(&otherFont));
+    EXPECT_EQ(logFont.lfHeight, otherFont.lfHeight);
+
     CBitmap bitmap;
     BITMAP data = {};
     EXPECT_TRUE(bitmap.CreateBitmap(5, 7, 1, 1, nullptr));

@@ -35,6 +35,19 @@ TEST(Menu, TemporaryMenus_DoNotDestroyTheirs)
     EXPECT_TRUE(::IsMenu(subHandle));
 }
 
+TEST(Menu, ADetachedMenuIsNoLongerTheObjects)
+{
+    CMenu menu;
+    menu.CreatePopupMenu();
+    const HMENU handle = menu.Detach();
+    EXPECT_EQ(nullptr, menu.GetSafeHmenu());
+    EXPECT_NE(&menu, CMenu::FromHandle(handle));
+    EXPECT_EQ(handle, CMenu::FromHandle(handle)->GetSafeHmenu());
+    EXPECT_EQ(nullptr, menu.Detach());
+    CMenu::DeleteTempMap();
+    ::DestroyMenu(handle);
+}
+
 TEST(Menu, Items)
 {
     CMenu menu;

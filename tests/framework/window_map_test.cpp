@@ -168,6 +168,30 @@ TEST(WindowMap, IdleTimeBetweenMessagesDeletesTemporaryObjects)
     EXPECT_EQ(CWnd::FromHandle(plain)->GetOwner(), &parent) << "a new object knows no owner but the parent";
 }
 
+TEST(WindowMap, IdleTimeDeletesTemporaryObjectsOfEveryKind)
+{
+    const HDC dc = ::CreateCompatibleDC(nullptr);
+    const HMENU menu = ::CreatePopupMenu();
+    const HBRUSH brush = ::CreateSolidBrush(RGB(1, 2, 3));
+    const HIMAGELIST images = ::ImageList_Create(4, 4, ILC_COLOR, 1, 1);
+    // One that has given its handle away stays the object of the handle until it is deleted.
+    CDC::FromHandle(dc)->Detach();
+    CMenu::FromHandle(menu)->Detach();
+    CBrush::FromHandle(brush)->Detach();
+    CImageList::FromHandle(images)->Detach();
+    EXPECT_EQ(CMenu::FromHandle(menu)->GetSafeHmenu(), HMENU(NULL));
+    AfxGetApp()->OnIdle(1);
+    EXPECT_EQ(CDC::FromHandle(dc)->GetSafeHdc(), dc);
+    EXPECT_EQ(CMenu::FromHandle(menu)->GetSafeHmenu(), menu);
+    EXPECT_EQ(CBrush::FromHandle(brush)->GetSafeHandle(), brush);
+    EXPECT_EQ(CImageList::FromHandle(images)->GetSafeHandle(), images);
+    AfxGetApp()->OnIdle(1);
+    ::ImageList_Destroy(images);
+    ::DeleteObject(brush);
+    ::DestroyMenu(menu);
+    ::DeleteDC(dc);
+}
+
 TEST(WindowMap, OwnerIsTheParentUnlessSet)
 {
     ParentWindow parent;

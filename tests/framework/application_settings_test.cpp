@@ -102,12 +102,16 @@ TEST(ApplicationSettings, TheKeysCanBeOpened)
 TEST(ApplicationSettings, AProgramMayReplaceTheTexts)
 {
     SettingsApp app;
+    CString name(L"replaced 0");
     for (LPCTSTR* const text : {&app.m_pszAppName, &app.m_pszProfileName, &app.m_pszHelpFilePath})
     {
-        std::free(const_cast<LPTSTR>(*text));
-        *text = _tcsdup(L"replaced");
+        // The new one has a place of its own: the one before it is freed later.
+        const LPTSTR before = const_cast<LPTSTR>(*text);
+        *text = _tcsdup(name);
+        std::free(before);
+        name.SetAt(name.GetLength() - 1, static_cast<TCHAR>(name[name.GetLength() - 1] + 1));
     }
-    EXPECT_STREQ(AfxGetAppName(), L"replaced");
+    EXPECT_STREQ(AfxGetAppName(), L"replaced 0");
 }
 
 TEST(ApplicationSettings, OleWorksOnceInitialised)

@@ -1,6 +1,7 @@
 // Exceptions: who frees them, their texts, and the TRY macros.
 #include <afxwin.h>
 
+#include "tests/framework/ControlsResource.h"
 #include "tests/support/MessageBoxProbe.h"
 
 #include <gtest/gtest.h>
@@ -137,4 +138,11 @@ TEST(Exception, Reports_ShowTheMessageOrAGeneralOne)
     ASSERT_EQ(boxes.Shown().size(), 2u);
     EXPECT_EQ(boxes.Shown()[0].text, L"A required resource was unavailable.");
     EXPECT_EQ(boxes.Shown()[1].text, L"An operation failed.");
+    // One without a message of its own shows the caller's.
+    HeapException silent(1);
+    silent.ReportError(MB_OK, IDS_TOOL_TIP);
+    silent.ReportError(MB_OK, 0xFFF3);
+    ASSERT_EQ(boxes.Shown().size(), 4u);
+    EXPECT_EQ(boxes.Shown()[2].text, L"A tip of the resources");
+    EXPECT_EQ(boxes.Shown()[3].text, L"An operation failed.") << "there is no such text";
 }

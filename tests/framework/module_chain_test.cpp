@@ -1,6 +1,8 @@
 // The chain of modules and the resource look-up along it. System DLLs stand for extension DLLs: they have
 // resources that this program has not.
+#include "tests/framework/ControlsResource.h"
 #include "tests/framework/WindowLog.h"
+#include "tests/support/HostWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -109,6 +111,29 @@ TEST(ModuleChain, StringsComeFromTheChainAndAreCutToTheBuffer)
     text[0] = L'x';
     EXPECT_EQ(AfxLoadString(0xFFF3, text), 0);
     EXPECT_EQ(text[0], 0);
+}
+
+TEST(ModuleChain, AStringMayBeOneCharacter)
+{
+    TCHAR text[8] = L"before";
+    EXPECT_EQ(AfxLoadString(IDS_ONE_LETTER, text, 8), 1);
+    EXPECT_STREQ(text, L"x");
+}
+
+TEST(ModuleChain, ATipIsAStringOfTheModuleThatHasIt)
+{
+    const ChainedModule module(L"shell32.dll");
+    // The first, so that the module has no strings just before it.
+    const UINT id = StringOf(module.Handle());
+    ASSERT_NE(id, 0u);
+    HostWindow host;
+    CToolTipCtrl tips;
+    ASSERT_TRUE(tips.Create(&host));
+    ASSERT_TRUE(tips.AddTool(&host, id));
+    CString text;
+    tips.GetText(text, &host);
+    EXPECT_STREQ(text, CString(MAKEINTRESOURCE(id)));
+    EXPECT_FALSE(text.IsEmpty());
 }
 
 TEST(ModuleChain, TheInstanceIsTheProgram)

@@ -365,10 +365,15 @@ TEST(String, StringOfALoadedModule_IsLoaded)
 TEST(String, BadArguments_Throw)
 {
     const std::function<void(CString&)> mistakes[] = {
-        [](CString& s) { s.SetAt(3, L'x'); },        [](CString& s) { s.SetAt(-1, L'x'); },
-        [](CString& s) { s.GetBuffer(-1); },         [](CString& s) { s.Truncate(4); },
-        [](CString& s) { s.SetString(nullptr, 2); }, [](CString& s) { s.Append(L"x", -1); },
+        [](CString& s) { s.SetAt(3, L'x'); },
+        [](CString& s) { s.SetAt(-1, L'x'); },
+        [](CString& s) { s.GetBuffer(-1); },
+        [](CString& s) { s.Truncate(4); },
+        [](CString& s) { s.SetString(nullptr, 2); },
+        [](CString& s) { s.Append(L"x", -1); },
         [](CString& s) { s.ReleaseBuffer(1000); },
+        [](CString& s) { s = CString(static_cast<LPCSTR>(nullptr), 2); },
+        [](CString& s) { s = CString("narrow", -1); },
     };
     for (const auto& mistake : mistakes)
     {

@@ -41,6 +41,7 @@ BEGIN_MESSAGE_MAP(PassingWindow, CWnd)
     ON_WM_MOUSELEAVE()
     ON_WM_MOUSEHWHEEL()
     ON_WM_RBUTTONDOWN()
+    ON_WM_RBUTTONUP()
     ON_WM_RBUTTONDBLCLK()
     ON_WM_MBUTTONDOWN()
     ON_WM_MBUTTONUP()
@@ -134,11 +135,12 @@ INSTANTIATE_TEST_SUITE_P(
         Passed{"Moving", WM_MOVING, 0}, Passed{"NcPaint", WM_NCPAINT, 0}, Passed{"Enable", WM_ENABLE, 0},
         Passed{"ShowWindow", WM_SHOWWINDOW, 0}, Passed{"MouseHover", WM_MOUSEHOVER, 0},
         Passed{"MouseLeave", WM_MOUSELEAVE, 0}, Passed{"MouseHWheel", WM_MOUSEHWHEEL, 0},
-        Passed{"RButtonDown", WM_RBUTTONDOWN, 0}, Passed{"RButtonDblClk", WM_RBUTTONDBLCLK, 0},
-        Passed{"MButtonDown", WM_MBUTTONDOWN, 0}, Passed{"MButtonUp", WM_MBUTTONUP, 0},
-        Passed{"MButtonDblClk", WM_MBUTTONDBLCLK, 0}, Passed{"XButtonDown", WM_XBUTTONDOWN, 0},
-        Passed{"XButtonUp", WM_XBUTTONUP, 0}, Passed{"XButtonDblClk", WM_XBUTTONDBLCLK, 0},
-        Passed{"KeyUp", WM_KEYUP, 0}, Passed{"DeadChar", WM_DEADCHAR, 0}, Passed{"SysKeyUp", WM_SYSKEYUP, 0},
+        Passed{"RButtonDown", WM_RBUTTONDOWN, 0}, Passed{"RButtonUp", WM_RBUTTONUP, 0},
+        Passed{"RButtonDblClk", WM_RBUTTONDBLCLK, 0}, Passed{"MButtonDown", WM_MBUTTONDOWN, 0},
+        Passed{"MButtonUp", WM_MBUTTONUP, 0}, Passed{"MButtonDblClk", WM_MBUTTONDBLCLK, 0},
+        Passed{"XButtonDown", WM_XBUTTONDOWN, 0}, Passed{"XButtonUp", WM_XBUTTONUP, 0},
+        Passed{"XButtonDblClk", WM_XBUTTONDBLCLK, 0}, Passed{"KeyUp", WM_KEYUP, 0},
+        Passed{"DeadChar", WM_DEADCHAR, 0}, Passed{"SysKeyUp", WM_SYSKEYUP, 0},
         Passed{"SysChar", WM_SYSCHAR, 0}, Passed{"SysDeadChar", WM_SYSDEADCHAR, 0},
         Passed{"HotKey", WM_HOTKEY, 0}, Passed{"ContextMenu", WM_CONTEXTMENU, 0},
         Passed{"InitMenu", WM_INITMENU, 0}, Passed{"InitMenuPopup", WM_INITMENUPOPUP, 0},

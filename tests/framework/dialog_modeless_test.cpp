@@ -17,6 +17,7 @@ constexpr int firstEdit = 101;
 constexpr int secondEdit = 102;
 constexpr UINT localCommand = 0x4001;
 constexpr UINT globalCommand = 0x8001;
+constexpr UINT reservedCommand = 0xf000;
 
 class Modeless : public CDialog
 {
@@ -44,16 +45,18 @@ protected:
     }
 };
 
-// An owner that handles two commands.
+// An owner that handles three commands.
 class CommandOwner : public HostWindow
 {
 public:
     int localCalls = 0;
     int globalCalls = 0;
+    int reservedCalls = 0;
 
 protected:
     void OnLocal() { ++localCalls; }
     void OnGlobal() { ++globalCalls; }
+    void OnReserved() { ++reservedCalls; }
 
     DECLARE_MESSAGE_MAP()
 };
@@ -61,6 +64,7 @@ protected:
 BEGIN_MESSAGE_MAP(CommandOwner, HostWindow)
     ON_COMMAND(localCommand, &CommandOwner::OnLocal)
     ON_COMMAND(globalCommand, &CommandOwner::OnGlobal)
+    ON_COMMAND(reservedCommand, &CommandOwner::OnReserved)
 END_MESSAGE_MAP()
 
 class DialogModeless : public testing::Test
@@ -136,8 +140,10 @@ TEST_F(DialogModeless, Commands_FromTheGlobalRangeReachTheOwner)
 {
     m_dialog.SendMessage(WM_COMMAND, globalCommand);
     m_dialog.SendMessage(WM_COMMAND, localCommand);
+    m_dialog.SendMessage(WM_COMMAND, reservedCommand);
     EXPECT_EQ(m_owner.globalCalls, 1);
     EXPECT_EQ(m_owner.localCalls, 0);
+    EXPECT_EQ(m_owner.reservedCalls, 0);
 }
 
 TEST_F(DialogModeless, ControlNotifications_DoNotLeaveTheDialog)

@@ -146,6 +146,14 @@ TEST_F(FormViews, FocusReturnsToTheControlThatHadIt)
     EXPECT_EQ(::GetFocus(), Item(IDC_FORM_EDIT2));
 }
 
+TEST_F(FormViews, AFormThatBecomesActiveKeepsTheControlWithTheFocus)
+{
+    m_frame->SetActiveView(NULL);
+    ::SetFocus(Item(IDC_FORM_EDIT2));
+    m_frame->SetActiveView(m_form);
+    EXPECT_EQ(::GetFocus(), Item(IDC_FORM_EDIT2));
+}
+
 TEST_F(FormViews, MissingTemplate_FailsTheCreation)
 {
     class Missing : public CFormView

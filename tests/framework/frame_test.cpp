@@ -347,6 +347,7 @@ TEST(FrameClass, Create_WithoutResources)
     EXPECT_EQ(Title(frame), "Plain");
     EXPECT_EQ(frame->GetMenu(), nullptr);
     EXPECT_EQ(frame->GetActiveView(), nullptr);
+    EXPECT_EQ(::GetClassLongPtr(frame->m_hWnd, GCLP_HBRBACKGROUND), COLOR_WINDOW + 1);
     frame->DestroyWindow();
     EXPECT_EQ(trace, (std::vector<std::string>{"frame gone"}));
 }

@@ -166,6 +166,14 @@ TEST(MessageLoop, IdleCountsUpWhileItIsWantedAndStartsOverAfterAMessage)
     EXPECT_EQ(thread.m_log, (Log{"idle 0", "idle 1", "idle 2", "idle 0", "idle 1", "idle 2"}));
 }
 
+TEST(MessageLoop, AThreadHasNothingToDoInItsFirstIdleTurn)
+{
+    CWinThread* const thread = AfxGetApp();
+    EXPECT_TRUE(thread->CWinThread::OnIdle(-1));
+    EXPECT_FALSE(thread->CWinThread::OnIdle(0));
+    EXPECT_FALSE(thread->CWinThread::OnIdle(1));
+}
+
 TEST(MessageLoop, ThreadMessagesReachTheThreadsMap)
 {
     ScriptedThread thread;

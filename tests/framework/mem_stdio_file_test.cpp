@@ -24,6 +24,19 @@ TEST(MemFile, GrowsWithWhatIsWritten)
     EXPECT_EQ(999, rest[0]);
 }
 
+TEST(MemFile, ReadsByteByByte)
+{
+    CMemFile file;
+    file.Write("ab", 2);
+    file.SeekToBegin();
+    char read = 0;
+    EXPECT_EQ(1u, file.Read(&read, 1));
+    EXPECT_EQ('a', read);
+    EXPECT_EQ(1u, file.Read(&read, 1));
+    EXPECT_EQ('b', read);
+    EXPECT_EQ(0u, file.Read(&read, 1));
+}
+
 TEST(MemFile, AnAttachedBlockThatCannotGrowIsTheContent)
 {
     BYTE block[4] = {1, 2, 3, 4};

@@ -29,6 +29,7 @@ BEGIN_MESSAGE_MAP(CGridListCtrl, CListCtrl)
     ON_WM_HSCROLL()
     ON_WM_VSCROLL()
     ON_WM_LBUTTONDOWN()
+    ON_WM_RBUTTONDOWN()
 END_MESSAGE_MAP()
 
 CGridListCtrl::CGridListCtrl() : curColumn(-1), editFlags(0) {}
@@ -137,6 +138,16 @@ void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
         return;
     if (hit.iSubItem > 0 || IsOnLabel(hit))
         RequestEdit(hit.iItem, hit.iSubItem);
+}
+
+// The platform's list takes the focus amid its work, and goes on with it when that has ended an edit whose
+// owner has destroyed the list.
+void CGridListCtrl::OnRButtonDown(UINT flags, CPoint point)
+{
+    const HWND window = m_hWnd;
+    TakeFocus();
+    if (IsStillWindow(this, window))
+        CListCtrl::OnRButtonDown(flags, point);
 }
 
 // Where full rows can be selected, platforms differ in what they report besides the label of a hit on the

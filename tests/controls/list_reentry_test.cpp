@@ -159,6 +159,44 @@ TEST_F(ListReentry, ListDestroyedByTheSelectionOfAClick_IsLeftAlone)
     EXPECT_EQ(owner.TakeEdits(), Lines{});
 }
 
+// The platform's list goes on with the click after it has taken the focus.
+TEST_F(ListReentry, ListDestroyedWhenARightClickEndsTheEdit_HearsNoMoreOfTheClick)
+{
+    owner.Edit(0, 1, L"x");
+    bool isGone = false;
+    owner.onEnd = [&](const NMLVDISPINFO&) {
+        owner.list.reset();
+        isGone = true;
+    };
+    std::vector<UINT> afterwards;
+    owner.onNotification = [&](const NMHDR& header) {
+        if (isGone)
+            afterwards.push_back(header.code);
+    };
+    const CPoint point = list.Middle(2, 1);
+    ::PostMessage(window, WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    SendMouse(window, WM_RBUTTONDOWN, point, MK_RBUTTON);
+    EXPECT_FALSE(::IsWindow(window));
+    EXPECT_EQ(afterwards, std::vector<UINT>());
+}
+
+TEST_F(ListReentry, ARightClick_SelectsAndIsToldOf)
+{
+    owner.Edit(0, 1, L"x");
+    std::vector<UINT> told;
+    owner.onNotification = [&](const NMHDR& header) {
+        if (header.code == NM_RCLICK)
+            told.push_back(header.code);
+    };
+    const CPoint point = list.Middle(2, 1);
+    ::PostMessage(window, WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
+    SendMouse(window, WM_RBUTTONDOWN, point, MK_RBUTTON);
+    EXPECT_EQ(list.FocusedRow(), 2);
+    EXPECT_EQ(::GetFocus(), window);
+    EXPECT_EQ(told, std::vector<UINT>{NM_RCLICK});
+    EXPECT_EQ(owner.TakeEdits(), Lines{"end 0,1 [x]"});
+}
+
 TEST_F(ListReentry, ListDestroyedByItsOwnScrolling_IsLeftAlone)
 {
     list.SetColumnWidth(1, 400);

@@ -15,13 +15,17 @@ namespace QuorUiCtr
 namespace
 {
 
-// What a tree shows: the selected item and the first one in view.
+// What a tree shows: the selected item, the first one in view, and how far it is scrolled sideways.
 struct TreeView : UndoView
 {
-    TreeView(TreeId selectedItem, TreeId firstItem) : selected(selectedItem), first(firstItem) {}
+    TreeView(TreeId selectedItem, TreeId firstItem, int leftPosition)
+        : selected(selectedItem), first(firstItem), left(leftPosition)
+    {
+    }
 
     TreeId selected;
     TreeId first;
+    int left;
 };
 
 } // namespace
@@ -264,7 +268,8 @@ std::shared_ptr<UndoView> TreeUndo::KeepView()
     const HTREEITEM selected = Next(nullptr, TVGN_CARET);
     const HTREEITEM first = Next(nullptr, TVGN_FIRSTVISIBLE);
     return std::make_unique<TreeView>(selected == nullptr ? NoTreeId : ids.IdOf(selected),
-                                      first == nullptr ? NoTreeId : ids.IdOf(first));
+                                      first == nullptr ? NoTreeId : ids.IdOf(first),
+                                      tree->GetScrollPos(SB_HORZ));
 }
 
 void TreeUndo::BeginRevert()
@@ -296,6 +301,9 @@ void TreeUndo::EndRevert(const UndoView* view)
         const HTREEITEM first = ids.ItemOf(shown->first);
         if (first != nullptr && Next(nullptr, TVGN_FIRSTVISIBLE) != first)
             AskTree(TVM_SELECTITEM, TVGN_FIRSTVISIBLE, reinterpret_cast<LPARAM>(first));
+        // To show an item the platform may have scrolled sideways, too.
+        if (tree != nullptr && tree->GetScrollPos(SB_HORZ) != shown->left)
+            AskTree(WM_HSCROLL, MAKEWPARAM(SB_THUMBPOSITION, shown->left), 0);
     }
     TellWords();
 }

@@ -255,6 +255,27 @@ TEST_F(TreeSteps, SelectionAndScrollPositionComeBack)
     EXPECT_EQ(Selected(), "i23");
 }
 
+TEST_F(TreeSteps, WhatIsScrolledSidewaysComesBack)
+{
+    Begin("a b c");
+    tree->SetItemText(At("b"), CString(L'w', 120));
+    Select("a");
+    for (int i = 0; i < 10; ++i)
+        tree->SendMessage(WM_HSCROLL, SB_LINERIGHT);
+    const int left = tree->GetScrollPos(SB_HORZ);
+    ASSERT_GT(left, 0);
+    tree->DeleteItem(At("c"));
+    for (int i = 0; i < 10; ++i)
+        tree->SendMessage(WM_HSCROLL, SB_LINELEFT);
+    ASSERT_EQ(tree->GetScrollPos(SB_HORZ), 0);
+    Undo();
+    EXPECT_EQ(tree->GetScrollPos(SB_HORZ), left);
+    for (int i = 0; i < 3; ++i)
+        tree->SendMessage(WM_HSCROLL, SB_LINELEFT);
+    Redo();
+    EXPECT_EQ(tree->GetScrollPos(SB_HORZ), left);
+}
+
 TEST_F(TreeSteps, WhatIsFoldedComesBackWithTheStepBefore)
 {
     Begin("f[x] g+[y]");

@@ -218,8 +218,11 @@ bool TGUndoStack::RunKey(const MSG& message)
 namespace
 {
 
-void NameUndoEntry(CCmdUI& ui, QuorText entry, const CString& name)
+// In a menu an ampersand would mark a key, and a tab begin another column.
+void NameUndoEntry(CCmdUI& ui, QuorText entry, CString name)
 {
+    name.Replace(L"&", L"&&");
+    name.Replace(L'\t', L' ');
     CString text = QuorTexts::Get(entry);
     text.Replace(L"%s", name);
     ui.SetText(text);

@@ -168,6 +168,19 @@ public:
     CString text;
 };
 
+TEST_F(GridUndoWindow, ANameWithAnAmpersand_StandsInAMenuAsItIs)
+{
+    Begin();
+    {
+        const TGUndoTransaction step(stack, L"Cut && R&D\tX");
+        grid.GetCell(0, 0).SetText(L"1");
+    }
+    SeenEntry entry;
+    entry.m_nID = ID_EDIT_UNDO;
+    stack.OnCmdMsg(ID_EDIT_UNDO, CN_UPDATE_COMMAND_UI, &entry, nullptr);
+    EXPECT_EQ(entry.text, L"&Undo Cut &&&& R&&D X\tCtrl+Z");
+}
+
 TEST_F(GridUndoWindow, CommandsNameTheStep)
 {
     Begin();

@@ -116,6 +116,8 @@ void UndoHistory::Remove(UndoRecorder& recorder)
     const std::shared_ptr<UndoRecorder> held = Hold(&recorder);
     const auto isIts = [&](const auto& change) { return &change->GetRecorder() == &recorder; };
     std::erase_if(drift, isIts);
+    for (Changes* changes : passing)
+        std::erase_if(*changes, isIts);
     for (Step* step : {open.get(), mirror, taken.get()})
         if (step != nullptr)
         {
@@ -160,13 +162,16 @@ void UndoHistory::RemoveFrom(Steps& steps, const UndoRecorder& recorder, unsigne
 
 void UndoHistory::BeginStep(UndoRecorder* recorder, const UndoName& name)
 {
-    if (depth++ > 0 || settling)
-        return;
-    open = std::make_unique<Step>();
-    open->name = name;
-    open->isHosts = !name.words.IsEmpty();
-    if (recorder != nullptr)
-        open->ViewsOf(*recorder).before = recorder->KeepView();
+    if (depth == 0 && !settling)
+    {
+        auto step = std::make_unique<Step>();
+        step->name = name;
+        step->isHosts = !name.words.IsEmpty();
+        if (recorder != nullptr)
+            step->ViewsOf(*recorder).before = recorder->KeepView();
+        open = std::move(step);
+    }
+    ++depth;
 }
 
 bool UndoHistory::ContinueStep(unsigned position)
@@ -299,6 +304,12 @@ void UndoHistory::Drop(Steps& steps)
     dropped.clear();
 }
 
+// Changes that go look for others that need their rows.
+void UndoHistory::Drop(Changes& changes)
+{
+    const Changes gone = std::exchange(changes, {});
+}
+
 void UndoHistory::DropFirst(Steps& steps)
 {
     std::unique_ptr<Step> first = std::move(steps.front());
@@ -335,7 +346,7 @@ void UndoHistory::Clear()
 {
     Drop(redo);
     Drop(undo);
-    drift.clear();
+    Drop(drift);
     listener.TellHistory();
 }
 
@@ -343,7 +354,7 @@ void UndoHistory::End()
 {
     for (Step* step : {open.get(), taken.get()})
         if (step != nullptr)
-            step->changes.clear();
+            Drop(step->changes);
     saved = NoPosition;
     Clear();
     listener.TellEnded();

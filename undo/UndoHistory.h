@@ -130,6 +130,9 @@ private:
         Views& ViewsOf(UndoRecorder& recorder);
     };
     using Steps = std::deque<std::unique_ptr<Step>>;
+    // Changes on the stack, as long as it lives: those that are being taken back, and what takes these back.
+    // Hooks may let a control leave meanwhile, or delete rows.
+    class Passing;
 
     static void Append(Changes& changes, std::unique_ptr<UndoChange> change);
     static std::size_t BytesOf(const Changes& changes);
@@ -139,6 +142,7 @@ private:
     void Put(Steps& steps, std::unique_ptr<Step> step);
     std::unique_ptr<Step> TakeLast(Steps& steps);
     void Drop(Steps& steps);
+    static void Drop(Changes& changes);
     void DropFirst(Steps& steps);
     void KeepLimits();
     void RemoveFrom(Steps& steps, const UndoRecorder& recorder, unsigned before);
@@ -166,6 +170,7 @@ private:
     Step* mirror = nullptr;
     // That step itself, as far as it is not reverted yet.
     std::unique_ptr<Step> taken;
+    std::vector<Changes*> passing;
     // A step is being taken back, from the question to the last word.
     bool busy = false;
     // The position is another one already: what changes now drifts away from it.
@@ -189,8 +194,8 @@ template <class Use> void UndoHistory::ForChanges(const UndoRecorder& recorder, 
             if (*change != nullptr && &(*change)->GetRecorder() == &recorder)
                 use(**change);
     };
-    if (mirror != nullptr)
-        useAll(mirror->changes);
+    for (Changes* changes : passing)
+        useAll(*changes);
     if (taken != nullptr)
     {
         useAll(taken->changes);

@@ -4,14 +4,32 @@
 #include "grid/model/ScopedValue.h"
 
 #include <algorithm>
+#include <initializer_list>
 #include <utility>
 
 namespace QuorUiCtr
 {
 
+class UndoHistory::Passing
+{
+public:
+    Passing(UndoHistory& itsHistory, std::initializer_list<Changes*> lists)
+        : history(itsHistory), before(itsHistory.passing.size())
+    {
+        history.passing.insert(history.passing.end(), lists);
+    }
+    ~Passing() { history.passing.resize(before); }
+    Passing(const Passing&) = delete;
+    Passing& operator=(const Passing&) = delete;
+
+private:
+    UndoHistory& history;
+    std::size_t before;
+};
+
 bool UndoHistory::CanGo(bool back) const
 {
-    for (const auto& recorder : recorders)
+    for (const auto& recorder : std::vector(recorders))
         recorder->Settle();
     const Steps& steps = back ? undo : redo;
     return !busy && depth == 0 && !steps.empty() && !steps.back()->IsBroken();
@@ -34,7 +52,7 @@ bool UndoHistory::Go(bool back)
         if (Hold(recorder.get()) != nullptr)
             recorder->EndEdit();
     Steps& steps = back ? undo : redo;
-    for (const auto& recorder : recorders)
+    for (const auto& recorder : std::vector(recorders))
         recorder->Settle();
     if (depth > 0 || steps.empty())
         return false;
@@ -74,10 +92,14 @@ bool UndoHistory::GoBy(bool back)
     Changes drifted = std::exchange(drift, {});
     const bool hadDrift = !drifted.empty();
     Step away;
-    mirror = &away;
-    bool isDone = RevertAll(drifted);
-    mirror = reversed.get();
-    isDone = isDone && RevertAll(taken->changes);
+    bool isDone = false;
+    {
+        const Passing lists(*this, {&drifted, &away.changes, &reversed->changes});
+        mirror = &away;
+        isDone = RevertAll(drifted);
+        mirror = reversed.get();
+        isDone = isDone && RevertAll(taken->changes);
+    }
     const std::vector<Views> views = taken->views;
     if (isDone)
     {
@@ -115,9 +137,12 @@ void UndoHistory::DriftAgain()
     if (!std::all_of(taken->away.begin(), taken->away.end(), isView))
         return;
     Step again;
-    mirror = &again;
-    RevertAll(taken->away);
-    mirror = nullptr;
+    {
+        const Passing list(*this, {&again.changes});
+        mirror = &again;
+        RevertAll(taken->away);
+        mirror = nullptr;
+    }
     for (auto& change : again.changes)
         Append(drift, std::move(change));
 }
@@ -139,6 +164,9 @@ bool UndoHistory::RevertAll(Changes& changes)
 {
     while (!changes.empty())
     {
+        changes.back()->GetRecorder().Settle();
+        if (changes.empty())
+            return false;
         const std::unique_ptr<UndoChange> change = std::move(changes.back());
         changes.pop_back();
         if (change->IsBroken() || !change->Fits() || !change->Revert())
@@ -154,8 +182,11 @@ void UndoHistory::RollForward(Step& reversed, Step& away)
     mirror = &again;
     Changes made = std::exchange(reversed.changes, {});
     Changes drifted = std::exchange(away.changes, {});
-    if (!RevertAll(made) || !RevertAll(drifted))
-        End();
+    {
+        const Passing lists(*this, {&made, &drifted, &again.changes});
+        if (!RevertAll(made) || !RevertAll(drifted))
+            End();
+    }
     const ScopedValue guard(dropping, true);
     again.changes.clear();
 }
@@ -189,7 +220,7 @@ void UndoHistory::EndSide(bool back, unsigned position)
     Drop(back ? undo : redo);
     if (back)
         base = position;
-    drift.clear();
+    Drop(drift);
     listener.TellEnded();
     listener.TellHistory();
 }

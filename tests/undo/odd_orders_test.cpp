@@ -3,9 +3,11 @@
 #include "grid/extras/TGCellCursor.h"
 #include "grid/TGCellEdit.h"
 #include "tests/grid/EditGrid.h"
+#include "tests/support/FailingNew.h"
 #include "tests/support/Input.h"
 #include "tests/undo/GridSteps.h"
 
+#include <new>
 #include <string_view>
 
 using namespace QuorUiCtr;
@@ -160,6 +162,18 @@ TEST_F(OddOrders, ACellThatHasGoneSinceItsEdit_IsNotJoined)
     EXPECT_EQ(stack.GetUndoNum(), 2);
     EXPECT_TRUE(stack.Undo());
     EXPECT_EQ(TextOf(grid, 0, 1), L"");
+}
+
+// ---- Memory
+
+TEST_F(OddOrders, ATransactionThatGetsNoMemory_HasNotBegun)
+{
+    stack.Watch(grid);
+    Type(grid, 0, 0, L"1");
+    FailingNew::FailAt(1);
+    EXPECT_THROW(const TGUndoTransaction step(stack, L"step"), std::bad_alloc);
+    FailingNew::FailAt(0);
+    EXPECT_TRUE(stack.Undo());
 }
 
 // ---- The saved point

@@ -4,7 +4,6 @@
 #include "grid/TGTreeGrid.h"
 #include "undo/GridChange.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace QuorUiCtr

@@ -4,7 +4,6 @@
 #include "grid/extras/ViewOf.h"
 #include "undo/GridChange.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace QuorUiCtr

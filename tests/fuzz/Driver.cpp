@@ -113,6 +113,16 @@ bool IsFaultOfPlatform(const Options& options, const Outcome& failure)
     return !options.bare && !place.empty() && CrashesInPlatform(options, place);
 }
 
+// Memory that the platform has spoilt may fail anywhere later. Checked after each step it fails at once, so
+// that what is reported is the narrower failure.
+bool IsSteppedAround(Options& run, Outcome& failure)
+{
+    if (IsFaultOfPlatform(run, failure))
+        return true;
+    failure = Narrow(run, failure);
+    return IsFaultOfPlatform(run, failure);
+}
+
 bool DriveControl(const Options& options, const std::string& control)
 {
     const Clock::time_point start = Clock::now();
@@ -127,9 +137,7 @@ bool DriveControl(const Options& options, const std::string& control)
         run.steps = (std::min)(options.chunk, options.steps - done);
         Outcome outcome = RunChild(run);
         done += outcome.failed ? (std::max)(outcome.done, 1L) : run.steps;
-        if (outcome.failed)
-            outcome = Narrow(run, outcome);
-        if (outcome.failed && IsFaultOfPlatform(run, outcome))
+        if (outcome.failed && IsSteppedAround(run, outcome))
         {
             ++steppedAround;
             continue;

@@ -16,6 +16,13 @@ namespace
 constexpr long UsualSteps = 1000;
 constexpr std::size_t UsualBytes = 256U << 20;
 
+CString TextIn(HWND editor)
+{
+    CString text;
+    CWnd::FromHandle(editor)->GetWindowText(text);
+    return text;
+}
+
 } // namespace
 
 BEGIN_MESSAGE_MAP(TGUndoStack, CCmdTarget)
@@ -170,8 +177,8 @@ void TGUndoStack::OnHistoryChanged() {}
 
 // ---- Commands
 
-// The edit in a watched control that has the focus and something to undo.
-HWND TGUndoStack::EditorWithUndo() const
+// What the platform's edit can undo after it has undone is its undoing.
+HWND TGUndoStack::EditorWith(bool undo) const
 {
     const HWND focus = ::GetFocus();
     wchar_t kind[8] = {};
@@ -181,22 +188,35 @@ HWND TGUndoStack::EditorWithUndo() const
     for (const auto& recorder : history->GetRecorders())
         if (const CWnd* control = recorder->GetControl();
             control->GetSafeHwnd() != nullptr && ::IsChild(control->m_hWnd, focus))
-            return ::SendMessage(focus, EM_CANUNDO, 0, 0) != 0 ? focus : nullptr;
+        {
+            const bool isUndone = focus == undoneEditor && TextIn(focus) == undoneText;
+            return isUndone != undo && ::SendMessage(focus, EM_CANUNDO, 0, 0) != 0 ? focus : nullptr;
+        }
     return nullptr;
 }
 
 void TGUndoStack::OnEditUndo()
 {
-    if (const HWND editor = EditorWithUndo())
-        ::SendMessage(editor, EM_UNDO, 0, 0);
-    else
+    const HWND editor = EditorWith(true);
+    if (editor == nullptr)
+    {
         Undo();
+        return;
+    }
+    ::SendMessage(editor, EM_UNDO, 0, 0);
+    undoneEditor = editor;
+    undoneText = TextIn(editor);
 }
 
-// What is being typed has nothing behind it that could be made again.
+// While there is typing that could be undone, nothing behind it could be made again.
 void TGUndoStack::OnEditRedo()
 {
-    if (EditorWithUndo() == nullptr)
+    if (const HWND editor = EditorWith(false))
+    {
+        undoneEditor = nullptr;
+        ::SendMessage(editor, EM_UNDO, 0, 0);
+    }
+    else if (EditorWith(true) == nullptr)
         Redo();
 }
 
@@ -232,7 +252,7 @@ void NameUndoEntry(CCmdUI& ui, QuorText entry, CString name)
 
 void TGUndoStack::OnUpdateEditUndo(CCmdUI* ui)
 {
-    const bool inEditor = EditorWithUndo() != nullptr;
+    const bool inEditor = EditorWith(true) != nullptr;
     ui->Enable(inEditor || CanUndo());
     if (inEditor)
         NameUndoEntry(*ui, QuorText::UndoEntry, QuorTexts::Get(QuorText::UndoTyping));
@@ -242,9 +262,11 @@ void TGUndoStack::OnUpdateEditUndo(CCmdUI* ui)
 
 void TGUndoStack::OnUpdateEditRedo(CCmdUI* ui)
 {
-    const bool can = EditorWithUndo() == nullptr && CanRedo();
+    const bool inEditor = EditorWith(false) != nullptr;
+    const bool can = inEditor || (EditorWith(true) == nullptr && CanRedo());
     ui->Enable(can);
-    NameUndoEntry(*ui, can ? QuorText::RedoEntry : QuorText::RedoNothing, GetRedoName());
+    NameUndoEntry(*ui, can ? QuorText::RedoEntry : QuorText::RedoNothing,
+                  inEditor ? QuorTexts::Get(QuorText::UndoTyping) : GetRedoName());
 }
 
 // ---- Scopes

@@ -41,8 +41,8 @@ class UndoHistory;
 // OnUndone. What hooks change then is not a step: it is taken back before the next step is.
 //
 // The stack is the command target of ID_EDIT_UNDO and ID_EDIT_REDO, see OnCmdMsg; Ctrl+Z, Ctrl+Y and
-// Ctrl+Shift+Z in a watched control come here by themselves. An open editor is served first: as long as it
-// can undo typing, they are for it.
+// Ctrl+Shift+Z in a watched control come here by themselves. An open editor is served first: its typing is
+// undone, and made again, before a step is.
 //
 // The controls may go before the stack or after it; with a control goes what was recorded of it, and the rows
 // and columns that were kept for it. All calls belong to the thread of the controls. Hooks may do anything
@@ -134,10 +134,14 @@ protected:
 
 private:
     class Listener;
-    HWND EditorWithUndo() const;
+    // The edit in a watched control that has the focus and typing to undo, or to make again; null without.
+    HWND EditorWith(bool undo) const;
 
     std::unique_ptr<Listener> listener;
     std::unique_ptr<UndoHistory> history;
+    // Where typing was undone, and the text since.
+    HWND undoneEditor = nullptr;
+    CString undoneText;
 };
 
 // Groups all changes of a scope to one step.

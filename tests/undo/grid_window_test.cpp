@@ -41,6 +41,17 @@ protected:
     CountingStack stack;
 };
 
+// An entry that remembers what a handler says.
+class SeenEntry : public CCmdUI
+{
+public:
+    void Enable(BOOL on) override { enabled = on != FALSE; }
+    void SetText(LPCTSTR words) override { text = words; }
+
+    bool enabled = false;
+    CString text;
+};
+
 TEST_F(GridUndoWindow, Keys_UndoAndRedo)
 {
     Begin();
@@ -85,6 +96,41 @@ TEST_F(GridUndoWindow, AnOpenEditor_IsServedFirst)
     EXPECT_EQ(typed, L"1,1");
     EXPECT_EQ(TextOf(grid, 0, 0), L"first");
     EXPECT_EQ(last.GetUndoNum(), 1);
+}
+
+// The platform's edit would take its own undo back, for ever.
+TEST_F(GridUndoWindow, AnOpenEditor_IsServedOnce_AndThenTheStack)
+{
+    Begin();
+    {
+        const TGUserAction action(grid, TGActionKind::Type);
+        grid.GetCell(0, 0).SetText(L"first");
+    }
+    grid.BeginEditCell(1, 1);
+    PumpPending();
+    TypeText(L"x");
+    PumpPending();
+    const auto typed = [this] {
+        CString text;
+        grid.EditorWindow()->GetWindowText(text);
+        return text;
+    };
+    KeyPress('Z', Modifiers::Control);
+    ASSERT_EQ(typed(), L"1,1");
+    SeenEntry entry;
+    entry.m_nID = ID_EDIT_REDO;
+    stack.OnCmdMsg(ID_EDIT_REDO, CN_UPDATE_COMMAND_UI, &entry, nullptr);
+    EXPECT_TRUE(entry.enabled);
+    EXPECT_EQ(entry.text, L"&Redo Typing\tCtrl+Y");
+    KeyPress('Y', Modifiers::Control);
+    EXPECT_EQ(typed(), L"x");
+    KeyPress('Z', Modifiers::Control);
+    ASSERT_EQ(typed(), L"1,1");
+    EXPECT_TRUE(grid.IsEditing());
+    KeyPress('Z', Modifiers::Control);
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(TextOf(grid, 1, 1), L"1,1");
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
 }
 
 TEST_F(GridUndoWindow, Undoing_CommitsWhatIsTyped_AndTakesItBack)
@@ -156,17 +202,6 @@ TEST_F(GridUndoWindow, TheCellCursorComesBack)
     EXPECT_EQ(cursor.GetCol(), 1);
     EXPECT_EQ(TextOf(grid, 2, 1), L"2,1");
 }
-
-// An entry that remembers what a handler says.
-class SeenEntry : public CCmdUI
-{
-public:
-    void Enable(BOOL on) override { enabled = on != FALSE; }
-    void SetText(LPCTSTR words) override { text = words; }
-
-    bool enabled = false;
-    CString text;
-};
 
 TEST_F(GridUndoWindow, ANameWithAnAmpersand_StandsInAMenuAsItIs)
 {

@@ -132,7 +132,7 @@ CellTable TableOf(UINT format)
     else if (format == Formats().csv)
         table = CsvTable(memory.Bytes());
     else if (format == Formats().html)
-        table = ReadCellHtml(memory.Bytes().substr(0, memory.Bytes().find('\0')));
+        table = ReadCellHtml(memory.Bytes());
     else
         ReadCellPack(memory.Bytes(), table);
     return table;

@@ -98,6 +98,18 @@ TEST_F(BadInput, ATextWithAZeroInIt_OrOfHalfACharacter_EndsThere)
     EXPECT_EQ(Text(clipboard.Paste()), "refused: nothing to paste, done 0");
 }
 
+TEST_F(BadInput, HtmlWithAZeroInIt_EndsWhereItsHeaderSays)
+{
+    Make();
+    const std::string header = "Version:0.9\r\nStartFragment:0000000063\r\nEndFragment:0000000083\r\n";
+    ASSERT_EQ(header.size(), 63U);
+    const std::string rows = std::string("<td>a\0<td>b<tr><td>c", 20);
+    PutBytes(HtmlFormat(), header + rows + std::string("\0<td>old", 9));
+    EXPECT_EQ(Text(clipboard.Paste()), "done 3");
+    EXPECT_EQ(Narrow(grid.GetCell(0, 1).GetText()), "b");
+    EXPECT_EQ(Narrow(grid.GetCell(1, 0).GetText()), "c");
+}
+
 TEST_F(BadInput, MalformedHtml_HasAnAnswer)
 {
     Make();

@@ -87,8 +87,9 @@ public:
 
     // ---- Limits
 
-    // How many steps are kept, and how much memory they may take; 0: any. The oldest go first. Default: 1000
-    // steps and 256 MB. Rows that were deleted count without their texts.
+    // How many steps are kept, and how much memory they may take; 0: any. The oldest go first; but when what
+    // is undone takes more by itself, its last ones. Default: 1000 steps and 256 MB. Rows that were deleted
+    // count without their texts.
     void SetLimits(long steps, std::size_t bytes);
     // What all steps take.
     std::size_t GetBytes() const;

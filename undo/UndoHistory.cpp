@@ -321,12 +321,23 @@ void UndoHistory::DropFirst(Steps& steps)
     first.reset();
 }
 
+// A step that has become too large as it was undone goes with those that followed it, not with those before.
 void UndoHistory::KeepLimits()
 {
     while (maxSteps > 0 && static_cast<long>(undo.size()) > maxSteps)
         DropFirst(undo);
-    while (maxBytes > 0 && bytes > maxBytes && (!undo.empty() || !redo.empty()))
-        DropFirst(!undo.empty() ? undo : redo);
+    if (maxBytes == 0 || bytes <= maxBytes)
+        return;
+    std::size_t undone = 0;
+    for (const auto& step : redo)
+        undone += step->bytes;
+    while (bytes > maxBytes && (!undo.empty() || !redo.empty()))
+    {
+        const bool fromRedo = undo.empty() || undone > maxBytes;
+        if (fromRedo)
+            undone -= redo.front()->bytes;
+        DropFirst(fromRedo ? redo : undo);
+    }
 }
 
 void UndoHistory::SetLimits(long steps, std::size_t limit)

@@ -234,6 +234,19 @@ TEST_F(OddOrders, AStepBeyondTheLimit_TakesTheHistoryAlong_AndNothingElse)
     EXPECT_EQ(TextOf(grid, 0, 2), L"0,2");
 }
 
+TEST_F(OddOrders, AnUndoneStepBeyondTheLimit_LeavesTheOlderOnes)
+{
+    stack.Watch(grid);
+    stack.SetLimits(0, 100'000);
+    Type(grid, 0, 0, L"1");
+    grid.SetRowNum(1000);
+    EXPECT_EQ(stack.GetUndoNum(), 2);
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(stack.GetRedoNum(), 0) << "the rows that are kept are too much";
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+}
+
 // ---- Texts with any characters
 
 CString WithNul()

@@ -1,5 +1,6 @@
 // Child frames: creation, activation, menus, titles, and the commands of the Window menu.
 #include "tests/documents/MdiFixture.h"
+#include "tests/framework/DebugOutput.h"
 #include "tests/support/MessageBoxProbe.h"
 
 namespace
@@ -40,6 +41,27 @@ TEST_F(MdiDocuments, AChild_HasThePlaceItIsGiven)
     m_frame->GetDlgItem(AFX_IDW_PANE_FIRST)->ScreenToClient(&rect);
     EXPECT_EQ(rect, place);
     child->DestroyWindow();
+}
+
+TEST_F(MdiDocuments, AChild_IsNotCreatedWithoutAFrame)
+{
+    class Child : public CMDIChildWnd
+    {
+    public:
+        explicit Child(bool& ended) : m_ended(ended) {}
+        ~Child() override { m_ended = true; }
+
+    private:
+        bool& m_ended;
+    };
+    bool ended = false;
+    m_app.m_pMainWnd = NULL;
+    DebugOutput output;
+    EXPECT_FALSE((new Child(ended))->Create(NULL, L"Nowhere"));
+    EXPECT_TRUE(ended);
+    // The checked variant tells why.
+    EXPECT_EQ(output.Take().empty(), !HasTraces);
+    m_app.m_pMainWnd = m_frame;
 }
 
 TEST_F(MdiDocuments, TheClientWindow_IsEmptyUntilTheFrameIsLaidOut)

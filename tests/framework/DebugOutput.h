@@ -9,6 +9,13 @@
 namespace quor::test
 {
 
+// Whether TRACE writes anything.
+#ifdef _DEBUG
+constexpr bool HasTraces = true;
+#else
+constexpr bool HasTraces = false;
+#endif
+
 // Keeps what this process writes for a debugger while the object lives: the platform tells debuggers by an
 // exception, which a program can look at, too. One at a time.
 class DebugOutput

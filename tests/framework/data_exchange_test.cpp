@@ -1,4 +1,5 @@
 // Data exchange: values in both directions, what is refused, and what the user is told.
+#include "tests/framework/DebugOutput.h"
 #include "tests/framework/DialogTemplateBuilder.h"
 #include "tests/support/HostWindow.h"
 #include "tests/support/MessageBoxProbe.h"
@@ -352,9 +353,11 @@ TEST_F(DataExchange, MinMax_DoesNotCheckWhatIsShown)
         DDV_MinMaxInt(pDX, value, 0, 10);
     };
     MessageBoxProbe probe;
+    DebugOutput output;
     EXPECT_TRUE(m_dialog.UpdateData(FALSE));
     EXPECT_STREQ(m_dialog.Text(), L"99");
     EXPECT_TRUE(probe.Shown().empty());
+    EXPECT_EQ(output.Take().find("out of range") != std::string::npos, HasTraces);
 }
 
 TEST_F(DataExchange, MaxChars_LimitsTypingAndRefusesLongerTexts)

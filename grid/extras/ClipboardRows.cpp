@@ -60,7 +60,7 @@ bool TGClipboard::TreeWriter::FindPlace(bool asChildren)
     const long row = !selected.empty() ? selected.front().top : grid.GetRowNum();
     operation.Hold({0, 0, -1, grid.GetColNum() - 1});
     TGGridRow* const current = operation.Extension().FindRow(row);
-    if (grid.IsRowFixLength() || grid.IsReadOnly() ||
+    if (grid.IsRowFixLength() || grid.IsNoPaste() ||
         (asChildren && (current == nullptr || !current->IsTreeRow())))
         return false;
     const std::size_t slot = current != nullptr ? operation.rows.Add(current) : NoSlot;

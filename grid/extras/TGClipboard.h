@@ -116,6 +116,7 @@ public:
     // As rows: asks OnBeforePaste or OnBeforePasteChild, OnBeforeInsertRow or OnBeforeInsertChild for each
     // row, and tells OnInsertRow and at last OnEndPaste with the new rows selected, so that a TGTreeGrid
     // gives them identifiers of their own. Rows without a place beneath a tree row come in beside each other.
+    // Refused where the number of rows is fixed, and by IsNoPaste().
     TGClipboardReport Paste(PasteWay way = PasteWay::Auto);
     // The same with a text as it stands on the clipboard, which is not looked at.
     TGClipboardReport PasteText(const CString& text);

@@ -130,6 +130,20 @@ TEST_F(TreeRows, AFixedNumberOfRows_TakesThemAsCells)
     EXPECT_EQ(Text(clipboard.Paste(TGClipboard::PasteWay::Rows)), "refused: not allowed, done 0");
 }
 
+TEST_F(TreeRows, AGridWhoseUsersPasteNoRows_RefusesThem)
+{
+    MakeTree();
+    grid.SelectRow(1, true);
+    clipboard.Copy();
+    grid.UnSelect();
+    grid.SetNoPaste(true);
+    for (const TGClipboard::PasteWay way :
+         {TGClipboard::PasteWay::Auto, TGClipboard::PasteWay::Rows, TGClipboard::PasteWay::ChildRows})
+        EXPECT_EQ(Text(clipboard.Paste(way)), "refused: not allowed, done 0");
+    EXPECT_EQ(Trees(grid), "a(b*(c d) e) f");
+    EXPECT_EQ(Text(clipboard.Paste(TGClipboard::PasteWay::Cells)).substr(0, 4), "done");
+}
+
 TEST_F(TreeRows, HooksMayRefuse_AllOrSome)
 {
     MakeTree();

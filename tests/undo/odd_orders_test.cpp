@@ -1,6 +1,7 @@
 // Undo where things come in an odd order: hooks of the stack that change and end, several grids, rows that go
 // for good, drags and selections of several ranges.
 #include "grid/extras/TGCellCursor.h"
+#include "grid/extras/TGClipboard.h"
 #include "grid/TGCellEdit.h"
 #include "tests/grid/EditGrid.h"
 #include "tests/support/FailingNew.h"
@@ -133,6 +134,66 @@ TEST_F(OddOrders, Undo_FromWithinAHookOfAnAction_IsRefused)
     grid.dataChanged = nullptr;
     EXPECT_TRUE(stack.Undo());
     EXPECT_EQ(grid.GetRowNum(), 4);
+}
+
+TEST_F(OddOrders, AWindowThatGoesAmidAPaste_LeavesAStep)
+{
+    TGClipboard clipboard(grid);
+    stack.Watch(grid);
+    grid.modifiedText = [this](TGGridCell&, CString&) {
+        grid.DestroyWindow();
+        return true;
+    };
+    EXPECT_EQ(clipboard.PasteText(L"a\tb").GetDone(), 2);
+    EXPECT_EQ(TextOf(grid, 4, 0), L"a");
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(grid.GetRowNum(), 4);
+    EXPECT_TRUE(stack.Redo());
+    EXPECT_EQ(TextOf(grid, 4, 1), L"b");
+}
+
+TEST_F(OddOrders, HooksOfAnUndo_MayDestroyTheWindow)
+{
+    for (std::function<void()> EditGrid::*const hook : {&EditGrid::curChanged, &EditGrid::dataChanged})
+    {
+        EditGrid watched;
+        EditTest::Make(watched, 4, 3);
+        stack.Watch(watched);
+        watched.SelectRow(1, true);
+        watched.DoDelete();
+        watched.*hook = [&watched] { watched.DestroyWindow(); };
+        EXPECT_TRUE(stack.Undo());
+        EXPECT_EQ(watched.GetSafeHwnd(), nullptr);
+        EXPECT_EQ(watched.GetRowNum(), 4);
+        EXPECT_TRUE(stack.Redo());
+        EXPECT_EQ(watched.GetRowNum(), 3);
+    }
+}
+
+TEST_F(OddOrders, HooksOfAnUndo_MayEndAnyWatch)
+{
+    MakeOther();
+    for (std::function<void()> EditGrid::*const hook : {&EditGrid::curChanged, &EditGrid::dataChanged})
+        for (EditGrid* const leaving : {&grid, &other})
+        {
+            stack.Watch(grid);
+            stack.Watch(other);
+            {
+                const TGUndoTransaction both(stack, L"both");
+                grid.GetCell(0, 0).SetText(L"1");
+                other.GetCell(0, 0).SetText(L"2");
+            }
+            grid.*hook = [&] { stack.Unwatch(*leaving); };
+            EXPECT_TRUE(stack.Undo());
+            grid.*hook = nullptr;
+            EXPECT_FALSE(stack.IsWatching(*leaving));
+            EXPECT_FALSE(grid.IsUpdating());
+            EXPECT_FALSE(other.IsUpdating());
+            EXPECT_EQ(TextOf(grid, 0, 0), L"0,0");
+            EXPECT_EQ(TextOf(other, 0, 0), L"0,0");
+            stack.Unwatch(grid);
+            stack.Unwatch(other);
+        }
 }
 
 // ---- Rows that go for good

@@ -2,6 +2,7 @@
 // for good, drags and selections of several ranges.
 #include "grid/extras/TGCellCursor.h"
 #include "grid/extras/TGClipboard.h"
+#include "grid/extras/TGHeaderSort.h"
 #include "grid/TGCellEdit.h"
 #include "tests/grid/EditGrid.h"
 #include "tests/support/FailingNew.h"
@@ -355,6 +356,32 @@ TEST_F(OddOrders, ATextWithANul_ComesBackWithItsColumn)
     stack.Undo();
     EXPECT_TRUE(IsWithNul(grid.GetCell(1, 1).GetText()));
     EXPECT_EQ(TextOf(grid, 2, 1), L"2,1");
+}
+
+// ---- Other extensions
+
+TEST_F(OddOrders, ASortByCaptionsGoesBack_AndTheArrowsGo)
+{
+    TGHeaderSort sorting(grid);
+    stack.Watch(grid);
+    const std::string before = Texts(grid);
+    EXPECT_TRUE(sorting.Sort({{0, false}}));
+    const std::string sorted = Texts(grid);
+    EXPECT_EQ(sorted, "3,0 2,0 1,0 0,0");
+    EXPECT_EQ(stack.GetUndoNum(), 1);
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(Texts(grid), before);
+    EXPECT_TRUE(sorting.GetKeys().empty());
+    EXPECT_TRUE(stack.Redo());
+    EXPECT_EQ(Texts(grid), sorted);
+    EXPECT_TRUE(sorting.GetKeys().empty());
+    // Sorted anew, the order to go back to is the one of now.
+    EXPECT_TRUE(sorting.Sort({{0, true}}));
+    EXPECT_TRUE(sorting.Sort({}));
+    EXPECT_EQ(Texts(grid), sorted);
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_TRUE(stack.Undo());
+    EXPECT_EQ(Texts(grid), sorted);
 }
 
 // ---- What is shown

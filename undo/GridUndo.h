@@ -159,4 +159,22 @@ private:
     unsigned openPosition = 0;
 };
 
+template <class Note> void GridUndo::Noting(Note note)
+{
+    try
+    {
+        note();
+    }
+    catch (...)
+    {
+        history.End();
+    }
+}
+
+template <class Change> Change* GridUndo::Last(bool back) const
+{
+    UndoChange* const last = history.GetLast(back);
+    return last != nullptr && &last->GetRecorder() == this ? dynamic_cast<Change*>(last) : nullptr;
+}
+
 } // namespace QuorUiCtr

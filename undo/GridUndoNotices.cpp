@@ -24,24 +24,6 @@ bool GridUndo::IsRecording() const
     return GetGrid() != nullptr && (reverting || history.IsRecording());
 }
 
-template <class Note> void GridUndo::Noting(Note note)
-{
-    try
-    {
-        note();
-    }
-    catch (...)
-    {
-        history.End();
-    }
-}
-
-template <class Change> Change* GridUndo::Last(bool back) const
-{
-    UndoChange* const last = history.GetLast(back);
-    return last != nullptr && &last->GetRecorder() == this ? dynamic_cast<Change*>(last) : nullptr;
-}
-
 void GridUndo::Put(std::unique_ptr<GridChange> change)
 {
     if (reverting)

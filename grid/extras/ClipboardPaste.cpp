@@ -142,7 +142,10 @@ TGClipboardReport TGClipboard::Paste(PasteWay way)
             }
             table = ReadClipboardCells();
         }
-        if (table)
+        // Who renders what is read may do anything.
+        if (!operation.IsAlive())
+            operation.report.Refuse(TGClipboardRefusal::NotAllowed);
+        else if (table)
             PasteTable(operation, *table, way);
         else
             operation.report.Refuse(TGClipboardRefusal::NothingToPaste);

@@ -80,6 +80,22 @@ protected:
     OddOwner owner;
 };
 
+TEST_F(OddOwners, AnExtensionThatIsDeletedWhileItReads_Ends)
+{
+    owner.rendering = [this] { pasting.reset(); };
+    owner.Offer();
+    EXPECT_EQ(Text(pasting->Paste()), "refused: not allowed, done 0");
+    EXPECT_EQ(AllTexts(grid), "0,0|0,1|0,2 / 1,0|1,1|1,2 / 2,0|2,1|2,2");
+}
+
+TEST_F(OddOwners, AnExtensionThatLeavesWhileItReads_Ends)
+{
+    owner.rendering = [this] { pasting->Detach(); };
+    owner.Offer();
+    EXPECT_EQ(Text(pasting->Paste()), "refused: not allowed, done 0");
+    EXPECT_EQ(AllTexts(grid), "0,0|0,1|0,2 / 1,0|1,1|1,2 / 2,0|2,1|2,2");
+}
+
 TEST_F(OddOwners, AnExtensionThatIsDeletedAsItTakesTheClipboard_Ends)
 {
     owner.Offer();

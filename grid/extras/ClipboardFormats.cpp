@@ -128,7 +128,7 @@ CellTable TableOf(UINT format)
     const LockedMemory memory(format);
     CellTable table;
     if (format == CF_UNICODETEXT)
-        table = ReadClipboardText(memory.Units());
+        table = ReadCellText(TextOfBlock(memory.Units()).text);
     else if (format == Formats().csv)
         table = CsvTable(memory.Bytes());
     else if (format == Formats().html)
@@ -187,11 +187,6 @@ std::optional<CellTable> ReadClipboardCells()
             if (CellTable table = TableOf(format); table.GetRowNum() > 0 && table.GetColNum() > 0)
                 return table;
     return std::nullopt;
-}
-
-CellTable ReadClipboardText(std::wstring_view text)
-{
-    return ReadCellText(TextOfBlock(text).text);
 }
 
 } // namespace QuorUiCtr

@@ -29,7 +29,5 @@ HGLOBAL RenderFormat(UINT format, const CellSource& write);
 // The first of the formats from which a table with cells can be read, of the clipboard, which is open.
 // Nothing without one.
 std::optional<CellTable> ReadClipboardCells();
-// A text as it stands on the clipboard: with tabs, up to the first U+0000.
-CellTable ReadClipboardText(std::wstring_view text);
 
 } // namespace QuorUiCtr

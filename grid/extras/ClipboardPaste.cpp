@@ -4,6 +4,7 @@
 #include "grid/extras/ClipboardWindow.h"
 #include "grid/extras/ViewOf.h"
 #include "grid/TGGridUpdate.h"
+#include "rules/CellText.h"
 
 #include <algorithm>
 #include <memory>
@@ -155,7 +156,7 @@ TGClipboardReport TGClipboard::Paste(PasteWay way)
 TGClipboardReport TGClipboard::PasteText(const CString& text)
 {
     return Perform(TGClipboardAction::Paste, [&](Operation& operation) {
-        PasteTable(operation, ReadClipboardText(ViewOf(text)), PasteWay::Cells);
+        PasteTable(operation, ReadCellText(ViewOf(text)), PasteWay::Cells);
     });
 }
 

@@ -118,7 +118,8 @@ public:
     // gives them identifiers of their own. Rows without a place beneath a tree row come in beside each other.
     // Refused where the number of rows is fixed, and by IsNoPaste().
     TGClipboardReport Paste(PasteWay way = PasteWay::Auto);
-    // The same with a text as it stands on the clipboard, which is not looked at.
+    // The same with a text as it stands on the clipboard, which is not looked at. U+0000 is a character like
+    // any other here.
     TGClipboardReport PasteText(const CString& text);
     // Copies the first row of each selected range to the others, or its first column; a range of one row gets
     // the row above, one of one column the column to the left.

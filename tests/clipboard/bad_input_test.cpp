@@ -98,6 +98,14 @@ TEST_F(BadInput, ATextWithAZeroInIt_OrOfHalfACharacter_EndsThere)
     EXPECT_EQ(Text(clipboard.Paste()), "refused: nothing to paste, done 0");
 }
 
+TEST_F(BadInput, ATextOfTheProgramWithAZeroInIt_IsPastedWhole)
+{
+    Make();
+    EXPECT_EQ(Text(clipboard.PasteText(CString(L"a\0b\tc", 5))), "done 2");
+    EXPECT_EQ(std::wstring_view(grid.GetCell(0, 0).GetText(), 3), std::wstring_view(L"a\0b", 3));
+    EXPECT_EQ(grid.GetCell(0, 1).GetText(), L"c");
+}
+
 TEST_F(BadInput, HtmlWithAZeroInIt_EndsWhereItsHeaderSays)
 {
     Make();

@@ -191,6 +191,20 @@ TEST_F(CellCursor, ArrowsWhileTyping_CommitAndGoOn)
     EXPECT_EQ(TextOf(grid, 0, 1), L"b");
 }
 
+// The host looks something up while the text is stored, which takes the focus.
+TEST_F(CellCursor, CommitThatMovesTheFocus_GivesItBackToTheGrid)
+{
+    Make();
+    AfterTyping(L"a");
+    grid.modifiedText = [this](TGGridCell&, CString&) {
+        host.SetFocus();
+        return true;
+    };
+    EXPECT_EQ(After(VK_RETURN), "1,0");
+    EXPECT_EQ(TextOf(grid, 0, 0), L"a");
+    EXPECT_EQ(CWnd::GetFocus(), &grid);
+}
+
 TEST_F(CellCursor, AltDown_OpensTheList)
 {
     Make();

@@ -55,6 +55,7 @@ TEST_F(ColumnFormats, Dates)
     EXPECT_EQ(Shown(L"2026-02-28 13:05", {.kind = TGValueKind::DateTime}, L"en-GB"), "28/02/2026 13:05");
     EXPECT_EQ(Shown(L"2026-02-28", {.kind = TGValueKind::Date, .datePicture = L"yyyy/MM"}), "2026/02");
     EXPECT_EQ(Shown(L"2026-02-30", {.kind = TGValueKind::Date}), "2026-02-30");
+    EXPECT_EQ(Shown(L"2026-02-28", {.kind = TGValueKind::Date, .datePicture = L"''"}), "") << "of no words";
 }
 
 TEST_F(ColumnFormats, TruthValues)

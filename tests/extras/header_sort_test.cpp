@@ -397,6 +397,32 @@ TEST_F(HeaderSort, AVetoLeavesTheOrder)
     EXPECT_FALSE(asking.Sort({}));
 }
 
+// The host may show the new arrows at once, also while rows are not laid out.
+TEST_F(HeaderSort, WhoIsTold_FindsTheHeaderDueForRepainting)
+{
+    class LookingSort : public TGHeaderSort
+    {
+    public:
+        int due = 0;
+
+    protected:
+        void OnSortChanged() override
+        {
+            CWnd* const header = GetGrid()->GetDlgItem(103);
+            due += header->GetUpdateRect(nullptr) ? 1 : 0;
+        }
+    };
+    Make({{L"b", L"a"}});
+    sorting.Detach();
+    LookingSort looking;
+    looking.AttachTo(grid);
+    grid.UpdateWindow();
+    grid.GetDlgItem(103)->UpdateWindow();
+    const TGGridUpdate update(grid);
+    EXPECT_TRUE(looking.Sort({{0, true}}));
+    EXPECT_EQ(looking.due, 1);
+}
+
 TEST_F(HeaderSort, AComparisonThatClosesTheWindow_AndDeletesTheExtension)
 {
     Make({{L"b", L"a", L"c"}});

@@ -243,6 +243,33 @@ TEST_F(Seams, Captions)
     EXPECT_GT(picture.CountColour(caption, green), 0);
 }
 
+TEST_F(Seams, WhatACaptionIsDrawnWith_IsNoMatterOfTheNext)
+{
+    Make();
+    grid.GetCol(1).SetName(L"caption");
+    extension.caption = [](CDC& context, const CRect&) { context.SetTextColor(red); };
+    const Snapshot picture = Picture();
+    const CRect cell = grid.InsideOf(0, 1);
+    EXPECT_EQ(picture.CountColour(CRect(cell.left, 0, cell.right, 20), red), 0);
+}
+
+TEST_F(Seams, TheFontOfACell_IsNoMatterOfTheNext)
+{
+    Make();
+    const CRect next = grid.InsideOf(0, 2);
+    const Snapshot before = Picture();
+    CFont large;
+    large.CreatePointFont(180, L"Tahoma");
+    extension.cellLook = [&large](TGGridCell& cell, TGTextLook& look) {
+        if (cell.GetColIndex() == 1)
+            look.font = &large;
+    };
+    const Snapshot after = Picture();
+    for (int y = next.top; y < next.bottom; ++y)
+        for (int x = next.left; x < next.right; ++x)
+            ASSERT_EQ(after.At(x, y), before.At(x, y)) << x << "," << y;
+}
+
 // ---- Tips, menus, order
 
 std::string TipAt(TGGrid& grid, CPoint point)

@@ -34,5 +34,22 @@ TEST(SelectionNotice, RowsThatMayNotBeDeleted_LeaveTheSelectionAndAreTold)
     EXPECT_EQ(grid.GetRowSelNum(), 1);
 }
 
+TEST(SelectionNotice, ComesWhenTheCurrentRowAndColumnAreKnown)
+{
+    ModelGrid grid;
+    AddCols(grid, 2);
+    AddRows(grid, "abc");
+    RecordingExtension extension;
+    extension.AttachTo(grid);
+    std::string current;
+    extension.actions["selected"] = [&] {
+        current = std::to_string(grid.GetCurRowIndex()) + "," + std::to_string(grid.GetCurColIndex());
+    };
+    grid.SelectRow(2, true);
+    EXPECT_EQ(current, "2,-1");
+    grid.SelectCol(1, true);
+    EXPECT_EQ(current, "-1,1");
+}
+
 } // namespace
 } // namespace quor::test

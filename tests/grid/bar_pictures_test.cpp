@@ -2,6 +2,10 @@
 #include "tests/grid/WindowGrid.h"
 #include "tests/support/Input.h"
 
+#include <string>
+#include <tuple>
+#include <utility>
+
 using namespace QuorUiCtr;
 using namespace quor::test;
 
@@ -102,6 +106,63 @@ TEST_F(BarPictures, DoNotWaitForTheTimerOfAWindowThatIsGone)
     Step(WM_VSCROLL, SB_LINEDOWN, 10);
     Step(WM_VSCROLL, SB_LINEUP, 10);
     EXPECT_TRUE(PumpUntil([&] { return Picture() == atTheStart; }));
+}
+
+// Knows which of its bars it was told to draw.
+class NotingGrid : public WindowGrid
+{
+public:
+    // "h", "v" or "hv": the bars that were drawn since the last call.
+    std::string TakeBars()
+    {
+        return std::string(std::exchange(horizontal, false) ? "h" : "") +
+               (std::exchange(vertical, false) ? "v" : "");
+    }
+    bool HasDrawnBars() const { return horizontal || vertical; }
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_NCPAINT)
+        {
+            CRect area;
+            ::GetClientRect(m_hWnd, &area);
+            const CPoint middle = area.CenterPoint();
+            horizontal = horizontal || IsIn(wParam, CPoint(middle.x, area.bottom + 3));
+            vertical = vertical || IsIn(wParam, CPoint(area.right + 3, middle.y));
+        }
+        return WindowGrid::WindowProc(message, wParam, lParam);
+    }
+
+private:
+    bool IsIn(WPARAM region, CPoint point)
+    {
+        ClientToScreen(&point);
+        return region == 1 || ::PtInRegion(reinterpret_cast<HRGN>(region), point.x, point.y);
+    }
+
+    bool horizontal = false;
+    bool vertical = false;
+};
+
+using StandingBars = GridWindowTest;
+
+TEST_F(StandingBars, AreNotDrawnWhileTheOtherMoves)
+{
+    NotingGrid grid;
+    Create(grid);
+    Fill(grid, 100, 10);
+    grid.UpdateWindow();
+    PumpPending();
+    grid.TakeBars();
+    for (const auto& [message, code, drawn] :
+         {std::tuple<UINT, UINT, std::string>{WM_VSCROLL, SB_LINEDOWN, "v"}, {WM_HSCROLL, SB_LINERIGHT, "h"}})
+    {
+        grid.SendMessage(message, code);
+        grid.UpdateWindow();
+        EXPECT_TRUE(PumpUntil([&] { return grid.HasDrawnBars(); }));
+        EXPECT_EQ(grid.TakeBars(), drawn);
+    }
 }
 
 // Moves the mouse and releases it while the bar's own loop runs, which ends with that.

@@ -139,6 +139,35 @@ TEST_F(ColDrags, ResizeZone_IsTwoPixelsWide)
     EXPECT_EQ(grid.GetCol(1).GetWidth(), 50);
 }
 
+TEST_F(ColDrags, CellThatIsPaintedDuringADrag_KeepsTheMark)
+{
+    CommandGrid grid;
+    Make(grid, "ab");
+    grid.SelectCols({0});
+    Press(ColHeader(grid), ColBox(grid, 0));
+    Move(ColHeader(grid), ColBox(grid, 3));
+    grid.GetCell(0, 3).Refresh();
+    const CPoint corner = grid.ToClient(3 * colWidth, 0);
+    // Beside the line between the columns, which is not white.
+    EXPECT_TRUE(Snapshot(grid).IsAll(CRect(corner.x + 1, corner.y + 2, corner.x + 3, corner.y + 18), black));
+    Release(ColHeader(grid), ColBox(grid, 0));
+    EXPECT_TRUE(ShowsNoTrace(grid));
+}
+
+TEST_F(ColDrags, CursorOfAnEdge_IsNotReplacedByAnybody)
+{
+    CommandGrid grid;
+    Make(grid, "ab");
+    CWnd& header = ColHeader(grid);
+    const auto isSet = [&header](CPoint point) {
+        header.ClientToScreen(&point);
+        ::SetCursorPos(point.x, point.y);
+        return header.SendMessage(WM_SETCURSOR, reinterpret_cast<WPARAM>(header.m_hWnd),
+                                  MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    };
+    EXPECT_EQ(isSet(CPoint(98, 10)), TRUE);
+}
+
 TEST_F(ColDrags, DraggedEdge_ResizesTheColumnAndShiftsTheOthers)
 {
     CommandGrid grid;

@@ -337,5 +337,19 @@ TEST_F(EditorCreation, Destroy_EndsWindowAndObject)
     EXPECT_TRUE(deleted);
 }
 
+TEST_F(EditorCreation, Button_IsNotMadeWhereTheTextWouldHaveNoRoom)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.BeginEditCell(1, 1);
+    TGCellButton button(grid.editor);
+    grid.EditorWindow()->MoveWindow(0, 0, 19, 20);
+    EXPECT_FALSE(button.Create());
+    EXPECT_EQ(button.m_hWnd, nullptr);
+    grid.EditorWindow()->MoveWindow(0, 0, 60, 20);
+    EXPECT_TRUE(button.Create());
+    EXPECT_EQ(Text(PlaceOf(button)), Text(CRect(40, 0, 60, 20)));
+}
+
 } // namespace
 } // namespace quor::test

@@ -291,6 +291,15 @@ TEST_F(HeaderClicks, DoubleClickOnAColumn_DoesNothing)
     EXPECT_EQ(grid.TakeText(), "");
 }
 
+TEST_F(HeaderClicks, CurrentRowThatAnUpdateSets_IsMarkedAtItsEnd)
+{
+    {
+        const TGGridUpdate update(grid);
+        grid.SetCurRowIndex(3);
+    }
+    EXPECT_TRUE(ShowsNoTrace(grid));
+}
+
 // ---- Corner
 
 TEST_F(HeaderClicks, Corner_TakesTheFocusAndSelectsOnlyOnADoubleClick)

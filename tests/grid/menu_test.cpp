@@ -176,5 +176,40 @@ TEST_F(ContextMenus, AreGivenBackAfterUse)
     EXPECT_EQ(CountGuiHandles().menus, before.menus);
 }
 
+// Is told to end its modes while a menu is open; a timer closes the menu if that did not.
+class EndingGrid : public CommandGrid
+{
+public:
+    static constexpr UINT_PTR lateTimer = 77;
+    bool isLate = false;
+
+protected:
+    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_ENTERIDLE)
+            SendMessage(WM_CANCELMODE);
+        if (message == WM_TIMER && wParam == lateTimer)
+        {
+            isLate = true;
+            ::EndMenu();
+        }
+        return CommandGrid::WindowProc(message, wParam, lParam);
+    }
+};
+
+// As when it is disabled under its menu, for a message of the host.
+TEST_F(ContextMenus, AMenuOfTheGrid_ClosesWhenTheGridIsToldToEndItsModes)
+{
+    EndingGrid ending;
+    Make(ending, "a");
+    CMenu menu;
+    menu.CreatePopupMenu();
+    menu.AppendMenu(MF_STRING, 1, L"entry");
+    ending.SetTimer(EndingGrid::lateTimer, 3000, nullptr);
+    menu.TrackPopupMenu(TPM_LEFTALIGN, 40, 40, &ending);
+    ending.KillTimer(EndingGrid::lateTimer);
+    EXPECT_FALSE(ending.isLate);
+}
+
 } // namespace
 } // namespace quor::test

@@ -5,7 +5,11 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cstring>
+#include <iterator>
 #include <memory>
+#include <new>
 
 using namespace quor::test;
 
@@ -193,6 +197,23 @@ TEST_F(Combos, AnOptionOfANumberMatchesItsText)
     EXPECT_EQ(grid.GetOptionItemCurSel(L"Number"), 1);
     grid.SetOptionItemCurSel(L"Number", 0);
     EXPECT_EQ(number->GetValue().lVal, 10) << "a text is no number";
+}
+
+// The host owns the group until it is added: the memory of the grid may be anything by then.
+TEST(ComboOutlivingItsGrid, LeavesItsMemoryAlone)
+{
+    alignas(CMFCPropertyGridCtrlEx) unsigned char memory[sizeof(CMFCPropertyGridCtrlEx)];
+    auto group = std::make_unique<CMFCPropertyGridProperty>(L"group");
+    auto* grid = new (memory) CMFCPropertyGridCtrlEx;
+    CArray<CString, const CString&> options;
+    options.Add(L"a");
+    grid->AddComboStringSubItem(group.get(), L"choice", L"a", options, L"");
+    ASSERT_EQ(group->GetSubItemsCount(), 1);
+    grid->~CMFCPropertyGridCtrlEx();
+    std::memset(memory, 0xA5, sizeof(memory));
+    group.reset();
+    EXPECT_TRUE(
+        std::all_of(std::begin(memory), std::end(memory), [](unsigned char byte) { return byte == 0xA5; }));
 }
 
 } // namespace

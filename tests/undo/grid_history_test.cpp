@@ -76,6 +76,27 @@ TEST_F(GridSteps, ATextWrittenPastTheStack_EndsTheHistoryThere)
     EXPECT_EQ(Texts(grid), "1 host 3 d");
 }
 
+// There is nothing to undo any more, which menus show.
+TEST_F(GridSteps, AHistoryThatEnds_HasChanged)
+{
+    class NotedStack : public TGUndoStack
+    {
+    public:
+        int changes = 0;
+
+    protected:
+        void OnHistoryChanged() override { ++changes; }
+    } noted;
+    stack.Unwatch(grid);
+    noted.Watch(grid);
+    Type(0, 0, L"1");
+    grid.GetCell(0, 0).GetText() = L"host";
+    noted.changes = 0;
+    EXPECT_FALSE(noted.Undo());
+    EXPECT_FALSE(noted.CanUndo());
+    EXPECT_EQ(noted.changes, 1);
+}
+
 TEST_F(GridSteps, AStepThatFitsInPart_ChangesNothing)
 {
     {
@@ -248,6 +269,28 @@ TEST_F(GridSteps, BeyondTheLimits_TheOldestGo)
     EXPECT_EQ(stack.GetUndoNum(), 0);
     EXPECT_EQ(NumberedData::alive, 1);
     EXPECT_EQ(stack.GetBytes(), 0U);
+}
+
+TEST_F(GridSteps, WhatComesBackWithAStep_CountsWithIt)
+{
+    Type(0, 0, L"x");
+    stack.Undo();
+    const std::size_t alone = stack.GetBytes();
+    stack.Redo();
+    grid.GetCol(0).SetWidth(10);
+    stack.Undo();
+    EXPECT_GT(stack.GetBytes(), alone);
+}
+
+TEST_F(GridSteps, AColumnThatIsKept_Counts)
+{
+    grid.SetRowNum(0);
+    stack.Clear();
+    grid.MoveCol(0, 2);
+    const std::size_t moved = stack.GetBytes();
+    stack.Clear();
+    grid.DelCol(0);
+    EXPECT_GE(stack.GetBytes(), moved + sizeof(TGGridCol));
 }
 
 TEST_F(GridSteps, DeletedRows_AreKeptWithoutTheirTexts)

@@ -112,10 +112,13 @@ TEST_F(ListInput, ClickJustBehindTheText_BeginsTheEditUpToFivePixels)
 {
     CRect label;
     list.GetItemRect(1, label, LVIR_LABEL);
-    const int end = label.left + list.GetStringWidth(list.GetItemText(1, 0));
-    ClickTwice(CPoint(end + 6, label.CenterPoint().y));
+    const CPoint end(label.left + list.GetStringWidth(list.GetItemText(1, 0)), label.CenterPoint().y);
+    Click(list, end + CPoint(12, 0));
+    Click(list, end + CPoint(6, 0));
     EXPECT_EQ(owner.TakeEdits(), Lines{});
-    ClickTwice(CPoint(end + 5, label.CenterPoint().y));
+    // Between two clicks that would be a double click.
+    Click(list, end + CPoint(12, 0));
+    Click(list, end + CPoint(5, 0));
     EXPECT_EQ(owner.TakeEdits(), Lines{"begin 1,0 [r1c0]"});
 }
 

@@ -1,7 +1,8 @@
-// Rows that somebody shows again while they are folded away: they are shown, and marked as folded.
+// Folding that others interrupt: an edit that is open, and somebody who shows the rows again.
 #include "grid/TGTreeGrid.h"
 #include "tests/extras/RecordingExtension.h"
 #include "tests/grid/ModelGrid.h"
+#include "tests/support/HostWindow.h"
 
 #include <gtest/gtest.h>
 
@@ -12,7 +13,8 @@ namespace quor::test
 namespace
 {
 
-// A child that comes in front is hidden then, and unfolding shows what the marks say.
+// Rows that are shown again while they are folded away are shown and marked as folded. A child that comes in
+// front is hidden then, and unfolding shows what the marks say.
 TEST(Refolding, OffspringThatUnfoldingHides_LeavesTheSelection)
 {
     TGTreeGrid grid(true);
@@ -31,6 +33,28 @@ TEST(Refolding, OffspringThatUnfoldingHides_LeavesTheSelection)
     top.UnFold();
     EXPECT_EQ(Texts(grid), "a  b");
     EXPECT_EQ(grid.GetRowSelNum(), 0) << Selection(grid);
+}
+
+// Nobody sees the children go one by one in a grid of the library's own: one notice for all, also where an
+// edit is committed first.
+TEST(Refolding, ChildrenThatAreFoldedAwayInAnEdit_AreToldOfOnce)
+{
+    HostWindow host;
+    TGTreeGrid grid(true);
+    ASSERT_TRUE(grid.Create(CRect(10, 10, 310, 210), WS_CHILD | WS_VISIBLE, &host));
+    AddCols(grid, 1);
+    TGGridTreeRow& top = AddRoot(grid, L"a");
+    AddChild(top, L"b");
+    AddChild(top, L"c");
+    top.UnFold();
+    grid.BeginEditCell(0, 0);
+    ASSERT_TRUE(grid.IsEditing());
+    RecordingExtension extension;
+    extension.AttachTo(grid);
+    extension.Take();
+    top.Fold();
+    EXPECT_FALSE(grid.IsEditing());
+    EXPECT_EQ(extension.Take(), "selected | folded a");
 }
 
 } // namespace

@@ -43,6 +43,28 @@ TEST_F(RowLayout, RowsOneByOne_MoveTheBarAtOnce)
     EXPECT_EQ("", grid.Bars());
 }
 
+TEST_F(RowLayout, RowsThatAreCut_TakeTheBarAway)
+{
+    Fill(grid, 40, 1);
+    for (long row = 2; row < 40; ++row)
+        grid.SelectRow(row, true);
+    grid.DoClip();
+    EXPECT_EQ("", grid.Bars());
+}
+
+TEST_F(RowLayout, ChildrenThatAreFoldedAway_TakeTheBarAway)
+{
+    WindowGrid tree(true);
+    Create(tree);
+    Fill(tree, 2, 1);
+    for (int i = 0; i < 40; ++i)
+        tree.GetTreeRow(0).AppendChild(nullptr);
+    tree.GetTreeRow(0).UnFold();
+    EXPECT_NE("", tree.Bars());
+    tree.GetTreeRow(0).Fold();
+    EXPECT_EQ("", tree.Bars());
+}
+
 TEST_F(RowLayout, RowsBehindAPaint_InvalidateAgain)
 {
     Fill(grid, 3, 1);

@@ -54,7 +54,7 @@ TEST(Refolding, ChildrenThatAreFoldedAwayInAnEdit_AreToldOfOnce)
     extension.Take();
     top.Fold();
     EXPECT_FALSE(grid.IsEditing());
-    EXPECT_EQ(extension.Take(), "selected | folded a");
+    EXPECT_EQ(extension.Take(), "selected | folded a+");
 }
 
 } // namespace

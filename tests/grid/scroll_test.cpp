@@ -291,4 +291,29 @@ TEST_F(GridScrolling, Wheel_WithoutAVerticalBar_GoesToTheDefaultOnly)
     EXPECT_EQ(host.m_hWnd, ::GetFocus());
 }
 
+// Writes down which scroll bar messages are left to the window below, which a host may have made this one of.
+class PassingGrid : public WindowGrid
+{
+public:
+    std::vector<UINT> passed;
+
+protected:
+    LRESULT DefWindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
+    {
+        if (message == WM_HSCROLL || message == WM_VSCROLL)
+            passed.push_back(message);
+        return WindowGrid::DefWindowProc(message, wParam, lParam);
+    }
+};
+
+TEST_F(GridScrolling, MessagesOfTheBars_GoToTheDefault)
+{
+    PassingGrid passing;
+    Create(passing);
+    Fill(passing, 100, 10);
+    passing.SendMessage(WM_VSCROLL, SB_LINEDOWN);
+    passing.SendMessage(WM_HSCROLL, SB_LINERIGHT);
+    EXPECT_EQ(passing.passed, (std::vector<UINT>{WM_VSCROLL, WM_HSCROLL}));
+}
+
 } // namespace

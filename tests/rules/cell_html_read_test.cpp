@@ -158,9 +158,9 @@ TEST(CellHtmlRead, TablesDeeperThanAnybodyNests_AreTextOfTheirCell)
     std::string html;
     for (int i = 0; i < 100000; ++i)
         html += "<table><tr><td>";
-    const CellTable table = ReadCellHtml(html + "deep</td></tr></table>after");
+    const CellTable table = ReadCellHtml(html + "deep</td></tr><tr><td>next</td></tr></table>after");
     EXPECT_EQ(table.GetRowNum(), 1U);
-    EXPECT_NE(table.GetText(0, 0).find(L"deep"), std::wstring_view::npos);
+    EXPECT_NE(table.GetText(0, 0).find(L"deep\n\tnext"), std::wstring_view::npos) << "a row is a line";
     EXPECT_NE(table.GetText(0, 0).find(L"after"), std::wstring_view::npos);
 }
 
@@ -202,6 +202,7 @@ TEST(CellHtmlRead, ParagraphsAreLines)
 TEST(CellHtmlRead, StylesMayKeepWhiteSpace)
 {
     EXPECT_EQ(Cell("<pre> a\r\n  b\tc</pre>d"), " a\\n  b\\tc\\nd|\n");
+    EXPECT_EQ(Cell("<pre>a\nb\r\rc\n\nd</pre>"), "a\\nb\\n\\nc\\n\\nd|\n");
     EXPECT_EQ(Cell("a<span style='mso-spacerun:yes'>   </span>b  c"), "a   b c|\n");
     EXPECT_EQ(Cell("<span style=\"color:red;white-space: PRE-WRAP\"> a <span>b  </span> </span>  c"),
               " a b    c|\n");

@@ -14,7 +14,7 @@ PROGRAMS = {
     "grid": ["grid_test", "grid_input_test", "extras_test"],
     "grid/collections": ["collections_test"],
     "grid/extras": ["extras_test", "clipboard_test"],
-    "treedrag": ["treedrag_test", "treedrag_input_test"],
+    "treedrag": ["treedrag_test", "treedrag_input_test", "undo_test"],
     "undo": ["undo_test"],
     "propgrid": ["propgrid_test", "propgrid_input_test"],
     "controls": ["controls_test", "controls_input_test"],

@@ -315,9 +315,16 @@ void TGCellCursor::OnSelected()
     OnMoved();
 }
 
+// Where the new-row line was, there may be a row that this object was not told of yet: it is when the notice
+// comes that a corner follows the line down.
 void TGCellCursor::OnLaidOut()
 {
-    SettleAll();
+    if (LastRow(true) < 0 || LastCol() < 0)
+        ranges.clear();
+    ForCorners([this](Corner& corner) {
+        if (corner.row != nullptr || FindRow(corner.lastRow) == nullptr)
+            Settle(corner);
+    });
 }
 
 bool TGCellCursor::OnCurrentCell(long& row, long& col) const

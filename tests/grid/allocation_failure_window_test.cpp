@@ -34,6 +34,26 @@ const Operation windowOperations[] = {
     {"layout", [](TGGrid& grid) { grid.RecalcLayout(1); }},
     {"an edit begun", [](TGGrid& grid) { grid.BeginEditCell(1, 1); }},
     {"an edit on the new-row line", [](TGGrid& grid) { grid.BeginEditCell(grid.GetRowNum(), 1); }},
+    {"an edit with a list",
+     [](TGGrid& grid) {
+         grid.GetCol(1).SetComboEdit(true);
+         grid.BeginEditCell(1, 1);
+     }},
+    {"a choice from a list",
+     [](TGGrid& grid) {
+         grid.GetCol(1).SetComboSel(true);
+         grid.BeginEditCell(1, 1);
+     }},
+    {"an edit with a button",
+     [](TGGrid& grid) {
+         grid.GetCol(1).SetRightButton(true);
+         grid.BeginEditCell(1, 1);
+     }},
+    {"an edit with a spin",
+     [](TGGrid& grid) {
+         grid.GetCol(1).SetRightSpin(true);
+         grid.BeginEditCell(1, 1);
+     }},
     {"an edit ended",
      [](TGGrid& grid) {
          grid.BeginEditCell(1, 1);

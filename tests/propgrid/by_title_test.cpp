@@ -112,6 +112,28 @@ TEST_F(ByTitle, HiddenAndFoldedPropertiesAreFound)
     EXPECT_EQ(Find(L"Item"), item);
 }
 
+TEST_F(ByTitle, AValueThatNoTextCanBeMadeOf_IsAnEmptyText)
+{
+    _variant_t failure;
+    failure.vt = VT_ERROR;
+    failure.scode = E_FAIL;
+    Property* const item = AddTo(AddGroup(L"Group"), L"Item", failure);
+    EXPECT_EQ(Text(L"Item"), L"");
+    EXPECT_EQ(Number(L"Item"), 0);
+    item->AddOption(L"0");
+    EXPECT_EQ(grid.GetOptionItemCurSel(L"Item"), -1);
+}
+
+TEST_F(ByTitle, AnOptionOfAPropertyThatThereIsNot_ChangesNothing)
+{
+    AddTo(AddGroup(L"Group"), L"Item", _variant_t(L"one"));
+    grid.SetOptionItemCurSel(L"None", 0);
+    grid.SetOptionItemCurSel(L"Item", 0);
+    grid.SetOptionItemCurSel(L"Item", -1);
+    EXPECT_EQ(Text(L"Item"), L"one");
+    EXPECT_EQ(grid.GetOptionItemCurSel(L"None"), -1);
+}
+
 TEST(ByTitleWithoutWindow, NothingIsFoundBeforeTheWindowExists)
 {
     PropertyHost host;

@@ -1,5 +1,6 @@
 // Small parts of the interface that nothing else of the grid calls: comparisons, copies and empty hooks.
 #include "tests/grid/CommandGrid.h"
+#include "tests/grid/ModelGrid.h"
 
 #include <gtest/gtest.h>
 
@@ -69,6 +70,25 @@ TEST(SmallParts, SiblingThatAHookRemoves_GetsNoNeighbour)
     grid.SelectRows({2});
     EXPECT_FALSE(grid.DoInsertRow());
     EXPECT_EQ(parent.GetChildNum(), 0);
+}
+
+TEST(SmallParts, CellsCompareByTheirTexts_ColumnsByTheirPlaces)
+{
+    CommandGrid grid;
+    AddCols(grid, 2);
+    grid.AddRows("ab");
+    TGGridCell& first = grid.GetCell(0, 0);
+    TGGridCell& second = grid.GetCell(1, 0);
+    EXPECT_TRUE(first < second);
+    EXPECT_FALSE(first > second);
+    EXPECT_TRUE(second > first);
+    second.SetText(L"a");
+    EXPECT_FALSE(first < second || first > second);
+    const TGGridCol& left = grid.GetCol(0);
+    const TGGridCol& right = grid.GetCol(1);
+    EXPECT_TRUE(left < right);
+    EXPECT_TRUE(right > left);
+    EXPECT_FALSE(left > right);
 }
 
 } // namespace

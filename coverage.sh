@@ -20,7 +20,7 @@ run_tests() {
     "$quor_root/tools/wine-prefix.sh" desktop >/dev/null
     find "$quor_build/mingw-coverage" -name '*.gcda' -delete
     say "running the tests"
-    ctest --test-dir "$quor_build/mingw-coverage" --output-on-failure --no-tests=error --timeout 7200 --quiet ||
+    ctest --test-dir "$quor_build/mingw-coverage" --output-on-failure --no-tests=error --quiet ||
         die "tests failed; see $quor_build/mingw-coverage/Testing/Temporary/LastTest.log"
 }
 

@@ -235,4 +235,33 @@ TEST_F(TreePaint, Drag_FramesTheSelectedItem)
     EXPECT_EQ(upperEdge.Width() - picture.CountColour(upperEdge, ground), 4) << "every second pixel";
 }
 
+// As much of it as the platform shows up to the edge of the window, and dots.
+TEST_F(TreePaint, Drag_ShortensALabelThatDoesNotFit)
+{
+    Fill("a b c");
+    const CString longText(L'l', 400);
+    tree->SetItemText(At("a"), longText);
+    BeginDrag("c");
+    const Snapshot picture = TakeSnapshot();
+    CRect place = Label(std::string(400, 'l'));
+    place = CRect(place.left + 2, place.top + 1, ClientRight(), place.bottom);
+    CClientDC screen(tree.get());
+    CBitmap paper;
+    paper.CreateCompatibleBitmap(&screen, ClientRight(), place.bottom);
+    CDC drawing;
+    drawing.CreateCompatibleDC(&screen);
+    drawing.SelectObject(&paper);
+    drawing.SelectObject(tree->GetFont());
+    drawing.FillSolidRect(CRect(0, 0, ClientRight(), place.bottom), ::GetSysColor(COLOR_WINDOW));
+    CRect text = place;
+    constexpr UINT Shortened = DT_SINGLELINE | DT_NOCLIP | DT_END_ELLIPSIS;
+    drawing.DrawText(longText, text, Shortened | DT_CALCRECT);
+    drawing.DrawText(longText, text, Shortened);
+    int different = 0;
+    for (int y = place.top; y < place.bottom; ++y)
+        for (int x = place.left; x < place.right; ++x)
+            different += drawing.GetPixel(x, y) != picture.At(x, y);
+    EXPECT_EQ(different, 0);
+}
+
 } // namespace

@@ -57,6 +57,18 @@ std::size_t BytesOfText(const CString& text)
 
 TreeChange::TreeChange(TreeUndo& changedTree) : UndoChange(changedTree), tree(changedTree) {}
 
+TreeChange::~TreeChange()
+{
+    for (const Marked& marked : marks)
+        tree.Ids().ReleaseMark(marked.id, marked.aspect);
+}
+
+void TreeChange::Keep(const Marked& marked)
+{
+    marks.push_back(marked);
+    tree.Ids().UseMark(marked.id, marked.aspect);
+}
+
 void TreeChange::Mark(TreeId id, TreeAspect aspect)
 {
     TreeIds& ids = tree.Ids();
@@ -68,7 +80,7 @@ void TreeChange::Mark(TreeId id, TreeAspect aspect)
             ids.SetMark(id, aspect, mark);
             return;
         }
-    marks.push_back({id, aspect, ids.GetMark(id, aspect), mark});
+    Keep({id, aspect, ids.GetMark(id, aspect), mark});
     ids.SetMark(id, aspect, mark);
 }
 
@@ -85,7 +97,7 @@ void TreeChange::HandBack(std::unique_ptr<TreeChange> reverse)
     for (const Marked& marked : marks)
     {
         tree.Ids().SetMark(marked.id, marked.aspect, marked.before);
-        reverse->marks.push_back({marked.id, marked.aspect, marked.after, marked.before});
+        reverse->Keep({marked.id, marked.aspect, marked.after, marked.before});
     }
     tree.History().RecordBack(std::move(reverse));
 }
@@ -102,7 +114,7 @@ void TreeChange::JoinMarks(const TreeChange& next)
                 isKnown = true;
             }
         if (!isKnown)
-            marks.push_back(other);
+            Keep(other);
     }
 }
 

@@ -16,6 +16,7 @@ class TreeChange : public UndoChange
 {
 public:
     explicit TreeChange(TreeUndo& changedTree);
+    ~TreeChange() override;
 
     // The change has just been made, or taken back, to that aspect.
     void Mark(TreeId id, TreeAspect aspect);
@@ -39,6 +40,8 @@ protected:
     TreeUndo& tree;
 
 private:
+    void Keep(const Marked& marked);
+
     std::vector<Marked> marks;
 };
 

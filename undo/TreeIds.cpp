@@ -35,8 +35,8 @@ void TreeIds::Bind(TreeId id, HTREEITEM item)
     if (oldItem != items.end())
         ids.erase(oldItem->second);
     const auto oldId = ids.find(item);
-    if (oldId != ids.end())
-        items.erase(oldId->second);
+    if (oldId != ids.end() && oldId->second != id)
+        Lose(oldId->second);
     ids[item] = id;
     items[id] = item;
 }
@@ -46,14 +46,53 @@ void TreeIds::Unbind(HTREEITEM item)
     const auto found = ids.find(item);
     if (found == ids.end())
         return;
-    items.erase(found->second);
+    const TreeId id = found->second;
     ids.erase(found);
+    Lose(id);
+}
+
+void TreeIds::Lose(TreeId id)
+{
+    items.erase(id);
+    for (unsigned aspect = 0; aspect < TreeAspectCount; ++aspect)
+        DropUnused(id, static_cast<TreeAspect>(aspect));
 }
 
 TreeMark TreeIds::GetMark(TreeId id, TreeAspect aspect) const
 {
     const auto found = marks.find(KeyOf(id, aspect));
-    return found == marks.end() ? usualMark : found->second;
+    return found == marks.end() ? usualMark : found->second.mark;
+}
+
+void TreeIds::SetMark(TreeId id, TreeAspect aspect, TreeMark mark)
+{
+    const auto found = marks.find(KeyOf(id, aspect));
+    if (found != marks.end())
+        found->second.mark = mark;
+    else if (IsThere(id))
+        marks.insert({KeyOf(id, aspect), {mark, 0}});
+}
+
+void TreeIds::UseMark(TreeId id, TreeAspect aspect)
+{
+    ++marks.insert({KeyOf(id, aspect), {usualMark, 0}}).first->second.users;
+}
+
+void TreeIds::ReleaseMark(TreeId id, TreeAspect aspect)
+{
+    const auto found = marks.find(KeyOf(id, aspect));
+    if (found == marks.end())
+        return;
+    --found->second.users;
+    if (!IsThere(id))
+        DropUnused(id, aspect);
+}
+
+void TreeIds::DropUnused(TreeId id, TreeAspect aspect)
+{
+    const auto found = marks.find(KeyOf(id, aspect));
+    if (found != marks.end() && found->second.users <= 0)
+        marks.erase(found);
 }
 
 void TreeIds::TouchAll(TreeId id)

@@ -46,7 +46,10 @@ public:
     void Unbind(HTREEITEM item);
 
     TreeMark GetMark(TreeId id, TreeAspect aspect) const;
-    void SetMark(TreeId id, TreeAspect aspect, TreeMark mark) { marks[KeyOf(id, aspect)] = mark; }
+    void SetMark(TreeId id, TreeAspect aspect, TreeMark mark);
+    // The mark of an item that is not in the tree is kept as long as somebody compares it with one of before.
+    void UseMark(TreeId id, TreeAspect aspect);
+    void ReleaseMark(TreeId id, TreeAspect aspect);
     // A mark that there was never before.
     TreeMark NewMark() { return ++newestMark; }
     // Somebody changed it without leave: what was kept about it is not true any more.
@@ -57,6 +60,16 @@ public:
     void Clear();
 
 private:
+    struct Kept
+    {
+        TreeMark mark;
+        long users;
+    };
+
+    bool IsThere(TreeId id) const { return id == RootTreeId || items.contains(id); }
+    void DropUnused(TreeId id, TreeAspect aspect);
+    // The number has no item any more.
+    void Lose(TreeId id);
     static std::uint64_t KeyOf(TreeId id, TreeAspect aspect)
     {
         return id * TreeAspectCount + static_cast<unsigned>(aspect);
@@ -64,7 +77,7 @@ private:
 
     std::unordered_map<HTREEITEM, TreeId> ids;
     std::unordered_map<TreeId, HTREEITEM> items;
-    std::unordered_map<std::uint64_t, TreeMark> marks;
+    std::unordered_map<std::uint64_t, Kept> marks;
     TreeId newestId = RootTreeId;
     TreeMark newestMark = 0;
     // Of all aspects that were never marked.

@@ -1,6 +1,8 @@
 // What a program does to a watched tree itself, also past the stack.
 #include "tests/undo/WatchedTree.h"
 
+#include "tests/guard/Guard.h"
+
 namespace
 {
 
@@ -129,6 +131,29 @@ TEST_F(TreePrograms, ChangesAmidADeletionEndTheHistory)
     Rename("amid", L"d");
     Undo();
     EXPECT_EQ(Outline(), "c f[x y] amid");
+}
+
+// The checked variant counts the blocks of memory that there are.
+TEST_F(TreePrograms, ItemsThatAreGoneWithTheirStepsLeaveNothing)
+{
+    Begin("a b");
+    stack.SetLimits(4, 0);
+    const auto live = [this](int items) {
+        for (int i = 0; i < items; ++i)
+        {
+            const HTREEITEM item = tree->InsertItem(L"new", 1, 1);
+            tree->SetItemText(item, L"named");
+            {
+                const TGUndoPause pause(stack);
+                tree->SetItemState(item, TVIS_BOLD, TVIS_BOLD);
+            }
+            tree->DeleteItem(item);
+        }
+        owner.TakeLog();
+        return static_cast<long>(QuorGuardLiveBlocks());
+    };
+    const long before = live(50);
+    EXPECT_LE(live(200), before + 20);
 }
 
 TEST_F(TreePrograms, AnUndoThatFailsLeavesTheTreeAsItIs)

@@ -3,7 +3,6 @@
 #include "grid/extras/TGCellCursor.h"
 
 #include "grid/extras/MousePoint.h"
-#include "grid/model/ScopedValue.h"
 #include "grid/TGGrid.h"
 #include "grid/TGUserAction.h"
 
@@ -95,7 +94,11 @@ bool TGCellCursor::OnMessage(CWnd& window, UINT message, WPARAM wParam, LPARAM l
 // For message loops without pre-translation. The grid's own keys are letters that need Ctrl here.
 bool TGCellCursor::TakeKey(UINT key)
 {
-    dropCharacter = RunKey(key);
+    const Watch watch(*this);
+    const bool isRun = RunKey(key);
+    if (watch.IsDeleted())
+        return true;
+    dropCharacter = isRun;
     const bool isLetter = key >= 'A' && key <= 'Z';
     // With both, keys of some keyboards write characters.
     const bool isCommand = ::GetKeyState(VK_CONTROL) < 0 && ::GetKeyState(VK_MENU) >= 0;
@@ -126,10 +129,11 @@ bool TGCellCursor::IsOnFoldBox(CPoint point, long row, long col) const
 bool TGCellCursor::PressAt(CPoint point, bool shift, bool control)
 {
     TGGrid& grid = *GetGrid();
+    const Watch watch(*this);
     grid.SetFocus();
-    if (GetGrid() != nullptr)
+    if (watch.IsAttached())
         grid.EndEditCell();
-    if (GetGrid() == nullptr || grid.m_hWnd == nullptr)
+    if (!watch.HasWindow())
         return true;
     long row = -1;
     long col = -1;
@@ -152,9 +156,10 @@ bool TGCellCursor::PressTwiceAt(CPoint point)
     PointToCell(point, row, col);
     if (IsOnFoldBox(point, row, col))
         return false;
+    const Watch watch(*this);
     if (!MoveTo(row, col))
         return false;
-    if (doubleClickEditing)
+    if (watch.IsAttached() && doubleClickEditing)
         Edit(false);
     return true;
 }
@@ -207,12 +212,13 @@ bool TGCellCursor::Edit(bool caretAtEnd)
     if (GetGrid() == nullptr || GetGrid()->GetSafeHwnd() == nullptr || !EnsureCell())
         return false;
     TGGrid& grid = *GetGrid();
+    const Watch watch(*this);
     typing = false;
     {
-        const ScopedValue guard(selecting, true);
+        const OwnSelecting own(*this);
         grid.BeginEditCell(GetRow(), GetCol());
     }
-    CWnd* const editor = GetGrid() != nullptr ? GetEditorWindow() : nullptr;
+    CWnd* const editor = watch.IsAttached() ? GetEditorWindow() : nullptr;
     if (editor == nullptr)
         return false;
     if (!caretAtEnd)
@@ -231,6 +237,7 @@ long TGCellCursor::EmptyRanges()
     if (GetGrid() == nullptr)
         return 0;
     const TGUserAction action(*GetGrid(), TGActionKind::Empty);
+    const Watch watch(*this);
     long emptied = 0;
     {
         const TGGridUpdate update(*GetGrid());
@@ -241,11 +248,11 @@ long TGCellCursor::EmptyRanges()
                     TGGridCell* const cell = FindCell(row, col);
                     if (cell != nullptr && !cell->GetText().IsEmpty() && TypeInto(*cell, L""))
                         ++emptied;
-                    if (GetGrid() == nullptr)
+                    if (!watch.IsAttached())
                         return emptied;
                 }
     }
-    if (emptied > 0)
+    if (emptied > 0 && watch.IsAttached())
         TellDataChanged();
     return emptied;
 }

@@ -251,13 +251,12 @@ bool TGCellCursor::Keys::SelectRows()
 {
     const TGCellRange range = cursor.GetRanges().back();
     const TGGridUpdate update(grid);
-    cursor.selecting = true;
+    const OwnSelecting own(cursor);
     if (range.top <= 0 && range.bottom >= cursor.LastRow(false) && !grid.IsSingleSelRow())
         grid.SelectAll();
     else
         for (long row = grid.IsSingleSelRow() ? range.bottom : range.top; row <= range.bottom; ++row)
             grid.SelectRow(row, true);
-    cursor.selecting = false;
     return true;
 }
 
@@ -265,10 +264,9 @@ bool TGCellCursor::Keys::SelectCols()
 {
     const TGCellRange range = cursor.GetRanges().back();
     const TGGridUpdate update(grid);
-    cursor.selecting = true;
+    const OwnSelecting own(cursor);
     for (long col = range.left; col <= range.right; ++col)
         grid.SelectCol(col, true);
-    cursor.selecting = false;
     return true;
 }
 
@@ -374,17 +372,18 @@ bool TGCellCursor::RunEditorKey(MSG& message)
 {
     const UINT key = static_cast<UINT>(message.wParam);
     const bool back = IsDown(VK_SHIFT);
+    const Watch watch(*this);
     switch (key)
     {
     case VK_RETURN:
     case VK_TAB:
         CommitEdit();
-        if (GetGrid() != nullptr && GetGrid()->GetSafeHwnd() != nullptr)
+        if (watch.HasWindow())
             StepOn(key == VK_RETURN ? enterStep : tabStep, back, key == VK_TAB);
         return true;
     case VK_ESCAPE:
         GetGrid()->CancelEditCell();
-        if (GetGrid() != nullptr && GetGrid()->GetSafeHwnd() != nullptr)
+        if (watch.HasWindow())
             GetGrid()->SetFocus();
         return true;
     case VK_LEFT:
@@ -394,7 +393,7 @@ bool TGCellCursor::RunEditorKey(MSG& message)
         if (!LeavesEditor(key))
             break;
         CommitEdit();
-        if (GetGrid() != nullptr && GetGrid()->GetSafeHwnd() != nullptr)
+        if (watch.HasWindow())
             RunKey(key);
         return true;
     case VK_PRIOR:
@@ -410,10 +409,10 @@ bool TGCellCursor::RunEditorKey(MSG& message)
 
 void TGCellCursor::CommitEdit()
 {
-    TGGrid& grid = *GetGrid();
-    grid.EndEditCell();
-    if (GetGrid() != nullptr && grid.GetSafeHwnd() != nullptr)
-        grid.SetFocus();
+    const Watch watch(*this);
+    GetGrid()->EndEditCell();
+    if (watch.HasWindow())
+        GetGrid()->SetFocus();
 }
 
 // ---- Steps

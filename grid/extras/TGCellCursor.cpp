@@ -337,18 +337,39 @@ bool TGCellCursor::OnCurrentCell(long& row, long& col) const
 void TGCellCursor::Moved()
 {
     TGGrid& grid = *GetGrid();
+    const Watch watch(*this);
     if (grid.IsRowSelected() || grid.IsColSelected())
     {
-        selecting = true;
+        const OwnSelecting own(*this);
         grid.UnSelect();
-        selecting = false;
     }
-    if (GetGrid() == nullptr)
+    if (!watch.IsAttached())
         return;
     grid.SetCurRowIndex(grid.IsValidRow(GetRow()) ? GetRow() : -1);
+    if (!watch.IsAttached())
+        return;
     InvalidateRanges();
     ShowCursor();
-    OnMoved();
+    if (watch.IsAttached())
+        OnMoved();
+}
+
+// ---- Hooks
+
+bool TGCellCursor::Watch::HasWindow() const
+{
+    return IsAttached() && cursor.GetGrid()->GetSafeHwnd() != nullptr;
+}
+
+TGCellCursor::OwnSelecting::OwnSelecting(TGCellCursor& selectingCursor)
+    : cursor(selectingCursor), watch(selectingCursor), before(std::exchange(selectingCursor.selecting, true))
+{
+}
+
+TGCellCursor::OwnSelecting::~OwnSelecting()
+{
+    if (!watch.IsDeleted())
+        cursor.selecting = before;
 }
 
 } // namespace QuorUiCtr

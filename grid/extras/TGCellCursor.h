@@ -129,6 +129,33 @@ private:
     struct Key;
     class Keys;
     friend class Keys;
+    // Hooks may delete this object, or take it off its grid.
+    class Watch
+    {
+    public:
+        explicit Watch(const TGCellCursor& watchedCursor) : cursor(watchedCursor), life(watchedCursor.life) {}
+        bool IsDeleted() const { return life.expired(); }
+        bool IsAttached() const { return !IsDeleted() && cursor.GetGrid() != nullptr; }
+        bool HasWindow() const;
+
+    private:
+        const TGCellCursor& cursor;
+        std::weak_ptr<const int> life;
+    };
+    // While it lives, changes of the selection are the cursor's own.
+    class OwnSelecting
+    {
+    public:
+        explicit OwnSelecting(TGCellCursor& selectingCursor);
+        ~OwnSelecting();
+        OwnSelecting(const OwnSelecting&) = delete;
+        OwnSelecting& operator=(const OwnSelecting&) = delete;
+
+    private:
+        TGCellCursor& cursor;
+        Watch watch;
+        bool before;
+    };
 
     // Corners and their cells.
     Corner CornerAt(long row, long col) const;
@@ -188,6 +215,8 @@ private:
     bool dropCharacter = false;
     // A change of the selection that this object makes.
     bool selecting = false;
+    // Whoever runs hooks sees by it whether this object is there still.
+    std::shared_ptr<const int> life = std::make_shared<const int>(0);
 };
 
 } // namespace QuorUiCtr

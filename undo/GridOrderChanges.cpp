@@ -125,9 +125,11 @@ bool GridFold::Revert()
     {
         const GridUndo::Reverting guard(Undo());
         TGGridTreeRow* const row = rows.back().row;
-        if (!Undo().IsInGrid(*row) || row->IsFold() != rows.back().folded)
+        if (!Undo().IsInGrid(*row))
             return false;
-        Undo().FoldRow(*row, !rows.back().folded);
+        // A hook may have folded it already.
+        if (row->IsFold() == rows.back().folded)
+            Undo().FoldRow(*row, !rows.back().folded);
         rows.pop_back();
         // Of a row that has lost its children since nothing is told.
         if (!guard.IsTold())

@@ -52,6 +52,15 @@ public:
     FoldedRoots(const FoldedRoots&) = delete;
     FoldedRoots& operator=(const FoldedRoots&) = delete;
 
+    // What hooks have unfolded meanwhile must not be sorted among the roots; `hide` takes the offspring away.
+    template <class Hide> void AddUnfolded(PDList<TGGridRow>& rows, Hide hide)
+    {
+        for (TGGridTreeRow* root : Unfolded(rows))
+        {
+            Add(*root);
+            hide(*root);
+        }
+    }
     static std::vector<TGGridTreeRow*> Unfolded(PDList<TGGridRow>& rows)
     {
         std::vector<TGGridTreeRow*> found;
@@ -316,12 +325,7 @@ void TGGrid::Structure::SortRows(bool ascending)
         return;
     }
     FoldedRoots folded(grid, grid.rows, FoldUntold);
-    // What hooks have unfolded meanwhile must not be sorted among the roots.
-    for (TGGridTreeRow* root : FoldedRoots::Unfolded(grid.rows))
-    {
-        folded.Add(*root);
-        RemoveOffspring(*root);
-    }
+    folded.AddUnfolded(grid.rows, [this](TGGridTreeRow& root) { RemoveOffspring(root); });
     SortList(grid.rows, ascending);
     NumberRows(0);
     for (TGGridRow* row : grid.rows)
@@ -370,7 +374,10 @@ void TGGrid::Structure::SortExtended(bool ascending)
     {
         std::optional<FoldedRoots> folded;
         if (grid.treeGrid)
+        {
             folded.emplace(grid, grid.rows, FoldUntold);
+            folded->AddUnfolded(grid.rows, [this](TGGridTreeRow& root) { RemoveOffspring(root); });
+        }
         SortLevel(grid.rows, nullptr, ascending);
         NumberRows(0);
         for (TGGridRow* row : grid.rows)

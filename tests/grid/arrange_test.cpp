@@ -1,4 +1,5 @@
 // What sorting does to the current row.
+#include "grid/TGGridExtension.h"
 #include "grid/TGRowSelector.h"
 #include "tests/grid/ModelGrid.h"
 #include "tests/grid/WindowGrid.h"
@@ -224,16 +225,22 @@ TEST(ArrangeWithHooks, ThatDeleteSelectedRows_SelectsTheOthersAgain)
 
 TEST(ArrangeWithHooks, ThatUnfoldARootAgain_KeepsItsChildrenBelowIt)
 {
-    ModelGrid grid(true);
-    FillWithTrees(grid);
-    int calls = 0;
-    grid.onCurChanged = [&] {
-        if (++calls == 3)
-            grid.GetTreeRow(0).UnFold();
-    };
-    grid.Arrange(true);
-    EXPECT_EQ("a z b x y c", Texts(grid));
-    EXPECT_EQ(6, grid.GetRowNum());
+    for (const bool extended : {false, true})
+    {
+        ModelGrid grid(true);
+        FillWithTrees(grid);
+        TGGridExtension extension;
+        if (extended)
+            extension.AttachTo(grid);
+        int calls = 0;
+        grid.onCurChanged = [&] {
+            if (++calls == 3)
+                grid.GetTreeRow(0).UnFold();
+        };
+        grid.Arrange(true);
+        EXPECT_EQ("a z b x y c", Texts(grid)) << extended;
+        EXPECT_EQ(6, grid.GetRowNum());
+    }
 }
 
 } // namespace

@@ -127,7 +127,8 @@ bool GridFold::Revert()
         TGGridTreeRow* const row = rows.back().row;
         if (!Undo().IsInGrid(*row))
             return false;
-        // A hook may have folded it already.
+        // Hooks, and programs in a pause, may have folded it already: the view is no reason to end the
+        // history.
         if (row->IsFold() == rows.back().folded)
             Undo().FoldRow(*row, !rows.back().folded);
         rows.pop_back();

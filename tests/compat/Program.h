@@ -11,20 +11,6 @@
 // The longest wait for another process in milliseconds.
 constexpr DWORD deadline = 30'000;
 
-// Asks until the condition holds. There is no event to wait for: hooks for the accessibility events of other
-// processes hear nothing under Wine when the focus moves there, a window goes or a text changes.
-inline bool WaitUntil(const std::function<bool()>& condition)
-{
-    const ULONGLONG end = ::GetTickCount64() + deadline;
-    while (!condition())
-    {
-        if (::GetTickCount64() > end)
-            return false;
-        ::Sleep(5);
-    }
-    return true;
-}
-
 inline std::wstring TextOf(HWND window)
 {
     wchar_t text[256] = L"";
@@ -71,11 +57,29 @@ public:
     HWND Window(const std::wstring& title) const
     {
         HWND found = NULL;
-        WaitUntil([&] { return (found = Find(title)) != NULL || HasEnded(); });
+        WaitUntil([&] { return (found = Find(title)) != NULL; });
         if (found == NULL)
             ADD_FAILURE() << (HasEnded() ? "the program has ended with code " : "no such window; state ")
                           << State();
         return found;
+    }
+
+    // Waits until the condition holds, or the program ends: false then, as after the longest wait. Of the
+    // rest there is no event to wait for: hooks for the accessibility events of other processes hear nothing
+    // under Wine when the focus moves there, a window goes or a text changes.
+    bool WaitUntil(const std::function<bool()>& condition) const
+    {
+        constexpr DWORD interval = 5;
+        const ULONGLONG end = ::GetTickCount64() + deadline;
+        bool isOver = false;
+        while (!condition())
+        {
+            if (isOver)
+                return false;
+            isOver = ::WaitForSingleObject(m_process.hProcess, interval) != WAIT_TIMEOUT ||
+                     ::GetTickCount64() > end;
+        }
+        return true;
     }
 
     // Waits for the program's end.

@@ -13,12 +13,12 @@ WizardProgram::WizardProgram(const std::wstring& name, const std::wstring& title
 {
 }
 
-std::wstring Answer(HWND box, WPARAM button)
+std::wstring Answer(const Program& program, HWND box, WPARAM button)
 {
     constexpr int messageText = 0xffff;
     const std::wstring text = TextOf(::GetDlgItem(box, messageText));
     ::PostMessageW(box, WM_COMMAND, button, 0);
-    WaitUntil([&] { return !::IsWindow(box); });
+    program.WaitUntil([&] { return !::IsWindow(box); });
     return text;
 }
 
@@ -31,7 +31,7 @@ std::wstring WizardProgram::AnswerBox(WPARAM button) const
         ::GetClassNameW(box, name, 16);
         return std::wstring(name) == L"#32770" && ::IsWindowVisible(box);
     };
-    return WaitUntil(findBox) ? Answer(box, button) : L"";
+    return WaitUntil(findBox) ? Answer(m_program, box, button) : L"";
 }
 
 std::wstring WizardProgram::StatusText(WPARAM part) const

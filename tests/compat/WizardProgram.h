@@ -5,6 +5,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -41,6 +42,7 @@ public:
     // Waits for a message box, reads it, and presses the button; the text of the box, empty without one.
     std::wstring AnswerBox(WPARAM button) const;
     HWND Window(const std::wstring& title) const { return m_program.Window(title); }
+    bool WaitUntil(const std::function<bool()>& condition) const { return m_program.WaitUntil(condition); }
     DWORD ExitCode() const { return m_program.ExitCode(); }
 
     // Whether idle time brings this about: the title, a part of the status bar, the state of a button.
@@ -58,7 +60,7 @@ private:
 };
 
 // Reads a message box and presses the button.
-std::wstring Answer(HWND box, WPARAM button);
+std::wstring Answer(const Program& program, HWND box, WPARAM button);
 
 // Takes the recently used files of earlier runs out of the settings.
 void ForgetRecentFiles(const std::wstring& application);

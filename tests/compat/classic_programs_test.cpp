@@ -51,8 +51,8 @@ TEST(ClassicHello, ShowsItsAboutBoxOverTheDisabledFrame)
     EXPECT_EQ(TextOf(::GetDlgItem(box, aboutText)), L"Hello, version 3");
     EXPECT_FALSE(::IsWindowEnabled(frame));
     ::PostMessageW(box, WM_KEYDOWN, VK_RETURN, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
-    EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(frame) != FALSE; }));
+    EXPECT_TRUE(program.WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_TRUE(program.WaitUntil([&] { return ::IsWindowEnabled(frame) != FALSE; }));
     ::PostMessageW(frame, WM_CLOSE, 0, 0);
     EXPECT_EQ(program.ExitCode(), 0u);
 }
@@ -99,7 +99,7 @@ TEST_F(ClassicDialog, EnterInTheInputConverts)
 {
     Type(IDC_INPUT, L"0");
     ::PostMessageW(Item(IDC_INPUT), WM_KEYDOWN, VK_RETURN, 0);
-    EXPECT_TRUE(WaitUntil([this] { return Result() == L"32.0"; }));
+    EXPECT_TRUE(m_program.WaitUntil([this] { return Result() == L"32.0"; }));
     ::PostMessageW(Item(IDC_INPUT), WM_KEYDOWN, VK_ESCAPE, 0);
     EXPECT_EQ(m_program.ExitCode(), 20u);
 }
@@ -113,7 +113,7 @@ TEST_F(ClassicDialog, TellsTheUserWhatIsOutOfRange)
     const HWND text = ::GetDlgItem(box, 0xffff);
     EXPECT_EQ(TextOf(text), L"Please enter a number between -273 and 10000.");
     ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_TRUE(m_program.WaitUntil([&] { return !::IsWindow(box); }));
     EXPECT_EQ(Result(), L"");
     ::PostMessageW(m_dialog, WM_CLOSE, 0, 0);
     EXPECT_EQ(m_program.ExitCode(), 20u);
@@ -153,16 +153,17 @@ TEST_F(ClassicView, RoutesMessagesToViewAndDocument)
     EXPECT_EQ(TextOf(m_frame), L"2 points, color 2 - Classic points");
     Command(editClearAll);
     EXPECT_EQ(Report(0), 0);
-    EXPECT_TRUE(WaitUntil([this] { return Report(1) > 0; })) << "no timer message";
+    EXPECT_TRUE(m_program.WaitUntil([this] { return Report(1) > 0; })) << "no timer message";
 }
 
 TEST_F(ClassicView, AcceleratorsAndKeysReachTheirHandlers)
 {
     Click(20, 30);
     ::PostMessageW(m_view, WM_KEYDOWN, VK_F7, 0);
-    EXPECT_TRUE(WaitUntil([this] { return TextOf(m_frame) == L"1 points, color 2 - Classic points"; }));
+    EXPECT_TRUE(
+        m_program.WaitUntil([this] { return TextOf(m_frame) == L"1 points, color 2 - Classic points"; }));
     ::PostMessageW(m_view, WM_KEYDOWN, VK_DELETE, 0);
-    EXPECT_TRUE(WaitUntil([this] { return Report(0) == 0; }));
+    EXPECT_TRUE(m_program.WaitUntil([this] { return Report(0) == 0; }));
 }
 
 TEST_F(ClassicView, AsksBeforeItDiscards)
@@ -175,7 +176,7 @@ TEST_F(ClassicView, AsksBeforeItDiscards)
         ASSERT_NE(box, nullptr);
         EXPECT_EQ(TextOf(::GetDlgItem(box, 0xffff)), L"Discard the points?");
         ::PostMessageW(box, WM_COMMAND, answer, 0);
-        EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+        EXPECT_TRUE(m_program.WaitUntil([&] { return !::IsWindow(box); }));
     }
     EXPECT_EQ(m_program.ExitCode(), 0u);
 }
@@ -222,8 +223,8 @@ TEST_F(WizardDialog, ShowsItsAboutBoxFromTheSystemMenu)
     EXPECT_NEAR(CentreOf(about).x, CentreOf(m_dialog).x, 1) << "it stands in the middle of the dialog";
     EXPECT_NEAR(CentreOf(about).y, CentreOf(m_dialog).y, 1);
     ::PostMessageW(about, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(about); }));
-    EXPECT_TRUE(WaitUntil([this] { return ::IsWindowEnabled(m_dialog) != FALSE; }));
+    EXPECT_TRUE(m_program.WaitUntil([&] { return !::IsWindow(about); }));
+    EXPECT_TRUE(m_program.WaitUntil([this] { return ::IsWindowEnabled(m_dialog) != FALSE; }));
 }
 
 TEST_F(WizardDialog, OtherSystemCommandsStillWork)

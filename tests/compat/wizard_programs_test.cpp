@@ -52,14 +52,14 @@ TEST_F(WizardSingle, LaysOutBarsAndView)
     EXPECT_LE(tools.bottom, view.top);
     EXPECT_EQ(view.bottom, status.top);
     program.Send(command::viewStatusBar);
-    EXPECT_TRUE(WaitUntil([&] {
+    EXPECT_TRUE(program.WaitUntil([&] {
         ::GetWindowRect(::GetDlgItem(program.Frame(), firstPane), &view);
         return view.bottom == status.bottom && !::IsWindowVisible(program.StatusBar());
     }));
     program.Send(command::viewToolBar);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindowVisible(program.ToolBar()); }));
+    EXPECT_TRUE(program.WaitUntil([&] { return !::IsWindowVisible(program.ToolBar()); }));
     program.Send(command::viewToolBar);
-    EXPECT_TRUE(WaitUntil([&] { return ::IsWindowVisible(program.ToolBar()) != FALSE; }));
+    EXPECT_TRUE(program.WaitUntil([&] { return ::IsWindowVisible(program.ToolBar()) != FALSE; }));
 }
 
 TEST_F(WizardSingle, ButtonsFollowTheHandlersOfViewAndDocument)
@@ -100,7 +100,7 @@ TEST_F(WizardSingle, ShowsItsAboutBox)
     ASSERT_NE(box, nullptr);
     EXPECT_FALSE(::IsWindowEnabled(program.Frame()));
     ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(WaitUntil([&] { return ::IsWindowEnabled(program.Frame()) != FALSE; }));
+    EXPECT_TRUE(program.WaitUntil([&] { return ::IsWindowEnabled(program.Frame()) != FALSE; }));
 }
 
 TEST_F(WizardSingle, OpensChangesAndSavesTheFileOfItsCommandLine)
@@ -169,7 +169,7 @@ TEST_F(WizardSingle, AFileThatIsMissing_EndsTheProgram)
     const Program program(L"wizard_single.exe", L"c:\\no\\such.wst");
     const HWND box = program.Window(L"WizardSingle");
     ASSERT_NE(box, nullptr);
-    EXPECT_NE(Answer(box, IDOK).find(L"such.wst was not found."), std::wstring::npos);
+    EXPECT_NE(Answer(program, box, IDOK).find(L"such.wst was not found."), std::wstring::npos);
     EXPECT_EQ(program.ExitCode(), 0u);
 }
 
@@ -309,7 +309,7 @@ TEST_F(WizardMultiple, ClosingAsksAboutEveryChangedDocument)
     // A child asks about its own document only.
     ::PostMessageW(program.ActiveChild(), WM_CLOSE, 0, 0);
     EXPECT_EQ(program.AnswerBox(IDNO), L"Save changes to Points3?");
-    EXPECT_TRUE(WaitUntil([&] { return program.Children() == L"Points2|Points1"; }));
+    EXPECT_TRUE(program.WaitUntil([&] { return program.Children() == L"Points2|Points1"; }));
     program.Post(command::appExit);
     EXPECT_EQ(program.AnswerBox(IDNO), L"Save changes to Points1?");
     EXPECT_EQ(program.ExitCode(), 0u);

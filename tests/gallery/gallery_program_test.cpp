@@ -75,11 +75,11 @@ protected:
         ASSERT_NE(window, nullptr);
         ::SetForegroundWindow(window);
         // Before a control has the focus, the window itself may have it.
-        ASSERT_TRUE(WaitUntil(
+        ASSERT_TRUE(program.WaitUntil(
             [this] { return ::GetForegroundWindow() == window && ::IsChild(window, FocusOf(window)); }));
         // Another page may have been open when the program was closed last.
         ::SendMessageW(window, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(Item(IDC_PAGES)), TRUE);
-        ASSERT_TRUE(WaitUntil([this] { return FocusOf(window) == Item(IDC_PAGES); }));
+        ASSERT_TRUE(program.WaitUntil([this] { return FocusOf(window) == Item(IDC_PAGES); }));
     }
 
     // The page that is shown.
@@ -110,7 +110,7 @@ protected:
     {
         const HWND before = FocusOf(window);
         PressKey(key);
-        return WaitUntil([&] { return FocusOf(window) != before; });
+        return program.WaitUntil([&] { return FocusOf(window) != before; });
     }
 
     const Program program{L"gallery.exe", L"/language en"};
@@ -184,36 +184,36 @@ TEST_F(Gallery, Enlarging_LeavesNoRemainsInTheLog)
     RECT area;
     ::GetClientRect(Item(IDC_LOG), &area);
     area.top += 30; // below the first lines, which the new size may add
-    ASSERT_TRUE(WaitUntil([&] {
+    ASSERT_TRUE(program.WaitUntil([&] {
         return ColoursOf(Item(IDC_LOG), area) == std::set<COLORREF>{RGB(255, 255, 255)};
     })) << ColoursOf(Item(IDC_LOG), area).size()
         << " colours";
 }
 
 // Changes the name of an element and leaves the editor open.
-void TypeIntoTheGrid(HWND window, HWND grid)
+void TypeIntoTheGrid(const Program& program, HWND window, HWND grid)
 {
     ::SendMessageW(grid, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(200, 60));
     ::SendMessageW(grid, WM_LBUTTONUP, 0, MAKELPARAM(200, 60));
-    ASSERT_TRUE(WaitUntil([&] { return ::GetParent(FocusOf(window)) == grid; }));
+    ASSERT_TRUE(program.WaitUntil([&] { return ::GetParent(FocusOf(window)) == grid; }));
     ::SendMessageW(FocusOf(window), WM_CHAR, L'x', 1);
 }
 
 TEST_F(Gallery, WithChanges_AsksBeforeItCloses_AnOpenEditorIncluded)
 {
-    ASSERT_NO_FATAL_FAILURE(TypeIntoTheGrid(window, ::GetDlgItem(Page(), IDC_GRID)));
+    ASSERT_NO_FATAL_FAILURE(TypeIntoTheGrid(program, window, ::GetDlgItem(Page(), IDC_GRID)));
     for (const int answer : {IDNO, IDYES})
     {
         ::PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
         HWND box = nullptr;
-        ASSERT_TRUE(WaitUntil([&] {
+        ASSERT_TRUE(program.WaitUntil([&] {
             box = ::GetLastActivePopup(window);
             return box != window && ::IsWindowVisible(box) && ::GetDlgItem(box, answer) != nullptr;
         }));
         EXPECT_NE(TextOf(::GetDlgItem(box, 0xFFFF)).find(L"not saved:\n    Grid\n"), std::wstring::npos);
         EXPECT_TRUE(::IsWindowVisible(window));
         ::PostMessageW(box, WM_COMMAND, static_cast<WPARAM>(answer), 0);
-        ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+        ASSERT_TRUE(program.WaitUntil([&] { return !::IsWindow(box); }));
     }
     EXPECT_EQ(program.ExitCode(), 0u);
 }
@@ -225,17 +225,17 @@ TEST_F(Gallery, StatusLine_SaysWhereTheUserIsAndHowMuchThereIs)
         return static_cast<int>(LOWORD(::SendMessageW(Item(IDC_STATUS), SB_GETTEXTLENGTHW, index, 0)));
     };
     const int whole = static_cast<int>(wcslen(L"118 rows, 11 columns"));
-    ASSERT_TRUE(WaitUntil([&] { return part(2) == whole; }));
+    ASSERT_TRUE(program.WaitUntil([&] { return part(2) == whole; }));
     EXPECT_EQ(part(1), 0);
     ::SendMessageW(::GetDlgItem(Page(), IDC_GRID), WM_KEYDOWN, 'A', 1);
     const int selected = static_cast<int>(wcslen(L"Rows selected: 118"));
-    EXPECT_TRUE(WaitUntil([&] { return part(1) == selected; }));
+    EXPECT_TRUE(program.WaitUntil([&] { return part(1) == selected; }));
 }
 
 TEST_F(Gallery, Sheet_GoesFromCellToCell_AndMakesRowsUntilItIsStopped)
 {
     const auto shows = [this](WPARAM index, const wchar_t* text) {
-        return WaitUntil([&] {
+        return program.WaitUntil([&] {
             return LOWORD(::SendMessageW(Item(IDC_STATUS), SB_GETTEXTLENGTHW, index, 0)) == wcslen(text);
         });
     };
@@ -250,10 +250,11 @@ TEST_F(Gallery, Sheet_GoesFromCellToCell_AndMakesRowsUntilItIsStopped)
     ::PostMessageW(Page(), WM_COMMAND, IDC_SHEET_MILLION, 0);
     // What lies over the busy grid has the focus, and takes the key.
     const HWND grid = ::GetDlgItem(Page(), IDC_GRID);
-    ASSERT_TRUE(WaitUntil([&] { return FocusOf(window) != grid; }));
+    ASSERT_TRUE(program.WaitUntil([&] { return FocusOf(window) != grid; }));
     PressKey(VK_ESCAPE);
-    ASSERT_TRUE(WaitUntil([&] { return FocusOf(window) == grid; }));
-    ASSERT_TRUE(WaitUntil([&] { return std::stol(TextOf(::GetDlgItem(Page(), IDC_BANNER))) >= 1000; }));
+    ASSERT_TRUE(program.WaitUntil([&] { return FocusOf(window) == grid; }));
+    ASSERT_TRUE(
+        program.WaitUntil([&] { return std::stol(TextOf(::GetDlgItem(Page(), IDC_BANNER))) >= 1000; }));
     EXPECT_TRUE(shows(0, L"Row 1, column 1")) << "the cursor is in the new rows";
 }
 
@@ -270,7 +271,7 @@ TEST_F(Gallery, Sheet_ListsTheStepsAndGoesBackInThem)
     ASSERT_NE(steps, nullptr);
     // The line that is selected, and its number.
     const auto stands = [&](int line, const wchar_t* name) {
-        return WaitUntil([&] {
+        return program.WaitUntil([&] {
             wchar_t text[100] = {};
             const LRESULT selected = ::SendMessageW(steps, LB_GETCURSEL, 0, 0);
             ::SendMessageW(steps, LB_GETTEXT, static_cast<WPARAM>(selected), reinterpret_cast<LPARAM>(text));
@@ -314,7 +315,7 @@ TEST_F(Gallery, BelowItsSmallestContents_Scrolls_AndShowsWhatHasTheFocus)
     RECT place = {};
     RECT client = {};
     ::GetClientRect(window, &client);
-    EXPECT_TRUE(WaitUntil([&] {
+    EXPECT_TRUE(program.WaitUntil([&] {
         ::GetWindowRect(Item(IDC_LOG), &place);
         ::MapWindowPoints(nullptr, window, reinterpret_cast<POINT*>(&place), 2);
         return place.top >= 0 && place.bottom <= client.bottom;
@@ -326,20 +327,20 @@ TEST_F(Gallery, ShowsTheSourceOfThePage)
 {
     ::PostMessageW(window, WM_COMMAND, ID_VIEW_SOURCE, 0);
     HWND box = nullptr;
-    ASSERT_TRUE(WaitUntil([&] {
+    ASSERT_TRUE(program.WaitUntil([&] {
         box = ::GetLastActivePopup(window);
         return box != window && ::IsWindowVisible(box);
     }));
     EXPECT_EQ(TextOf(::GetDlgItem(box, IDC_SOURCE_TEXT)).rfind(L"// The page with a plain grid.\r\n", 0), 0u);
     ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_TRUE(program.WaitUntil([&] { return !::IsWindow(box); }));
 }
 
 TEST_F(Gallery, AboutBox_NamesTheVersions)
 {
     ::PostMessageW(window, WM_COMMAND, ID_HELP_ABOUT_GALLERY, 0);
     HWND box = nullptr;
-    ASSERT_TRUE(WaitUntil([&] {
+    ASSERT_TRUE(program.WaitUntil([&] {
         box = ::GetLastActivePopup(window);
         return box != window && ::IsWindowVisible(box);
     }));
@@ -347,7 +348,7 @@ TEST_F(Gallery, AboutBox_NamesTheVersions)
     EXPECT_NE(versions.find(L"Library " QUOR_WIDE_VERSION L"\n"), std::wstring::npos);
     EXPECT_NE(versions.find(L"\nBuilt with GCC "), std::wstring::npos);
     ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_TRUE(program.WaitUntil([&] { return !::IsWindow(box); }));
 }
 
 TEST(GalleryWindow, OpensWhereItWasClosed_OnThePageOfThatTime)
@@ -404,14 +405,14 @@ TEST(GalleryFile, ThatTakesLong_ShowsAProgressBar_AndCanBeStopped)
         const HWND window = program.Window(L"QuorUiCtrl gallery");
         ASSERT_NE(window, nullptr);
         HWND box = nullptr;
-        ASSERT_TRUE(WaitUntil([&] {
+        ASSERT_TRUE(program.WaitUntil([&] {
             box = ::GetLastActivePopup(window);
             return box != window && ::GetDlgItem(box, IDC_PROGRESS_BAR) != nullptr;
         }));
         EXPECT_FALSE(::IsWindowEnabled(window));
         EXPECT_EQ(TextOf(::GetDlgItem(box, IDC_PROGRESS_TEXT)), L"Opening quor_gallery_long.csv");
         ::PostMessageW(box, WM_COMMAND, IDCANCEL, 0);
-        ASSERT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+        ASSERT_TRUE(program.WaitUntil([&] { return !::IsWindow(box); }));
         EXPECT_TRUE(::IsWindowEnabled(window));
         ::PostMessageW(window, WM_SYSCOMMAND, SC_CLOSE, 0);
         EXPECT_EQ(program.ExitCode(), 0u);
@@ -428,7 +429,7 @@ TEST(GalleryFile, ThatCannotBeShown_IsNamedInAMessageBox)
     ASSERT_NE(label, nullptr);
     EXPECT_NE(TextOf(label).find(L"no-such-table.csv cannot be shown"), std::wstring::npos);
     ::PostMessageW(box, WM_COMMAND, IDOK, 0);
-    EXPECT_TRUE(WaitUntil([&] { return !::IsWindow(box); }));
+    EXPECT_TRUE(program.WaitUntil([&] { return !::IsWindow(box); }));
 }
 
 } // namespace

@@ -37,6 +37,15 @@ protected:
             return 0;
         };
     }
+    // The step cannot be undone, and the tree keeps it.
+    void ExpectTheEnd()
+    {
+        EXPECT_FALSE(stack.Undo());
+        owner.answers.clear();
+        EXPECT_EQ(stack.ended, 1);
+        EXPECT_EQ(Texts(*grid), "a b");
+        EXPECT_EQ(Outline(), "a b new");
+    }
 
     std::unique_ptr<ModelGrid> grid;
 };
@@ -49,11 +58,7 @@ TEST_F(MixedSteps, ARowThatGoesForGoodAmidTheStep_EndsTheHistory)
         const TGUndoPause pause(stack);
         grid->DelRow(2);
     });
-    EXPECT_FALSE(stack.Undo());
-    owner.answers.clear();
-    EXPECT_EQ(stack.ended, 1);
-    EXPECT_EQ(Texts(*grid), "a b");
-    EXPECT_EQ(Outline(), "a b new");
+    ExpectTheEnd();
 }
 
 TEST_F(MixedSteps, ARowThatGoesAmidTheStep_AndIsKept_LeavesEverythingAsItWas)
@@ -61,11 +66,7 @@ TEST_F(MixedSteps, ARowThatGoesAmidTheStep_AndIsKept_LeavesEverythingAsItWas)
     BeginBoth();
     ChangeBoth();
     WhenItemGoes([this] { grid->DelRow(2); });
-    EXPECT_FALSE(stack.Undo());
-    owner.answers.clear();
-    EXPECT_EQ(stack.ended, 1);
-    EXPECT_EQ(Texts(*grid), "a b");
-    EXPECT_EQ(Outline(), "a b new");
+    ExpectTheEnd();
 }
 
 TEST_F(MixedSteps, AGridThatIsDeletedAmidTheStep_TakesItsChangesAlong)

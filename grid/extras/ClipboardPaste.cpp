@@ -89,7 +89,7 @@ void TGClipboard::Writer::AddRows(long number)
     std::vector<std::unique_ptr<TGGridRow>> made;
     if (operation.cols.empty())
         end = TGCellLeft::BeyondLastCol;
-    else if (!operation.Extension().IsAddingRows() || grid.IsRowFixLength() || grid.IsReadOnly())
+    else if (!operation.Extension().IsAddingRows() || grid.IsRowFixLength())
         end = TGCellLeft::BeyondLastRow;
     for (long i = 0; i < number && !end; ++i)
     {

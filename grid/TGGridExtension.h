@@ -277,8 +277,8 @@ protected:
 
     // ---- The selection of before
     // Ranges as OnSelectedCells has told them, of which some may end beyond what there is now, and the
-    // current cell, in a corner of the last one, are to be selected again. True: they are. Default:
-    // OnSelectCells with the last range.
+    // current cell, in a corner of the last one, as OnCurrentCell has told it (-1 where nobody has), are to be
+    // selected again. True: they are. Default: OnSelectCells with the last range.
     virtual bool OnRestoreCells(std::span<const TGCellRange> ranges, long row, long col);
 
     // ---- What extensions need of the grid
@@ -336,7 +336,8 @@ protected:
     std::vector<TGCellRange> GetSelectedBands() const;
     // Makes a block the selection of the extension that has one. False without one.
     bool SelectCells(const TGCellRange& range) const;
-    // Makes ranges the selection of the extension that has one, with the current cell. False without one.
+    // Makes ranges the selection of the extension that has one, with the current cell: asks OnRestoreCells.
+    // Indices beyond what there is are allowed. False without such an extension.
     bool RestoreCells(std::span<const TGCellRange> ranges, long row, long col) const;
     // The window of the open editor, null when there is none.
     CWnd* GetEditorWindow() const;
@@ -399,7 +400,8 @@ protected:
     // The cell's own style word.
     static int GetStyle(const TGGridCell& cell);
     static void SetStyle(TGGridCell& cell, int style);
-    // Stores a text that may have any characters; nothing is repainted.
+    // Stores a text that may have any characters. No hook is asked; extensions hear of it by OnTextChanged.
+    // Nothing is repainted.
     static void StoreText(TGGridCell& cell, CString text);
     // Moves the host data of one row to another.
     static void MoveHostData(TGGridRow& from, TGGridRow& to);

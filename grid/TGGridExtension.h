@@ -277,8 +277,8 @@ protected:
 
     // ---- The selection of before
     // Ranges as OnSelectedCells has told them, of which some may end beyond what there is now, and the
-    // current cell, in a corner of the last one, as OnCurrentCell has told it (-1 where nobody has), are to be
-    // selected again. True: they are. Default: OnSelectCells with the last range.
+    // current cell, in a corner of the last one, as OnCurrentCell has told it (-1 where nobody has), are to
+    // be selected again. True: they are. Default: OnSelectCells with the last range.
     virtual bool OnRestoreCells(std::span<const TGCellRange> ranges, long row, long col);
 
     // ---- What extensions need of the grid

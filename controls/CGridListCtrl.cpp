@@ -121,6 +121,8 @@ int CGridListCtrl::FocusedRow()
     return GetNextItem(-1, LVNI_FOCUSED);
 }
 
+// Both buttons take the focus first. The platform's list takes it amid its work, and goes on with that when
+// an edit has ended whose owner has destroyed the list.
 void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
 {
     const HWND window = m_hWnd;
@@ -133,6 +135,9 @@ void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
     if (!IsStillWindow(this, window))
         return;
     const bool wasFocused = (GetItemState(hit.iItem, LVIS_FOCUSED) & LVIS_FOCUSED) != 0;
+    TakeFocus();
+    if (!IsStillWindow(this, window))
+        return;
     CListCtrl::OnLButtonDown(flags, point);
     if (!IsStillWindow(this, window) || !wasFocused || curColumn == -1 || curColumn != oldColumn)
         return;
@@ -140,8 +145,6 @@ void CGridListCtrl::OnLButtonDown(UINT flags, CPoint point)
         RequestEdit(hit.iItem, hit.iSubItem);
 }
 
-// The platform's list takes the focus amid its work, and goes on with it when that has ended an edit whose
-// owner has destroyed the list.
 void CGridListCtrl::OnRButtonDown(UINT flags, CPoint point)
 {
     const HWND window = m_hWnd;

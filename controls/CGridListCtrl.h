@@ -63,7 +63,7 @@ protected:
     // Sets the current column; on a second click on the current cell sends LVN_BEGINLABELEDIT. In column 0,
     // wherever it is shown, that click must be on the text of the label, not on the icon or beside the text.
     afx_msg void OnLButtonDown(UINT flags, CPoint point);
-    // A press of the right button, and scrolling, take the focus first, which ends an open editor.
+    // A press of either button, and scrolling, take the focus first, which ends an open editor.
     afx_msg void OnRButtonDown(UINT flags, CPoint point);
     afx_msg void OnHScroll(UINT code, UINT position, CScrollBar* scrollBar);
     afx_msg void OnVScroll(UINT code, UINT position, CScrollBar* scrollBar);

@@ -3,6 +3,8 @@
 #include "tests/support/GuiHandles.h"
 #include "tests/support/Input.h"
 
+#include <vector>
+
 using namespace quor::test;
 
 namespace
@@ -29,6 +31,28 @@ protected:
     void DestroyEditorOnEnd()
     {
         owner.onEnd = [this](const NMLVDISPINFO&) { owner.editor.reset(); };
+    }
+
+    // A click that ends an edit, whose owner then destroys the list: the notifications after that. The
+    // platform's list goes on with the click after it has taken the focus.
+    std::vector<UINT> ToldAfterTheListIsGone(UINT down, UINT up, CPoint point)
+    {
+        owner.Edit(0, 1, L"x");
+        bool isGone = false;
+        owner.onEnd = [&](const NMLVDISPINFO&) {
+            owner.list.reset();
+            isGone = true;
+        };
+        std::vector<UINT> afterwards;
+        owner.onNotification = [&](const NMHDR& header) {
+            if (isGone)
+                afterwards.push_back(header.code);
+        };
+        ::PostMessage(window, up, 0, MAKELPARAM(point.x, point.y));
+        SendMouse(window, down, point, down == WM_LBUTTONDOWN ? MK_LBUTTON : MK_RBUTTON);
+        EXPECT_TRUE(isGone);
+        EXPECT_FALSE(::IsWindow(window));
+        return afterwards;
     }
 
     HWND window;
@@ -159,25 +183,23 @@ TEST_F(ListReentry, ListDestroyedByTheSelectionOfAClick_IsLeftAlone)
     EXPECT_EQ(owner.TakeEdits(), Lines{});
 }
 
-// The platform's list goes on with the click after it has taken the focus.
 TEST_F(ListReentry, ListDestroyedWhenARightClickEndsTheEdit_HearsNoMoreOfTheClick)
 {
-    owner.Edit(0, 1, L"x");
-    bool isGone = false;
-    owner.onEnd = [&](const NMLVDISPINFO&) {
-        owner.list.reset();
-        isGone = true;
-    };
-    std::vector<UINT> afterwards;
-    owner.onNotification = [&](const NMHDR& header) {
-        if (isGone)
-            afterwards.push_back(header.code);
-    };
-    const CPoint point = list.Middle(2, 1);
-    ::PostMessage(window, WM_RBUTTONUP, 0, MAKELPARAM(point.x, point.y));
-    SendMouse(window, WM_RBUTTONDOWN, point, MK_RBUTTON);
-    EXPECT_FALSE(::IsWindow(window));
-    EXPECT_EQ(afterwards, std::vector<UINT>());
+    EXPECT_EQ(ToldAfterTheListIsGone(WM_RBUTTONDOWN, WM_RBUTTONUP, list.Middle(2, 1)), std::vector<UINT>());
+}
+
+TEST_F(ListReentry, ListDestroyedWhenALeftClickEndsTheEdit_HearsNoMoreOfTheClick)
+{
+    EXPECT_EQ(ToldAfterTheListIsGone(WM_LBUTTONDOWN, WM_LBUTTONUP, list.Middle(2, 1)), std::vector<UINT>());
+}
+
+TEST_F(ListReentry, ListDestroyedWhenAClickBesideTheRowsEndsTheEdit_HearsNoMoreOfTheClick)
+{
+    CRect client;
+    list.GetClientRect(&client);
+    const CPoint blank(client.right - 2, list.Middle(2, 1).y);
+    ASSERT_EQ(list.HitTest(blank), -1);
+    EXPECT_EQ(ToldAfterTheListIsGone(WM_LBUTTONDOWN, WM_LBUTTONUP, blank), std::vector<UINT>());
 }
 
 TEST_F(ListReentry, ARightClick_SelectsAndIsToldOf)

@@ -285,7 +285,8 @@ LRESULT TreeUndo::OnSet(UINT message, WPARAM wParam, LPARAM lParam)
         return result;
     if (const UINT unlike = PartsUnlike(before, after, parts))
         RecordChange(item, unlike, before);
-    if ((parts & TVIF_STATE) != 0 && ((after.Looks().state ^ before.Looks().state) & TVIS_EXPANDED) != 0)
+    // States that were not read are alike.
+    if (((after.Looks().state ^ before.Looks().state) & TVIS_EXPANDED) != 0)
         RecordExpansion(item, (before.Looks().state & TVIS_EXPANDED) != 0);
     return result;
 }

@@ -264,13 +264,16 @@ void TGGrid::Layout::PlaceHeaders()
     PlaceChild(grid.rowHeader, HeaderBand(grid, HeaderAxis::Rows).WindowRect());
 }
 
+// Whether a cell is one of the new row, of which there must be one.
+bool TGGrid::Layout::IsOfNewRow(const TGGridCell* cell) const
+{
+    return cell != nullptr && &cell->GetRow() == grid.newRow;
+}
+
 // While an edit of the new row is being committed, its cells are in use; one may be about to be edited.
 bool TGGrid::Layout::IsNewRowInUse() const
 {
-    const auto isOn = [this](const TGGridCell* cell) {
-        return cell != nullptr && &cell->GetRow() == grid.newRow;
-    };
-    return grid.newRow != nullptr && (isOn(grid.editCell) || isOn(grid.cellLock));
+    return grid.newRow != nullptr && (IsOfNewRow(grid.editCell) || IsOfNewRow(grid.cellLock));
 }
 
 // A row that nobody uses is made anew only when somebody is going to: most layouts are followed by others
@@ -284,7 +287,7 @@ void TGGrid::Layout::RenewNewRow()
         grid.cols.MoveTo(-1);
         return;
     }
-    if (grid.newRow != nullptr && grid.editCell != nullptr && &grid.editCell->GetRow() == grid.newRow)
+    if (grid.newRow != nullptr && IsOfNewRow(grid.editCell))
     {
         grid.newRow->SetIndex(grid.GetRowNum());
         return;
@@ -294,8 +297,7 @@ void TGGrid::Layout::RenewNewRow()
 
 void TGGrid::Layout::MakeNewRow()
 {
-    const bool locked =
-        grid.newRow != nullptr && grid.cellLock != nullptr && &grid.cellLock->GetRow() == grid.newRow;
+    const bool locked = grid.newRow != nullptr && IsOfNewRow(grid.cellLock);
     const long lockedCol = locked ? grid.cellLock->GetColIndex() : -1;
     grid.newRowStale = false;
     // Without memory for a fresh row the old one stays, or none.
@@ -315,12 +317,15 @@ void TGGrid::Layout::MakeNewRow()
         grid.cellLock = grid.IsValidCol(lockedCol) ? &(*grid.newRow)[lockedCol] : nullptr;
 }
 
+// A layout in OnBeforeEdit leaves the row stale on which an editor is opened next: it stays until that edit
+// ends.
 TGGridRow* TGGrid::FreshNewRow()
 {
-    if (newRow != nullptr && newRowStale)
+    Layout layout(*this);
+    if (newRow != nullptr && newRowStale && !layout.IsOfNewRow(editCell))
     {
         const CursorGuard cursor(cols);
-        Layout(*this).MakeNewRow();
+        layout.MakeNewRow();
     }
     return newRow;
 }

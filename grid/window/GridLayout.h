@@ -23,6 +23,7 @@ public:
     void PerformLayout(int redraw);
     // Does what rows that have come or gone ask for without a layout; false when there has to be one.
     bool FollowRows();
+    bool IsOfNewRow(const TGGridCell* cell) const;
     void MakeNewRow();
     void MapDC();
 

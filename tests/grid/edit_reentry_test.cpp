@@ -158,6 +158,24 @@ TEST_F(EditReentryTest, OnBeforeEdit_EditsAnotherCell)
     EXPECT_EQ(col, 1);
 }
 
+TEST_F(EditReentryTest, OnBeforeEdit_LaysOutTheNewRowLineAnew)
+{
+    EditGrid grid;
+    Make(grid);
+    grid.beforeEdit = [&](TGGridCell&, bool&) {
+        grid.RecalcLayout(1);
+        return true;
+    };
+    grid.BeginEditCell(4, 1);
+    ASSERT_TRUE(grid.IsEditing());
+    grid.RedrawWindow(nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
+    EXPECT_TRUE(grid.IsEditing());
+    grid.Enter(L"typed");
+    grid.EndEditCell();
+    ASSERT_EQ(grid.GetRowNum(), 5);
+    EXPECT_STREQ(grid.GetCell(4, 1).GetText(), L"typed");
+}
+
 TEST_F(EditReentryTest, OnModified_OpensAnotherCell_WhichIsClosedWithTheCommit)
 {
     EditGrid grid;

@@ -38,6 +38,8 @@ private:
             drawing += wParam != 0 ? "on " : "off ";
         if (message == TVM_INSERTITEMW)
             drawing += "insert ";
+        if (message == TVM_SETITEMW)
+            drawing += "set ";
         if (message == TVM_DELETEITEM)
             drawing += "delete ";
         const LRESULT result = ::CallWindowProcW(before, window, message, wParam, lParam);

@@ -141,8 +141,10 @@ LRESULT TreeOwner::WindowProc(UINT message, WPARAM wParam, LPARAM lParam)
     const OwnerMessage received{message, reinterpret_cast<HTREEITEM>(wParam),
                                 reinterpret_cast<HTREEITEM>(lParam)};
     Note(received);
-    const auto answer = answers.find(message);
-    return answer == answers.end() ? 0 : answer->second(received);
+    const auto found = answers.find(message);
+    // A copy, because it may put another one in its place.
+    const Answer answer = found != answers.end() ? found->second : nullptr;
+    return answer != nullptr ? answer(received) : 0;
 }
 
 void TreeOwner::AnswerTree(NMHDR& header)
@@ -151,6 +153,11 @@ void TreeOwner::AnswerTree(NMHDR& header)
     const std::function<void()> onDeleted = header.code == TVN_DELETEITEMW ? onDeletedItem : nullptr;
     if (onDeleted != nullptr)
         onDeleted();
+    if (const auto found = onNotification.find(header.code); found != onNotification.end())
+    {
+        const std::function<void()> act = found->second;
+        act();
+    }
     if (header.code != TVN_GETDISPINFOW)
         return;
     TVITEMW& item = reinterpret_cast<NMTVDISPINFOW&>(header).item;
@@ -158,6 +165,10 @@ void TreeOwner::AnswerTree(NMHDR& header)
         ::lstrcpynW(item.pszText, asked.c_str(), item.cchTextMax);
     if ((item.mask & TVIF_IMAGE) != 0)
         item.iImage = 1;
+    if ((item.mask & TVIF_SELECTEDIMAGE) != 0)
+        item.iSelectedImage = askedSelectedImage;
+    if ((item.mask & TVIF_CHILDREN) != 0)
+        item.cChildren = askedButton;
 }
 
 void TreeOwner::Note(const OwnerMessage& message)

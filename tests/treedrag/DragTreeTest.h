@@ -49,6 +49,11 @@ public:
 
     // From now on the insertion after the next `count` ones fails, and those after it.
     void FailInsertionsAfter(int count) { m_insertionsLeft = count; }
+    // Deletes an item without a message to the window, as only a derived class can.
+    void DeletePastTheMessages(HTREEITEM item)
+    {
+        CTreeCtrlDrag::DefWindowProc(TVM_DELETEITEM, 0, reinterpret_cast<LPARAM>(item));
+    }
 
     // The vertical scroll position after each message of a timer.
     std::vector<int> positions;
@@ -87,8 +92,12 @@ public:
 
     // Runs when the platform says that an item is being deleted.
     std::function<void()> onDeletedItem;
-    // The text of items that ask for it.
+    // Run when the platform's tree sends the notification of that code, before it is answered.
+    std::map<UINT, std::function<void()>> onNotification;
+    // The text, the selected image and the button of items that ask for them.
     std::wstring asked;
+    int askedSelectedImage = 1;
+    int askedButton = 0;
 
     // The codes of the notifications for which the parent's message map was asked.
     std::set<UINT> routedNotifications;

@@ -125,7 +125,8 @@ bool GridFold::Revert()
     {
         const GridUndo::Reverting guard(Undo());
         TGGridTreeRow* const row = rows.back().row;
-        if (!Undo().IsInGrid(*row))
+        // Who was told of the one before may have made the grid leave.
+        if (Undo().GetGrid() == nullptr || !Undo().IsInGrid(*row))
             return false;
         // Hooks, and programs in a pause, may have folded it already: the view is no reason to end the
         // history.

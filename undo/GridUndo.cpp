@@ -283,14 +283,17 @@ void GridUndo::MarkModified(bool modified)
 
 void GridUndo::OnDetach(TGGrid& oldGrid)
 {
-    if (std::exchange(updating, false))
-        oldGrid.EndUpdate();
-    if (std::exchange(inAction, false))
-        history.EndStep();
     goingCol.reset();
     leaving = true;
-    // May delete this object.
-    history.Remove(*this);
+    const bool isUpdating = std::exchange(updating, false);
+    const bool isStepOpen = std::exchange(inAction, false);
+    UndoHistory& left = history;
+    // May delete this object. What follows runs hooks, for which the grid is not watched any more.
+    left.Remove(*this);
+    if (isUpdating)
+        oldGrid.EndUpdate();
+    if (isStepOpen)
+        left.EndStep();
 }
 
 bool GridUndo::OnPreTranslate(MSG& message)

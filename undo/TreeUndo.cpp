@@ -70,6 +70,10 @@ void TreeUndo::Leave()
     ids.Clear();
     words.clear();
     moves.clear();
+    history.Remove(*this);
+    // Nobody tells of their ends any more.
+    for (std::size_t open = std::exchange(actions, {}).size(); open > 0; --open)
+        history.EndStep();
 }
 
 // ---- What changes need

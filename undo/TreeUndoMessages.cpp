@@ -275,7 +275,8 @@ LRESULT TreeUndo::OnSet(UINT message, WPARAM wParam, LPARAM lParam)
     const UINT parts = set == nullptr ? 0 : set->mask & (TreeLookParts | TVIF_TEXT);
     const HTREEITEM item = set == nullptr ? nullptr : set->hItem;
     TreeItemReader before(*this);
-    if (item == nullptr || !before.Read(item, parts))
+    // Who is asked for the text may end the watch.
+    if (item == nullptr || !before.Read(item, parts) || tree == nullptr)
         return Pass(message, wParam, lParam);
     const MessageStep step(history, *this);
     const TreeId id = ids.IdOf(item);

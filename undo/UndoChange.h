@@ -72,7 +72,8 @@ private:
     bool broken = false;
 };
 
-// Records the changes of one control, and is asked around a step that is taken back.
+// Records the changes of one control, and is asked around a step that is taken back. It has its control for
+// as long as the history has it; only around a step, whose hooks may make it leave, it may have lost it.
 class UndoRecorder
 {
 public:

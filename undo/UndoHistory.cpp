@@ -213,7 +213,8 @@ void UndoHistory::Record(std::unique_ptr<UndoChange> change)
 
 void UndoHistory::RecordBack(std::unique_ptr<UndoChange> change)
 {
-    if (mirror != nullptr)
+    // Its control may have left while the change was taken back.
+    if (Hold(&change->GetRecorder()) != nullptr)
         Append(mirror->changes, std::move(change));
 }
 

@@ -147,9 +147,10 @@ private:
     void KeepLimits();
     void RemoveFrom(Steps& steps, const UndoRecorder& recorder, unsigned before);
     bool GoBy(bool back);
+    bool HasGone(const Step& reversed, const Held& touched) const;
     Held Touched();
     void DriftAgain();
-    static bool RevertAll(Changes& changes);
+    bool RevertAll(Changes& changes) const;
     void RollForward(Step& reversed, Step& away);
     void Finish(const std::vector<Views>& views, const Held& touched, bool back);
     void TellChanged(const Held& touched);

@@ -101,7 +101,10 @@ bool UndoHistory::GoBy(bool back)
         isDone = isDone && RevertAll(taken->changes);
     }
     const std::vector<Views> views = taken->views;
-    if (isDone)
+    const bool isGone = isDone && HasGone(*reversed, touched);
+    if (isGone)
+        saved = saved == reversed->id ? Position() : saved;
+    else if (isDone)
     {
         if (!back)
             DriftAgain();
@@ -127,7 +130,15 @@ bool UndoHistory::GoBy(bool back)
     if (isDone)
         TellChanged(touched);
     KeepLimits();
-    return isDone;
+    return isDone && !isGone;
+}
+
+// The controls of a step have left while it was taken back, as RemoveFrom has it for all others.
+bool UndoHistory::HasGone(const Step& reversed, const Held& touched) const
+{
+    return reversed.changes.empty() &&
+           std::any_of(touched.begin(), touched.end(),
+                       [this](const auto& recorder) { return Hold(recorder.get()) == nullptr; });
 }
 
 // What was shown at the position is shown again. What hooks have changed there they change again.
@@ -160,7 +171,7 @@ UndoHistory::Held UndoHistory::Touched()
     return touched;
 }
 
-bool UndoHistory::RevertAll(Changes& changes)
+bool UndoHistory::RevertAll(Changes& changes) const
 {
     while (!changes.empty())
     {
@@ -169,7 +180,9 @@ bool UndoHistory::RevertAll(Changes& changes)
             return false;
         const std::unique_ptr<UndoChange> change = std::move(changes.back());
         changes.pop_back();
-        if (change->IsBroken() || !change->Fits() || !change->Revert())
+        const bool isDone = !change->IsBroken() && change->Fits() && change->Revert();
+        // A control that has left meanwhile has taken the rest of its changes along.
+        if (!isDone && Hold(&change->GetRecorder()) != nullptr)
             return false;
     }
     return true;

@@ -109,7 +109,8 @@ void TreeUndo::OnCopied(HTREEITEM source, HTREEITEM copy)
 void TreeUndo::OnCopyEnd(HTREEITEM copy)
 {
     own = false;
-    if (TakeInterference())
+    // Amid another message it is that one's affair.
+    if (structural == 0 && TakeInterference())
         EndUnclear();
     if (copy == nullptr || tree == nullptr)
         return;
@@ -119,7 +120,9 @@ void TreeUndo::OnCopyEnd(HTREEITEM copy)
     insertion->parentLooks = copyLooks;
     insertion->isShared = true;
     insertion->Mark(copyParent, TreeAspect::Children);
-    if (!moves.empty() && moves.back().copy == nullptr)
+    // Within a move there may be other copies, which a derived class makes.
+    const bool isMoves = !moves.empty() && moves.back().copy == nullptr;
+    if (isMoves)
     {
         Move& move = moves.back();
         move.copy = copy;
@@ -130,7 +133,7 @@ void TreeUndo::OnCopyEnd(HTREEITEM copy)
         insertion->isPending = IsRecording();
     }
     Record(std::move(insertion));
-    if (!moves.empty())
+    if (isMoves)
         moves.back().recordedThen = recorded;
 }
 

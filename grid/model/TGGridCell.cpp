@@ -51,7 +51,8 @@ void TGGridCell::SetText(const wchar_t* newText)
         text = newText;
         return;
     }
-    const CString oldText = std::exchange(text, newText);
+    // Without memory the old one stays.
+    const CString oldText = std::exchange(text, CString(newText));
     grid->extensions->TellText(*this, oldText);
 }
 

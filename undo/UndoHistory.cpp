@@ -203,9 +203,10 @@ void UndoHistory::Record(std::unique_ptr<UndoChange> change)
         Append(open->changes, std::move(change));
     else if (!change->IsView())
     {
-        BeginStep(nullptr, {});
-        Append(open->changes, std::move(change));
-        EndStep();
+        // Without memory nothing has begun.
+        auto step = std::make_unique<Step>();
+        step->changes.push_back(std::move(change));
+        Push(std::move(step), false);
     }
     else if (!undo.empty() || !redo.empty())
         Append(drift, std::move(change));

@@ -297,7 +297,7 @@ class GridColMove : public GridChange
 public:
     GridColMove(GridUndo& changedBy, long movedFrom, long movedTo);
 
-    bool Fits() const override { return serial != 0 && Undo().SerialAt(Place()) == serial; }
+    bool Fits() const override { return Undo().SerialAt(Place()) == serial; }
     bool Revert() override;
     std::size_t GetBytes() const override { return sizeof(*this); }
     long Count(TGActionKind kind) const override;

@@ -256,8 +256,7 @@ bool GridDataMove::Revert()
 GridDataMove::~GridDataMove()
 {
     for (std::unique_ptr<TGGridRow>& row : kept)
-        if (row != nullptr)
-            Undo().GiveUp(std::move(row));
+        Undo().GiveUp(std::move(row));
 }
 
 void GridDataMove::Forget(const std::unordered_set<const TGGridRow*>& gone)

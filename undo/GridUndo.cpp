@@ -97,12 +97,12 @@ long GridUndo::EndOf(TGGridTreeRow* parent) const
 
 unsigned GridUndo::SerialAt(long index) const
 {
-    return GetGrid() != nullptr && GetGrid()->IsValidCol(index) ? GetSerial(GetGrid()->GetCol(index)) : 0;
+    return GetGrid()->IsValidCol(index) ? GetSerial(GetGrid()->GetCol(index)) : 0;
 }
 
 TGGridCol* GridUndo::FindCol(long index, unsigned serial) const
 {
-    return serial != 0 && SerialAt(index) == serial ? &GetGrid()->GetCol(index) : nullptr;
+    return SerialAt(index) == serial ? &GetGrid()->GetCol(index) : nullptr;
 }
 
 void GridUndo::RecordBack(std::unique_ptr<GridChange> change)
@@ -196,8 +196,6 @@ public:
 
 std::shared_ptr<UndoView> GridUndo::KeepView()
 {
-    if (GetGrid() == nullptr)
-        return nullptr;
     auto view = std::make_shared<View>();
     view->bands = GetSelectedBands();
     view->isRows = GetGrid()->IsRowSelected();
@@ -229,7 +227,7 @@ void GridUndo::EndRevert(const UndoView* shown)
 {
     const std::shared_ptr<UndoView> kept = std::move(viewBefore);
     const auto* const view = static_cast<const View*>(shown != nullptr ? shown : kept.get());
-    if (GetGrid() == nullptr || view == nullptr)
+    if (GetGrid() == nullptr)
         return;
     GetGrid()->Invalidate(0);
     SelectExactly(view->Indices(true, GetGrid()->GetRowNum()), view->Indices(false, GetGrid()->GetColNum()));
@@ -250,8 +248,6 @@ void GridUndo::EndRevert(const UndoView* shown)
 // Where a drag would end is another place then.
 void GridUndo::EndEdit()
 {
-    if (GetGrid() == nullptr)
-        return;
     const HWND window = GetGrid()->GetSafeHwnd();
     if (const HWND captured = ::GetCapture();
         captured != nullptr && (captured == window || ::IsChild(window, captured)))
@@ -262,22 +258,21 @@ void GridUndo::EndEdit()
 
 void GridUndo::TellChanged()
 {
-    if (GetGrid() != nullptr)
-        TellDataChanged();
+    TellDataChanged();
 }
 
 bool GridUndo::IsModified() const
 {
     if (const auto* tree = dynamic_cast<const TGTreeGrid*>(GetGrid()))
         return tree->IsModified();
-    return GetGrid() != nullptr && GetGrid()->IsModified();
+    return GetGrid()->IsModified();
 }
 
 void GridUndo::MarkModified(bool modified)
 {
     if (auto* tree = dynamic_cast<TGTreeGrid*>(GetGrid()))
         tree->SetModified(modified);
-    else if (GetGrid() != nullptr)
+    else
         GetGrid()->SetModify(modified);
 }
 
@@ -325,7 +320,7 @@ void GridUndo::OnActionEnd(TGActionKind ended)
                            openPosition == history.Position();
         long row = -1;
         long col = -1;
-        const bool isOpen = GetGrid() != nullptr && isTyping && GetGrid()->GetCurCell(row, col);
+        const bool isOpen = isTyping && GetGrid()->GetCurCell(row, col);
         openRow = isOpen ? FindRow(row) : nullptr;
         openCol = isOpen ? SerialAt(col) : 0;
         if (texts == nullptr || openRow == nullptr || !texts->IsOnly(*openRow, openCol))

@@ -21,7 +21,7 @@ void GridUndo::Settle()
 
 bool GridUndo::IsRecording() const
 {
-    return GetGrid() != nullptr && (reverting || history.IsRecording());
+    return reverting || history.IsRecording();
 }
 
 void GridUndo::Put(std::unique_ptr<GridChange> change)

@@ -228,7 +228,7 @@ bool TGUndoStack::RunKey(const MSG& message)
     const bool shift = isDown(VK_SHIFT);
     if (message.wParam == 'Z' && !shift)
         OnEditUndo();
-    else if ((message.wParam == 'Z' && shift) || (message.wParam == 'Y' && !shift))
+    else if (message.wParam == 'Z' || (message.wParam == 'Y' && !shift))
         OnEditRedo();
     else
         return false;

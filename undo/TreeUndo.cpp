@@ -185,7 +185,7 @@ bool TreeUndo::TellGoing(const std::vector<HTREEITEM>& tops)
     std::vector<HTREEITEM> items;
     for (const HTREEITEM top : tops)
     {
-        if (tree == nullptr || top == nullptr)
+        if (top == nullptr)
             return false;
         const std::size_t first = items.size();
         // Parents behind their children: the other way round, with the last child first.
@@ -200,8 +200,6 @@ bool TreeUndo::TellGoing(const std::vector<HTREEITEM>& tops)
         }
         std::reverse(items.begin() + static_cast<std::ptrdiff_t>(first), items.end());
     }
-    if (tree == nullptr)
-        return false;
     const auto self = shared_from_this();
     TreeWatch watch(WatchesOf(*tree));
     for (const HTREEITEM item : items)
@@ -256,8 +254,6 @@ void TreeUndo::Tell(const Told& told)
 
 void TreeUndo::EndEdit()
 {
-    if (tree == nullptr)
-        return;
     const auto self = shared_from_this();
     if (tree->IsDragging())
         tree->CompleteDrag(FALSE);
@@ -267,8 +263,6 @@ void TreeUndo::EndEdit()
 
 std::shared_ptr<UndoView> TreeUndo::KeepView()
 {
-    if (tree == nullptr)
-        return nullptr;
     const HTREEITEM selected = Next(nullptr, TVGN_CARET);
     const HTREEITEM first = Next(nullptr, TVGN_FIRSTVISIBLE);
     return std::make_unique<TreeView>(selected == nullptr ? NoTreeId : ids.IdOf(selected),

@@ -223,7 +223,7 @@ UndoChange* UndoHistory::GetLast(bool back) const
 {
     const Changes* changes = nullptr;
     if (back)
-        changes = mirror != nullptr ? &mirror->changes : nullptr;
+        changes = &mirror->changes;
     else if (settling)
         changes = &drift;
     else
@@ -241,8 +241,7 @@ void UndoHistory::Push(std::unique_ptr<Step> step, bool joins)
         return;
     }
     for (const auto& change : step->changes)
-        if (const auto recorder = Hold(&change->GetRecorder()))
-            step->ViewsOf(*recorder);
+        step->ViewsOf(change->GetRecorder());
     for (Views& views : step->views)
         views.after = views.recorder->KeepView();
     Drop(redo);

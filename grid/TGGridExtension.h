@@ -370,7 +370,8 @@ protected:
     // tell extensions as ever. No cell is edited and nothing selected.
 
     // Puts rows with their offspring back, as children or, with null, before the row at an index, which lies
-    // between two trees. The grid owns them then.
+    // between two trees. The grid owns them then. A parent that had no children is drawn anew at last, which
+    // runs OnRefresh.
     void PutRows(TGGridTreeRow* parent, long position, std::vector<std::unique_ptr<TGGridRow>> rows) const;
     // Takes rows out that stand side by side, with their offspring, which keeps its folding. False, changing
     // nothing, when they do not stand so.

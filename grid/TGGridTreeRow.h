@@ -185,8 +185,9 @@ private:
     void AssignRow(TGGridTreeRow& source);
     // Ends an edit where rows get shown, and takes the rows over, unless that has deleted this row.
     void InsertChildren(long position, OwnedRows& added);
-    // Runs no hooks. The rows are this row's from then on; nothing has changed when it throws.
-    void AddChildren(long position, std::span<TGGridTreeRow* const> added);
+    // Runs no hooks. The rows are this row's from then on; nothing has changed when it throws. True when this
+    // row is shown and has a fold box from now on: it is to be drawn anew.
+    bool AddChildren(long position, std::span<TGGridTreeRow* const> added);
     // The grid row index behind the last shown row among the children up to `position` and their offspring.
     long PlaceBehind(long position);
 

@@ -319,7 +319,7 @@ void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
             replaced.emplace_back(row, made.back().get());
         }
     position = (std::min)(position, parent.GetChildNum());
-    parent.AddChildren(position, pasted);
+    const bool hasNewBox = parent.AddChildren(position, pasted);
     for (std::unique_ptr<TGGridTreeRow>& row : made)
         static_cast<void>(row.release());
     grid.rowPaste.Release(0, grid.rowPaste.GetNum());
@@ -334,6 +334,8 @@ void TGGrid::RowBuffer::InsertAsChildren(TGGridTreeRow& parent, long position)
             delete plain;
     }
     Structure(grid).TellChildren(parent, position, pasted);
+    if (hasNewBox && watch.IsAlive())
+        parent.Refresh();
 }
 
 bool TGGrid::DoPasteChild()

@@ -64,8 +64,8 @@ public:
     void DropChildren(TGGridTreeRow& parent);
     void DropAllRows();
     // Put rows with their offspring, fitted to the columns, into a level, and take `number` out of it, see
-    // TGGridExtension; tell nobody.
-    void PutRows(TGGridTreeRow* parent, long position, std::span<TGGridRow* const> added);
+    // TGGridExtension; tell nobody. Put rows: true as from TGGridTreeRow::AddChildren.
+    bool PutRows(TGGridTreeRow* parent, long position, std::span<TGGridRow* const> added);
     std::vector<TGGridRow*> TakeRows(TGGridTreeRow* parent, long position, long number);
     // Folds or unfolds a row without hooks.
     void FoldRow(TGGridTreeRow& row, bool folded);

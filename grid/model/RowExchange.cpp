@@ -2,6 +2,7 @@
 #include "grid/model/GridExtensions.h"
 #include "grid/model/GridStructure.h"
 #include "grid/model/RowPlaces.h"
+#include "grid/model/RowWatch.h"
 #include "rules/SelectedIndices.h"
 
 #include <algorithm>
@@ -15,7 +16,7 @@ namespace QuorUiCtr
 
 // ---- Rows
 
-void TGGrid::Structure::PutRows(TGGridTreeRow* parent, long position, std::span<TGGridRow* const> added)
+bool TGGrid::Structure::PutRows(TGGridTreeRow* parent, long position, std::span<TGGridRow* const> added)
 {
     for (TGGridRow* row : added)
         FitToCols(*row);
@@ -24,8 +25,7 @@ void TGGrid::Structure::PutRows(TGGridTreeRow* parent, long position, std::span<
         std::vector<TGGridTreeRow*> children;
         for (TGGridRow* row : added)
             children.push_back(static_cast<TGGridTreeRow*>(row));
-        parent->AddChildren(position, children);
-        return;
+        return parent->AddChildren(position, children);
     }
     std::vector<TGGridRow*> shown;
     for (TGGridRow* row : added)
@@ -35,6 +35,7 @@ void TGGrid::Structure::PutRows(TGGridTreeRow* parent, long position, std::span<
             shown.push_back(row);
     InsertRows(position, shown);
     grid.RecalcLayout(1);
+    return false;
 }
 
 // Offspring first, so that those that stand side by side stand in one run.
@@ -99,10 +100,13 @@ void TGGridExtension::PutRows(TGGridTreeRow* parent, long position,
     added.reserve(rows.size());
     for (const auto& row : rows)
         added.push_back(row.get());
-    TGGrid::Structure(grid).PutRows(parent, position, added);
+    const RowWatch watch(grid, parent);
+    const bool hasNewBox = TGGrid::Structure(grid).PutRows(parent, position, added);
     for (auto& row : rows)
         static_cast<void>(row.release());
     grid.extensions->Tell(GridExtensions::RowsInserted, parent, position, std::span<TGGridRow* const>(added));
+    if (hasNewBox && watch.IsAlive())
+        parent->Refresh();
 }
 
 bool TGGridExtension::TakeRows(TGGridTreeRow* parent, std::span<TGGridRow* const> rows) const

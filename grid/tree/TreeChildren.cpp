@@ -45,13 +45,16 @@ void TGGridTreeRow::InsertChildren(long position, OwnedRows& added)
     std::vector<TGGridTreeRow*> rows;
     for (const std::unique_ptr<TGGridTreeRow>& row : added)
         rows.push_back(row.get());
-    AddChildren(position, rows);
+    position = std::clamp(position, 0L, GetChildNum());
+    const bool hasNewBox = AddChildren(position, rows);
     for (std::unique_ptr<TGGridTreeRow>& row : added)
         static_cast<void>(row.release());
-    TGGrid::Structure(owner).TellChildren(*this, std::clamp(position, 0L, GetChildNum()), rows);
+    TGGrid::Structure(owner).TellChildren(*this, position, rows);
+    if (hasNewBox && self.IsAlive())
+        Refresh();
 }
 
-void TGGridTreeRow::AddChildren(long position, std::span<TGGridTreeRow* const> added)
+bool TGGridTreeRow::AddChildren(long position, std::span<TGGridTreeRow* const> added)
 {
     TGGrid& owner = GetGrid();
     ASSERT(position >= 0 && position <= GetChildNum());
@@ -82,8 +85,7 @@ void TGGridTreeRow::AddChildren(long position, std::span<TGGridTreeRow* const> a
         child->parent = this;
     if (shows)
         owner.RecalcLayout(1);
-    else if (IsVisible() && !wasParent)
-        Refresh();
+    return !shows && IsVisible() && !wasParent;
 }
 
 long TGGridTreeRow::PlaceBehind(long position)

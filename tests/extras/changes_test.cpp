@@ -1,6 +1,7 @@
 // What extensions are told of changes, by programs and by users, and that it is enough to take them back.
 #include "tests/extras/RecordingExtension.h"
 #include "tests/grid/ModelGrid.h"
+#include "tests/grid/WindowGrid.h"
 
 #include <gtest/gtest.h>
 
@@ -294,6 +295,26 @@ TEST_F(TreeChanges, OfOrder_InUnfoldedTrees_AreTheOrderAndTheSelection)
     EXPECT_EQ(seen, "b a y x x");
     grid.UnSelect();
     EXPECT_EQ(extension.Take(), "selected");
+}
+
+// Drawing the new fold box runs a hook, which may take anything away.
+TEST_F(GridWindowTest, ExtensionsHearOfAFirstChild_BeforeItsParentIsDrawn)
+{
+    WindowGrid grid(true);
+    Create(grid);
+    grid.AppendCol(L"A", 50);
+    AddRoot(grid, L"a");
+    AddRoot(grid, L"b");
+    RecordingExtension extension;
+    extension.AttachTo(grid);
+    extension.Take();
+    grid.actions["OnRefresh row"] = [&] {
+        grid.actions.clear();
+        extension.log.push_back("drawn");
+        grid.DelRow(0);
+    };
+    grid.GetTreeRow(0).AppendChild(nullptr);
+    EXPECT_EQ(extension.Take(), "inserted a 0: ? | drawn | selected | removed - 0: a");
 }
 
 } // namespace

@@ -213,4 +213,16 @@ TEST_F(GridTreePainting, FirstChildOfAFoldedRow_MakesTheBoxShow)
     EXPECT_EQ("#.#############.#", Line(130, 2, 19));
 }
 
+TEST_F(GridTreePainting, DeletingTheRowThatIsDrawnWithItsFirstChild_IsSurvived)
+{
+    grid.AppendRow(nullptr);
+    ASSERT_EQ(7, grid.GetRowNum());
+    grid.actions["OnRefresh row"] = [this] {
+        grid.actions.clear();
+        grid.DelRow(6);
+    };
+    grid.GetTreeRow(6).AppendChild(nullptr);
+    EXPECT_EQ(6, grid.GetRowNum());
+}
+
 } // namespace

@@ -71,7 +71,9 @@ void SendInputMethod(HWND target)
     const UINT message = Dice().Pick(messages);
     const WPARAM code = static_cast<WPARAM>(Dice().Below(16));
     Say("%04x input method %llx to %d", message, static_cast<unsigned long long>(code), GetDlgCtrlID(target));
-    SendMessageW(target, message, code, 0);
+    // Requests are answered into a record; it is longer than any of them.
+    alignas(void*) char record[1024] = {};
+    SendMessageW(target, message, code, message == WM_IME_REQUEST ? reinterpret_cast<LPARAM>(record) : 0);
 }
 
 } // namespace

@@ -1,5 +1,6 @@
 // Follows the loops of the platform by hooks.
 #include "tests/fuzz/Modal.h"
+#include "tests/fuzz/PlatformEdit.h"
 #include "tests/fuzz/Step.h"
 
 #include <afxwin.h>
@@ -66,6 +67,8 @@ LRESULT CALLBACK ModalEnder::OnComputerBasedTraining(int code, WPARAM wParam, LP
     const auto window = reinterpret_cast<HWND>(wParam);
     if (code == HCBT_CREATEWND && HasClass(window, L"#32768"))
         WalkThroughMenu(window);
+    if (code == HCBT_CREATEWND && HasClass(window, L"Edit"))
+        KeepTextInside(window);
     if (code == HCBT_ACTIVATE && HasClass(window, L"#32770") &&
         GetDlgItem(window, TextOfMessageBox) != nullptr)
         AnswerBox(window);

@@ -26,6 +26,24 @@ TEST_F(UnfitTreeSteps, GiveTheirDataUpAtOnce)
     EXPECT_EQ(host.gone, std::vector<DWORD_PTR>{3});
 }
 
+// What was not looked at any more goes with what did not fit.
+TEST_F(UnfitTreeSteps, GiveTheDataOfAllTheirPartsUpAtOnce)
+{
+    Begin("f[x y] a");
+    {
+        const TGUndoTransaction step(stack, L"Clean");
+        tree->DeleteItem(At("y"));
+        tree->SetItemText(At("a"), L"b");
+    }
+    {
+        const TGUndoPause pause(stack);
+        tree->SetItemText(At("b"), L"c");
+    }
+    EXPECT_FALSE(stack.Undo());
+    EXPECT_EQ(stack.ended, 1);
+    EXPECT_EQ(host.gone, std::vector<DWORD_PTR>{3});
+}
+
 // A tree may refuse to say what an item is like.
 class SilentTree
 {

@@ -21,7 +21,7 @@ SAMPLE = {
     "propgrid": 14,
     "controls": 26,
     "rules": 30,
-    "undo": 14,
+    "undo": 48,
     "framework/src": 6,
     "framework/src/propertygrid": 12,
     "framework/src/propertyrules": 12,

@@ -84,7 +84,8 @@ def write_docs(changes, results):
         text += "\n\nNo test notices " + ", ".join(f"`{change.id}`" for change in survivors) + "."
         partly = sum(results.outcome(change.id)[1].startswith(("not all", "without")) for change in survivors)
         if partly:
-            text += f" {partly} of these were tried with a part of the tests only, without the longest."
+            were = "was" if partly == 1 else "were"
+            text += f" {partly} of these {were} tried with a part of the tests only, without the longest."
     figures.write("mutations", text)
 
 

@@ -160,8 +160,10 @@ void DragTreeSubject::Edit()
 {
     if (const HTREEITEM item = AnyItem())
     {
+        // The owner hears of the focus, and may destroy the tree.
         tree->SetFocus();
-        tree->EditLabel(item);
+        if (Window() != nullptr)
+            tree->EditLabel(item);
     }
 }
 

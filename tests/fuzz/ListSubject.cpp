@@ -61,6 +61,7 @@ private:
 
     void InsertRow();
     void InsertColumn();
+    void DeleteColumn();
     void OpenEditor(int row, int column, const CString& text);
     void EndEdit(const NMLVDISPINFO& record);
     void MoveEditor();
@@ -128,6 +129,14 @@ void ListSubject::InsertColumn()
                            static_cast<int>(Dice().Below(150)));
 }
 
+// The platform's header draws a column that is being dragged also when it is gone: the drag ends first.
+void ListSubject::DeleteColumn()
+{
+    list->GetHeaderCtrl()->SendMessage(WM_LBUTTONUP, 0, 0);
+    if (Window() != nullptr && Columns() > 1)
+        list->DeleteColumn(static_cast<int>(Dice().Below(Columns())));
+}
+
 void ListSubject::OpenEditor(int row, int column, const CString& text)
 {
     constexpr DWORD styles[] = {ES_AUTOHSCROLL, 0, ES_MULTILINE, ES_MULTILINE | ES_AUTOVSCROLL | WS_BORDER};
@@ -176,9 +185,7 @@ void ListSubject::CallList()
         list->DeleteItem(AnyRow());
         return;
     case 3:
-        if (Columns() > 1)
-            list->DeleteColumn(static_cast<int>(Dice().Below(Columns())));
-        return;
+        return DeleteColumn();
     case 4:
         list->SetItemState(AnyRow(), LVIS_FOCUSED | LVIS_SELECTED, LVIS_FOCUSED | LVIS_SELECTED);
         return;

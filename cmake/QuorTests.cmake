@@ -30,11 +30,12 @@ function(_quor_compile_as_test target)
     target_precompile_headers(${target} REUSE_FROM QuorTestHeaders)
 endfunction()
 
-# quor_add_test(name [CONSOLE] [COST seconds] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
+# quor_add_test(name [CONSOLE] [APART] [COST seconds] [TIMEOUT seconds] [FOLDER folder] [LIBRARIES targets...] [SOURCES files...])
 #
 # Builds <name>_test from SOURCES (default: all .cpp and .rc files of the folder, which is <name> unless given) and adds
 # it to ctest as plain.<name> or checked.<name>. Windowed programs initialise the framework and
-# get the harness of tests/support; CONSOLE programs use neither. A folder that has no sources yet is skipped.
+# get the harness of tests/support; CONSOLE programs use neither. A folder that has no sources yet is skipped. The files
+# are compiled a few together, unless APART is given: where they use the same names for different things.
 #
 # Programs run side by side, and those with the highest COST start first: one that starts last and takes minutes would
 # leave all but one processor idle.
@@ -42,7 +43,7 @@ endfunction()
 # Files whose names begin with a capital are what several tests share, such as hosts and references. They become a library,
 # <name>_hosts, which other programs may name among their LIBRARIES.
 function(quor_add_test name)
-    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE" "COST;TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
+    cmake_parse_arguments(PARSE_ARGV 1 arg "CONSOLE;APART" "COST;TIMEOUT;FOLDER" "LIBRARIES;SOURCES")
     if(NOT arg_FOLDER)
         set(arg_FOLDER ${name})
     endif()
@@ -82,6 +83,9 @@ function(quor_add_test name)
 
     add_executable(${name}_test ${arg_SOURCES})
     _quor_compile_as_test(${name}_test)
+    if(NOT arg_APART)
+        quor_compile_batches(${name}_test)
+    endif()
     target_link_libraries(${name}_test PRIVATE QuorFlags ${main} ${arg_LIBRARIES})
     add_test(NAME ${QUOR_TEST_VARIANT}.${name} COMMAND ${name}_test --gtest_color=no)
     # A crash that the debugger of Wine reports may end with the exit code 0.

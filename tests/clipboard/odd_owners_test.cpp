@@ -107,9 +107,9 @@ TEST_F(OddOwners, AnExtensionThatIsDeletedAsItTakesTheClipboard_Ends)
 // More cells than are read at once.
 TEST_F(OddOwners, WhatChangesWhileACopyWaits_DoesNotMatter)
 {
-    constexpr long Rows = 7001;
-    grid.SetRowNum(Rows);
-    grid.GetCell(Rows - 1, 0).SetText(L"last");
+    constexpr long Many = 7001;
+    grid.SetRowNum(Many);
+    grid.GetCell(Many - 1, 0).SetText(L"last");
     pasting->SetPatience(DefaultDeadline);
     HeldClipboard held;
     owner.asked = [this] {

@@ -6,7 +6,7 @@ namespace
 
 using namespace quor::test;
 
-constexpr int firstPane = 0xE900;
+constexpr int wizardPane = 0xE900;
 constexpr WPARAM editUppercase = 32771, pointsMirror = 32771;
 
 class WizardSingle : public testing::Test
@@ -18,7 +18,7 @@ protected:
     static void Type(const WizardProgram& program, const wchar_t* text)
     {
         for (; *text != 0; ++text)
-            program.SendTo(::GetDlgItem(program.Frame(), firstPane), WM_CHAR, *text);
+            program.SendTo(::GetDlgItem(program.Frame(), wizardPane), WM_CHAR, *text);
     }
 };
 
@@ -48,12 +48,12 @@ TEST_F(WizardSingle, LaysOutBarsAndView)
     RECT tools, status, view;
     ::GetWindowRect(program.ToolBar(), &tools);
     ::GetWindowRect(program.StatusBar(), &status);
-    ::GetWindowRect(::GetDlgItem(program.Frame(), firstPane), &view);
+    ::GetWindowRect(::GetDlgItem(program.Frame(), wizardPane), &view);
     EXPECT_LE(tools.bottom, view.top);
     EXPECT_EQ(view.bottom, status.top);
     program.Send(command::viewStatusBar);
     EXPECT_TRUE(program.WaitUntil([&] {
-        ::GetWindowRect(::GetDlgItem(program.Frame(), firstPane), &view);
+        ::GetWindowRect(::GetDlgItem(program.Frame(), wizardPane), &view);
         return view.bottom == status.bottom && !::IsWindowVisible(program.StatusBar());
     }));
     program.Send(command::viewToolBar);
@@ -196,14 +196,14 @@ struct MultipleProgram : WizardProgram
     {
     }
 
-    HWND Client() const { return ::GetDlgItem(Frame(), firstPane); }
+    HWND Client() const { return ::GetDlgItem(Frame(), wizardPane); }
     HWND ActiveChild() const
     {
         return reinterpret_cast<HWND>(::SendMessageW(Client(), WM_MDIGETACTIVE, 0, 0));
     }
     void Click(HWND child, int x, int y) const
     {
-        SendTo(::GetDlgItem(child, firstPane), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
+        SendTo(::GetDlgItem(child, wizardPane), WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(x, y));
     }
     // "Points1|Points2": the titles of the children, the active one first.
     std::wstring Children() const

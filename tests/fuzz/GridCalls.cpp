@@ -15,8 +15,8 @@ namespace
 {
 
 // Larger grids only cost time.
-constexpr long MostRows = 30;
-constexpr long MostCols = 6;
+constexpr long MostGridRows = 30;
+constexpr long MostGridCols = 6;
 
 struct Call
 {
@@ -45,13 +45,13 @@ long AnyWidth()
 
 void InsertRow(TGGrid& grid)
 {
-    if (grid.GetRowNum() < MostRows)
+    if (grid.GetRowNum() < MostGridRows)
         grid.InsertRow(RootPosition(grid), Flip() ? MakeRow(grid) : nullptr);
 }
 
 void AppendRow(TGGrid& grid)
 {
-    if (grid.GetRowNum() < MostRows)
+    if (grid.GetRowNum() < MostGridRows)
         grid.AppendRow(Flip() ? MakeRow(grid) : nullptr);
 }
 
@@ -69,13 +69,13 @@ void MoveRow(TGGrid& grid)
 
 void SetRowNum(TGGrid& grid)
 {
-    if (const long number = Dice().Below(MostRows); !grid.IsTreeGrid() || number > grid.GetRowNum())
+    if (const long number = Dice().Below(MostGridRows); !grid.IsTreeGrid() || number > grid.GetRowNum())
         grid.SetRowNum(number);
 }
 
 void InsertCol(TGGrid& grid)
 {
-    if (grid.GetColNum() >= MostCols)
+    if (grid.GetColNum() >= MostGridCols)
         return;
     const long position = Dice().Below(grid.GetColNum() + 1);
     if (Flip())
@@ -86,7 +86,7 @@ void InsertCol(TGGrid& grid)
 
 void AppendCol(TGGrid& grid)
 {
-    if (grid.GetColNum() < MostCols)
+    if (grid.GetColNum() < MostGridCols)
         grid.AppendCol(AnyText(8), AnyWidth());
 }
 
@@ -241,7 +241,7 @@ void ManageKeys(TGGrid& grid)
 // Rows come from the commands too: they are bounded here.
 template <bool (TGGrid::*Command)()> void Grow(TGGrid& grid)
 {
-    if (grid.GetRowNum() < MostRows && grid.GetColNum() < MostCols + 2)
+    if (grid.GetRowNum() < MostGridRows && grid.GetColNum() < MostGridCols + 2)
         (grid.*Command)();
 }
 
@@ -255,7 +255,7 @@ const Call calls[] = {
     {"AppendCol", AppendCol},
     {"DelCol", DelCol},
     {"MoveCol", MoveCol},
-    {"SetColNum", [](TGGrid& grid) { grid.SetColNum(Dice().Below(MostCols)); }},
+    {"SetColNum", [](TGGrid& grid) { grid.SetColNum(Dice().Below(MostGridCols)); }},
     {"Clear",
      [](TGGrid& grid) {
          if (Dice().OneIn(8))
@@ -281,7 +281,7 @@ const Call calls[] = {
     {"DoInsertRowAfter", Grow<&TGGrid::DoInsertRowAfter>},
     {"DoAppendRow",
      [](TGGrid& grid) {
-         if (grid.GetRowNum() < MostRows)
+         if (grid.GetRowNum() < MostGridRows)
              grid.DoAppendRow(Flip());
      }},
     {"DoDelete", [](TGGrid& grid) { grid.DoDelete(); }},
@@ -348,7 +348,7 @@ void ChooseEditor(TGGridCol& col)
 
 void FillGrid(TGGrid& grid, bool everyEditor)
 {
-    const long cols = everyEditor ? 5 : Dice().Between(1, MostCols);
+    const long cols = everyEditor ? 5 : Dice().Between(1, MostGridCols);
     for (long i = 0; i < cols; ++i)
         grid.AppendCol(AnyText(8), Dice().Between(30, 120));
     for (long i = 0; i < cols; ++i)

@@ -15,7 +15,7 @@ using namespace QuorUiCtr;
 namespace
 {
 
-constexpr int EditorId = 101;
+constexpr int OpenEditor = 101;
 constexpr int QuadId = 102;
 constexpr int RowHeaderId = 104;
 
@@ -87,7 +87,7 @@ public:
             if (const HWND header =
                     ::GetDlgItem(*grid, static_cast<int>(Dice().Between(QuadId, RowHeaderId))))
                 return header;
-        const HWND editor = ::GetDlgItem(*grid, EditorId);
+        const HWND editor = ::GetDlgItem(*grid, OpenEditor);
         if (focus == Focus::Editors && editor != nullptr && !Dice().OneIn(4))
         {
             const HWND part = ::GetWindow(editor, GW_CHILD);

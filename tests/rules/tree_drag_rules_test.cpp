@@ -13,7 +13,7 @@ namespace
 
 using namespace QuorUiCtr;
 
-const Box Row(0, 40, 200, 57);
+const QuorUiCtr::Box Row(0, 40, 200, 57);
 
 TEST(DropPlaceAt, TheUpperHalfMeansBeforeTheItem)
 {
@@ -60,7 +60,7 @@ std::string PictureOf(const std::array<LineStroke, 6>& strokes, int left, int ri
 
 TEST(InsertionLine, IsABarOfTwoPixelsBetweenEndCaps)
 {
-    const Box item(10, 40, 15, 57);
+    const QuorUiCtr::Box item(10, 40, 15, 57);
     const std::string expected = ".............\n"
                                  "#..........#.\n"
                                  "##........##.\n"

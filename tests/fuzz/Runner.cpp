@@ -24,8 +24,9 @@ constexpr long StepsBetweenPumps = 4;
 constexpr long StepsBetweenChecks = 8;
 // Counting takes a tenth of a second.
 constexpr long LivesBetweenCounts = 20;
-// Caches of the platform fill up in the first lives, and now and then grow later.
-constexpr int HandlesOfCaches = 12;
+// Caches of the platform fill up in the first lives, and now and then grow later: a device context of a
+// window comes with a region and a bitmap, and stays.
+constexpr int HandlesOfCaches = 24;
 constexpr std::uint64_t SeedOfLives = 0x51BEu;
 
 // The parent of the control. It lives as long as the process: making a window on the screen takes long.

@@ -39,6 +39,23 @@ protected:
     }
 };
 
+// Undoes and redoes the steps since a state, and undoes them again, which must bring back what was.
+inline void GoBackAndForth(ToldGrid& grid, CountingStack& stack, const std::string& before, int steps = 1)
+{
+    const std::string after = SnapshotOf(grid);
+    EXPECT_NE(after, before);
+    const auto undo = [&] {
+        for (int i = 0; i < steps; ++i)
+            EXPECT_TRUE(stack.Undo());
+        EXPECT_EQ(SnapshotOf(grid), before);
+    };
+    undo();
+    for (int i = 0; i < steps; ++i)
+        EXPECT_TRUE(stack.Redo());
+    EXPECT_EQ(SnapshotOf(grid), after);
+    undo();
+}
+
 class GridSteps : public testing::Test
 {
 protected:
@@ -64,20 +81,9 @@ protected:
         for (const long row : rows)
             grid.SelectRow(row, true);
     }
-    // Undoes and redoes the steps since a state, which both must bring back.
     void GoBackAndForth(const std::string& before, int steps = 1)
     {
-        const std::string after = SnapshotOf(grid);
-        EXPECT_NE(after, before);
-        for (int i = 0; i < steps; ++i)
-            EXPECT_TRUE(stack.Undo());
-        EXPECT_EQ(SnapshotOf(grid), before);
-        for (int i = 0; i < steps; ++i)
-            EXPECT_TRUE(stack.Redo());
-        EXPECT_EQ(SnapshotOf(grid), after);
-        for (int i = 0; i < steps; ++i)
-            EXPECT_TRUE(stack.Undo());
-        EXPECT_EQ(SnapshotOf(grid), before);
+        test::GoBackAndForth(grid, stack, before, steps);
     }
 
     ToldGrid grid;

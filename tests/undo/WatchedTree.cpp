@@ -91,6 +91,15 @@ void WatchedTreeTest::EndLabel(const wchar_t* text)
     tree->EndEditLabelNow(FALSE);
 }
 
+void WatchedTreeTest::SetButton(HTREEITEM item, int children)
+{
+    TVITEM button = {};
+    button.mask = TVIF_HANDLE | TVIF_CHILDREN;
+    button.hItem = item;
+    button.cChildren = children;
+    tree->SetItem(&button);
+}
+
 void WatchedTreeTest::Rename(const std::string& name, const wchar_t* text)
 {
     Select(name);

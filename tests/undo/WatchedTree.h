@@ -69,6 +69,8 @@ protected:
     // Types into the open label edit and ends it.
     void EndLabel(const wchar_t* text);
     void Rename(const std::string& name, const wchar_t* text);
+    // Says, as a program may, whether an item has a button: 1 or 0.
+    void SetButton(HTREEITEM item, int children);
     void Undo() { EXPECT_TRUE(stack.Undo()); }
     void Redo() { EXPECT_TRUE(stack.Redo()); }
     // Takes the last step back and makes it again; the states before it and after it come back exactly.

@@ -1,11 +1,11 @@
 // Grids whose watch begins or ends amid an action or an undo, extensions that act there, and what else holds
 // the mouse or the focus.
 #include "grid/TGGridExtension.h"
-#include "grid/TGCellEdit.h"
 #include "module/QuorTexts.h"
 #include "tests/grid/EditGrid.h"
 #include "tests/grid/ModelGrid.h"
 #include "tests/support/Input.h"
+#include "tests/undo/ActingEdit.h"
 #include "tests/undo/GridSteps.h"
 
 #include <functional>
@@ -307,21 +307,6 @@ protected:
     EditGrid grid;
     ModelGrid other;
     ScriptedStack stack;
-};
-
-// An editor that does something when it loses the focus.
-struct ActingEdit : TGCellEdit
-{
-    using TGCellEdit::TGCellEdit;
-    std::function<void()> act;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_KILLFOCUS)
-            act();
-        return TGCellEdit::WindowProc(message, wParam, lParam);
-    }
 };
 
 TEST_F(GridWindowsAmid, AGridThatLeavesAsItIsAboutToBeReverted_TakesTheStepAlong)

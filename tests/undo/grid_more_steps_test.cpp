@@ -117,17 +117,9 @@ protected:
     }
     void ExpectRoundTrip(const std::string& before, int steps = 1)
     {
-        const std::string after = SnapshotOf(grid);
-        EXPECT_NE(after, before);
-        for (int round = 0; round < 2; ++round)
-        {
-            for (int i = 0; i < steps; ++i)
-                EXPECT_TRUE(stack.Undo());
-            EXPECT_EQ(SnapshotOf(grid), before);
-            for (int i = 0; i < steps; ++i)
-                EXPECT_TRUE(stack.Redo());
-            EXPECT_EQ(SnapshotOf(grid), after);
-        }
+        GoBackAndForth(grid, stack, before, steps);
+        for (int i = 0; i < steps; ++i)
+            EXPECT_TRUE(stack.Redo());
         EXPECT_EQ(stack.ended, 0);
     }
 

@@ -3,10 +3,10 @@
 #include "grid/extras/TGCellCursor.h"
 #include "grid/extras/TGClipboard.h"
 #include "grid/extras/TGHeaderSort.h"
-#include "grid/TGCellEdit.h"
 #include "tests/grid/EditGrid.h"
 #include "tests/support/FailingNew.h"
 #include "tests/support/Input.h"
+#include "tests/undo/ActingEdit.h"
 #include "tests/undo/GridSteps.h"
 
 #include <new>
@@ -80,21 +80,6 @@ TEST_F(OddOrders, WhatOnUndoneChanges_IsNoStep)
     EXPECT_EQ(TextOf(grid, 1, 1), L"1,1");
 }
 
-// An editor that does something when it loses the focus.
-struct LeftEdit : TGCellEdit
-{
-    using TGCellEdit::TGCellEdit;
-    std::function<void()> act;
-
-protected:
-    LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override
-    {
-        if (message == WM_KILLFOCUS)
-            act();
-        return TGCellEdit::WindowProc(message, wParam, lParam);
-    }
-};
-
 TEST_F(OddOrders, AControlThatLeavesWhenAnotherIsAboutToBeReverted_IsLeftOut)
 {
     MakeOther();
@@ -108,7 +93,7 @@ TEST_F(OddOrders, AControlThatLeavesWhenAnotherIsAboutToBeReverted_IsLeftOut)
     }
     int gone = 0;
     grid.makeEditor = [&](TGGridCell& cell) -> TGCellCtrl* {
-        auto* const made = new LeftEdit(cell);
+        auto* const made = new ActingEdit(cell);
         made->act = [&] { gone += stack.Unwatch(other) ? 1 : 0; };
         return made;
     };

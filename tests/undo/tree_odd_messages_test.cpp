@@ -422,11 +422,7 @@ TEST_F(OddTreeMessages, TickedItems_AreTickedWhenTheyComeBack)
 TEST_F(OddTreeMessages, AButtonThatTheLastChildTookAlong_ComesBack)
 {
     Begin("f[] a");
-    TVITEMW item = {};
-    item.mask = TVIF_HANDLE | TVIF_CHILDREN;
-    item.hItem = At("f");
-    item.cChildren = 1;
-    ::SendMessageW(*tree, TVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
+    SetButton(At("f"), 1);
     stack.Clear();
     const std::string before = All(Shown::LeftOut);
     ASSERT_TRUE(tree->ItemHasChildren(At("f")));

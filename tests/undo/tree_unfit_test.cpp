@@ -84,11 +84,7 @@ TEST_F(UnfitTreeSteps, DeletingWhatCannotBeRead_IsNoStep)
 TEST_F(UnfitTreeSteps, ButtonThatTheProgramHasSet_ComesBackWithTheLastChild)
 {
     Begin("a b");
-    TVITEM button = {};
-    button.mask = TVIF_HANDLE | TVIF_CHILDREN;
-    button.hItem = At("a");
-    button.cChildren = 1;
-    tree->SetItem(&button);
+    SetButton(At("a"), 1);
     stack.Clear();
     const std::string before = All(Shown::LeftOut);
     tree->InsertItem(L"x", 1, 1, At("a"));
@@ -103,11 +99,7 @@ TEST_F(UnfitTreeSteps, ButtonThatTheProgramHasSet_ComesBackWithTheLastChild)
 TEST_F(UnfitTreeSteps, ButtonThatTheProgramHasTakenAway_IsAwayWhenTheFirstChildComesBack)
 {
     Begin("a[x] b");
-    TVITEM button = {};
-    button.mask = TVIF_HANDLE | TVIF_CHILDREN;
-    button.hItem = At("a");
-    button.cChildren = 0;
-    tree->SetItem(&button);
+    SetButton(At("a"), 0);
     stack.Clear();
     const std::string before = All(Shown::LeftOut);
     tree->DeleteItem(At("x"));
